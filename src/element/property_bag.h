@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "services/boolean.h"
+
+namespace plexel {
+
+/// A stored boolean, apart from the 16-bit integers.
+struct BagBoolean {
+  Boolean value = False;
+  bool operator==(const BagBoolean&) const = default;
+};
+
+/// A value in a property bag, of the type in which it was written: int16, int32, uint8, boolean, string, or a float that
+/// only a foreign writer stores.
+using BagValue = std::variant<std::int16_t, std::int32_t, std::uint8_t, BagBoolean, double, std::string>;
+
+/// The container's store of one element's values. Its serial form is the container's.
+class PropertyBag {
+ public:
+  virtual ~PropertyBag() = default;
+  /// The stored value of the key, or null when it is absent. The pointer holds until the bag changes.
+  virtual const BagValue* Find(std::string_view key) const = 0;
+  /// Stores a value under a key.
+  virtual void Store(std::string_view key, BagValue value) = 0;
+};
+
+/// Conversions of a stored value, as the element reads it. Failure (Conversion) or (Overflow) for a value that does not
+/// convert. A boolean keeps its 16-bit value; any other value that is not 0 becomes true.
+std::int32_t BagToInt32(const BagValue& value);
+std::int16_t BagToInt16(const BagValue& value);
+std::uint8_t BagToUInt8(const BagValue& value);
+Boolean BagToBoolean(const BagValue& value);
+std::string BagToString(const BagValue& value);
+
+}  // namespace plexel

@@ -1,0 +1,266 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace plexel {
+
+enum class TextAlignment { Left, Centre, Right };
+
+/// A control with one caption. "&" has no special meaning in it.
+class CaptionControl : public Control {
+ public:
+  using Control::Control;
+  const std::string& Caption() const { return caption_; }
+  void Caption(std::string value) { caption_ = std::move(value); }
+  std::vector<TextSlot> Texts() override;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::string caption_;
+};
+
+/// A push button, with a caption or a picture (the name of a picture of the product, empty for none).
+class CommandButton : public CaptionControl {
+ public:
+  CommandButton(Form& form, std::string_view name, int index = -1)
+      : CaptionControl(form, ControlKind::CommandButton, name, index) {}
+  bool Focusable() const override { return true; }
+  /// Pressed by Return from anywhere on the form. Setting it takes the role from the form's other buttons.
+  bool Default() const;
+  void Default(bool value);
+  /// Pressed by Escape from anywhere on the form.
+  bool Cancel() const;
+  void Cancel(bool value);
+  const std::string& Picture() const { return picture_; }
+  void Picture(std::string name) { picture_ = std::move(name); }
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::string picture_;
+};
+
+/// One of the choices of its container.
+class OptionButton : public CaptionControl {
+ public:
+  OptionButton(Form& form, std::string_view name, int index = -1)
+      : CaptionControl(form, ControlKind::OptionButton, name, index) {}
+  bool Focusable() const override { return true; }
+  bool Value() const { return value_; }
+  /// Setting it true clears the other option buttons of the container and, when it was false, raises Click.
+  void Value(bool value);
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  bool value_ = false;
+};
+
+/// A text field with a list. Its text need not be an entry of the list.
+class ComboBox : public Control {
+ public:
+  ComboBox(Form& form, std::string_view name, int index = -1) : Control(form, ControlKind::ComboBox, name, index) {}
+  bool Focusable() const override { return true; }
+  const std::string& Text() const { return text_; }
+  /// The place in the list becomes that of the first equal entry, -1 for a text that is none. Raises nothing.
+  void Text(std::string value);
+  /// With a sorted list entries stand in the order of their texts, letters without regard to case and accent first.
+  bool Sorted() const { return sorted_; }
+  void Sorted(bool value) { sorted_ = value; }
+  void AddItem(const std::string& text);
+  void Clear();
+  int ListCount() const { return static_cast<int>(items_.size()); }
+  /// Failure (Index) outside the list.
+  const std::string& List(int index) const;
+  const std::vector<std::string>& Items() const { return items_; }
+  int ListIndex() const { return listIndex_; }
+  /// Picks an entry (-1 for none): its text goes into the field, and Click is raised. Failure (Index) outside the list.
+  void ListIndex(int index);
+  std::vector<TextSlot> Texts() override;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::string text_;
+  bool sorted_ = false;
+  std::vector<std::string> items_;
+  int listIndex_ = -1;
+};
+
+/// A box of text. Lengths and places are counted in characters.
+class TextBox : public Control {
+ public:
+  TextBox(Form& form, std::string_view name, int index = -1) : Control(form, ControlKind::TextBox, name, index) {}
+  bool Focusable() const override { return true; }
+  const std::string& Text() const { return text_; }
+  /// Cuts what is longer than MaxLength, puts the caret ahead of the text, and raises Change when the text changed.
+  void Text(std::string value);
+  int TextLength() const;
+  int MaxLength() const { return maxLength_; }  ///< 0 for no limit
+  void MaxLength(int value) { maxLength_ = value; }
+  int SelStart() const { return selStart_; }
+  void SelStart(int value);
+  bool Locked() const { return locked_; }  ///< the user cannot change the text
+  void Locked(bool value) { locked_ = value; }
+  bool MultiLine() const { return multiLine_; }
+  void MultiLine(bool value) { multiLine_ = value; }
+  TextAlignment Alignment() const { return alignment_; }
+  void Alignment(TextAlignment value) { alignment_ = value; }
+  std::int32_t BackColor() const { return backColor_; }
+  void BackColor(std::int32_t value) { backColor_ = value; }
+  std::int32_t ForeColor() const { return foreColor_; }
+  void ForeColor(std::int32_t value) { foreColor_ = value; }
+  /// Size of the letters in points, 0 for that of the form.
+  float FontSize() const { return fontSize_; }
+  void FontSize(float value) { fontSize_ = value; }
+  std::vector<TextSlot> Texts() override;
+  Event OnChange;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::string text_;
+  int maxLength_ = 0, selStart_ = 0;
+  bool locked_ = false, multiLine_ = false;
+  TextAlignment alignment_ = TextAlignment::Left;
+  std::int32_t backColor_ = 0xFFFFFF, foreColor_ = 0;
+  float fontSize_ = 0;
+};
+
+enum class LabelLook { Plain, Title, Link };
+
+class Label : public CaptionControl {
+ public:
+  Label(Form& form, std::string_view name, int index = -1) : CaptionControl(form, ControlKind::Label, name, index) {}
+  TextAlignment Alignment() const { return alignment_; }
+  void Alignment(TextAlignment value) { alignment_ = value; }
+  LabelLook Look() const { return look_; }
+  void Look(LabelLook value) { look_ = value; }
+
+ private:
+  TextAlignment alignment_ = TextAlignment::Left;
+  LabelLook look_ = LabelLook::Plain;
+};
+
+/// A picture, named among the pictures of the product.
+class PictureBox : public Control {
+ public:
+  PictureBox(Form& form, std::string_view name, int index = -1) : Control(form, ControlKind::Picture, name, index) {}
+  const std::string& Picture() const { return picture_; }
+  void Picture(std::string name) { picture_ = std::move(name); }
+  bool Stretch() const { return stretch_; }
+  void Stretch(bool value) { stretch_ = value; }
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::string picture_;
+  bool stretch_ = false;
+};
+
+class Frame : public CaptionControl {
+ public:
+  Frame(Form& form, std::string_view name, int index = -1) : CaptionControl(form, ControlKind::Frame, name, index) {}
+  bool Border() const { return border_; }
+  void Border(bool value) { border_ = value; }
+
+ private:
+  bool border_ = true;
+};
+
+/// A strip of tabs with one page each.
+class TabStrip : public Control {
+ public:
+  TabStrip(Form& form, std::string_view name, int pages);
+  bool Focusable() const override { return true; }
+  int Pages() const { return static_cast<int>(pages_.size()); }
+  int Tab() const { return tab_; }
+  /// Brings a page to the front; Failure (Index) for a page that it lacks. Raises nothing.
+  void Tab(int page);
+  const std::string& TabCaption(int page) const;
+  void TabCaption(int page, std::string caption);
+  /// A page that is off cannot be brought to the front by the user.
+  bool TabEnabled(int page) const;
+  void TabEnabled(int page, bool value);
+  std::vector<TextSlot> Texts() override;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  struct PageState {
+    std::string caption;
+    bool enabled = true;
+  };
+  std::vector<PageState> pages_;
+  int tab_ = 0;
+};
+
+/// A bar with one text.
+class StatusBar : public Control {
+ public:
+  StatusBar(Form& form, std::string_view name) : Control(form, ControlKind::StatusBar, name) {}
+  const std::string& SimpleText() const { return text_; }
+  void SimpleText(std::string value) { text_ = std::move(value); }
+  std::vector<TextSlot> Texts() override;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::string text_;
+};
+
+/// A menu or an entry of one. A caption of "-" is a separator.
+class MenuItem : public CaptionControl {
+ public:
+  MenuItem(Form& form, std::string_view name) : CaptionControl(form, ControlKind::Menu, name) {}
+  void Add(MenuItem& entry) { entries_.push_back(&entry); }
+  const std::vector<MenuItem*>& Entries() const { return entries_; }
+  bool Separator() const { return Caption() == "-"; }
+
+ private:
+  std::vector<MenuItem*> entries_;
+};
+
+/// Names of pictures under keys.
+class ImageList : public Control {
+ public:
+  ImageList(Form& form, std::string_view name) : Control(form, ControlKind::ImageList, name) {}
+  void Add(std::string key, std::string picture) { pictures_[std::move(key)] = std::move(picture); }
+  /// Failure (Index) for an unknown key.
+  const std::string& Picture(const std::string& key) const;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::map<std::string, std::string> pictures_;
+};
+
+/// A filled rectangle behind the other controls.
+class Shape : public Control {
+ public:
+  Shape(Form& form, std::string_view name) : Control(form, ControlKind::Shape, name) {}
+  std::int32_t BackColor() const { return backColor_; }
+  void BackColor(std::int32_t value) { backColor_ = value; }
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  std::int32_t backColor_ = 0xFFFFFF;
+};
+
+}  // namespace plexel

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/controls.h"
+#include "forms/grid.h"
+#include "platform/window.h"
+
+namespace plexel {
+
+/// Why a form unloads.
+enum class UnloadMode : std::int32_t { CloseBox = 0, Code = 1 };
+
+/// A dialog. Its controls are members of the derived class, made in the design state, so that a new object is a form as
+/// designed. Left, top, width and height are those of the whole window in twips.
+class Form : public Window {
+ public:
+  /// Twips that the window's frame and title take from width and height.
+  static constexpr float FrameWidth = 90, FrameHeight = 405;
+
+  explicit Form(std::string_view name);
+  ~Form() override = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  std::string WindowName() const override { return name_; }
+  const std::string& Name() const { return name_; }
+  const std::string& Caption() const { return caption_; }
+  void Caption(std::string value) { caption_ = std::move(value); }
+  float Left() const { return left_; }
+  void Left(float value) { left_ = value; }
+  float Top() const { return top_; }
+  void Top(float value) { top_ = value; }
+  float Width() const { return width_; }
+  void Width(float value) { width_ = value; }
+  float Height() const { return height_; }
+  void Height(float value) { height_ = value; }
+  float ClientWidth() const { return width_ - FrameWidth; }
+  float ClientHeight() const { return height_ - FrameHeight; }
+  bool KeyPreview() const { return keyPreview_; }
+  void KeyPreview(bool value) { keyPreview_ = value; }
+  std::int32_t HelpContextID() const { return helpContext_; }
+  void HelpContextID(std::int32_t value) { helpContext_ = value; }
+
+  /// The controls in the order in which they were made, and by full name; null for an unknown one.
+  const std::vector<Control*>& Controls() const { return controls_; }
+  Control* Find(std::string_view fullName) const;
+  /// The controls that Tab reaches, in tab order.
+  std::vector<Control*> TabOrder() const;
+
+  /// The control with the focus; null for none. A control that is disabled or hidden keeps its place as the focus but
+  /// gets no keys until it can take them again.
+  Control* Focus() const { return focus_; }
+  /// Gives the focus to a control, or to the form itself with null.
+  void Focus(Control* control);
+  CommandButton* DefaultButton() const { return defaultButton_; }
+  CommandButton* CancelButton() const { return cancelButton_; }
+
+  /// Shows the form modal over its owner (null for none) and returns when it has closed. Failure (InvalidCall) when it
+  /// is already shown, and whatever the platform's modal loop throws when it cannot show it.
+  void ShowModal(Window* owner);
+  bool IsShown() const { return shown_; }
+  /// Closes the form: QueryUnload, Unload. With a form that is not loaded nothing happens.
+  void Unload(UnloadMode mode = UnloadMode::Code);
+
+  /// Opens a popup menu at the mouse, or at a place of the client area in twips.
+  void PopupMenu(MenuItem& menu);
+  void PopupMenu(MenuItem& menu, float x, float y);
+  /// The popup menu that is open, or null.
+  MenuItem* OpenPopup() const { return openPopup_; }
+  void OpenPopup(MenuItem* menu) { openPopup_ = menu; }
+
+  /// Name, Caption, Left, Top, Width, Height, KeyPreview, Focus, Controls.
+  Description Describe() const;
+
+  /// The form's own events. The key events run ahead of the control's while KeyPreview is on.
+  virtual void OnLoad() {}
+  virtual void OnQueryUnload(UnloadMode) {}
+  virtual void OnUnload() {}
+  virtual void OnKeyDown(std::int16_t& keyCode, std::int16_t shift);
+  virtual void OnKeyPress(std::int16_t& keyAscii);
+
+ private:
+  friend class Control;
+  friend class CommandButton;
+
+  std::string name_, caption_;
+  float left_ = 0, top_ = 0, width_ = 4800, height_ = 3600;
+  bool keyPreview_ = false, loaded_ = false, shown_ = false;
+  std::int32_t helpContext_ = 0;
+  std::vector<Control*> controls_;
+  Control* focus_ = nullptr;
+  CommandButton* defaultButton_ = nullptr;
+  CommandButton* cancelButton_ = nullptr;
+  MenuItem* openPopup_ = nullptr;
+};
+
+}  // namespace plexel

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace plexel {
+
+/// A grid of cells, of which one is current. The first rows and columns may be fixed: they take no click and do not
+/// scroll. Cell operations work on the current cell. Rows, columns and places count from 0; sizes are twips.
+class Grid : public Control {
+ public:
+  Grid(Form& form, std::string_view name, int rows, int cols, int fixedRows, int fixedCols);
+  bool Focusable() const override { return true; }
+
+  int Rows() const { return static_cast<int>(cells_.size()); }
+  int Cols() const { return static_cast<int>(colWidths_.size()); }
+  int FixedRows() const { return fixedRows_; }
+  int FixedCols() const { return fixedCols_; }
+
+  /// The current cell. Setting a row or column outside the grid is a Failure (Index). A change raises EnterCell.
+  int Row() const { return row_; }
+  void Row(int value);
+  int Col() const { return col_; }
+  void Col(int value);
+  /// Makes a cell current in one step, with one EnterCell.
+  void Current(int row, int col);
+
+  const std::string& Text() const { return Cell().text; }
+  void Text(std::string value) { Cell().text = std::move(value); }
+  std::int32_t CellForeColor() const { return Cell().foreColor; }
+  void CellForeColor(std::int32_t value) { Cell().foreColor = value; }
+  std::int32_t CellBackColor() const { return Cell().backColor; }
+  void CellBackColor(std::int32_t value) { Cell().backColor = value; }
+  void CellCentred(bool value) { Cell().centred = value; }
+  const GridCell& CellAt(int row, int col) const;
+
+  int ColWidth(int col) const;
+  /// Failure (Index) outside the grid, Failure (InvalidCall) for a negative width.
+  void ColWidth(int col, int width);
+  int RowHeight() const { return rowHeight_; }
+  void RowHeight(int value) { rowHeight_ = value; }
+  /// Whether the user may change the widths.
+  bool UserResizing() const { return userResizing_; }
+  void UserResizing(bool value) { userResizing_ = value; }
+
+  /// The current cell's place in the grid, as scrolled, and its size.
+  float CellLeft() const;
+  float CellTop() const;
+  float CellWidth() const { return static_cast<float>(ColWidth(col_)); }
+  float CellHeight() const { return static_cast<float>(rowHeight_); }
+
+  bool Redraw() const { return redraw_; }
+  void Redraw(bool value) { redraw_ = value; }
+  /// Draws what has changed while Redraw was off.
+  void Refresh() { ++refreshes_; }
+  int Refreshes() const { return refreshes_; }
+
+  /// The first row and column in view behind the fixed ones.
+  int TopRow() const { return topRow_; }
+  int LeftCol() const { return leftCol_; }
+  /// Scrolls; raises Scroll when that changes the view.
+  void ScrollTo(int topRow, int leftCol);
+
+  Event OnEnterCell, OnScroll;
+
+ protected:
+  void DescribeMore(Description& description) const override;
+
+ private:
+  const GridCell& Cell() const { return cells_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(col_)]; }
+  GridCell& Cell() { return cells_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(col_)]; }
+
+  GridCells cells_;
+  std::vector<int> colWidths_;
+  int fixedRows_, fixedCols_;
+  int row_, col_;
+  int rowHeight_ = 255;
+  int topRow_, leftCol_;
+  int refreshes_ = 0;
+  bool redraw_ = true, userResizing_ = false;
+};
+
+}  // namespace plexel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace plexel {
+
+/// A sequence of codes on its way: indices 0 to 100, one byte value each, with a length of its own.
+inline constexpr std::int32_t SequenceSize = 101;
+using CodeArray = std::array<std::int32_t, SequenceSize>;
+
+/// modPlexelGlobalScancodeFunctions.
+
+/// Takes the physical state of Shift, Num Lock, Alt and Ctrl into the module state. Ends quietly on a failure.
+void SampleModifierKeys();
+
+/// Turns one key into its make and break sequence of scan code set 2. `varScanCode` is of set 1; a `lngExtended` that is
+/// not 0 is extended. What is not written stays as the caller left it, lengths included. No allocation.
+void TranslateScanCode(std::int32_t varScanCode, std::int32_t varVirtualKey, std::int32_t lngExtended,
+                       CodeArray& lngMake, std::int32_t& varMakeLength, CodeArray& lngBreak,
+                       std::int32_t& varBreakLength);
+
+/// The visible name of a key. `lngFamily` is lngOsFamily. "UnknownKey" after any failure.
+std::string GetKeyName(std::int32_t lngVirtualKey, std::int32_t lngScanCode, std::int32_t lngExtended,
+                       std::int32_t lngFamily);
+
+}  // namespace plexel

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "services/boolean.h"
+
+namespace plexel {
+
+/// The shared vocabulary of elements and dialogs: enumerations and records. All enumerations are 32-bit integers that may
+/// hold any value, not only those named.
+
+enum enumSpecialKeyFunctions : std::int32_t {
+  SystemReset = 0,
+  BackgroundLightLigther = 1,
+  BackgroundLightDarker = 2,
+  ContrastHigher = 3,
+  ContrastLower = 4,
+  Layer2 = 5,
+  Layer3 = 6,
+  Layer4 = 7,
+  WarmStart = 8,
+  NoSpecialFunction = 9
+};
+
+enum enumTactisBaseElementType : std::int32_t { Led = 1, Oval = 2, OvalLed = 3, Rect = 4, RectLed = 5, Key = 6 };
+
+enum enumWizardOptions : std::int32_t {
+  NormalKey = 0,
+  TipKey = 1,
+  IPCFunction = 2,
+  WindowsShortCut = 3,
+  ManuallyDefined = 4
+};
+
+enum enumLedType : std::int32_t {
+  HarddiskLed = 0,
+  UserLed = 1,
+  TemperatureLed = 2,
+  PowerLed = 3,
+  CapsLockLed = 4,
+  NumLockLed = 5,
+  Layer1Led = 6,
+  Layer2Led = 7,
+  Layer3Led = 8,
+  Layer4Led = 9,
+  PanelLockedLed = 10,
+  ScrollLockLed = 11,
+  AlarmLed = 12,
+  LedNotEnabled = 13,
+  RunLed = 14
+};
+
+enum enumXSize : std::int32_t { XSizeBig = 0, XSizeMedium = 1, XSizeSmall = 2 };
+
+inline constexpr std::int32_t LayerCount = 4;
+
+/// One sequence of scan code bytes, in groups closed by the end mark.
+struct udtTactisBaseElement_TACTIS_SCANCODE {
+  static constexpr std::int32_t Size = 89;
+  static constexpr std::uint8_t EndMark = 0xFF;
+  std::array<std::uint8_t, Size> Value{};
+  std::int32_t NextValue = 0;  ///< index of the last end mark, 0 in an empty sequence
+  bool operator==(const udtTactisBaseElement_TACTIS_SCANCODE&) const = default;
+};
+
+/// All that a dialog needs of an element. The scan codes lie press before release, layer by layer; of the strings all
+/// press strings come first.
+struct udtTactisBaseElement_ScanCodeInfo {
+  enumWizardOptions enumWizardButtonType{};
+  enumTactisBaseElementType enumBaseElementType{};
+  enumLedType lngLEDTypeLayer1{}, lngLEDTypeLayer2{}, lngLEDTypeLayer3{}, lngLEDTypeLayer4{};
+  std::int32_t lngLedHardwareNumber = 0;
+  std::int32_t lngButtonHardwareNumber = 0;
+  std::int32_t lngKeyHardwareNumber = 0;
+  std::int32_t lngKeyHardwareNumber1 = 0, lngKeyHardwareNumber2 = 0, lngKeyHardwareNumber3 = 0,
+               lngKeyHardwareNumber4 = 0, lngKeyHardwareNumber5 = 0, lngKeyHardwareNumber6 = 0,
+               lngKeyHardwareNumber7 = 0;
+  udtTactisBaseElement_TACTIS_SCANCODE strLayer1PressScanCode, strLayer1ReleaseScanCode;
+  udtTactisBaseElement_TACTIS_SCANCODE strLayer2PressScanCode, strLayer2ReleaseScanCode;
+  udtTactisBaseElement_TACTIS_SCANCODE strLayer3PressScanCode, strLayer3ReleaseScanCode;
+  udtTactisBaseElement_TACTIS_SCANCODE strLayer4PressScanCode, strLayer4ReleaseScanCode;
+  std::string strLayer1PressString, strLayer2PressString, strLayer3PressString, strLayer4PressString;
+  std::string strLayer1ReleaseString, strLayer2ReleaseString, strLayer3ReleaseString, strLayer4ReleaseString;
+  std::string strBaseElementNotes;
+  bool operator==(const udtTactisBaseElement_ScanCodeInfo&) const = default;
+};
+
+/// Selects a press or release buffer of a layer from 1 to 4; null for any other layer.
+udtTactisBaseElement_TACTIS_SCANCODE* PressBuffer(udtTactisBaseElement_ScanCodeInfo& info, std::int32_t layer);
+udtTactisBaseElement_TACTIS_SCANCODE* ReleaseBuffer(udtTactisBaseElement_ScanCodeInfo& info, std::int32_t layer);
+const udtTactisBaseElement_TACTIS_SCANCODE* PressBuffer(const udtTactisBaseElement_ScanCodeInfo& info,
+                                                        std::int32_t layer);
+const udtTactisBaseElement_TACTIS_SCANCODE* ReleaseBuffer(const udtTactisBaseElement_ScanCodeInfo& info,
+                                                          std::int32_t layer);
+/// The buffer behind a cell of the grid: column 1 press, column 2 release, row 1 to 4 the layer; null for any other.
+udtTactisBaseElement_TACTIS_SCANCODE* CellBuffer(udtTactisBaseElement_ScanCodeInfo& info, std::int32_t row,
+                                                 std::int32_t col);
+/// Sets all eight buffers to zero bytes, NextValue 0.
+void ZeroAllBuffers(udtTactisBaseElement_ScanCodeInfo& info);
+
+/// The copy of one grid cell.
+struct udtClipboard {
+  Boolean Valid = False;
+  udtTactisBaseElement_TACTIS_SCANCODE scanCode;
+  std::string VisibleString;
+};
+
+}  // namespace plexel

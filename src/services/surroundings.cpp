@@ -1,0 +1,34 @@
+#include "services/surroundings.h"
+
+#include <array>
+
+#include "platform/failure.h"
+
+namespace plexel {
+
+namespace {
+
+Surroundings* current = nullptr;
+
+constexpr std::array<std::string_view, CapabilityCount> capabilityNames = {
+    "HasBackgroundLightDarker", "HasBackgroundLightLighter", "HasContrastLower", "HasContrastHigher",
+    "HasLayer4Key",             "HasLayer3Key",              "HasLayer2Key",     "HasWarmStart",
+    "HasSystemReset",           "HasAlarmLed",               "HasScrollLockLed", "HasPanelLockedLed",
+    "HasLayer4Led",             "HasLayer3Led",              "HasLayer2Led",     "HasLayer1Led",
+    "HasRunLed",                "HasNumLockLed",             "HasCapsLockLed",   "HasPowerLed",
+    "HasTemperatureLed",        "HasHarddiskLed",            "HasUserLed"};
+static_assert(static_cast<int>(Capability::HasUserLed) == CapabilityCount - 1);
+
+}  // namespace
+
+std::string_view CapabilityName(Capability query) { return capabilityNames.at(static_cast<std::size_t>(query)); }
+
+Surroundings& Surroundings::Current() {
+  if (current == nullptr) throw Failure(FailureKind::ObjectNotSet, "no surroundings are in force");
+  return *current;
+}
+
+Surroundings::Use::Use(Surroundings& surroundings) : previous_(current) { current = &surroundings; }
+Surroundings::Use::~Use() { current = previous_; }
+
+}  // namespace plexel

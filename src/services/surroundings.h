@@ -1,0 +1,107 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "services/boolean.h"
+
+namespace plexel {
+
+/// Texts in the user's language, by number.
+class LanguageService {
+ public:
+  virtual ~LanguageService() = default;
+  /// The text of a number, empty when the language has none.
+  virtual void GetText(std::int32_t number, std::string& text) = 0;
+};
+
+/// The user's settings, kept by the host.
+class SettingsService {
+ public:
+  virtual ~SettingsService() = default;
+  /// The directory of the installation, without a trailing separator.
+  virtual void GetBasePath(std::string& text) = 0;
+  /// The name of the current language in English.
+  virtual void GetLanguageName(std::string& text) = 0;
+  virtual void GetOption(std::int32_t number, Boolean& value) = 0;
+  virtual void GetParameter(std::int32_t number, std::string& text) = 0;
+  /// A saved position or column width, twips in decimal text.
+  virtual void GetWindowPosition(std::int32_t number, std::string& text) = 0;
+};
+
+/// What a target system can do. The queries stand in the order of the service's interface.
+enum class Capability : std::int32_t {
+  HasBackgroundLightDarker,
+  HasBackgroundLightLighter,
+  HasContrastLower,
+  HasContrastHigher,
+  HasLayer4Key,
+  HasLayer3Key,
+  HasLayer2Key,
+  HasWarmStart,
+  HasSystemReset,
+  HasAlarmLed,
+  HasScrollLockLed,
+  HasPanelLockedLed,
+  HasLayer4Led,
+  HasLayer3Led,
+  HasLayer2Led,
+  HasLayer1Led,
+  HasRunLed,
+  HasNumLockLed,
+  HasCapsLockLed,
+  HasPowerLed,
+  HasTemperatureLed,
+  HasHarddiskLed,
+  HasUserLed
+};
+inline constexpr int CapabilityCount = 23;
+
+std::string_view CapabilityName(Capability query);
+
+class CapabilityService {
+ public:
+  virtual ~CapabilityService() = default;
+  /// 1 when the target system has the thing; any other value counts as no.
+  virtual std::int32_t Ask(Capability query, std::string_view targetSystem) = 0;
+};
+
+/// Reads values of sections and keys out of a parameter file; a value is a row of items between delimiters.
+class ParameterFileReader {
+ public:
+  virtual ~ParameterFileReader() = default;
+  virtual void SetDelimiter(std::string_view delimiter) = 0;
+  /// Fetches the value of a key; status 0 when it was found.
+  virtual void ReadEntry(std::string_view file, std::string_view section, std::string_view name, std::string& value,
+                         std::int32_t reserved, std::int32_t& status) = 0;
+  /// The item of a 1-based number, the empty string when there is none.
+  virtual void GetItem(std::int32_t index, const std::string& value, std::string& text) = 0;
+};
+
+/// What the host supplies. Services are asked anew at each use, and every one of them may throw Failure.
+class Surroundings {
+ public:
+  virtual ~Surroundings() = default;
+  virtual LanguageService& Language() = 0;
+  virtual SettingsService& Settings() = 0;
+  virtual CapabilityService& Capabilities() = 0;
+  virtual ParameterFileReader& ParameterFiles() = 0;
+
+  /// The surroundings in force; Failure (ObjectNotSet) when there are none.
+  static Surroundings& Current();
+
+  /// Makes surroundings current for the life of this object; they must outlive it.
+  class Use {
+   public:
+    explicit Use(Surroundings& surroundings);
+    ~Use();
+    Use(const Use&) = delete;
+    Use& operator=(const Use&) = delete;
+
+   private:
+    Surroundings* previous_;
+  };
+};
+
+}  // namespace plexel
