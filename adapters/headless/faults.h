@@ -1,0 +1,94 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace plexel {
+
+/// The things of the headless platform, its surroundings and its host that can be made to fail.
+enum class Fault : std::uint8_t {
+  KeyboardHook,  ///< installing the keyboard hook yields 0
+  LowLevelHook,  ///< installing the low-level hook yields 0
+  Unhook,        ///< removing a hook yields 0, and the hook stays
+  Registry,      ///< opening a key and setting a value yield an error code, and nothing is stored
+  Language,
+  Settings,
+  Capability,
+  Layout,
+  Show,  ///< a form cannot be shown
+  HandlerDirectInputStatusChanged,
+  HandlerSendKeyDefinition,
+  HandlerMouseClicked,
+  HandlerMouseDblClicked,
+  HandlerProjectModified,
+  Keys,
+  Screen,
+  Version,
+  Help,
+  Messages,
+  Popup,
+  Events,
+  ParameterFiles,
+  Container
+};
+
+/// Which of them fail: all the time while turned on, or once on their n-th call. Names are those of the table below.
+class Faults {
+ public:
+  static constexpr std::size_t Count = 23;
+  static constexpr std::array<std::string_view, Count> Names = {"keyboard-hook",
+                                                                "lowlevel-hook",
+                                                                "unhook",
+                                                                "registry",
+                                                                "language",
+                                                                "settings",
+                                                                "capability",
+                                                                "layout",
+                                                                "show",
+                                                                "handler:DirectInputStatusChanged",
+                                                                "handler:SendKeyDefinition",
+                                                                "handler:MouseClicked",
+                                                                "handler:MouseDblClicked",
+                                                                "handler:ProjectModified",
+                                                                "keys",
+                                                                "screen",
+                                                                "version",
+                                                                "help",
+                                                                "messages",
+                                                                "popup",
+                                                                "events",
+                                                                "parameter-files",
+                                                                "container"};
+  static_assert(static_cast<std::size_t>(Fault::Container) == Count - 1);
+
+  static std::optional<Fault> Named(std::string_view name);
+
+  void Turn(Fault fault, bool on) { At(fault).on = on; }
+  /// Fails on the n-th call from now (1 is the next one), once; 0 disarms.
+  void Arm(Fault fault, std::int64_t call);
+  /// std::invalid_argument for an unknown name.
+  void Turn(std::string_view name, bool on);
+  void Arm(std::string_view name, std::int64_t call);
+
+  /// Counts a call and tells whether it is to fail.
+  bool Trips(Fault fault);
+  /// The same; a call that is to fail throws Failure (Platform).
+  void Check(Fault fault);
+  /// Calls counted so far.
+  std::int64_t Calls(Fault fault) const { return states_[static_cast<std::size_t>(fault)].calls; }
+  /// Nothing fails any more; the counts start anew.
+  void Reset() { states_ = {}; }
+
+ private:
+  struct State {
+    bool on = false;
+    std::int64_t calls = 0;
+    std::int64_t failingCall = 0;
+  };
+  State& At(Fault fault) { return states_[static_cast<std::size_t>(fault)]; }
+  std::array<State, Count> states_{};
+};
+
+}  // namespace plexel

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "headless/faults.h"
+#include "headless/hook_table.h"
+
+namespace plexel {
+
+/// A hook table that can be made to fail.
+class HeadlessHooks : public HookTable {
+ public:
+  explicit HeadlessHooks(Faults& faults) : faults_(faults) {}
+  std::int32_t Install(HookKind kind, HookProcedure procedure) override;
+  std::int32_t Remove(std::int32_t hook) override;
+
+ private:
+  Faults& faults_;
+};
+
+}  // namespace plexel
