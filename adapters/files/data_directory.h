@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+
+namespace plexel {
+
+/// The directory of the data that belong to the program: languages, capability tables, panels, pictures, named
+/// sequences and help. The first that applies: the environment variable PLEXEL_DATA when it is set and not empty;
+/// "../share/plexel" beside the running program's directory when it exists; the data of the source tree.
+std::filesystem::path DataDirectory();
+
+/// The directory of the user's own files: "plexel" under $XDG_CONFIG_HOME when that is an absolute path, else under
+/// ".config" of the home directory. It need not exist.
+std::filesystem::path ConfigurationDirectory();
+
+}  // namespace plexel

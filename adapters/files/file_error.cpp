@@ -1,0 +1,16 @@
+#include "files/file_error.h"
+
+namespace plexel {
+
+namespace {
+
+std::string Message(const std::filesystem::path& file, std::size_t line, const std::string& reason) {
+  return file.string() + (line == 0 ? "" : ":" + std::to_string(line)) + ": " + reason;
+}
+
+}  // namespace
+
+FileError::FileError(const std::filesystem::path& file, std::size_t line, const std::string& reason)
+    : std::runtime_error(Message(file, line, reason)), file_(file), line_(line), reason_(reason) {}
+
+}  // namespace plexel

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace plexel {
+
+/// A file that cannot be read or written, or whose text is wrong. `what()` is "FILE:LINE: reason", or "FILE: reason"
+/// when the reason is not a matter of one line.
+class FileError : public std::runtime_error {
+ public:
+  /// Lines count from 1; 0 stands for the file as a whole.
+  FileError(const std::filesystem::path& file, std::size_t line, const std::string& reason);
+
+  const std::filesystem::path& File() const { return file_; }
+  std::size_t Line() const { return line_; }
+  const std::string& Reason() const { return reason_; }
+
+ private:
+  std::filesystem::path file_;
+  std::size_t line_;
+  std::string reason_;
+};
+
+}  // namespace plexel

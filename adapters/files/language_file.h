@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <string>
+
+namespace plexel {
+
+using LanguageTexts = std::map<std::int32_t, std::string>;
+
+/// The texts of a language file: UTF-8 lines "NUMBER=TEXT". Empty lines and lines that begin with '#' are passed over,
+/// blanks around number and text do not count. In a text "\n" is a line break, "\s" a blank and "\\" a backslash.
+/// FileError with the line for anything else, for a number outside 1 to 2147483647 and for a number that stands twice.
+LanguageTexts ReadLanguageFile(const std::filesystem::path& file);
+
+}  // namespace plexel

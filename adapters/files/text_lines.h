@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "files/file_error.h"
+
+namespace plexel {
+
+/// Walks over the lines of a text. LF, CR LF and CR each end a line, mixed as they come.
+class LineWalk {
+ public:
+  explicit LineWalk(std::string_view text) : text_(text) {}
+  /// Gives the next line without its end; false behind the last one. A text that ends in a line end has no empty line
+  /// behind it.
+  bool Next(std::string_view& line);
+  /// The number of the line that Next gave last, from 1; 0 before the first.
+  std::size_t Number() const { return number_; }
+
+ private:
+  std::size_t Find(char end, std::size_t known) const;
+
+  std::string_view text_;
+  std::size_t position_ = 0;
+  std::size_t lineFeed_ = 0;        ///< the next LF at or behind the position, once looked for
+  std::size_t carriageReturn_ = 0;  ///< the same for CR
+  std::size_t number_ = 0;
+  bool started_ = false;
+};
+
+/// A text file in memory, checked for what no text of this program holds.
+class TextFile {
+ public:
+  static constexpr std::size_t DefaultLimit = std::size_t{64} << 20U;
+  /// The longest line of any format.
+  static constexpr std::size_t LongestLine = std::size_t{1} << 20U;
+
+  /// Reads the file. A byte order mark of UTF-8 is passed over. FileError when the file cannot be read or is larger
+  /// than `limit` bytes, for UTF-16, for a NUL byte and for a line longer than LongestLine.
+  explicit TextFile(std::filesystem::path file, std::size_t limit = DefaultLimit);
+  /// The same checks on a content that is already in memory.
+  TextFile(std::filesystem::path file, std::string content);
+
+  const std::filesystem::path& Path() const { return path_; }
+  std::string_view Text() const { return std::string_view(content_).substr(start_); }
+  LineWalk Lines() const { return LineWalk(Text()); }
+  FileError Error(std::size_t line, const std::string& reason) const { return FileError(path_, line, reason); }
+
+ private:
+  void Check();
+
+  std::filesystem::path path_;
+  std::string content_;
+  std::size_t start_ = 0;
+};
+
+/// The number of the line in which a position lies, from 1.
+std::size_t LineOf(std::string_view text, std::size_t position);
+
+/// The text without the blanks and tabs around it.
+std::string_view TrimBlanks(std::string_view text);
+
+/// Whether the bytes are well-formed UTF-8.
+bool IsUtf8(std::string_view bytes);
+
+/// A piece of a faulty text for a message: at most 40 bytes, control characters and broken UTF-8 as '?'.
+std::string Excerpt(std::string_view text);
+
+}  // namespace plexel

@@ -1,0 +1,150 @@
+#include "files/system_files.h"
+
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+
+#include "file_error_of.h"
+#include "temporary_directory.h"
+
+namespace plexel {
+namespace {
+
+using testing::HasSubstr;
+
+/// The system's files, of which one operation fails with an error of the disk.
+class FailingFiles : public FilePort {
+ public:
+  explicit FailingFiles(std::string operation) : operation_(std::move(operation)) {}
+  int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle) override {
+    return Fails("create") ? EACCES : SystemFiles().Create(file, model, handle);
+  }
+  int Write(int handle, std::string_view bytes, std::size_t& written) override {
+    if (Fails("write nothing")) return 0;
+    if (Fails("write a part")) {
+      operation_ = "write";
+      return SystemFiles().Write(handle, bytes.substr(0, 1), written);
+    }
+    return Fails("write") ? ENOSPC : SystemFiles().Write(handle, bytes, written);
+  }
+  int Flush(int handle) override { return Fails("flush") ? EIO : SystemFiles().Flush(handle); }
+  int Close(int handle) override {
+    const int result = SystemFiles().Close(handle);
+    return Fails("close") ? EDQUOT : result;
+  }
+  int Rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
+    return Fails("rename") ? EPERM : SystemFiles().Rename(from, to);
+  }
+  int Remove(const std::filesystem::path& file) override { return SystemFiles().Remove(file); }
+  int FlushDirectory(const std::filesystem::path& directory) override {
+    return Fails("flush directory") ? EINVAL : SystemFiles().FlushDirectory(directory);
+  }
+
+ private:
+  bool Fails(std::string_view operation) const { return operation_ == operation; }
+  std::string operation_;
+};
+
+class FailingStep : public testing::TestWithParam<const char*> {};
+
+TEST_P(FailingStep, LeavesTheOldFileAndNothingBesideIt) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("project", "old");
+  FailingFiles files(GetParam());
+  const auto error = FileErrorOf([&] { WriteWholeFile(file, "new content", files); });
+  ASSERT_TRUE(error);
+  EXPECT_THAT(error->what(), HasSubstr(file.string() + ": cannot be written: "));
+  EXPECT_EQ(Content(file), "old");
+  EXPECT_EQ(directory.CountFiles(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(WriteWholeFile, FailingStep,
+                         testing::Values("create", "write", "write a part", "write nothing", "flush", "close",
+                                         "rename"));
+
+TEST(WriteWholeFile, ANewFileHoldsTheContent) {
+  const TemporaryDirectory directory;
+  WriteWholeFile(directory / "new", "content");
+  EXPECT_EQ(Content(directory / "new"), "content");
+  EXPECT_EQ(directory.CountFiles(), 1U);
+}
+
+TEST(WriteWholeFile, AnEmptyContentIsWritten) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("f", "old");
+  WriteWholeFile(file, "");
+  EXPECT_EQ(Content(file), "");
+}
+
+TEST(WriteWholeFile, ADirectoryThatCannotBeFlushedIsNoFailure) {
+  const TemporaryDirectory directory;
+  FailingFiles files("flush directory");
+  WriteWholeFile(directory / "new", "content", files);
+  EXPECT_EQ(Content(directory / "new"), "content");
+}
+
+TEST(WriteWholeFile, ALinkStaysALink) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("file", "old");
+  std::filesystem::create_symlink(file, directory / "link");
+  WriteWholeFile(directory / "link", "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(directory / "link"));
+  EXPECT_EQ(Content(file), "new");
+}
+
+TEST(WriteWholeFile, PermissionsOfTheOldFileStay) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("file", "old");
+  ASSERT_EQ(::chmod(file.c_str(), 0640), 0);
+  WriteWholeFile(file, "new");
+  struct stat status {};
+  ASSERT_EQ(::stat(file.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+}
+
+TEST(WriteWholeFile, ADeviceIsRefused) {
+  const auto error = FileErrorOf([] { WriteWholeFile("/dev/full", "content"); });
+  ASSERT_TRUE(error);
+  EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+}
+
+TEST(WriteWholeFile, ADirectoryIsRefused) {
+  const TemporaryDirectory directory;
+  EXPECT_THROW(WriteWholeFile(directory.Path(), "content"), FileError);
+}
+
+TEST(WriteWholeFile, AMissingDirectoryIsRefused) {
+  const TemporaryDirectory directory;
+  EXPECT_THROW(WriteWholeFile(directory / "none/file", "content"), FileError);
+}
+
+TEST(WriteWholeFile, ANameBesideItThatIsTakenIsPassedBy) {
+  const TemporaryDirectory directory;
+  const auto taken = directory.Put("file." + std::to_string(::getpid()) + "-0.new", "someone else's");
+  WriteWholeFile(directory / "file", "content");
+  EXPECT_EQ(Content(directory / "file"), "content");
+  EXPECT_EQ(Content(taken), "someone else's");
+}
+
+TEST(WriteWholeFile, AFullDiskLeavesTheOldFile) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("project", "old");
+  rlimit limits{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limits), 0);
+  const rlimit small{4096, limits.rlim_max};
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  const auto error = FileErrorOf([&] { WriteWholeFile(file, std::string(100'000, 'x')); });
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limits), 0);
+  std::signal(SIGXFSZ, handler);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(Content(file), "old");
+  EXPECT_EQ(directory.CountFiles(), 1U);
+}
+
+}  // namespace
+}  // namespace plexel
