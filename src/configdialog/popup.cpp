@@ -1,0 +1,77 @@
+#include <cstddef>
+#include <string>
+
+#include "configdialog/frmConfigurationDialog.h"
+#include "forms/form_directory.h"
+#include "scancodes/code_buffer.h"
+#include "scancodes/definition_text.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::uint16_t noCharacter = 65535;
+constexpr std::int32_t leftAlt = 0x11, breakPrefix = 0xF0;
+
+/// Codes of set 2 with their number, as they are put one behind another.
+struct Sequence {
+  CodeArray codes{};
+  std::int32_t length = 0;
+  void Append(std::int32_t code) { codes[static_cast<std::size_t>(length++)] = code; }
+};
+
+/// Left Alt held while the digits are typed on the number pad.
+Sequence KeypadEntry(const std::string& digits) {
+  Sequence sequence;
+  sequence.Append(leftAlt);
+  for (const char digit : digits) {
+    const std::int32_t code = DigitToKeypadCode(std::string_view(&digit, 1));
+    sequence.Append(code);
+    sequence.Append(breakPrefix);
+    sequence.Append(code);
+  }
+  sequence.Append(breakPrefix);
+  sequence.Append(leftAlt);
+  return sequence;
+}
+
+}  // namespace
+
+void frmConfigurationDialog::MNU_POPUP_ASCII_Click() {
+  EndQuietly([this] {
+    FormDirectory::Instance().ShowModal("frmASCIICharacterTable", this);
+    const std::uint16_t character = Module().intAsciiResult;
+    if (character == noCharacter) return;
+    const std::string digits = std::to_string(character);
+    const Sequence make = KeypadEntry(digits);
+    const CodeArray noBreak{};
+    if (StoreScanCodes(make.codes, make.length, noBreak, 0, MakeOnly, 0, TargetConfigurationDialog) != 0) return;
+    msgScanCodes.Text(msgScanCodes.Text() + DefinitionGroup("ASCII:" + digits, MakeAndBreak));
+  });
+}
+
+void frmConfigurationDialog::MNU_SPECIALKEY_Click() {
+  EndQuietly([this] { FormDirectory::Instance().ShowModal("frmSpecialIPCKey", this); });
+}
+
+void frmConfigurationDialog::MNU_POPUP_WINDOWSKEY_Click() {
+  EndQuietly([this] { FormDirectory::Instance().ShowModal("frmSpecialWindowsKey", this); });
+}
+
+void frmConfigurationDialog::MNU_POPUP_NONSTANDARDCODE_Click() {
+  EndQuietly([this] { FormDirectory::Instance().ShowModal("frmNonStandardScancodes", this); });
+}
+
+void frmConfigurationDialog::MNU_POPUP_COPY_Click() {
+  std::int32_t ignored = 0;
+  CopyGridCell(ignored);
+}
+
+void frmConfigurationDialog::MNU_POPUP_PASTE_Click() {
+  std::int32_t ignored = 0;
+  PasteGridCell(ignored);
+}
+
+}  // namespace plexel
