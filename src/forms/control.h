@@ -46,10 +46,10 @@ struct TextSlot {
   std::function<void(std::string)> assign;
 };
 
-/// A control of a form. Positions and sizes are twips, relative to the container (a frame, a page of a tab strip, or the
-/// form's client area). A control belongs to its form as a member and registers with it by name; it is neither copied
-/// nor moved. Assignments from the program raise what the assignment raises and nothing else; the user's acts come
-/// through Hand.
+/// A control of a form. Positions and sizes are twips, relative to the container (a frame, a page of a tab strip, or
+/// the form's client area). A control belongs to its form as a member and registers with it by name; it is neither
+/// copied nor moved. Assignments from the program raise what the assignment raises and nothing else; the user's acts
+/// come through Hand.
 class Control {
  public:
   using Event = std::function<void()>;
@@ -95,6 +95,7 @@ class Control {
 
   /// Puts the control into a frame, or on a page of a tab strip. The container must be of the same form.
   void Inside(Control& container) { container_ = &container; }
+  /// Failure (Index) for a page that the strip lacks.
   void OnPage(TabStrip& strip, int page);
   Control* Container() const { return container_; }
   int Page() const { return page_; }
@@ -102,7 +103,9 @@ class Control {
   /// Whether the user can see it: itself and its containers visible, its page in front.
   bool Shown() const;
   /// Whether the user can act on it: shown, and it and its containers enabled, its page not off.
-  bool Usable() const;
+  bool Usable() const { return Hindrance().empty(); }
+  /// Why it is not usable, as the rest of a sentence about it ("is disabled"); empty when it is.
+  std::string_view Hindrance() const;
   /// Whether its kind can hold the focus.
   virtual bool Focusable() const { return false; }
   bool CanTakeFocus() const { return Focusable() && Usable(); }
@@ -124,6 +127,9 @@ class Control {
   virtual void DescribeMore(Description& description) const = 0;
 
  private:
+  /// The tab strip on whose page it lies, or null.
+  const TabStrip* Strip() const;
+
   Form& form_;
   ControlKind kind_;
   std::string name_;

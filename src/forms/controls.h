@@ -56,6 +56,8 @@ class OptionButton : public CaptionControl {
   bool Value() const { return value_; }
   /// Setting it true clears the other option buttons of the container and, when it was false, raises Click.
   void Value(bool value);
+  /// The option buttons of its container, itself among them, in tab order.
+  std::vector<OptionButton*> Group() const;
 
  protected:
   void DescribeMore(Description& description) const override;
@@ -76,13 +78,15 @@ class ComboBox : public Control {
   bool Sorted() const { return sorted_; }
   void Sorted(bool value) { sorted_ = value; }
   void AddItem(const std::string& text);
+  /// Takes all entries away, and the text with them.
   void Clear();
   int ListCount() const { return static_cast<int>(items_.size()); }
   /// Failure (Index) outside the list.
   const std::string& List(int index) const;
   const std::vector<std::string>& Items() const { return items_; }
   int ListIndex() const { return listIndex_; }
-  /// Picks an entry (-1 for none): its text goes into the field, and Click is raised. Failure (Index) outside the list.
+  /// Picks an entry: its text goes into the field, and Click is raised. -1 picks none and empties the field. Failure
+  /// (Index) outside the list.
   void ListIndex(int index);
   std::vector<TextSlot> Texts() override;
 
@@ -103,10 +107,13 @@ class TextBox : public Control {
   bool Focusable() const override { return true; }
   const std::string& Text() const { return text_; }
   /// Cuts what is longer than MaxLength, puts the caret ahead of the text, and raises Change when the text changed.
-  void Text(std::string value);
+  void Text(std::string value) { Edit(std::move(value), 0); }
+  /// The same with a place for the caret, which stands there when Change is raised.
+  void Edit(std::string value, int selStart);
   int TextLength() const;
   int MaxLength() const { return maxLength_; }  ///< 0 for no limit
   void MaxLength(int value) { maxLength_ = value; }
+  /// The caret: the number of characters ahead of it. A place outside the text becomes the nearest one in it.
   int SelStart() const { return selStart_; }
   void SelStart(int value);
   bool Locked() const { return locked_; }  ///< the user cannot change the text
@@ -203,6 +210,9 @@ class TabStrip : public Control {
     std::string caption;
     bool enabled = true;
   };
+  const PageState& At(int page) const;
+  PageState& At(int page);
+
   std::vector<PageState> pages_;
   int tab_ = 0;
 };

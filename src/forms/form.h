@@ -49,22 +49,33 @@ class Form : public Window {
   /// The controls in the order in which they were made, and by full name; null for an unknown one.
   const std::vector<Control*>& Controls() const { return controls_; }
   Control* Find(std::string_view fullName) const;
-  /// The controls that Tab reaches, in tab order.
+  /// All controls by tab index, those of the same index in the order in which they were made.
+  std::vector<Control*> ControlsInTabOrder() const;
+  /// The controls that Tab reaches, in tab order. Of the option buttons of a container that is one: the one that is
+  /// set, or the first.
   std::vector<Control*> TabOrder() const;
+  /// Where Tab leads from the control with the focus, or with `forward` off Shift and Tab: round the tab order from the
+  /// focus's own place in it, past the other option buttons of its container. Null when it leads nowhere else.
+  Control* TabNeighbour(bool forward) const;
 
   /// The control with the focus; null for none. A control that is disabled or hidden keeps its place as the focus but
   /// gets no keys until it can take them again.
   Control* Focus() const { return focus_; }
-  /// Gives the focus to a control, or to the form itself with null.
+  /// Gives the focus to a control, or to the form itself with null; LostFocus and GotFocus are raised from loading to
+  /// unloading, LostFocus first, when the focus has already moved. Failure (InvalidCall) for a control that cannot take
+  /// it.
   void Focus(Control* control);
   CommandButton* DefaultButton() const { return defaultButton_; }
   CommandButton* CancelButton() const { return cancelButton_; }
 
-  /// Shows the form modal over its owner (null for none) and returns when it has closed. Failure (InvalidCall) when it
-  /// is already shown, and whatever the platform's modal loop throws when it cannot show it.
+  /// Shows the form modal over its owner (null for none) and returns when it has closed: loads it, gives the focus to
+  /// the first control of the tab order unless a control has it, and runs the platform's modal loop. Failure
+  /// (InvalidCall) when it is already shown or loading, and whatever loading or the modal loop throws; the form is then
+  /// not shown. A form that unloads itself while it loads is not shown either.
   void ShowModal(Window* owner);
   bool IsShown() const { return shown_; }
-  /// Closes the form: QueryUnload, Unload. With a form that is not loaded nothing happens.
+  /// Closes the form: QueryUnload, Unload. With a form that is not loaded, or is unloading, nothing happens. A failure
+  /// of the two events passes on and the form stays.
   void Unload(UnloadMode mode = UnloadMode::Code);
 
   /// Opens a popup menu at the mouse, or at a place of the client area in twips.
@@ -73,6 +84,10 @@ class Form : public Window {
   /// The popup menu that is open, or null.
   MenuItem* OpenPopup() const { return openPopup_; }
   void OpenPopup(MenuItem* menu) { openPopup_ = menu; }
+
+  /// The button on which Space went down and has not come up, or null. It is forgotten when the focus moves.
+  Control* Armed() const { return armed_; }
+  void Armed(Control* button) { armed_ = button; }
 
   /// Name, Caption, Left, Top, Width, Height, KeyPreview, Focus, Controls.
   Description Describe() const;
@@ -88,12 +103,19 @@ class Form : public Window {
   friend class Control;
   friend class CommandButton;
 
+  /// The controls of TabOrder, with `preferred` standing for the option buttons of its container.
+  std::vector<Control*> ReachableByTab(const Control* preferred) const;
+  void Popup(MenuItem& menu, bool placed, float x, float y);
+  /// Ends the state of being loaded, whatever had become of it.
+  void Forget();
+
   std::string name_, caption_;
   float left_ = 0, top_ = 0, width_ = 4800, height_ = 3600;
-  bool keyPreview_ = false, loaded_ = false, shown_ = false;
+  bool keyPreview_ = false, loaded_ = false, shown_ = false, unloading_ = false;
   std::int32_t helpContext_ = 0;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
+  Control* armed_ = nullptr;
   CommandButton* defaultButton_ = nullptr;
   CommandButton* cancelButton_ = nullptr;
   MenuItem* openPopup_ = nullptr;

@@ -10,9 +10,9 @@
 
 namespace plexel {
 
-/// The forms by name, one instance each. The program that puts everything together fills it with makers; the element and
-/// the dialogs ask it to show one. Each showing makes the form anew, so that it starts from its design state, and lets
-/// it go when it has closed.
+/// The forms by name, one instance each. The program that puts everything together fills it with makers; the element
+/// and the dialogs ask it to show one. Each showing makes the form anew, so that it starts from its design state, and
+/// lets it go when it has closed.
 class FormDirectory {
  public:
   using Maker = std::function<std::unique_ptr<Form>()>;

@@ -11,6 +11,8 @@ namespace plexel {
 /// scroll. Cell operations work on the current cell. Rows, columns and places count from 0; sizes are twips.
 class Grid : public Control {
  public:
+  /// At least one row and one column must not be fixed; Failure (InvalidCall) otherwise. The first cell that is not
+  /// fixed is current.
   Grid(Form& form, std::string_view name, int rows, int cols, int fixedRows, int fixedCols);
   bool Focusable() const override { return true; }
 
@@ -34,7 +36,9 @@ class Grid : public Control {
   std::int32_t CellBackColor() const { return Cell().backColor; }
   void CellBackColor(std::int32_t value) { Cell().backColor = value; }
   void CellCentred(bool value) { Cell().centred = value; }
+  /// Failure (Index) outside the grid.
   const GridCell& CellAt(int row, int col) const;
+  bool IsFixed(int row, int col) const { return row < fixedRows_ || col < fixedCols_; }
 
   int ColWidth(int col) const;
   /// Failure (Index) outside the grid, Failure (InvalidCall) for a negative width.
@@ -60,8 +64,12 @@ class Grid : public Control {
   /// The first row and column in view behind the fixed ones.
   int TopRow() const { return topRow_; }
   int LeftCol() const { return leftCol_; }
-  /// Scrolls; raises Scroll when that changes the view.
+  /// The rows that are wholly in view behind the fixed ones, by the grid's height; at least one.
+  int RowsInView() const;
+  /// Scrolls, no further than the last row and column need; raises Scroll when that changes the view.
   void ScrollTo(int topRow, int leftCol);
+  /// Scrolls as little as brings a cell into view.
+  void ScrollIntoView(int row, int col);
 
   Event OnEnterCell, OnScroll;
 
@@ -71,6 +79,11 @@ class Grid : public Control {
  private:
   const GridCell& Cell() const { return cells_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(col_)]; }
   GridCell& Cell() { return cells_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(col_)]; }
+  void CheckCell(int row, int col) const;
+  /// Twips from the left edge of column `first` to that of column `end`.
+  int WidthOf(int first, int end) const;
+  /// The leftmost column with which `col` is wholly in view, `col` itself when it is too wide.
+  int FirstColShowing(int col) const;
 
   GridCells cells_;
   std::vector<int> colWidths_;

@@ -9,58 +9,96 @@
 namespace plexel {
 
 /// The user's acts on one form, turned into events with the rules of focus, enabling, key preview, default and cancel
-/// button. An act on a control that is disabled, hidden or on a page that is not in front is a Failure (InvalidCall) and
-/// changes nothing. Failures of handlers without a guard pass through.
+/// button. An act on a control that is disabled, hidden or on a page that is not in front is a Failure (InvalidCall)
+/// and changes nothing. Failures of handlers without a guard pass through. When a handler closes the form, the rest of
+/// the act does not happen. Every act but a choice from it and the end of a key closes the popup menu that is open.
 ///
-/// A key takes this road: the form's preview, the control with the focus, then the default action. A handler that sets
-/// the key code to 0 takes the control's own action away; Tab, Escape with a cancel button and Return with a default
-/// button act whatever a handler did to the code. The character that a key yields follows as a key press, whatever
-/// became of the key down.
+/// A key takes this road: the form's preview, the control that has the focus when the key goes down, then the default
+/// action. A handler that sets the key code to 0 takes the control's own action away; Tab, Escape with a cancel button
+/// and Return with a default button, or on a command button, act whatever a handler did to the code, and yield no
+/// character. From any other key the character follows as a key press, whatever became of the key down.
+///
+/// A control's own actions: Space presses a command button and sets an option button; the arrow keys move within the
+/// option buttons of a container, the entries of a combo box, the cells of a grid and the tabs of a strip; Left, Right,
+/// Home, End and Delete edit a text box. A grid and a text box of several lines keep Return for themselves. An open
+/// list of a combo box (F4, Alt and Down) is the renderer's.
 class Hand {
  public:
   explicit Hand(Form& form) : form_(form) {}
 
+  /// A click of the left button: the focus goes to the control if its kind takes it, and Click is raised. An option
+  /// button becomes the one that is set, which raises Click when it was not; a combo box raises nothing until an entry
+  /// is picked; a menu entry is picked.
   void Click(Control& control);
+  /// The same on a cell, which becomes current ahead of Click unless it is fixed. Failure (Index) outside the grid.
   void Click(Grid& grid, int row, int col);
   /// A double click, whose first click is a click.
   void DblClick(Control& control);
   void DblClick(Grid& grid, int row, int col);
-  /// A mouse button down; button 1 left, 2 right, 4 middle; x and y in twips in the control.
+  /// A mouse button down; button 1 left, 2 right, 4 middle; x and y in twips in the control. The left button gives the
+  /// focus to every control that takes it, the others only to a grid and a text box. No cell becomes current.
   void MouseDown(Control& control, std::int16_t button, std::int16_t shift, float x, float y);
   void Focus(Control& control);
   /// Picks a list entry by its place.
   void Select(ComboBox& box, int index);
   /// Types at the end of a text box, with all key events of each character.
   void Type(TextBox& box, std::string_view text);
-  /// Takes over a text that the user has edited in place, with the caret behind `selStart` characters.
+  /// Takes over a text that the user has edited in place, with the caret behind `selStart` characters. Failure
+  /// (InvalidCall) for another text in a locked box.
   void Edit(TextBox& box, const std::string& text, int selStart);
   /// Makes a cell current, as the arrow keys do. Fixed cells cannot be current: Failure (Index).
   void Cell(Grid& grid, int row, int col);
+  /// Failure (InvalidCall) when the widths are not the user's to change.
   void ResizeColumn(Grid& grid, int col, int width);
   void Scroll(Grid& grid, int topRow, int leftCol);
   /// Clicks on a tab; a page that is off refuses. A double click raises both events.
   void Tab(TabStrip& strip, int page);
   void DblClickTab(TabStrip& strip, int page);
-  /// Picks an entry of the popup menu that is open; Failure (InvalidCall) when there is none or the entry is disabled.
+  /// Picks an entry of the popup menu that is open, which closes ahead of the entry's Click; Failure (InvalidCall) when
+  /// there is none or the entry is disabled, hidden or a separator.
   void Menu(MenuItem& entry);
-  /// Closes the popup menu without a choice.
-  void DismissMenu();
+  /// Closes the popup menu without a choice; false when none is open.
+  bool DismissMenu();
   /// The window has been moved.
   void Move(float left, float top);
   /// The window's close box.
   void Close();
 
-  /// A key down at the focus, with its default action; gives the key code as it came back from the handlers.
+  /// A key down at the focus, with its default action and without the character that it yields; gives the key code as
+  /// it came back from the handlers. With a popup menu open, Escape closes that and does nothing else.
   std::int16_t KeyDown(std::int16_t keyCode, std::int16_t shift);
-  /// A character at the focus, with its insertion; gives it as it came back. `character` is a code of Windows-1252.
+  /// A character at the focus, with its insertion into a text box; gives it as it came back. `character` is a code of
+  /// Windows-1252; Failure (InvalidCall) for a number that is none.
   std::int16_t KeyPress(std::int16_t character);
-  /// A key up at the focus: Space released on a button presses it.
+  /// A key down with the Unicode character that it yields, 0 for none (as with Alt, and for Delete): what KeyDown does,
+  /// then what KeyPress does where a character follows. A character that Windows-1252 lacks is a question mark to the
+  /// handlers and goes into the text box unharmed.
+  void Key(std::int16_t keyCode, std::int16_t shift, char32_t character);
+  /// The same ahead of an editor that works on the text of the focused text box itself: all events and the actions of
+  /// the form, but no editing of the text. True when the editor is to carry out the key's own action and to hand the
+  /// outcome to Edit; false when the key has had its effect, which may be none, and the box is to be drawn anew.
+  bool PreviewKey(std::int16_t keyCode, std::int16_t shift, char32_t character);
+  /// A key up at the focus: Space released on a command button, on which it went down, presses it.
   void KeyUp(std::int16_t keyCode, std::int16_t shift);
-  /// The same for an editor that keeps the text of a box itself: the events without the insertion of a text box.
-  /// True when the editor is to carry out the key's own action.
-  bool PreviewKey(std::int16_t keyCode, std::int16_t shift, std::int16_t character);
 
  private:
+  /// Who edits the text of a text box.
+  enum class Editor { Form, Renderer };
+  struct DownResult {
+    std::int16_t keyCode;   ///< as it came back
+    bool characterFollows;  ///< false when the form took the key, or has closed
+  };
+  struct PressResult {
+    std::int16_t character;  ///< as it came back
+    bool left;               ///< true when the renderer's editor is to insert it
+  };
+
+  void Press(Control& control);
+  void TakeFocus(Control& control, std::int16_t button);
+  DownResult Down(Control* target, std::int16_t keyCode, std::int16_t shift, Editor editor);
+  bool FormTakes(Control* target, std::int16_t keyCode, std::int16_t shift);
+  PressResult Character(Control* target, char32_t character, Editor editor);
+
   Form& form_;
 };
 

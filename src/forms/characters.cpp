@@ -1,0 +1,116 @@
+#include "forms/characters.h"
+
+#include <algorithm>
+#include <array>
+
+namespace plexel::characters {
+
+namespace {
+
+constexpr char32_t Replacement = 0xFFFD;
+constexpr std::uint8_t FirstSpecialCode = 0x80, FirstLatinCode = 0xA0;
+
+/// Codes 80 to 9F; outside them Windows-1252 and Unicode agree.
+constexpr std::array<char16_t, 32> SpecialCodes = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                   0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+/// Letters of U+00C0 to U+00FF without case and accent; null for the two that are no letters.
+constexpr std::array<const char*, 64> FoldedLetters = {
+    "a", "a", "a", "a", "a", "a", "ae", "c",     "e", "e", "e", "e", "i", "i", "i",  "i",
+    "d", "n", "o", "o", "o", "o", "o",  nullptr, "o", "u", "u", "u", "u", "y", "th", "ss",
+    "a", "a", "a", "a", "a", "a", "ae", "c",     "e", "e", "e", "e", "i", "i", "i",  "i",
+    "d", "n", "o", "o", "o", "o", "o",  nullptr, "o", "u", "u", "u", "u", "y", "th", "y"};
+
+std::uint8_t Byte(std::string_view text, std::size_t place) { return static_cast<std::uint8_t>(text[place]); }
+
+/// Bytes that follow a lead byte; -1 for a byte that leads nothing.
+int Followers(std::uint8_t lead) {
+  if (lead < 0x80) return 0;
+  if (lead >= 0xC2 && lead <= 0xDF) return 1;
+  if (lead >= 0xE0 && lead <= 0xEF) return 2;
+  if (lead >= 0xF0 && lead <= 0xF4) return 3;
+  return -1;
+}
+
+struct Sequence {
+  std::size_t length;
+  char32_t character;
+};
+
+Sequence First(std::string_view utf8) {
+  constexpr Sequence broken{1, Replacement};
+  constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};
+  const std::uint8_t lead = Byte(utf8, 0);
+  const int followers = Followers(lead);
+  if (followers == 0) return {1, lead};
+  const auto count = static_cast<std::size_t>(followers);
+  if (followers < 0 || utf8.size() <= count) return broken;
+  char32_t character = lead & (0x3FU >> count);
+  for (std::size_t i = 1; i <= count; ++i) {
+    if ((Byte(utf8, i) & 0xC0) != 0x80) return broken;
+    character = character << 6 | (Byte(utf8, i) & 0x3FU);
+  }
+  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+  if (character < smallest[count] || character > 0x10FFFF || surrogate) return broken;
+  return {count + 1, character};
+}
+
+}  // namespace
+
+std::vector<std::string_view> Split(std::string_view utf8) {
+  std::vector<std::string_view> parts;
+  while (!utf8.empty()) {
+    const std::size_t length = First(utf8).length;
+    parts.push_back(utf8.substr(0, length));
+    utf8.remove_prefix(length);
+  }
+  return parts;
+}
+
+int Count(std::string_view utf8) {
+  int count = 0;
+  for (; !utf8.empty(); ++count) utf8.remove_prefix(First(utf8).length);
+  return count;
+}
+
+char32_t Decode(std::string_view character) { return First(character).character; }
+
+std::string Encode(char32_t character) {
+  const auto tail = [&](unsigned shift) { return static_cast<char>(0x80U | (character >> shift & 0x3FU)); };
+  if (character < 0x80) return {static_cast<char>(character)};
+  if (character < 0x800) return {static_cast<char>(0xC0U | character >> 6), tail(0)};
+  if (character < 0x10000) return {static_cast<char>(0xE0U | character >> 12), tail(6), tail(0)};
+  return {static_cast<char>(0xF0U | character >> 18), tail(12), tail(6), tail(0)};
+}
+
+char32_t OfCode(std::uint8_t code) {
+  if (code < FirstSpecialCode || code >= FirstLatinCode) return code;
+  return SpecialCodes[code - FirstSpecialCode];
+}
+
+int CodeOf(char32_t character) {
+  if (character < FirstSpecialCode || (character >= FirstLatinCode && character <= 0xFF)) {
+    return static_cast<int>(character);
+  }
+  const auto place = std::find(SpecialCodes.begin(), SpecialCodes.end(), character);
+  return place == SpecialCodes.end() ? -1 : FirstSpecialCode + static_cast<int>(place - SpecialCodes.begin());
+}
+
+std::string Folded(std::string_view utf8) {
+  std::string folded;
+  for (const std::string_view part : Split(utf8)) {
+    const char32_t character = Decode(part);
+    if (character >= U'A' && character <= U'Z') {
+      folded += static_cast<char>(character - U'A' + U'a');
+    } else if (character >= 0xC0 && character <= 0xFF && FoldedLetters[character - 0xC0] != nullptr) {
+      folded += FoldedLetters[character - 0xC0];
+    } else {
+      folded += part;
+    }
+  }
+  return folded;
+}
+
+}  // namespace plexel::characters

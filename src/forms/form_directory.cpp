@@ -1,0 +1,34 @@
+#include "forms/form_directory.h"
+
+#include "platform/failure.h"
+
+namespace plexel {
+
+FormDirectory& FormDirectory::Instance() {
+  static FormDirectory directory;
+  return directory;
+}
+
+void FormDirectory::Add(std::string name, Maker maker) { entries_[std::move(name)].maker = std::move(maker); }
+
+void FormDirectory::ShowModal(std::string_view name, Window* owner) {
+  const auto found = entries_.find(name);
+  if (found == entries_.end()) throw Failure(FailureKind::NoSuchMember, "no form named " + std::string(name));
+  Entry& entry = found->second;
+  if (entry.open) throw Failure(FailureKind::InvalidCall, std::string(name) + " is shown already");
+
+  struct Closing {
+    Entry& entry;
+    ~Closing() { entry.open.reset(); }
+  };
+  const Closing closing{entry};
+  entry.open = entry.maker();
+  entry.open->ShowModal(owner);
+}
+
+Form* FormDirectory::Open(std::string_view name) const {
+  const auto entry = entries_.find(name);
+  return entry == entries_.end() ? nullptr : entry->second.open.get();
+}
+
+}  // namespace plexel

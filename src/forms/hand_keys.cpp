@@ -1,0 +1,101 @@
+#include "forms/acting.h"
+#include "forms/characters.h"
+#include "forms/hand.h"
+
+namespace plexel {
+
+namespace {
+
+/// What handlers see of a character that the code page lacks.
+constexpr std::int16_t UnknownCharacter = '?';
+
+bool KeepsReturn(const Control& control) {
+  if (control.Kind() == ControlKind::Grid) return true;
+  return control.Kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).MultiLine();
+}
+
+bool GetsKeys(const Control* control) { return control != nullptr && control->Usable(); }
+
+}  // namespace
+
+bool Hand::FormTakes(Control* target, std::int16_t keyCode, std::int16_t shift) {
+  if ((shift & (key::ControlBit | key::AltBit)) != 0) return false;
+  if (keyCode == key::Tab) {
+    Control* const next = form_.TabNeighbour((shift & key::ShiftBit) == 0);
+    if (next != nullptr) form_.Focus(next);
+    return true;
+  }
+  CommandButton* button = nullptr;
+  if (keyCode == key::Escape) button = form_.CancelButton();
+  if (keyCode == key::Return) {
+    if (GetsKeys(target) && KeepsReturn(*target)) return false;
+    const bool onButton = GetsKeys(target) && target->Kind() == ControlKind::CommandButton;
+    button = onButton ? static_cast<CommandButton*>(target) : form_.DefaultButton();
+  }
+  if (!GetsKeys(button)) return false;
+  Press(*button);
+  return true;
+}
+
+Hand::DownResult Hand::Down(Control* target, std::int16_t keyCode, std::int16_t shift, Editor editor) {
+  if (DismissMenu() && keyCode == key::Escape) return {keyCode, false};
+  const OpenForm open(form_);
+  std::int16_t code = keyCode;
+  if (form_.KeyPreview()) form_.OnKeyDown(code, shift);
+  if (open && GetsKeys(target)) Raise(target->OnKeyDown, code, shift);
+  if (!open || FormTakes(target, keyCode, shift)) return {code, false};
+  const bool editorActs =
+      editor == Editor::Renderer && code == keyCode && target != nullptr && target->Kind() == ControlKind::TextBox;
+  if (GetsKeys(target) && !editorActs) ActOnKey(*target, code, shift);
+  return {code, bool(open)};
+}
+
+Hand::PressResult Hand::Character(Control* target, char32_t character, Editor editor) {
+  const int known = characters::CodeOf(character);
+  const std::int16_t sent = known < 0 ? UnknownCharacter : static_cast<std::int16_t>(known);
+  std::int16_t code = sent;
+  const OpenForm open(form_);
+  if (form_.KeyPreview()) form_.OnKeyPress(code);
+  if (open && GetsKeys(target)) Raise(target->OnKeyPress, code);
+  if (!open || code <= 0 || code > 0xFF || !GetsKeys(target) || target->Kind() != ControlKind::TextBox) {
+    return {code, false};
+  }
+  if (code == sent && editor == Editor::Renderer) return {code, true};
+  EnterCharacter(static_cast<TextBox&>(*target),
+                 code == sent ? character : characters::OfCode(static_cast<std::uint8_t>(code)));
+  return {code, false};
+}
+
+std::int16_t Hand::KeyDown(std::int16_t keyCode, std::int16_t shift) {
+  return Down(form_.Focus(), keyCode, shift, Editor::Form).keyCode;
+}
+
+std::int16_t Hand::KeyPress(std::int16_t character) {
+  if (character < 0 || character > 0xFF) {
+    throw Failure(FailureKind::InvalidCall, "no character has the code " + std::to_string(character));
+  }
+  return Character(form_.Focus(), characters::OfCode(static_cast<std::uint8_t>(character)), Editor::Form).character;
+}
+
+void Hand::Key(std::int16_t keyCode, std::int16_t shift, char32_t character) {
+  Control* const target = form_.Focus();
+  const bool follows = Down(target, keyCode, shift, Editor::Form).characterFollows;
+  if (follows && character != 0) Character(target, character, Editor::Form);
+}
+
+bool Hand::PreviewKey(std::int16_t keyCode, std::int16_t shift, char32_t character) {
+  Control* const target = form_.Focus();
+  const DownResult down = Down(target, keyCode, shift, Editor::Renderer);
+  if (!down.characterFollows) return false;
+  if (character != 0) return Character(target, character, Editor::Renderer).left;
+  return down.keyCode == keyCode && GetsKeys(target) && target->Kind() == ControlKind::TextBox;
+}
+
+void Hand::KeyUp(std::int16_t keyCode, std::int16_t) {
+  if (keyCode != key::Space) return;
+  Control* const armed = form_.Armed();
+  form_.Armed(nullptr);
+  if (armed != nullptr && armed == form_.Focus() && armed->Usable()) Press(*armed);
+}
+
+}  // namespace plexel
