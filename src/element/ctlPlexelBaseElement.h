@@ -21,8 +21,8 @@ namespace plexel {
 /// thread. Elements are held by shared pointers, since the module state keeps the last one that a dialog worked for.
 class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseElement> {
  public:
-  /// A new element with UserControl_Initialize and UserControl_InitProperties done. `host` must outlive the element or be
-  /// taken away with Detach.
+  /// A new element with UserControl_Initialize and UserControl_InitProperties done. `host` must outlive the element or
+  /// be taken away with Detach.
   static std::shared_ptr<ctlPlexelBaseElement> Create(std::string name, ElementHost& host);
   /// An element read from a bag, with UserControl_Initialize and UserControl_ReadProperties done.
   static std::shared_ptr<ctlPlexelBaseElement> Read(std::string name, ElementHost& host, const PropertyBag& bag);
@@ -170,10 +170,58 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   const Surface& SurfaceObjects() const { return surface_; }
 
  private:
-  // filled by the element's builder
+  ctlPlexelBaseElement(std::string name, ElementHost& host);
+  void UserControl_Initialize();
+  void UserControl_InitProperties();
+
+  void Notify(const Notice& notice);
+  /// Stores a value and announces it as the row of the property table says.
+  template <std::size_t row, typename Field>
+  void Store(Field& field, const Field& value);
+
+  /// Steps that lay out one direction behind a change of size; nothing happens while the size or the zoom is 0.
+  void LayOutHorizontally();
+  void LayOutVertically();
+  struct Axis;
+  double LayOutShapes(const Axis& axis, std::int16_t size);
+  std::int32_t CrossMargin() const;
+  /// Gives both size setters their own values.
+  void ReapplySizes();
+
+  void ShowFocusShapes(bool oval, bool rectangle);
+  void ShowCross(bool visible);
+  void SendKeyDefinition();
+  /// Shows a form modal over ParentWindow.
+  void ShowForm(std::string_view form);
+  /// The same with mbDialogOpen set meanwhile; a form that cannot be shown is passed over.
+  void ShowDialog(std::string_view form);
+  void ShowWizard();
+  void ShowChosenDialog();
+
+  void PassOnHead(const udtTactisBaseElement_ScanCodeInfo& info);
+  void PassOnRest(const udtTactisBaseElement_ScanCodeInfo& info);
+
   std::string name_;
   ElementHost* host_ = nullptr;
   Surface surface_;
+  udtTactisBaseElement_ScanCodeInfo info_;
+  std::array<std::string, LayerCount> pressKeyDefs_, releaseKeyDefs_;
+  std::array<enumLedType, LayerCount> ledTypes_{};
+  std::array<std::int32_t, 8> hardwareNumberKeys_{};
+  std::string buttonNotes_, targetSystem_;
+  std::shared_ptr<HostObject> parentWindow_;
+  double dpiFontScaleFactor_ = 0;
+  enumWizardOptions wizardOptions_{};
+  enumXSize xElementSize_{};
+  enumTactisBaseElementType elementType_{};
+  std::int32_t focusColor_ = 0, keyDefinedColor_ = 0, deviceType_ = 0;
+  std::int32_t originalPosX_ = 0, originalPosY_ = 0;
+  std::int32_t hardwareNumberLed_ = 0, hardwareNumberButton_ = 0;
+  std::int16_t sizeX_ = 0, sizeY_ = 0, zoomFactor_ = 0;
+  Boolean focusVisible_ = False, wizardOn_ = False, showDefined_ = False;
+  Boolean showX_ = False, showXPermanent_ = False, vantaEnabled_ = False;
+  Boolean mbDialogOpen_ = False;
+  std::uint8_t focusWidth_ = 0;
 };
 
 }  // namespace plexel

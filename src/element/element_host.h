@@ -34,8 +34,8 @@ class ElementHost {
   virtual ~ElementHost() = default;
 
   virtual void PropertyChanged(ctlPlexelBaseElement& element, const Notice& notice) = 0;
-  /// Whether any element of the panel has the LED function in the layer, as a 16-bit boolean. A container that lacks the
-  /// member throws Failure (NoSuchMember).
+  /// Whether any element of the panel has the LED function in the layer, as a 16-bit boolean. A container that lacks
+  /// the member throws Failure (NoSuchMember).
   virtual Boolean CheckIfLedIsAlreadyDefined(std::int32_t& LEDType, std::int32_t& Layer) = 0;
 
   virtual void DirectInputStatusChanged(ctlPlexelBaseElement& element, Boolean& bDirectInputStatus) = 0;

@@ -17,7 +17,8 @@ std::int32_t CodeOf(char32_t character);
 std::string FromCodePage(std::string_view bytes);
 /// Characters that the code page lacks become `replacement`.
 std::string ToCodePage(std::string_view utf8, char replacement = '?');
-/// The same without loss: a backslash becomes two, a character that the code page lacks "\u{HEX}".
+/// The same without loss: a backslash becomes two, a character that the code page lacks "\u{HEX}", a byte of a broken
+/// sequence "\x{HEX}".
 std::string ToCodePageEscaped(std::string_view utf8);
 /// Undoes ToCodePageEscaped; Failure (Conversion) for a broken escape.
 std::string FromCodePageEscaped(std::string_view bytes);

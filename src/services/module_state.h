@@ -15,11 +15,11 @@ class ctlPlexelBaseElement;
 /// The state that all elements and dialogs share, once for the user-interface thread.
 struct ModuleState {
   // modConstants
-  std::int32_t lngDialogLeft = 0, lngDialogTop = 0;  ///< twips; where the wizard pages open
-  Boolean bDirectInputActive = False;                ///< capture as the dialogs see it
+  std::int32_t lngDialogLeft = 0, lngDialogTop = 0;         ///< twips; where the wizard pages open
+  Boolean bDirectInputActive = False;                       ///< capture as the dialogs see it
   std::shared_ptr<ctlPlexelBaseElement> ctlCurrentElement;  ///< the last element that a dialog worked for
-  std::uint16_t intAsciiResult = 0;                  ///< chosen character code, 65535 for none
-  std::int32_t lngOsFamily = 0;                      ///< 0 for platform id 1, else 1
+  std::uint16_t intAsciiResult = 0;                         ///< chosen character code, 65535 for none
+  std::int32_t lngOsFamily = 0;                             ///< 0 for platform id 1, else 1
   Boolean bWizardPageChanging = False;
   udtTactisBaseElement_ScanCodeInfo udtSavedScanCodeInfo;  ///< the way back on Cancel
   std::int32_t lngMaxScanCodes = 0;                        ///< code bytes of one layer
@@ -43,5 +43,8 @@ struct ModuleState {
 };
 
 ModuleState& Module();
+
+/// The element behind ctlCurrentElement; Failure (ObjectNotSet) when there is none.
+ctlPlexelBaseElement& CurrentElement();
 
 }  // namespace plexel

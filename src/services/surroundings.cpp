@@ -10,13 +10,29 @@ namespace {
 
 Surroundings* current = nullptr;
 
-constexpr std::array<std::string_view, CapabilityCount> capabilityNames = {
-    "HasBackgroundLightDarker", "HasBackgroundLightLighter", "HasContrastLower", "HasContrastHigher",
-    "HasLayer4Key",             "HasLayer3Key",              "HasLayer2Key",     "HasWarmStart",
-    "HasSystemReset",           "HasAlarmLed",               "HasScrollLockLed", "HasPanelLockedLed",
-    "HasLayer4Led",             "HasLayer3Led",              "HasLayer2Led",     "HasLayer1Led",
-    "HasRunLed",                "HasNumLockLed",             "HasCapsLockLed",   "HasPowerLed",
-    "HasTemperatureLed",        "HasHarddiskLed",            "HasUserLed"};
+constexpr std::array<std::string_view, CapabilityCount> capabilityNames = {"HasBackgroundLightDarker",
+                                                                           "HasBackgroundLightLighter",
+                                                                           "HasContrastLower",
+                                                                           "HasContrastHigher",
+                                                                           "HasLayer4Key",
+                                                                           "HasLayer3Key",
+                                                                           "HasLayer2Key",
+                                                                           "HasWarmStart",
+                                                                           "HasSystemReset",
+                                                                           "HasAlarmLed",
+                                                                           "HasScrollLockLed",
+                                                                           "HasPanelLockedLed",
+                                                                           "HasLayer4Led",
+                                                                           "HasLayer3Led",
+                                                                           "HasLayer2Led",
+                                                                           "HasLayer1Led",
+                                                                           "HasRunLed",
+                                                                           "HasNumLockLed",
+                                                                           "HasCapsLockLed",
+                                                                           "HasPowerLed",
+                                                                           "HasTemperatureLed",
+                                                                           "HasHarddiskLed",
+                                                                           "HasUserLed"};
 static_assert(static_cast<int>(Capability::HasUserLed) == CapabilityCount - 1);
 
 }  // namespace

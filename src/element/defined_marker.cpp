@@ -1,0 +1,42 @@
+#include "element/defined_marker.h"
+
+#include "element/ctlPlexelBaseElement.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+
+namespace plexel {
+
+namespace {
+
+bool HasLedFunction(const ctlPlexelBaseElement& element) {
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    if (element.LEDTypeLayer(layer) != LedNotEnabled) return true;
+  }
+  return false;
+}
+
+bool IsDefined(const ctlPlexelBaseElement& element) {
+  switch (element.ElementType()) {
+    case Led:
+      return HasLedFunction(element);
+    case Oval:
+    case Rect:
+      return !element.IsDefinitionEmpty();
+    case OvalLed:
+    case RectLed:
+      return HasLedFunction(element) || !element.IsDefinitionEmpty();
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void UpdateDefinedMarker() {
+  EndQuietly([] {
+    ctlPlexelBaseElement& element = CurrentElement();
+    element.ShowDefinedObject(static_cast<Boolean>(element.ShowDefined() & ToBoolean(IsDefined(element))));
+  });
+}
+
+}  // namespace plexel

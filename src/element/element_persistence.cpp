@@ -1,0 +1,130 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "element/ctlPlexelBaseElement.h"
+#include "element/property_rows.h"
+#include "platform/platform.h"
+#include "services/failure_styles.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::size_t RowCount(std::int32_t Storage::*order) {
+  return static_cast<std::size_t>(std::count_if(propertyRows.begin(), propertyRows.end(),
+                                                [&](const PropertyRow& row) { return row.storage.*order != 0; }));
+}
+
+/// The rows that have a place in an order, in that order. Does not compile when places are missing or doubled.
+template <std::int32_t Storage::*order>
+consteval auto RowsBy() {
+  std::array<const PropertyRow*, RowCount(order)> rows{};
+  for (const PropertyRow& row : propertyRows) {
+    if (const std::int32_t place = row.storage.*order; place != 0) rows.at(static_cast<std::size_t>(place - 1)) = &row;
+  }
+  if (std::find(rows.begin(), rows.end(), nullptr) != rows.end()) throw "an order has a gap";
+  return rows;
+}
+
+constexpr auto readRows = RowsBy<&Storage::readOrder>();
+constexpr auto writeRows = RowsBy<&Storage::writeOrder>();
+static_assert(readRows.size() == 39 && writeRows.size() == 38);
+
+/// The write rule: a value equal to the default is not stored. A boolean counts as true (-1) or false (0), which never
+/// equals a default of 1.
+bool EqualsDefault(const BagValue& value, std::int32_t writeDefault) {
+  if (const auto* text = std::get_if<std::string>(&value)) return text->empty();
+  if (const auto* boolean = std::get_if<BagBoolean>(&value)) return ToBoolean(boolean->value != False) == writeDefault;
+  return BagToInt32(value) == writeDefault;
+}
+
+const BagValue emptyText = std::string();
+
+void ReadRow(ctlPlexelBaseElement& element, const PropertyRow& row, const PropertyBag& bag) {
+  const BagValue* const stored = bag.Find(row.storage.key);
+  if (stored != nullptr) {
+    row.load(element, *stored);
+  } else if (row.type == PropertyType::String) {
+    row.load(element, emptyText);
+  } else {
+    row.load(element, BagValue(row.storage.readDefault));
+  }
+}
+
+/// A value that the float arithmetic could find; Failure (Overflow) otherwise.
+float Finite(double value) {
+  const auto single = static_cast<float>(value);
+  if (!std::isfinite(single)) throw Failure(FailureKind::Overflow, "a position left the range of its type");
+  return single;
+}
+
+}  // namespace
+
+static_assert(sizeof(ctlPlexelBaseElement) <= 4096);
+
+ctlPlexelBaseElement::ctlPlexelBaseElement(std::string name, ElementHost& host)
+    : name_(std::move(name)), host_(&host) {}
+
+std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Create(std::string name, ElementHost& host) {
+  const std::shared_ptr<ctlPlexelBaseElement> element(new ctlPlexelBaseElement(std::move(name), host));
+  element->UserControl_Initialize();
+  element->UserControl_InitProperties();
+  return element;
+}
+
+std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Read(std::string name, ElementHost& host,
+                                                                 const PropertyBag& bag) {
+  const std::shared_ptr<ctlPlexelBaseElement> element(new ctlPlexelBaseElement(std::move(name), host));
+  element->UserControl_Initialize();
+  element->UserControl_ReadProperties(bag);
+  return element;
+}
+
+void ctlPlexelBaseElement::UserControl_Initialize() {
+  EndQuietly([&] {
+    constexpr std::ptrdiff_t firstEntries = 45;
+    surface_.Picture = false;
+    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+      for (auto* const buffer : {PressBuffer(info_, layer), ReleaseBuffer(info_, layer)}) {
+        std::fill_n(buffer->Value.begin(), firstEntries, udtTactisBaseElement_TACTIS_SCANCODE::EndMark);
+      }
+    }
+    Screen& screen = Platform::Current().TheScreen();
+    for (SurfaceShape* const shape : {&surface_.shpOval, &surface_.shpRect}) {
+      shape->Left = Finite(focusWidth_ * static_cast<double>(screen.TwipsPerPixelX()));
+      shape->Top = Finite(focusWidth_ * static_cast<double>(screen.TwipsPerPixelY()));
+      shape->Width = Finite(surface_.Width - focusWidth_ * static_cast<double>(screen.TwipsPerPixelX()));
+      shape->Height = Finite(surface_.Height - focusWidth_ * static_cast<double>(screen.TwipsPerPixelY()));
+    }
+    DPIFontScaleFactor(1.0);
+    for (std::int32_t index = 0; index < 8; ++index) HardwareNumberKeyAt(index, -1);
+  });
+}
+
+void ctlPlexelBaseElement::UserControl_InitProperties() {
+  EndQuietly([&] {
+    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) LEDTypeLayer(layer, LedNotEnabled);
+  });
+}
+
+void ctlPlexelBaseElement::UserControl_ReadProperties(const PropertyBag& bag) {
+  EndQuietly([&] {
+    for (const PropertyRow* const row : readRows) ReadRow(*this, *row, bag);
+  });
+}
+
+void ctlPlexelBaseElement::UserControl_WriteProperties(PropertyBag& bag) const {
+  EndQuietly([&] {
+    for (const PropertyRow* const row : writeRows) {
+      BagValue value = row->save(*this);
+      if (!EqualsDefault(value, row->storage.writeDefault)) bag.Store(row->storage.key, std::move(value));
+    }
+  });
+}
+
+void ctlPlexelBaseElement::UserControl_Terminate() {
+  EndQuietly([&] { ElementType(enumTactisBaseElementType{}); });
+}
+
+}  // namespace plexel

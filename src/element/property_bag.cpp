@@ -1,0 +1,58 @@
+#include "element/property_bag.h"
+
+#include <array>
+#include <charconv>
+#include <type_traits>
+
+#include "services/conversion.h"
+
+namespace plexel {
+
+namespace {
+
+/// The value as a number; a boolean as its 16-bit value.
+double ToNumber(const BagValue& value) {
+  return std::visit(
+      [](const auto& held) -> double {
+        using Held = std::remove_cvref_t<decltype(held)>;
+        if constexpr (std::is_same_v<Held, std::string>) {
+          return TextToNumber(held);
+        } else if constexpr (std::is_same_v<Held, BagBoolean>) {
+          return held.value;
+        } else {
+          return held;
+        }
+      },
+      value);
+}
+
+}  // namespace
+
+std::int32_t BagToInt32(const BagValue& value) {
+  if (const auto* same = std::get_if<std::int32_t>(&value)) return *same;
+  return RoundToInt32(ToNumber(value));
+}
+
+std::int16_t BagToInt16(const BagValue& value) {
+  if (const auto* same = std::get_if<std::int16_t>(&value)) return *same;
+  return RoundToInt16(ToNumber(value));
+}
+
+std::uint8_t BagToUInt8(const BagValue& value) {
+  if (const auto* same = std::get_if<std::uint8_t>(&value)) return *same;
+  return RoundToUInt8(ToNumber(value));
+}
+
+Boolean BagToBoolean(const BagValue& value) {
+  if (const auto* same = std::get_if<BagBoolean>(&value)) return same->value;
+  return ToBoolean(ToNumber(value) != 0);
+}
+
+std::string BagToString(const BagValue& value) {
+  if (const auto* same = std::get_if<std::string>(&value)) return *same;
+  std::array<char, 32> text{};
+  const auto result = std::to_chars(text.data(), text.data() + text.size(), ToNumber(value));
+  return std::string(text.data(), result.ptr);
+}
+
+}  // namespace plexel

@@ -1,0 +1,179 @@
+#include "services/shared_services.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "forms/form.h"
+#include "platform/platform.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+
+namespace plexel {
+
+namespace {
+
+struct LedName {
+  std::int32_t number;
+  enumLedType type;
+};
+
+/// In the order in which a text is compared; 10400 and 10401 stand crosswise to their types.
+constexpr std::array<LedName, 15> ledNames = {{{10400, UserLed},
+                                               {10401, HarddiskLed},
+                                               {10402, TemperatureLed},
+                                               {10403, PowerLed},
+                                               {10404, CapsLockLed},
+                                               {10405, NumLockLed},
+                                               {10406, Layer1Led},
+                                               {10407, Layer2Led},
+                                               {10408, Layer3Led},
+                                               {10409, Layer4Led},
+                                               {10410, PanelLockedLed},
+                                               {10411, ScrollLockLed},
+                                               {10412, AlarmLed},
+                                               {10413, LedNotEnabled},
+                                               {10961, RunLed}}};
+static_assert(std::is_sorted(ledNames.begin(), ledNames.end(),
+                             [](const LedName& a, const LedName& b) { return a.number < b.number; }));
+
+SettingsService& Settings() { return Surroundings::Current().Settings(); }
+
+/// The number of a text that is the prefix and digits and nothing else, -1 for any other.
+std::int32_t MarkedNumber(std::string_view text, std::string_view prefix) {
+  if (!text.starts_with(prefix)) return -1;
+  text.remove_prefix(prefix.size());
+  if (text.empty() || text.find_first_not_of("0123456789") != std::string_view::npos) return -1;
+  std::int32_t number = -1;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+template <typename Assign>
+void Translate(std::string_view text, std::string_view prefix, Assign&& assign) {
+  const std::int32_t number = MarkedNumber(text, prefix);
+  if (number < 0) return;
+  std::string translated = GetText(number);
+  if (!translated.empty()) assign(std::move(translated));
+}
+
+/// An information context of the screen, given back at the end of its life.
+class InformationContext {
+ public:
+  explicit InformationContext(Screen& screen) : screen_(screen), handle_(screen.CreateInformationContext()) {}
+  ~InformationContext() {
+    PassOver([&] { screen_.DeleteContext(handle_); });
+  }
+  InformationContext(const InformationContext&) = delete;
+  InformationContext& operator=(const InformationContext&) = delete;
+  std::intptr_t Handle() const { return handle_; }
+
+ private:
+  Screen& screen_;
+  std::intptr_t handle_;
+};
+
+}  // namespace
+
+std::string GetText(std::int32_t number) {
+  std::string text;
+  Surroundings::Current().Language().GetText(number, text);
+  return text;
+}
+
+void TranslateForm(Form& form, std::string_view prefix) {
+  Translate(form.Caption(), prefix, [&](std::string text) { form.Caption(std::move(text)); });
+  for (Control* control : form.Controls()) {
+    for (const TextSlot& slot : control->Texts()) Translate(slot.current, prefix, slot.assign);
+  }
+}
+
+Boolean GetOption(std::int32_t number) {
+  Boolean value = False;
+  Settings().GetOption(number, value);
+  return value;
+}
+
+std::string GetParameter(std::int32_t number) {
+  std::string text;
+  Settings().GetParameter(number, text);
+  return text;
+}
+
+std::string GetWindowPosition(std::int32_t number) {
+  std::string text;
+  Settings().GetWindowPosition(number, text);
+  return text;
+}
+
+std::string GetBasePath() {
+  std::string text;
+  Settings().GetBasePath(text);
+  return text;
+}
+
+std::string GetLanguageName() {
+  std::string text;
+  Settings().GetLanguageName(text);
+  return text;
+}
+
+bool TargetHas(Capability query, std::string_view targetSystem) {
+  return Surroundings::Current().Capabilities().Ask(query, targetSystem) == 1;
+}
+
+void DetermineOsFamily() {
+  OsVersionRecord record;
+  record.size = 148;
+  Platform::Current().Version().Get(record);
+  Module().lngOsFamily = record.platformId == 1 ? 0 : 1;
+}
+
+std::int32_t GetScreenLogPixels() {
+  Screen& screen = Platform::Current().TheScreen();
+  const InformationContext context(screen);
+  return screen.DeviceCapability(context.Handle(), Screen::LogicalPixelsX);
+}
+
+double GetDpiScaleFactor() {
+  const std::int32_t pixels = GetScreenLogPixels();
+  return pixels == 96 ? 1.0 : pixels / 96.0;
+}
+
+std::string HelpFileName() {
+  const std::string basePath = GetBasePath();
+  return basePath + "\\Help" + "\\Plexel" + GetLanguageName() + ".chm";
+}
+
+void ShowHelpTopic(std::intptr_t, std::int32_t topic) {
+  const std::string file = HelpFileName();
+  Platform::Current().Help().Show(0, file, HelpViewer::HelpContext, topic);
+}
+
+enumLedType LedTextToType(std::string_view text) {
+  for (const LedName& name : ledNames) {
+    if (GetText(name.number) == text) return name.type;
+  }
+  return LedNotEnabled;
+}
+
+std::string LedTypeToText(std::int32_t type) {
+  const auto found =
+      std::find_if(ledNames.begin(), ledNames.end(), [&](const LedName& name) { return name.type == type; });
+  return found == ledNames.end() ? std::string() : GetText(found->number);
+}
+
+std::intptr_t OpenPositions() {
+  std::intptr_t key = 0;
+  Platform::Current().UserRegistry().OpenKey(Registry::CurrentUser, PositionKey, 0, Registry::AccessSetValue, key);
+  return key;
+}
+
+void StorePosition(std::intptr_t key, std::string_view name, std::string_view text) {
+  const auto length = static_cast<std::int32_t>(text.size());
+  Platform::Current().UserRegistry().SetValue(key, name, 0, Registry::TypeText, text, length);
+}
+
+void ClosePositions(std::intptr_t key) { Platform::Current().UserRegistry().CloseKey(key); }
+
+}  // namespace plexel
