@@ -19,14 +19,15 @@ inline constexpr std::int32_t TargetWizard = 2;
 std::int32_t GetSelectedCodeType();
 
 /// Bytes 0xFF at the indices 0 to NextValue of press and release buffer of a layer; 0 for a layer outside 1 to 4.
-/// Failure (Index) for a NextValue outside the buffer.
+/// Failure (Index) for a NextValue above the last index.
 std::int32_t CountGroupEnds(std::int32_t lngLayer, const udtTactisBaseElement_ScanCodeInfo& udtBuffer);
 
 /// Whether `lngNewCodes` more code bytes fit the layer.
 bool HasRoomForCodes(std::int32_t lngLayer, const udtTactisBaseElement_ScanCodeInfo& udtBuffer,
                      std::int32_t lngNewCodes);
 
-/// Appends one group. Failure (Index) when a byte would land above the last index; what was written stays.
+/// Appends one group; a code type that is none appends nothing. Failure (Index) when a byte would land above the last
+/// index or a length reaches beyond its sequence, Failure (Overflow) for a code that is no byte; what was written stays.
 void AppendCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode, const CodeArray& lngMake,
                      std::int32_t lngMakeLength, const CodeArray& lngBreak, std::int32_t lngBreakLength,
                      std::int32_t lngCodeType, std::int32_t lngUnused);
@@ -36,10 +37,11 @@ std::int32_t StoreScanCodes(const CodeArray& lngMake, std::int32_t lngMakeLength
                             std::int32_t lngBreakLength, std::int32_t lngCodeType, std::int32_t lngUnused,
                             std::int32_t lngTarget);
 
+/// Takes one group out of a buffer; false when there was none. Failure (Index) for a NextValue outside the buffer.
 bool RemoveFirstCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode);
 void RemoveLastCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode);
 
-/// The same on the buffer of the grid's current cell, inside the current element.
+/// The same on the buffer of the grid's current cell, inside the current element. No guard.
 void DeleteFirstCodeGroup();
 void DeleteLastCodeGroup();
 
@@ -47,7 +49,7 @@ void DeleteLastCodeGroup();
 void GetWindowsShortCutCodes(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& lngBreak,
                              std::int32_t& lngBreakLength, std::int32_t lngIndex);
 
-/// The one code of a panel function.
+/// The one code of a panel function; for any other index only the break length is set, to 0 as always.
 void GetSpecialFunctionCode(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& lngBreak,
                             std::int32_t& lngBreakLength, std::int32_t lngIndex);
 

@@ -1,0 +1,91 @@
+#include "scancodes/capture.h"
+
+#include "element/ctlPlexelBaseElement.h"
+#include "platform/platform.h"
+#include "scancodes/code_buffer.h"
+#include "scancodes/dialog_access.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::int32_t optionLockTaskKeys = 9;
+
+void TakeFocus(CommandButton& focusCatcher) {
+  focusCatcher.TabStop(true);
+  focusCatcher.SetFocus();
+}
+
+void CatchFocus(std::int32_t target) {
+  if (target == TargetConfigurationDialog) {
+    TakeFocus(OpenConfigurationDialogAccess().FocusCatcher());
+  } else if (target == TargetWizard) {
+    TakeFocus(OpenWizardPageAccess().FocusCatcher());
+  }
+}
+
+void ReturnFocus(std::int32_t target) {
+  if (target == TargetConfigurationDialog) {
+    ConfigurationDialogAccess& dialog = OpenConfigurationDialogAccess();
+    dialog.FocusCatcher().TabStop(false);
+    dialog.ScanCodeGrid().SetFocus();
+  } else if (target == TargetWizard) {
+    WizardPageAccess& page = OpenWizardPageAccess();
+    page.FocusCatcher().TabStop(false);
+    page.Page().Focus(nullptr);
+  }
+}
+
+void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
+  ModuleState& state = Module();
+  if (IsTrue(GetOption(optionLockTaskKeys))) {
+    state.lngLowLevelHook = Platform::Current().Hooks().Install(HookKind::LowLevelKeyboard, LowLevelKeyboardProc);
+  }
+  state.lngKeyboardHook = Platform::Current().Hooks().Install(HookKind::Keyboard, KeyboardHookProc);
+  result = state.lngKeyboardHook;
+  if (state.lngKeyboardHook == 0) return;
+
+  state.HelpFile.clear();
+  CatchFocus(target);
+  CurrentElement().RaiseDirectInputStatusChanged(bActive);
+  // The release of the key that switched capture on must not end a combination: no key is up before one has gone down.
+  state.lngPressedKeys[0][key_field::Down] = 1;
+  state.lngInputTarget = target;
+}
+
+void StopCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
+  ModuleState& state = Module();
+  KeyboardHooks& hooks = Platform::Current().Hooks();
+  if (state.lngLowLevelHook != 0) state.lngLowLevelHook = hooks.Remove(state.lngLowLevelHook);
+  state.lngKeyboardHook = hooks.Remove(state.lngKeyboardHook);
+  result = state.lngKeyboardHook;
+  if (state.lngKeyboardHook == 0) return;
+
+  state.lngKeyboardHook = 0;
+  state.lngLowLevelHook = 0;
+  CurrentElement().RaiseDirectInputStatusChanged(bActive);
+  state.HelpFile = HelpFileName();
+  ReturnFocus(target);
+  // The extended flag stays: it is written before it is read.
+  for (ModuleState::KeySlot& slot : state.lngPressedKeys) {
+    slot[key_field::VirtualKey] = slot[key_field::Down] = slot[key_field::ScanCode] = 0;
+  }
+  state.lngPressedKeyCount = 0;
+}
+
+}  // namespace
+
+std::int32_t SetDirectInput(Boolean bActive, std::int32_t lngTarget) {
+  return EndQuietlyWith(std::int32_t{0}, [&](std::int32_t& result) {
+    const bool on = Module().lngKeyboardHook != 0;
+    if (bActive == True && !on) StartCapture(result, bActive, lngTarget);
+    if (bActive == False && on) StopCapture(result, bActive, lngTarget);
+  });
+}
+
+void ParkInputFocus() { CatchFocus(Module().lngInputTarget); }
+
+}  // namespace plexel

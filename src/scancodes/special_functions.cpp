@@ -1,0 +1,75 @@
+#include "scancodes/special_functions.h"
+
+#include <algorithm>
+#include <array>
+
+#include "scancodes/code_buffer.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::int32_t deviceTypeWithoutLight = 2;
+
+constexpr std::array<SpecialFunction, NoSpecialFunction> functions = {{
+    {SystemReset, 2608, Capability::HasSystemReset, 0xFE, false},
+    {BackgroundLightLigther, 2601, Capability::HasBackgroundLightLighter, 0xF9, true},
+    {BackgroundLightDarker, 2602, Capability::HasBackgroundLightDarker, 0xFB, true},
+    {ContrastHigher, 2603, Capability::HasContrastHigher, 0xF4, false},
+    {ContrastLower, 2604, Capability::HasContrastLower, 0xF6, false},
+    {Layer2, 2605, Capability::HasLayer2Key, 0xF1, false},
+    {Layer3, 2606, Capability::HasLayer3Key, 0xF2, false},
+    {Layer4, 2607, Capability::HasLayer4Key, 0xF3, false},
+    {WarmStart, 2600, Capability::HasWarmStart, 0xF5, false},
+}};
+
+constexpr bool InOrderOfEnumeration() {
+  for (std::size_t place = 0; place < functions.size(); ++place) {
+    if (functions[place].function != static_cast<enumSpecialKeyFunctions>(place)) return false;
+  }
+  return true;
+}
+static_assert(InOrderOfEnumeration());
+
+constexpr std::array<enumSpecialKeyFunctions, NoSpecialFunction> comparingOrder = {BackgroundLightLigther,
+                                                                                   BackgroundLightDarker,
+                                                                                   ContrastHigher,
+                                                                                   ContrastLower,
+                                                                                   WarmStart,
+                                                                                   Layer2,
+                                                                                   Layer3,
+                                                                                   Layer4,
+                                                                                   SystemReset};
+
+}  // namespace
+
+std::span<const SpecialFunction> SpecialFunctions() { return functions; }
+
+bool IsOffered(const SpecialFunction& function, const ctlPlexelBaseElement& element) {
+  if (function.backgroundLight && element.DeviceType() == deviceTypeWithoutLight) return false;
+  return TargetHas(function.query, element.TargetSystem());
+}
+
+enumSpecialKeyFunctions SpecialFunctionOfText(std::string_view text) {
+  for (const enumSpecialKeyFunctions function : comparingOrder) {
+    if (GetText(functions[function].textId) == text) return function;
+  }
+  return NoSpecialFunction;
+}
+
+void GetSpecialFunctionCode(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& /*lngBreak*/,
+                            std::int32_t& lngBreakLength, std::int32_t lngIndex) {
+  lngBreakLength = 0;
+  if (lngIndex < 0 || lngIndex >= NoSpecialFunction) return;
+  lngMake[0] = functions[static_cast<std::size_t>(lngIndex)].code;
+  lngMakeLength = 1;
+}
+
+std::int32_t DigitToKeypadCode(std::string_view strDigit) {
+  constexpr std::array<std::uint8_t, 10> codes = {0x70, 0x69, 0x72, 0x7A, 0x6B, 0x73, 0x74, 0x6C, 0x75, 0x7D};
+  if (strDigit.size() != 1 || strDigit[0] < '0' || strDigit[0] > '9') return 0;
+  return codes[static_cast<std::size_t>(strDigit[0] - '0')];
+}
+
+}  // namespace plexel

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace plexel {
+
+/// The shortcuts of the operating system that a key can send, by the index of GetWindowsShortCutCodes.
+inline constexpr std::int32_t WindowsShortCutCount = 19;
+
+/// The number of the language text that names a shortcut in a list; Failure (Index) outside 0 to 18.
+std::int32_t WindowsShortCutTextId(std::int32_t index);
+
+}  // namespace plexel
