@@ -1,0 +1,96 @@
+#include <optional>
+#include <string_view>
+
+#include "element/ctlPlexelBaseElement.h"
+#include "forms/form_directory.h"
+#include "scancodes/code_buffer.h"
+#include "scancodes/definition_text.h"
+#include "scancodes/special_functions.h"
+#include "scancodes/windows_shortcuts.h"
+#include "services/conversion.h"
+#include "services/module_state.h"
+#include "services/shared_services.h"
+#include "wizard/frmButtonWizardPage1.h"
+
+namespace plexel {
+
+namespace {
+
+/// The index of the chosen text. The last two are compared the other way round from the list, and the first equal text
+/// wins; none for a text that the current language lacks.
+std::optional<std::int32_t> ShortCutOfText(std::string_view text) {
+  constexpr std::int32_t last = WindowsShortCutCount - 1;
+  for (std::int32_t place = 0; place <= last; ++place) {
+    const std::int32_t index = place == last - 1 ? last : place == last ? last - 1 : place;
+    if (GetText(WindowsShortCutTextId(index)) == text) return index;
+  }
+  return std::nullopt;
+}
+
+/// A pair of sequences on its way into the element.
+struct Sequences {
+  CodeArray make{}, breakCodes{};
+  std::int32_t makeLength = 0, breakLength = 0;
+
+  void Store() const { StoreScanCodes(make, makeLength, breakCodes, breakLength, FromDialog, 1, TargetWizard); }
+};
+
+}  // namespace
+
+void frmButtonWizardPage1::cmdForward_Click() {
+  cmdForward.Enabled(false);
+  EndDirectInput();
+  txtScanCodes.BackColor(White);
+  if (IsTrue(bKeyChanged)) StoreChoice();
+  Module().lngDialogLeft = RoundToInt32(Left());
+  Module().lngDialogTop = RoundToInt32(Top());
+  const enumTactisBaseElementType type = CurrentElement().ElementType();
+  if (type == Rect || type == Oval) {
+    FormDirectory::Instance().ShowModal("frmButtonWizardPage3", this);
+    if (CurrentElement().PressKeyDefLayer1().empty()) CurrentElement().ShowDefinedObject(False);
+  } else {
+    FormDirectory::Instance().ShowModal("frmButtonWizardPage2", this);
+  }
+  cmdForward.Enabled(true);
+  if (IsTrue(Module().bWizardPageChanging)) {
+    Module().bWizardPageChanging = False;
+    bKeyChanged = False;
+  } else {
+    Unload();
+  }
+}
+
+void frmButtonWizardPage1::StoreChoice() {
+  EmptyDefinitionTexts();
+  if (optKeyType[NormalKey].Value()) {
+    CurrentElement().WizardOptions(NormalKey);
+  } else if (optKeyType[TipKey].Value()) {
+    CurrentElement().WizardOptions(TipKey);
+  } else if (optKeyType[IPCFunction].Value()) {
+    StorePanelFunction();
+  } else if (optKeyType[WindowsShortCut].Value()) {
+    StoreShortCut();
+  }
+  ApplyDialogResult(TargetWizard);
+}
+
+void frmButtonWizardPage1::StorePanelFunction() {
+  CurrentElement().WizardOptions(IPCFunction);
+  Sequences codes;
+  const enumSpecialKeyFunctions function = SpecialFunctionOfText(cmdSpecialIPCFunction.Text());
+  if (function != NoSpecialFunction) {
+    GetSpecialFunctionCode(codes.make, codes.makeLength, codes.breakCodes, codes.breakLength, function);
+  }
+  codes.Store();
+}
+
+void frmButtonWizardPage1::StoreShortCut() {
+  CurrentElement().WizardOptions(WindowsShortCut);
+  Sequences codes;
+  if (const auto index = ShortCutOfText(cmbWindowsShortCuts.Text())) {
+    GetWindowsShortCutCodes(codes.make, codes.makeLength, codes.breakCodes, codes.breakLength, *index);
+  }
+  codes.Store();
+}
+
+}  // namespace plexel

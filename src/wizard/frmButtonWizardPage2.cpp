@@ -1,0 +1,185 @@
+#include "wizard/frmButtonWizardPage2.h"
+
+#include <array>
+#include <span>
+
+#include "element/ctlPlexelBaseElement.h"
+#include "forms/form_directory.h"
+#include "platform/platform.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+struct Candidate {
+  Capability query;
+  enumLedType type;
+};
+
+/// Candidates in the order of testing.
+constexpr std::array<Candidate, 4> candidates = {{
+    {Capability::HasUserLed, UserLed},
+    {Capability::HasTemperatureLed, TemperatureLed},
+    {Capability::HasHarddiskLed, HarddiskLed},
+    {Capability::HasPowerLed, PowerLed},
+}};
+constexpr std::array<Candidate, 8> candidatesOfVanta = {{
+    {Capability::HasHarddiskLed, HarddiskLed},
+    {Capability::HasPowerLed, PowerLed},
+    {Capability::HasCapsLockLed, CapsLockLed},
+    {Capability::HasNumLockLed, NumLockLed},
+    {Capability::HasPanelLockedLed, PanelLockedLed},
+    {Capability::HasScrollLockLed, ScrollLockLed},
+    {Capability::HasAlarmLed, AlarmLed},
+    {Capability::HasRunLed, RunLed},
+}};
+
+/// The text of a layer without a function, which is never an entry of the list.
+std::string TextOfNoLed() { return GetText(10413); }
+
+}  // namespace
+
+frmButtonWizardPage2::frmButtonWizardPage2() : WizardPage("frmButtonWizardPage2", "@2908", 1200) {
+  Design();
+  UseHelpContext(2002);
+  ConnectEvents();
+}
+
+void frmButtonWizardPage2::Design() {
+  constexpr float top = 2040, fieldHeight = 375, gap = 105, picture = 480;
+  labAllavailableLEDFunctions.Caption("@2912");
+  labAllavailableLEDFunctions.Place(ContentLeft, top, ContentWidth, 300);
+  cmbLEDTypes.Place(ContentLeft, top + 345, ContentWidth - fieldHeight - gap, fieldHeight);
+  cmbLEDTypes.Sorted(true);
+  cmdDeleteLED.Picture("delete");
+  cmdDeleteLED.Place(ContentLeft + ContentWidth - fieldHeight, top + 345, fieldHeight, fieldHeight);
+
+  imgAttention.Picture("attention");
+  imgAttention.Place(ContentLeft, top, picture, picture);
+  imgAttention.Stretch(true);
+  imgAttention.Visible(false);
+  labAllLedsAlreadyDefined.Caption("@2911");
+  labAllLedsAlreadyDefined.Place(ContentLeft + picture + gap, top, ContentWidth - picture - gap, 1800);
+  labAllLedsAlreadyDefined.Visible(false);
+
+  cmdBack.Caption("@112");
+  PlaceInButtonRow(cmdBack, 2);
+  cmdForward.Caption("@111");
+  PlaceInButtonRow(cmdForward, 1);
+  cmdForward.Default(true);
+  cmdCancel.Cancel(true);
+
+  cmbLEDTypes.TabIndex(0);
+  cmdDeleteLED.TabIndex(1);
+  cmdForward.TabIndex(2);
+  cmdCancel.TabIndex(3);
+  cmdBack.TabIndex(4);
+}
+
+void frmButtonWizardPage2::ConnectEvents() {
+  cmbLEDTypes.OnKeyDown = [](std::int16_t& keyCode, std::int16_t) { KeepListKeys(keyCode); };
+  cmbLEDTypes.OnKeyPress = [](std::int16_t& keyAscii) { keyAscii = 0; };
+  cmdDeleteLED.OnClick = [this] { cmdDeleteLED_Click(); };
+  cmdForward.OnClick = [this] { cmdForward_Click(); };
+  cmdBack.OnClick = [this] { cmdBack_Click(); };
+  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
+}
+
+void frmButtonWizardPage2::OnLoad() {
+  EndQuietly([this] {
+    TakeHandedOverLeft();
+    TakeHandedOverTop();
+    ScaleTitlePicture();
+    TranslateForm(*this, "@");
+    FillLedFunctionList();
+    if (CurrentElement().LEDTypeLayer1() == LedNotEnabled) ShowNotice(cmbLEDTypes.ListCount() == 0);
+    Platform::Current().Events().DoEvents();
+    const enumLedType type = CurrentElement().LEDTypeLayer1();
+    cmbLEDTypes.Text(type != LedNotEnabled ? LedTypeToText(type) : TextOfNoLed());
+    cmdForward.Enabled(true);
+  });
+}
+
+void frmButtonWizardPage2::OnQueryUnload(UnloadMode mode) {
+  if (mode == UnloadMode::CloseBox) RestoreDefinition();
+}
+
+void frmButtonWizardPage2::FillLedFunctionList() {
+  EndQuietly([this] {
+    const std::span<const Candidate> table = IsTrue(CurrentElement().VantaEnabled())
+                                                 ? std::span<const Candidate>(candidatesOfVanta)
+                                                 : std::span<const Candidate>(candidates);
+    for (const Candidate& candidate : table) {
+      if (!TargetHas(candidate.query, CurrentElement().TargetSystem())) continue;
+      const Boolean used = CurrentElement().CheckIfLedIsAlreadyDefined(candidate.type, 1);
+      if (IsTrue(used) && CurrentElement().LEDTypeLayer1() != candidate.type) continue;
+      cmbLEDTypes.AddItem(LedTypeToText(candidate.type));
+    }
+  });
+}
+
+void frmButtonWizardPage2::ShowNotice(bool notice) {
+  imgAttention.Visible(notice);
+  labAllLedsAlreadyDefined.Visible(notice);
+  cmbLEDTypes.Visible(!notice);
+  cmdDeleteLED.Visible(!notice);
+  labAllavailableLEDFunctions.Visible(!notice);
+}
+
+void frmButtonWizardPage2::RestoreDefinition() {
+  EndQuietly([this] {
+    SaveDialogPosition();
+    CurrentElement().SetTactisBaseElementDefinition(Module().udtSavedScanCodeInfo);
+    Module().bWizardPageChanging = False;
+  });
+}
+
+void frmButtonWizardPage2::cmdDeleteLED_Click() { cmbLEDTypes.Text(TextOfNoLed()); }
+
+void frmButtonWizardPage2::cmdForward_Click() {
+  cmdForward.Enabled(false);
+  if (cmbLEDTypes.Text() != TextOfNoLed()) {
+    StoreFunction();
+  } else {
+    StoreNoFunction();
+  }
+  FormDirectory::Instance().ShowModal("frmButtonWizardPage3", this);
+  cmdForward.Enabled(true);
+  if (IsTrue(Module().bWizardPageChanging)) {
+    Module().bWizardPageChanging = False;
+  } else {
+    Unload();
+  }
+}
+
+void frmButtonWizardPage2::StoreFunction() {
+  CurrentElement().LEDTypeLayer1(LedTextToType(cmbLEDTypes.Text()));
+  for (std::int32_t layer = 2; layer <= LayerCount; ++layer) {
+    CurrentElement().LEDTypeLayer(layer, CurrentElement().LEDTypeLayer1());
+  }
+  CurrentElement().ShowDefinedObject(True);
+}
+
+void frmButtonWizardPage2::StoreNoFunction() {
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) CurrentElement().LEDTypeLayer(layer, LedNotEnabled);
+  if (CurrentElement().PressKeyDefLayer1().empty()) CurrentElement().ShowDefinedObject(False);
+}
+
+void frmButtonWizardPage2::cmdBack_Click() {
+  EndQuietly([this] {
+    Module().bWizardPageChanging = True;
+    Unload();
+  });
+}
+
+void frmButtonWizardPage2::cmdCancel_Click() {
+  EndQuietly([this] {
+    RestoreDefinition();
+    Unload();
+  });
+}
+
+}  // namespace plexel

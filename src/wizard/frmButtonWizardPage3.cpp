@@ -1,0 +1,69 @@
+#include "wizard/frmButtonWizardPage3.h"
+
+#include "element/ctlPlexelBaseElement.h"
+#include "platform/platform.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+frmButtonWizardPage3::frmButtonWizardPage3()
+    : WizardPage("frmButtonWizardPage3", "@2909", RuleTop - DescriptionTop - Margin) {
+  cmdBack.Caption("@112");
+  PlaceInButtonRow(cmdBack, 2);
+  cmdOK.Caption("@100");
+  PlaceInButtonRow(cmdOK, 1);
+  cmdOK.Default(true);
+  cmdCancel.Cancel(true);
+  cmdOK.TabIndex(0);
+  cmdCancel.TabIndex(1);
+  cmdBack.TabIndex(2);
+  UseHelpContext(2003);
+  cmdOK.OnClick = [this] { cmdOK_Click(); };
+  cmdBack.OnClick = [this] { cmdBack_Click(); };
+  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
+}
+
+void frmButtonWizardPage3::OnLoad() {
+  TakeHandedOverLeft();
+  TakeHandedOverTop();
+  ScaleTitlePicture();
+  PassOver([] { Platform::Current().Events().DoEvents(); });
+  PassOver([this] { TranslateForm(*this, "@"); });
+}
+
+void frmButtonWizardPage3::OnQueryUnload(UnloadMode mode) {
+  if (mode == UnloadMode::CloseBox) LeaveWizard();
+}
+
+void frmButtonWizardPage3::LeaveWizard() {
+  EndQuietly([this] {
+    SaveDialogPosition();
+    Module().bWizardPageChanging = False;
+  });
+}
+
+void frmButtonWizardPage3::cmdOK_Click() {
+  cmdOK.Enabled(false);
+  CurrentElement().RaiseProjectModified();
+  Module().bWizardPageChanging = False;
+  SaveDialogPosition();
+  Unload();
+}
+
+void frmButtonWizardPage3::cmdBack_Click() {
+  EndQuietly([this] {
+    Module().bWizardPageChanging = True;
+    Unload();
+  });
+}
+
+void frmButtonWizardPage3::cmdCancel_Click() {
+  EndQuietly([this] {
+    LeaveWizard();
+    Unload();
+  });
+}
+
+}  // namespace plexel
