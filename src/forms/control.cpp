@@ -1,5 +1,6 @@
 #include "forms/control.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -49,7 +50,10 @@ std::string_view KindName(ControlKind kind) { return TraitsOf(kind).name; }
 
 Control::Control(Form& form, ControlKind kind, std::string_view name, int index)
     : form_(form), kind_(kind), name_(name), index_(index), tabIndex_(static_cast<int>(form.controls_.size())) {
-  if (form.Find(FullName()) != nullptr) throw std::logic_error(form.Name() + " has two controls named " + FullName());
+  const auto sameName = [&](const Control* other) { return other->name_ == name_ && other->index_ == index_; };
+  if (std::any_of(form.controls_.begin(), form.controls_.end(), sameName)) {
+    throw std::logic_error(form.Name() + " has two controls named " + FullName());
+  }
   form.controls_.push_back(this);
 }
 
@@ -80,17 +84,22 @@ bool Control::Shown() const {
   return true;
 }
 
-std::string_view Control::Hindrance() const {
+std::string_view Control::OwnHindrance() const {
   if (!TraitsOf(kind_).canBeHidden) return "has no face";
+  bool enabled = true;
   for (const Control* control = this; control != nullptr; control = control->container_) {
     if (!control->visible_) return "is hidden";
-    if (control->Strip() != nullptr && control->Strip()->Tab() != control->page_) {
-      return "is on a page that is not in front";
-    }
+    enabled = enabled && control->enabled_;
   }
+  return enabled ? "" : "is disabled";
+}
+
+std::string_view Control::Hindrance() const {
+  if (const std::string_view own = OwnHindrance(); !own.empty()) return own;
   for (const Control* control = this; control != nullptr; control = control->container_) {
-    if (!control->enabled_) return "is disabled";
-    if (control->Strip() != nullptr && !control->Strip()->TabEnabled(control->page_)) return "is on a page that is off";
+    if (control->Strip() == nullptr) continue;
+    if (control->Strip()->Tab() != control->page_) return "is on a page that is not in front";
+    if (!control->Strip()->TabEnabled(control->page_)) return "is on a page that is off";
   }
   return {};
 }

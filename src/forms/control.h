@@ -106,10 +106,14 @@ class Control {
   bool Usable() const { return Hindrance().empty(); }
   /// Why it is not usable, as the rest of a sentence about it ("is disabled"); empty when it is.
   std::string_view Hindrance() const;
+  /// The same without regard to pages.
+  std::string_view OwnHindrance() const;
   /// Whether its kind can hold the focus.
   virtual bool Focusable() const { return false; }
   bool CanTakeFocus() const { return Focusable() && Usable(); }
-  /// Gives it the focus; Failure (InvalidCall) when it cannot take it.
+  /// Gives it the focus. A page that is not in front or off is no hindrance to the program, as it is to the user: the
+  /// control holds the focus until it can take keys. Failure (InvalidCall) when it or a container is hidden or
+  /// disabled.
   void SetFocus();
   bool HasFocus() const;
 

@@ -29,14 +29,17 @@ void Form::OnKeyDown(std::int16_t&, std::int16_t) {}
 void Form::OnKeyPress(std::int16_t&) {}
 
 Control* Form::Find(std::string_view fullName) const {
-  const auto control = std::find_if(controls_.begin(), controls_.end(),
-                                    [&](const Control* candidate) { return candidate->FullName() == fullName; });
+  const auto control = std::find_if(controls_.begin(), controls_.end(), [&](const Control* candidate) {
+    return fullName.starts_with(candidate->Name()) && candidate->FullName() == fullName;
+  });
   return control == controls_.end() ? nullptr : *control;
 }
 
 void Form::Focus(Control* control) {
-  if (control != nullptr && !control->CanTakeFocus()) {
-    const std::string_view reason = control->Focusable() ? control->Hindrance() : "takes no focus";
+  const std::string_view reason = control == nullptr     ? std::string_view()
+                                  : control->Focusable() ? control->OwnHindrance()
+                                                         : "takes no focus";
+  if (!reason.empty()) {
     throw Failure(FailureKind::InvalidCall, control->FullName() + ' ' + std::string(reason));
   }
   if (control == focus_) return;
