@@ -23,8 +23,8 @@ std::int32_t SetDirectInput(Boolean bActive, std::int32_t lngTarget);
 
 /// `lParam` is the 32-bit flag word of the key. A failing statement is passed over.
 std::int32_t KeyboardHookProc(std::int32_t nCode, std::int32_t wParam, std::intptr_t lParam);
-/// `lParam` is the address of a LowLevelKey. Runs for every key of the whole system: no allocation, no lock, no input or
-/// output. -1 keeps the key from the system; after a failure the key passes.
+/// `lParam` is the address of a LowLevelKey. Runs for every key of the whole system: no allocation, no lock, no input
+/// or output. -1 keeps the key from the system; after a failure the key passes.
 std::int32_t LowLevelKeyboardProc(std::int32_t nCode, std::int32_t wParam, std::intptr_t lParam);
 
 /// Enters one event into the key table; bit 31 of `lngParam` tells that the key goes up.

@@ -27,7 +27,8 @@ bool HasRoomForCodes(std::int32_t lngLayer, const udtTactisBaseElement_ScanCodeI
                      std::int32_t lngNewCodes);
 
 /// Appends one group; a code type that is none appends nothing. Failure (Index) when a byte would land above the last
-/// index or a length reaches beyond its sequence, Failure (Overflow) for a code that is no byte; what was written stays.
+/// index or a length reaches beyond its sequence, Failure (Overflow) for a code that is no byte; what was written
+/// stays.
 void AppendCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode, const CodeArray& lngMake,
                      std::int32_t lngMakeLength, const CodeArray& lngBreak, std::int32_t lngBreakLength,
                      std::int32_t lngCodeType, std::int32_t lngUnused);

@@ -6,7 +6,8 @@
 
 namespace plexel {
 
-/// Operations on the definition text, on the grid that shows it, and the transfer of a finished dialog into the element.
+/// Operations on the definition text, on the grid that shows it, and the transfer of a finished dialog into the
+/// element.
 
 std::string RemoveFirstDefinitionText(std::string_view strText);
 std::string RemoveLastDefinitionText(std::string_view strText);

@@ -10,22 +10,22 @@ namespace plexel {
 class ConfigurationDialogAccess {
  public:
   virtual ~ConfigurationDialogAccess() = default;
-  virtual Grid& ScanCodeGrid() = 0;                    ///< msgScanCodes
-  virtual OptionButton& CodeTypeOption(int index) = 0; ///< optCodeType, 0 to 2
-  virtual CommandButton& FocusCatcher() = 0;           ///< cmdFocusCatcher
-  virtual TextBox& NotesBox() = 0;                     ///< txtButtonNotes
-  virtual ComboBox& LedTypeBox(int index) = 0;         ///< cmbLEDTypes, 0 to 3
+  virtual Grid& ScanCodeGrid() = 0;                     ///< msgScanCodes
+  virtual OptionButton& CodeTypeOption(int index) = 0;  ///< optCodeType, 0 to 2
+  virtual CommandButton& FocusCatcher() = 0;            ///< cmdFocusCatcher
+  virtual TextBox& NotesBox() = 0;                      ///< txtButtonNotes
+  virtual ComboBox& LedTypeBox(int index) = 0;          ///< cmbLEDTypes, 0 to 3
 };
 
 /// What they touch of the open first wizard page.
 class WizardPageAccess {
  public:
   virtual ~WizardPageAccess() = default;
-  virtual TextBox& ScanCodeBox() = 0;                 ///< txtScanCodes
-  virtual OptionButton& KeyTypeOption(int index) = 0; ///< optKeyType, 0 to 3
-  virtual ComboBox& IPCFunctionBox() = 0;             ///< cmdSpecialIPCFunction
-  virtual ComboBox& WindowsShortCutBox() = 0;         ///< cmbWindowsShortCuts
-  virtual CommandButton& FocusCatcher() = 0;          ///< cmdFocusCatcher
+  virtual TextBox& ScanCodeBox() = 0;                  ///< txtScanCodes
+  virtual OptionButton& KeyTypeOption(int index) = 0;  ///< optKeyType, 0 to 3
+  virtual ComboBox& IPCFunctionBox() = 0;              ///< cmdSpecialIPCFunction
+  virtual ComboBox& WindowsShortCutBox() = 0;          ///< cmbWindowsShortCuts
+  virtual CommandButton& FocusCatcher() = 0;           ///< cmdFocusCatcher
   virtual Form& Page() = 0;
 };
 

@@ -1,0 +1,51 @@
+#include "scancodes/frmNonStandardScancodes.h"
+
+#include "scancodes/code_buffer.h"
+#include "scancodes/definition_text.h"
+#include "scancodes/named_sequences.h"
+#include "services/failure_styles.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+void StoreSequence(const NamedSequences& sequences, std::int32_t number, const std::string& name) {
+  CodeArray make{}, breaking{};
+  const std::int32_t makeLength = sequences.ReadCodes(number, NamedSequences::MakeKey, make);
+  const std::int32_t breakLength = sequences.ReadCodes(number, NamedSequences::BreakKey, breaking);
+  if (StoreScanCodes(make, makeLength, breaking, breakLength, FromDialog, 1, TargetConfigurationDialog) == 0) {
+    AppendSpecialDefinition(name);
+  }
+}
+
+}  // namespace
+
+frmNonStandardScancodes::frmNonStandardScancodes()
+    : ListDialog({.form = "frmNonStandardScancodes",
+                  .caption = "@10815",
+                  .title = "labTitle",
+                  .titleCaption = "@10816",
+                  .list = "cmbNonStandardScancodes",
+                  .helpTopic = HelpTopic}) {}
+
+void frmNonStandardScancodes::OnLoad() {
+  EndQuietly([this] {
+    TranslateForm(*this, "@");
+    const NamedSequences sequences;
+    std::int32_t number = 1;
+    for (auto name = sequences.NameOf(number); name; name = sequences.NameOf(++number)) list.AddItem(*name);
+    ShowFirstEntry();
+  });
+}
+
+void frmNonStandardScancodes::cmdOK_Click() {
+  EndQuietly([this] {
+    const NamedSequences sequences;
+    // Without an entry the list is empty, and an empty group is stored. An entry that has left the file stores nothing.
+    if (const auto number = sequences.NumberOf(list.Text())) StoreSequence(sequences, *number, list.Text());
+    Unload();
+  });
+}
+
+}  // namespace plexel
