@@ -1,7 +1,6 @@
 #include "files/language_file.h"
 
-#include <charconv>
-
+#include "files/number_text.h"
 #include "files/text_lines.h"
 
 namespace plexel {
@@ -10,13 +9,10 @@ namespace {
 
 constexpr std::size_t Limit = std::size_t{4} << 20U;
 
-std::int32_t ParseNumber(const TextFile& file, std::size_t line, std::string_view text) {
-  std::int32_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || number < 1) {
-    throw file.Error(line, "\"" + Excerpt(text) + "\" is no text number");
-  }
-  return number;
+std::int32_t TextNumber(const TextFile& file, std::size_t line, std::string_view text) {
+  const std::optional<std::int32_t> number = ParseNumber<std::int32_t>(text);
+  if (!number || *number < 1) throw file.Error(line, "\"" + Excerpt(text) + "\" is no text number");
+  return *number;
 }
 
 std::string Unescape(const TextFile& file, std::size_t line, std::string_view text) {
@@ -47,7 +43,7 @@ LanguageTexts ReadLanguageFile(const std::filesystem::path& path) {
     if (!IsUtf8(content)) throw file.Error(lines.Number(), "the line is not UTF-8");
     const std::size_t equals = content.find('=');
     if (equals == std::string_view::npos) throw file.Error(lines.Number(), "a line must be NUMBER=TEXT");
-    const std::int32_t number = ParseNumber(file, lines.Number(), TrimBlanks(content.substr(0, equals)));
+    const std::int32_t number = TextNumber(file, lines.Number(), TrimBlanks(content.substr(0, equals)));
     std::string text = Unescape(file, lines.Number(), TrimBlanks(content.substr(equals + 1)));
     if (!texts.emplace(number, std::move(text)).second) {
       throw file.Error(lines.Number(), "the text " + std::to_string(number) + " stands twice");

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <system_error>
 
 #include "files/file_error.h"
@@ -118,30 +119,46 @@ FilePort& SystemFiles() {
   return files;
 }
 
-std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit) {
+namespace {
+
+/// Reads a regular file up to `limit` bytes; `complete` tells whether that was all of it.
+std::string ReadUpTo(const std::filesystem::path& file, std::size_t limit, bool& complete) {
   const auto refuse = [&file](const std::string& reason) { return FileError(file, 0, "cannot be read: " + reason); };
   const ReadHandle handle(file);
   struct stat status {};
   if (handle.Get() < 0 || ::fstat(handle.Get(), &status) != 0) throw refuse(ReasonOf(errno));
   if (S_ISDIR(status.st_mode)) throw refuse("it is a directory");
   if (!S_ISREG(status.st_mode)) throw refuse("it is no regular file");
-  const auto tooLarge = [&] { return refuse("it is larger than " + std::to_string(limit) + " bytes"); };
-  if (static_cast<std::uintmax_t>(status.st_size) > limit) throw tooLarge();
 
   // One byte more than the size is asked for, so that the end shows without another round.
-  std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
+  const auto size = static_cast<std::uintmax_t>(status.st_size);
+  std::string content(size < limit ? static_cast<std::size_t>(size) + 1 : limit + 1, '\0');
   std::size_t length = 0;
-  for (;;) {
+  while (length <= limit) {
+    if (length == content.size()) content.resize(std::min(length + std::max<std::size_t>(length / 2, 4096), limit + 1));
     const ssize_t count = ::read(handle.Get(), content.data() + length, content.size() - length);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) throw refuse(ReasonOf(errno));
     if (count == 0) break;
     length += static_cast<std::size_t>(count);
-    if (length > limit) throw tooLarge();
-    if (length == content.size()) content.resize(content.size() + std::max<std::size_t>(content.size() / 2, 4096));
   }
-  content.resize(length);
+  complete = length <= limit;
+  content.resize(std::min(length, limit));
   return content;
+}
+
+}  // namespace
+
+std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit) {
+  bool complete = false;
+  std::string content = ReadUpTo(file, limit, complete);
+  if (!complete) throw FileError(file, 0, "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
+  return content;
+}
+
+std::string ReadFileStart(const std::filesystem::path& file, std::size_t limit) {
+  bool complete = false;
+  return ReadUpTo(file, limit, complete);
 }
 
 void WriteWholeFile(const std::filesystem::path& file, std::string_view content, FilePort& port) {

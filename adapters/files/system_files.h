@@ -32,6 +32,9 @@ FilePort& SystemFiles();
 /// `limit` bytes. Never waits for a pipe or a device.
 std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit);
 
+/// The same, but of a larger file its first `limit` bytes.
+std::string ReadFileStart(const std::filesystem::path& file, std::size_t limit);
+
 /// Replaces a file as a whole: the content is written beside it, flushed and renamed. On any failure the old file
 /// stands as it was, nothing is left beside it, and a FileError tells the reason. A link is followed; what is no
 /// regular file, or may not be written, is refused.

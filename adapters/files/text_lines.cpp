@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 #include "files/system_files.h"
 
@@ -69,12 +70,18 @@ void TextFile::Check() {
   if (const std::size_t nul = text.find('\0'); nul != std::string_view::npos) {
     throw Error(LineOf(text, nul), "a NUL byte; this is no text file");
   }
-  if (text.size() <= LongestLine) return;
-  LineWalk lines(text);
-  for (std::string_view line; lines.Next(line);) {
-    if (line.size() > LongestLine) {
-      throw Error(lines.Number(), "the line is longer than " + std::to_string(LongestLine) + " bytes");
+  CheckLineLengths();
+}
+
+void TextFile::CheckLineLengths() const {
+  const std::string_view text = Text();
+  std::size_t start = 0;
+  while (text.size() - start > LongestLine) {
+    const std::size_t end = text.find_last_of("\r\n", start + LongestLine);
+    if (end == std::string_view::npos || end < start) {
+      throw Error(LineOf(text, start), "the line is longer than " + std::to_string(LongestLine) + " bytes");
     }
+    start = end + 1;
   }
 }
 
@@ -93,8 +100,12 @@ std::string_view TrimBlanks(std::string_view text) {
 }
 
 bool IsUtf8(std::string_view bytes) {
+  constexpr std::uint64_t highBits = 0x8080808080808080U;
   while (!bytes.empty()) {
-    const std::size_t length = SequenceLength(bytes);
+    std::uint64_t word = highBits;
+    if (bytes.size() >= sizeof(word)) std::memcpy(&word, bytes.data(), sizeof(word));
+    const bool plain = (word & highBits) == 0;
+    const std::size_t length = plain ? sizeof(word) : SequenceLength(bytes);
     if (length == 0) return false;
     bytes.remove_prefix(length);
   }

@@ -50,6 +50,7 @@ class TextFile {
 
  private:
   void Check();
+  void CheckLineLengths() const;
 
   std::filesystem::path path_;
   std::string content_;

@@ -1,0 +1,79 @@
+#include "files/file_capabilities.h"
+
+#include <algorithm>
+#include <bitset>
+#include <optional>
+#include <system_error>
+
+#include "files/ini_walk.h"
+#include "files/number_text.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::size_t Limit = std::size_t{4} << 20U;
+
+std::optional<std::size_t> QueryNamed(std::string_view name) {
+  for (std::size_t index = 0; index < CapabilityCount; ++index) {
+    if (CapabilityName(static_cast<Capability>(index)) == name) return index;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::filesystem::path> TablesIn(const std::filesystem::path& directory) {
+  std::vector<std::filesystem::path> tables;
+  std::error_code error;
+  if (!std::filesystem::exists(directory, error)) return tables;
+  std::filesystem::directory_iterator entries(directory, error);
+  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
+    if (entries->path().extension() == ".cap") tables.push_back(entries->path());
+  }
+  if (error) throw FileError(directory, 0, "cannot be read: " + error.message());
+  std::sort(tables.begin(), tables.end());
+  return tables;
+}
+
+}  // namespace
+
+FileCapabilities::FileCapabilities(const std::filesystem::path& directory) {
+  for (const std::filesystem::path& table : TablesIn(directory)) ReadTable(table);
+}
+
+void FileCapabilities::ReadTable(const std::filesystem::path& path) {
+  const TextFile file(path, Limit);
+  IniWalk walk(file);
+  Answers* answers = nullptr;
+  std::bitset<CapabilityCount> seen;
+  for (IniLine line; walk.Next(line);) {
+    if (line.section) {
+      if (line.name.empty()) throw file.Error(line.number, "the target system has no name");
+      const auto [target, isNew] = targets_.emplace(line.name, Answers{});
+      if (!isNew) throw file.Error(line.number, "the target system " + Excerpt(line.name) + " stands twice");
+      answers = &target->second;
+      seen.reset();
+      continue;
+    }
+    if (answers == nullptr) throw file.Error(line.number, "a query before the first target system");
+    const std::optional<std::size_t> query = QueryNamed(line.name);
+    if (!query) throw file.Error(line.number, "there is no query \"" + Excerpt(line.name) + "\"");
+    if (seen.test(*query)) throw file.Error(line.number, "the query " + std::string(line.name) + " stands twice");
+    const std::optional<std::int32_t> answer = ParseNumber<std::int32_t>(line.value);
+    if (!answer) throw file.Error(line.number, "\"" + Excerpt(line.value) + "\" is no number");
+    seen.set(*query);
+    answers->at(*query) = *answer;
+  }
+}
+
+std::int32_t FileCapabilities::Ask(Capability query, std::string_view targetSystem) {
+  const auto target = targets_.find(targetSystem);
+  return target == targets_.end() ? 0 : target->second.at(static_cast<std::size_t>(query));
+}
+
+std::vector<std::string> FileCapabilities::Targets() const {
+  std::vector<std::string> names;
+  for (const auto& [name, answers] : targets_) names.push_back(name);
+  return names;
+}
+
+}  // namespace plexel

@@ -1,0 +1,110 @@
+#include "files/parameter_file.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "files/file_error.h"
+#include "files/system_files.h"
+#include "files/text_lines.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::int32_t Found = 0, Missing = 1;
+
+std::string ReadLeniently(const std::filesystem::path& file) {
+  try {
+    return ReadFileStart(file, ParameterFileLimit);
+  } catch (const FileError&) {
+    return {};
+  }
+}
+
+std::size_t HashOf(std::string_view name) {
+  std::size_t hash = 14695981039346656037U;
+  for (const char c : name) {
+    const bool upper = c >= 'A' && c <= 'Z';
+    hash = (hash ^ static_cast<unsigned char>(upper ? c - 'A' + 'a' : c)) * 1099511628211U;
+  }
+  return hash ^ (hash >> 32U);
+}
+
+std::string_view Between(const char* begin, const char* end) { return {begin, static_cast<std::size_t>(end - begin)}; }
+
+}  // namespace
+
+FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)) {
+  std::vector<Section> sections;
+  const std::string_view text = text_.Text();
+  LineWalk lines(text);
+  for (std::string_view line; lines.Next(line);) {
+    if (line.find('[') == std::string_view::npos) continue;
+    const ParameterLine read = ReadParameterLine(line);
+    if (read.kind != ParameterLineKind::Section) continue;
+    if (!sections.empty()) sections.back().body = Between(sections.back().body.data(), line.data());
+    sections.push_back({read.name, Between(line.data() + line.size(), text.data() + text.size())});
+  }
+  Enter(sections);
+}
+
+void FileParameterReader::Index::Enter(const std::vector<Section>& sections) {
+  std::size_t size = 16;
+  while (size < sections.size() * 2) size *= 2;
+  slots_.resize(size);
+  for (const Section& section : sections) {
+    if (section.name.empty()) continue;
+    Section& slot = slots_[SlotOf(section.name)];
+    if (slot.name.empty()) slot = section;
+  }
+}
+
+std::size_t FileParameterReader::Index::SlotOf(std::string_view name) const {
+  std::size_t slot = HashOf(name) & (slots_.size() - 1);
+  while (!slots_[slot].name.empty() && !SameName(slots_[slot].name, name)) slot = (slot + 1) & (slots_.size() - 1);
+  return slot;
+}
+
+std::optional<std::string> FileParameterReader::Index::Find(std::string_view section, std::string_view name) const {
+  LineWalk lines(slots_[SlotOf(section)].body);
+  for (std::string_view line; lines.Next(line);) {
+    const ParameterLine read = ReadParameterLine(line);
+    if (read.kind == ParameterLineKind::Key && SameName(read.name, name)) return text_.Decode(read.value);
+  }
+  return std::nullopt;
+}
+
+FileParameterReader::Stamp FileParameterReader::StampOf(std::string_view file) {
+  std::string name(file);
+  std::replace(name.begin(), name.end(), '\\', '/');
+  Stamp stamp{name, {}, 0};
+  std::error_code error;
+  stamp.time = std::filesystem::last_write_time(stamp.file, error);
+  stamp.size = std::filesystem::file_size(stamp.file, error);
+  return stamp;
+}
+
+void FileParameterReader::SetDelimiter(std::string_view delimiter) {
+  delimiter_ = delimiter;
+  verified_ = false;
+}
+
+void FileParameterReader::ReadEntry(std::string_view file, std::string_view section, std::string_view name,
+                                    std::string& value, std::int32_t, std::int32_t& status) {
+  if (!verified_ || file != fileName_) {
+    Stamp stamp = StampOf(file);
+    if (!index_ || stamp != stamp_) index_.emplace(stamp.file);
+    stamp_ = std::move(stamp);
+    fileName_ = file;
+    verified_ = true;
+  }
+  std::optional<std::string> found = index_->Find(section, name);
+  status = found ? Found : Missing;
+  value = found ? std::move(*found) : std::string();
+}
+
+void FileParameterReader::GetItem(std::int32_t index, const std::string& value, std::string& text) {
+  text = ParameterItem(value, delimiter_, index);
+}
+
+}  // namespace plexel

@@ -1,0 +1,87 @@
+#include "files/file_capabilities.h"
+
+#include <gmock/gmock.h>
+
+#include "file_error_of.h"
+#include "files/data_directory.h"
+#include "temporary_directory.h"
+
+namespace plexel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+std::optional<FileError> FaultOf(std::string_view content) {
+  const TemporaryDirectory directory;
+  directory.Put("a.cap", content);
+  return FileErrorOf([&] { FileCapabilities{directory.Path()}; });
+}
+
+std::int32_t CountYes(FileCapabilities& capabilities, std::string_view target) {
+  std::int32_t yes = 0;
+  for (int query = 0; query < CapabilityCount; ++query) {
+    yes += capabilities.Ask(static_cast<Capability>(query), target) == 1 ? 1 : 0;
+  }
+  return yes;
+}
+
+TEST(FileCapabilities, AnswersAreThoseOfTheTable) {
+  const TemporaryDirectory directory;
+  directory.Put("a.cap", "; comment\r\n[ One ]\nHasRunLed = 1\rHasUserLed=-2\n[Two]\n");
+  FileCapabilities capabilities(directory.Path());
+  EXPECT_EQ(capabilities.Ask(Capability::HasRunLed, "One"), 1);
+  EXPECT_EQ(capabilities.Ask(Capability::HasUserLed, "One"), -2);
+  EXPECT_EQ(capabilities.Ask(Capability::HasAlarmLed, "One"), 0);
+  EXPECT_EQ(capabilities.Ask(Capability::HasRunLed, "Two"), 0);
+  EXPECT_THAT(capabilities.Targets(), ElementsAre("One", "Two"));
+}
+
+TEST(FileCapabilities, TablesOfSeveralFilesCountTogether) {
+  const TemporaryDirectory directory;
+  directory.Put("a.cap", "[One]\nHasRunLed=1\n");
+  directory.Put("b.cap", "[Two]\nHasRunLed=1\n");
+  directory.Put("c.txt", "no table");
+  EXPECT_THAT(FileCapabilities(directory.Path()).Targets(), ElementsAre("One", "Two"));
+}
+
+TEST(FileCapabilities, AnUnknownTargetAnswersZeroToAllQueries) {
+  FileCapabilities capabilities(DataDirectory() / "capabilities");
+  EXPECT_EQ(CountYes(capabilities, "nobody knows it"), 0);
+}
+
+TEST(FileCapabilities, AnEmptyTargetAnswersZeroToAllQueries) {
+  FileCapabilities capabilities(DataDirectory() / "capabilities");
+  EXPECT_EQ(CountYes(capabilities, ""), 0);
+}
+
+TEST(FileCapabilities, AMissingDirectoryHasNoTargets) {
+  EXPECT_THAT(FileCapabilities("no/such/directory").Targets(), IsEmpty());
+}
+
+TEST(FileCapabilities, AFaultyLineIsNamed) {
+  for (const std::string_view fault : {"HasEverything=1", "HasRunLed", "HasRunLed=yes", "HasRunLed=", "[One",
+                                       "HasRunLed=2147483648", "HasUserLed=1", "[One]", "[]"}) {
+    const auto error = FaultOf("[One]\nHasUserLed=1\n" + std::string(fault) + "\n");
+    ASSERT_TRUE(error) << fault;
+    EXPECT_EQ(error->Line(), 3U) << fault;
+  }
+}
+
+TEST(FileCapabilities, AQueryBeforeTheFirstTargetIsRefused) {
+  const auto error = FaultOf("HasUserLed=1\n");
+  ASSERT_TRUE(error);
+  EXPECT_THAT(error->what(), HasSubstr("a.cap:1: "));
+}
+
+TEST(FileCapabilities, TheSampleTargetsAnswerDifferently) {
+  FileCapabilities capabilities(DataDirectory() / "capabilities");
+  EXPECT_THAT(capabilities.Targets(), ElementsAre("Compact", "Extended", "Standard"));
+  EXPECT_EQ(CountYes(capabilities, "Compact"), 5);
+  EXPECT_EQ(CountYes(capabilities, "Standard"), 15);
+  EXPECT_EQ(CountYes(capabilities, "Extended"), 20);
+}
+
+}  // namespace
+}  // namespace plexel
