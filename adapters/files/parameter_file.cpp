@@ -35,38 +35,38 @@ std::string_view Between(const char* begin, const char* end) { return {begin, st
 }  // namespace
 
 FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)) {
-  std::vector<Section> sections;
   const std::string_view text = text_.Text();
   LineWalk lines(text);
   for (std::string_view line; lines.Next(line);) {
     if (line.find('[') == std::string_view::npos) continue;
     const ParameterLine read = ReadParameterLine(line);
     if (read.kind != ParameterLineKind::Section) continue;
-    if (!sections.empty()) sections.back().body = Between(sections.back().body.data(), line.data());
-    sections.push_back({read.name, Between(line.data() + line.size(), text.data() + text.size())});
+    if (!sections_.empty()) sections_.back().body = Between(sections_.back().body.data(), line.data());
+    sections_.push_back({read.name, Between(line.data() + line.size(), text.data() + text.size())});
   }
-  Enter(sections);
+  EnterSections();
 }
 
-void FileParameterReader::Index::Enter(const std::vector<Section>& sections) {
+void FileParameterReader::Index::EnterSections() {
   std::size_t size = 16;
-  while (size < sections.size() * 2) size *= 2;
-  slots_.resize(size);
-  for (const Section& section : sections) {
-    if (section.name.empty()) continue;
-    Section& slot = slots_[SlotOf(section.name)];
-    if (slot.name.empty()) slot = section;
+  while (size < sections_.size() * 2) size *= 2;
+  slots_.resize(size, Free);
+  for (std::size_t number = 0; number < sections_.size(); ++number) {
+    std::uint32_t& slot = slots_[SlotOf(sections_[number].name)];
+    if (slot == Free) slot = static_cast<std::uint32_t>(number);
   }
 }
 
 std::size_t FileParameterReader::Index::SlotOf(std::string_view name) const {
   std::size_t slot = HashOf(name) & (slots_.size() - 1);
-  while (!slots_[slot].name.empty() && !SameName(slots_[slot].name, name)) slot = (slot + 1) & (slots_.size() - 1);
+  while (slots_[slot] != Free && !SameName(sections_[slots_[slot]].name, name)) slot = (slot + 1) & (slots_.size() - 1);
   return slot;
 }
 
 std::optional<std::string> FileParameterReader::Index::Find(std::string_view section, std::string_view name) const {
-  LineWalk lines(slots_[SlotOf(section)].body);
+  const std::uint32_t number = slots_[SlotOf(section)];
+  if (number == Free) return std::nullopt;
+  LineWalk lines(sections_[number].body);
   for (std::string_view line; lines.Next(line);) {
     const ParameterLine read = ReadParameterLine(line);
     if (read.kind == ParameterLineKind::Key && SameName(read.name, name)) return text_.Decode(read.value);

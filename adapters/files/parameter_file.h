@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -37,10 +38,12 @@ class FileParameterReader : public ParameterFileReader {
       std::string_view name, body;
     };
     std::size_t SlotOf(std::string_view name) const;
-    void Enter(const std::vector<Section>& sections);
+    void EnterSections();
 
+    static constexpr std::uint32_t Free = 0xFFFFFFFFU;
     ParameterText text_;
-    std::vector<Section> slots_;  ///< open addressing; an empty slot has no name
+    std::vector<Section> sections_;
+    std::vector<std::uint32_t> slots_;  ///< open addressing: numbers of sections
   };
 
   /// What tells one state of a file from another.
