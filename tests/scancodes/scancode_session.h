@@ -1,0 +1,120 @@
+#pragma once
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "element/ctlPlexelBaseElement.h"
+#include "forms/form_directory.h"
+#include "headless/headless_platform.h"
+#include "headless/headless_surroundings.h"
+#include "headless/recording_host.h"
+#include "scancodes/key_translation.h"
+#include "scancodes/stand_in_dialogs.h"
+#include "services/code_page.h"
+#include "services/module_state.h"
+
+namespace plexel {
+
+/// A headless platform with one current element and stand-ins for the dialogs that the procedures work on.
+///
+/// Language text N reads "text N"; a layer takes 43 codes; the grid check is on.
+class ScanCodeSession {
+ public:
+  ScanCodeSession() {
+    Module() = ModuleState{};
+    element = ctlPlexelBaseElement::Create("Key1", host);
+    element->ElementType(Rect);
+    element->TargetSystem("PANEL");
+    Module().ctlCurrentElement = element;
+    Module().lngMaxScanCodes = 43;
+    Module().lngOsFamily = 1;
+    surroundings.Settings().Option(1, True);
+    surroundings.Language().Source([] {
+      HeadlessLanguage::Texts texts;
+      for (int number = 1; number < 11000; ++number) texts[number] = "text " + std::to_string(number);
+      return texts;
+    });
+    host.Forget();
+    FormDirectory::Instance().Add("frmConfigurationDialog",
+                                  [] { return std::make_unique<StandInConfigurationDialog>(); });
+    FormDirectory::Instance().Add("frmButtonWizardPage1", [] { return std::make_unique<StandInWizardPage>(); });
+    platform.Modal().onRun = [this](Form& form) {
+      const auto act = std::move(acts_.back());
+      acts_.back() = [](Form& forgotten) { forgotten.Unload(); };
+      act(form);
+    };
+  }
+  ~ScanCodeSession() { Module() = ModuleState{}; }
+  ScanCodeSession(const ScanCodeSession&) = delete;
+  ScanCodeSession& operator=(const ScanCodeSession&) = delete;
+
+  /// Shows a form, acts on it once, and closes it if the act has not.
+  template <typename Dialog>
+  void Show(const std::string& name, const std::function<void(Dialog&)>& act) {
+    acts_.emplace_back([&act](Form& form) {
+      act(dynamic_cast<Dialog&>(form));
+      form.Unload();
+    });
+    FormDirectory::Instance().ShowModal(name, nullptr);
+    acts_.pop_back();
+  }
+  void InConfigurationDialog(const std::function<void(StandInConfigurationDialog&)>& act) {
+    Show<StandInConfigurationDialog>("frmConfigurationDialog", act);
+  }
+  void InWizard(const std::function<void(StandInWizardPage&)>& act) {
+    Show<StandInWizardPage>("frmButtonWizardPage1", act);
+  }
+
+  udtTactisBaseElement_ScanCodeInfo Record() { return element->TactisBaseElementScanCodeBuffer(); }
+
+  HeadlessPlatform platform;
+  HeadlessSurroundings surroundings{platform};
+  RecordingHost host{platform.faults};
+  std::shared_ptr<ctlPlexelBaseElement> element;
+
+ private:
+  Platform::Use usePlatform_{platform};
+  Surroundings::Use useSurroundings_{surroundings};
+  std::vector<std::function<void(Form&)>> acts_;
+};
+
+/// Bytes in hexadecimal with blanks between them.
+inline std::string Hex(const std::vector<int>& bytes) {
+  std::string text;
+  for (const int byte : bytes) {
+    char two[12];
+    std::snprintf(two, sizeof two, "%02X", static_cast<unsigned>(byte));
+    text += (text.empty() ? "" : " ") + std::string(two);
+  }
+  return text;
+}
+
+/// The bytes of a buffer from index 0 to NextValue.
+inline std::string Used(const udtTactisBaseElement_TACTIS_SCANCODE& buffer) {
+  return Hex({buffer.Value.begin(), buffer.Value.begin() + buffer.NextValue + 1});
+}
+
+/// The first elements of a sequence.
+inline std::string Counted(const CodeArray& codes, std::int32_t length) {
+  return Hex({codes.begin(), codes.begin() + length});
+}
+
+inline CodeArray Sequence(const std::vector<int>& codes) {
+  CodeArray array{};
+  std::copy(codes.begin(), codes.end(), array.begin());
+  return array;
+}
+
+/// A buffer in the state of a new element.
+inline udtTactisBaseElement_TACTIS_SCANCODE InitialBuffer() {
+  udtTactisBaseElement_TACTIS_SCANCODE buffer;
+  std::fill_n(buffer.Value.begin(), 45, std::uint8_t{0xFF});
+  return buffer;
+}
+
+inline const std::string M{chrMakeMark}, B{chrBreakMark};
+
+}  // namespace plexel
