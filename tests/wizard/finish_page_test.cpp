@@ -1,0 +1,60 @@
+#include "wizard/wizard_session.h"
+
+namespace plexel {
+
+TEST(WizardFinishPage, OkRaisesProjectModifiedOnceAndBeforeItsFormCloses) {
+  WizardSession session(Rect);
+  std::vector<std::string> closedAtEvent;
+  session.host.onEvent = [&](const HostEvent& event) {
+    if (event.name == "ProjectModified") closedAtEvent = {session.closed.empty() ? "open" : "closed"};
+  };
+  session.Click("optKeyType(3)").Click("cmdForward").Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(closedAtEvent, std::vector<std::string>{"open"});
+  EXPECT_EQ(session.host.EventNames(), (std::vector<std::string>{"ProjectModified", "SendKeyDefinition"}));
+}
+
+TEST(WizardFinishPage, CancelAndBackRaiseNoProjectModifiedThoughTheElementHasChanged) {
+  WizardSession session(Rect);
+  session.Click("optKeyType(3)").Click("cmdForward").Click("cmdBack").Click("cmdForward").Click("cmdCancel");
+  session.Open();
+  EXPECT_EQ(session.host.Count("ProjectModified"), 0);
+  EXPECT_EQ(session.element->PressKeyDefLayer1(), "[text 2610‹]");
+}
+
+TEST(WizardFinishPage, OkAfterBackAndForwardRaisesProjectModifiedOnce) {
+  WizardSession session(OvalLed);
+  session.Click("cmdForward").Click("cmdForward").Click("cmdBack").Click("cmdForward").Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(session.host.Count("ProjectModified"), 1);
+}
+
+TEST(WizardFinishPage, BackOfARectReturnsToPage1Directly) {
+  WizardSession session(Rect);
+  session.Click("cmdForward").Click("cmdBack");
+  session.Then([&] { EXPECT_EQ(session.Top().Name(), "frmButtonWizardPage1"); }).Click("cmdCancel");
+  session.Open();
+}
+
+TEST(WizardFinishPage, ReturnIsOkAndEscapeIsCancel) {
+  WizardSession ok(Rect);
+  ok.Click("cmdForward").KeyDown(key::Return);
+  ok.Open();
+  EXPECT_EQ(ok.host.Count("ProjectModified"), 1);
+
+  WizardSession cancelled(Rect);
+  cancelled.Click("cmdForward").KeyDown(key::Escape);
+  cancelled.Open();
+  EXPECT_EQ(cancelled.host.Count("ProjectModified"), 0);
+}
+
+TEST(WizardFinishPage, NothingOfTheElementChangesWhileItStands) {
+  WizardSession session(OvalLed);
+  session.Click("cmdForward").Click("cmdForward");
+  udtTactisBaseElement_ScanCodeInfo before;
+  session.Then([&] { before = session.Record(); }).Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(session.Record(), before);
+}
+
+}  // namespace plexel
