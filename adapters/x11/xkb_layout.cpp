@@ -119,12 +119,19 @@ bool XkbLayout::HasAltGr() const {
   return SymbolOf(evdev::RightAlt, 0) == XKB_KEY_ISO_Level3_Shift;
 }
 
+std::uint32_t XkbLayout::SymbolOfVirtualKey(std::int32_t virtualKey) const {
+  constexpr std::uint32_t plain = 0, numLock = 1;
+  if (virtualKey == VkDecimal) return SymbolOf(evdev::PadDecimal, numLock);
+  const auto found = evdevOf_.find(virtualKey);
+  if (virtualKey == 0 || found == evdevOf_.end()) return XKB_KEY_NoSymbol;
+  return SymbolOf(found->second, plain);
+}
+
 std::int32_t XkbLayout::ToUnicode(std::int32_t virtualKey, std::int32_t, char16_t* text, std::int32_t capacity,
                                   Handle) {
   Load();
-  const auto found = evdevOf_.find(virtualKey);
-  if (virtualKey == 0 || found == evdevOf_.end() || capacity < 1) return 0;
-  const std::uint32_t symbol = SymbolOf(found->second, virtualKey == VkDecimal ? 1 : 0);
+  if (capacity < 1) return 0;
+  const std::uint32_t symbol = SymbolOfVirtualKey(virtualKey);
   for (const DeadKey& dead : deadKeys) {
     if (dead.symbol != symbol) continue;
     text[0] = dead.accent;

@@ -36,6 +36,7 @@ class XkbLayout : public KeyboardLayout, public LayoutKeys {
 
  private:
   std::uint32_t SymbolOf(int evdev, std::uint32_t level) const;
+  std::uint32_t SymbolOfVirtualKey(std::int32_t virtualKey) const;
   std::int32_t FindVirtualKey(int evdev) const;
 
   std::string name_;

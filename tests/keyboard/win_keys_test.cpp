@@ -56,8 +56,7 @@ TEST(WinKeys, AltGrReportsAFalseLeftCtrlAheadOfItselfInBothDirections) {
 }
 
 TEST(WinKeys, AHeldAltGrRepeatsWithItsFalseCtrl) {
-  EXPECT_EQ(Keyboard(true).Down(evdev::RightAlt).Down(evdev::RightAlt).Heard(),
-            "+11/1D/0 +12/38/1 +11/1D/0 +12/38/1");
+  EXPECT_EQ(Keyboard(true).Down(evdev::RightAlt).Down(evdev::RightAlt).Heard(), "+11/1D/0 +12/38/1 +11/1D/0 +12/38/1");
 }
 
 TEST(WinKeys, RightAltOfALayoutWithoutAltGrStandsAlone) {
@@ -100,9 +99,8 @@ TEST(WinKeys, APadDigitHasItsDigitWithNumLock) {
 }
 
 TEST(WinKeys, ShiftTurnsNumLockOffForAPadKeyWithAFalseReleaseAroundIt) {
-  EXPECT_EQ(
-      Keyboard(false, true).Down(evdev::LeftShift).Down(Pad7).Up(Pad7).Up(evdev::LeftShift).Heard(),
-      "+10/2A/0 -10/2A/0 +24/47/0 -24/47/0 +10/2A/0 -10/2A/0");
+  EXPECT_EQ(Keyboard(false, true).Down(evdev::LeftShift).Down(Pad7).Up(Pad7).Up(evdev::LeftShift).Heard(),
+            "+10/2A/0 -10/2A/0 +24/47/0 -24/47/0 +10/2A/0 -10/2A/0");
 }
 
 TEST(WinKeys, TheFalseReleaseCoversAllPadKeysHeldTogether) {
@@ -125,13 +123,9 @@ TEST(WinKeys, TheCursorBlockIsExtendedAndThePadIsNot) {
 }
 
 TEST(WinKeys, TheFirstReleaseOfTwoShiftsIsNotReported) {
-  EXPECT_EQ(Keyboard()
-                .Down(evdev::LeftShift)
-                .Down(evdev::RightShift)
-                .Up(evdev::RightShift)
-                .Up(evdev::LeftShift)
-                .Heard(),
-            "+10/2A/0 +10/36/0 -10/2A/0");
+  EXPECT_EQ(
+      Keyboard().Down(evdev::LeftShift).Down(evdev::RightShift).Up(evdev::RightShift).Up(evdev::LeftShift).Heard(),
+      "+10/2A/0 +10/36/0 -10/2A/0");
 }
 
 TEST(WinKeys, LeftAndRightCtrlDifferByTheExtendedFlag) {
@@ -154,9 +148,7 @@ TEST(WinKeys, F13AndF24HaveTheirOwnScanCodes) {
 
 TEST(WinKeys, AReleaseOfAKeyThatIsNotDownReportsNothing) { EXPECT_EQ(Keyboard().Up(LetterA).Heard(), ""); }
 
-TEST(WinKeys, AKeyThatNoPcHasReportsNothing) {
-  EXPECT_EQ(Keyboard().Down(255).Down(-1).Down(100000).Heard(), "");
-}
+TEST(WinKeys, AKeyThatNoPcHasReportsNothing) { EXPECT_EQ(Keyboard().Down(255).Down(-1).Down(100000).Heard(), ""); }
 
 TEST(WinKeys, ALostReleaseIsFoundInThePhysicalState) {
   Keyboard keyboard;
