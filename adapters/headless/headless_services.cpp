@@ -11,10 +11,10 @@ struct SavedPosition {
 };
 
 constexpr std::array<SavedPosition, 5> positionTable = {{{0, "ConfigDialogTop", "1500"},
-                                                    {1, "ConfigDialogLeft", "1800"},
-                                                    {2, "ConfigDialogMsFlexGridRow0Width", "735"},
-                                                    {3, "ConfigDialogMsFlexGridRow1Width", "3300"},
-                                                    {4, "ConfigDialogMsFlexGridRow2Width", "3300"}}};
+                                                         {1, "ConfigDialogLeft", "1800"},
+                                                         {2, "ConfigDialogMsFlexGridRow0Width", "735"},
+                                                         {3, "ConfigDialogMsFlexGridRow1Width", "3300"},
+                                                         {4, "ConfigDialogMsFlexGridRow2Width", "3300"}}};
 constexpr std::int32_t EntryMissing = 1;
 
 std::string Setting(const std::map<std::int32_t, std::string>& settings, std::int32_t number) {

@@ -2,7 +2,6 @@
 
 #include "forms/hand.h"
 #include "headless/headless_platform.h"
-#include "services/code_page.h"
 
 namespace plexel {
 
@@ -19,28 +18,30 @@ bool IsPlainLetter(char32_t character) {
 
 }  // namespace
 
-std::int16_t TypedCharacter(std::int32_t virtualKey, std::int16_t shift, char32_t plain) {
+char32_t TypedCharacter(std::int32_t virtualKey, std::int16_t shift, char32_t plain) {
   if ((shift & key::AltBit) != 0 || virtualKey == key::Tab) return 0;
   if (virtualKey == key::Back || virtualKey == key::Return || virtualKey == key::Escape) {
-    return static_cast<std::int16_t>(virtualKey);
+    return static_cast<char32_t>(virtualKey);
   }
   if ((shift & key::ControlBit) != 0) {
-    return virtualKey >= 'A' && virtualKey <= 'Z' ? static_cast<std::int16_t>(virtualKey - 'A' + 1) : std::int16_t{0};
+    return virtualKey >= 'A' && virtualKey <= 'Z' ? static_cast<char32_t>(virtualKey - 'A' + 1) : 0;
   }
-  if (plain == 0) return 0;
   const bool upper = (shift & key::ShiftBit) != 0 && IsPlainLetter(plain);
-  const std::int32_t code = CodeOf(upper ? plain - LatinCapitalOffset : plain);
-  return code < 0 ? std::int16_t{0} : static_cast<std::int16_t>(code);
+  return upper ? plain - LatinCapitalOffset : plain;
 }
 
-bool KeyRoad::Send(const KeyEvent& event) {
+bool KeyRoad::ToHooks(const KeyEvent& event) {
   HeadlessKeys& keys = platform_.Keys();
   if (event.down) {
     keys.Hold(event.virtualKey);
   } else {
     keys.Free(event.virtualKey);
   }
-  if (platform_.Hooks().Deliver(event, keys.IsDown(AltKey))) return true;
+  return platform_.Hooks().Deliver(event, keys.IsDown(AltKey));
+}
+
+bool KeyRoad::Send(const KeyEvent& event) {
+  if (ToHooks(event)) return true;
   ToForm(event);
   return false;
 }
@@ -50,15 +51,12 @@ void KeyRoad::ToForm(const KeyEvent& event) {
   if (form == nullptr) return;
   const auto keyCode = static_cast<std::int16_t>(event.virtualKey);
   const std::int16_t shift = platform_.Keys().ShiftState();
-  Hand hand(*form);
-  if (!event.down) {
-    hand.KeyUp(keyCode, shift);
-    return;
+  if (event.down) {
+    const char16_t plain = platform_.Layout().Typed(event.virtualKey, event.scanCode);
+    Hand(*form).Key(keyCode, shift, TypedCharacter(event.virtualKey, shift, plain));
+  } else {
+    Hand(*form).KeyUp(keyCode, shift);
   }
-  const std::int16_t character =
-      TypedCharacter(event.virtualKey, shift, platform_.Layout().Typed(event.virtualKey, event.scanCode));
-  hand.KeyDown(keyCode, shift);
-  if (character != 0 && platform_.Modal().Topmost() == form && form->IsShown()) hand.KeyPress(character);
 }
 
 }  // namespace plexel

@@ -1,0 +1,105 @@
+#include "cli/arguments.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "cli/command_error.h"
+#include "files/text_lines.h"
+
+namespace plexel {
+
+namespace {
+
+[[noreturn]] void Refuse(const Word& word, const char* wanted) {
+  const std::string shown = word.json ? word.json->dump(-1, ' ', false, Json::error_handler_t::replace) : word.text;
+  throw CommandError("\"" + Excerpt(shown) + "\" is no " + wanted);
+}
+
+template <typename Number>
+bool ReadWhole(std::string_view digits, Number& value, int base) {
+  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
+  if (result.ptr != digits.data() + digits.size() || digits.empty()) return false;
+  if (result.ec == std::errc::result_out_of_range) value = std::numeric_limits<Number>::max();
+  return result.ec == std::errc() || result.ec == std::errc::result_out_of_range;
+}
+
+bool IsDigits(std::string_view digits, bool hexadecimal) {
+  return !digits.empty() &&
+         digits.find_first_not_of(hexadecimal ? "0123456789abcdefABCDEF" : "0123456789") == std::string_view::npos;
+}
+
+}  // namespace
+
+bool ParseInteger(const std::string& text, int bits, std::int64_t& value) {
+  std::string_view digits = text;
+  const bool negative = digits.starts_with('-');
+  if (negative) digits.remove_prefix(1);
+  const bool hexadecimal = digits.starts_with("0x") || digits.starts_with("0X");
+  if (hexadecimal) digits.remove_prefix(2);
+  std::uint64_t magnitude = 0;
+  if (!IsDigits(digits, hexadecimal) || !ReadWhole(digits, magnitude, hexadecimal ? 16 : 10)) return false;
+
+  const std::uint64_t signBit = std::uint64_t{1} << static_cast<unsigned>(bits - 1);
+  const std::uint64_t largest = negative ? signBit : hexadecimal ? 2 * signBit - 1 : signBit - 1;
+  if (magnitude > largest) throw CommandError(text + " does not fit " + std::to_string(bits) + " bits");
+  const bool pattern = !negative && magnitude >= signBit;
+  value = static_cast<std::int64_t>(negative ? 0 - magnitude : pattern ? magnitude - 2 * signBit : magnitude);
+  return true;
+}
+
+const Word& Arguments::Take() {
+  if (!More()) throw CommandError("an argument is missing");
+  return words_[next_++];
+}
+
+std::string Arguments::Text() {
+  const Word& word = Take();
+  if (!word.IsText()) Refuse(word, "text");
+  return word.text;
+}
+
+std::int64_t Arguments::Integer(int bits) {
+  const Word& word = Take();
+  std::int64_t value = 0;
+  if (word.json || !ParseInteger(word.text, bits, value)) Refuse(word, "whole number");
+  return value;
+}
+
+std::int32_t Arguments::Int32() { return static_cast<std::int32_t>(Integer(32)); }
+std::int16_t Arguments::Int16() { return static_cast<std::int16_t>(Integer(16)); }
+
+std::int32_t Arguments::Bits32() {
+  const std::int64_t value = Integer(64);
+  if (value < INT32_MIN || value > UINT32_MAX) throw CommandError(std::to_string(value) + " does not fit 32 bits");
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
+}
+
+float Arguments::Single() {
+  const Word& word = Take();
+  std::int64_t whole = 0;
+  if (!word.json && ParseInteger(word.text, 32, whole)) return static_cast<float>(whole);
+  float value = 0;
+  const char* end = word.text.data() + word.text.size();
+  const auto result = std::from_chars(word.text.data(), end, value);
+  if (word.json || word.text.empty() || result.ptr != end || result.ec != std::errc() || !std::isfinite(value)) {
+    Refuse(word, "number");
+  }
+  return value;
+}
+
+const Json& Arguments::Object() {
+  const Word& word = Take();
+  if (!word.json || !word.json->is_object()) Refuse(word, "JSON object");
+  return *word.json;
+}
+
+bool Arguments::Choice(const char* first, const char* second) {
+  const Word& word = Take();
+  if (word.json || (word.text != first && word.text != second)) {
+    throw CommandError("\"" + Excerpt(word.text) + "\" is neither " + first + " nor " + second);
+  }
+  return word.text == first;
+}
+
+}  // namespace plexel

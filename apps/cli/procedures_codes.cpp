@@ -1,0 +1,112 @@
+#include <array>
+
+#include "cli/procedures.h"
+#include "cli/record_json.h"
+#include "element/ctlPlexelBaseElement.h"
+#include "scancodes/code_buffer.h"
+#include "scancodes/key_translation.h"
+
+namespace plexel {
+
+namespace {
+
+/// The row of bytes or the object of an argument.
+Sequence TakeSequence(Arguments& arguments) {
+  const Word& word = arguments.Take();
+  return SequenceOf(word.json ? *word.json : Json(word.text));
+}
+
+udtTactisBaseElement_TACTIS_SCANCODE TakeCode(Arguments& arguments) {
+  udtTactisBaseElement_TACTIS_SCANCODE code;
+  ChangeFields(code, arguments.Object());
+  return code;
+}
+
+udtTactisBaseElement_ScanCodeInfo RecordOf(Workbench& bench) {
+  return bench.Selected()->TactisBaseElementScanCodeBuffer();
+}
+
+/// Make and break as the caller's arrays and lengths hold them, and the answer that shows them.
+struct MakeAndBreak {
+  Sequence make, brk;
+
+  explicit MakeAndBreak(Arguments& arguments) {
+    if (arguments.More()) make = TakeSequence(arguments);
+    if (arguments.More()) brk = TakeSequence(arguments);
+  }
+  void Show(Json& answer) const {
+    AddSequence(answer, "make", make.codes, make.length);
+    AddSequence(answer, "break", brk.codes, brk.length);
+  }
+};
+
+void Translate(Workbench&, Arguments& arguments, Json& answer) {
+  const std::int32_t scanCode = arguments.Int32();
+  const std::int32_t virtualKey = arguments.Int32();
+  const std::int32_t extended = arguments.Int32();
+  MakeAndBreak codes(arguments);
+  TranslateScanCode(scanCode, virtualKey, extended, codes.make.codes, codes.make.length, codes.brk.codes,
+                    codes.brk.length);
+  codes.Show(answer);
+}
+
+/// The sequences that a procedure gives for an index.
+template <auto procedure>
+void OfIndex(Workbench&, Arguments& arguments, Json& answer) {
+  const std::int32_t index = arguments.Int32();
+  MakeAndBreak codes(arguments);
+  procedure(codes.make.codes, codes.make.length, codes.brk.codes, codes.brk.length, index);
+  codes.Show(answer);
+}
+
+void Append(Workbench&, Arguments& arguments, Json& answer) {
+  udtTactisBaseElement_TACTIS_SCANCODE code = TakeCode(arguments);
+  const MakeAndBreak codes(arguments);
+  AppendCodeGroup(code, codes.make.codes, codes.make.length, codes.brk.codes, codes.brk.length, arguments.Int32(), 0);
+  answer["code"] = ToJson(code);
+}
+
+void RemoveFirst(Workbench&, Arguments& arguments, Json& answer) {
+  udtTactisBaseElement_TACTIS_SCANCODE code = TakeCode(arguments);
+  const bool removed = RemoveFirstCodeGroup(code);
+  answer["code"] = ToJson(code);
+  answer["result"] = BooleanToJson(removed);
+}
+
+void RemoveLast(Workbench&, Arguments& arguments, Json& answer) {
+  udtTactisBaseElement_TACTIS_SCANCODE code = TakeCode(arguments);
+  RemoveLastCodeGroup(code);
+  answer["code"] = ToJson(code);
+}
+
+void Store(Workbench&, Arguments& arguments, Json& answer) {
+  const MakeAndBreak codes(arguments);
+  const std::int32_t type = arguments.Int32();
+  answer["result"] = StoreScanCodes(codes.make.codes, codes.make.length, codes.brk.codes, codes.brk.length, type, 0,
+                                    arguments.Int32());
+}
+
+void CountEnds(Workbench& bench, Arguments& arguments, Json& answer) {
+  answer["result"] = CountGroupEnds(arguments.Int32(), RecordOf(bench));
+}
+
+void AskRoom(Workbench& bench, Arguments& arguments, Json& answer) {
+  const std::int32_t layer = arguments.Int32();
+  answer["result"] = BooleanToJson(HasRoomForCodes(layer, RecordOf(bench), arguments.Int32()));
+}
+
+constexpr std::array<Procedure, 9> procedures = {{{"TranslateScanCode", 3, 5, Translate},
+                                                  {"GetSpecialFunctionCode", 1, 3, OfIndex<&GetSpecialFunctionCode>},
+                                                  {"GetWindowsShortCutCodes", 1, 3, OfIndex<&GetWindowsShortCutCodes>},
+                                                  {"AppendCodeGroup", 4, 4, Append},
+                                                  {"RemoveFirstCodeGroup", 1, 1, RemoveFirst},
+                                                  {"RemoveLastCodeGroup", 1, 1, RemoveLast},
+                                                  {"StoreScanCodes", 4, 4, Store},
+                                                  {"CountGroupEnds", 1, 1, CountEnds},
+                                                  {"HasRoomForCodes", 2, 2, AskRoom}}};
+
+}  // namespace
+
+std::span<const Procedure> CodeProcedures() { return procedures; }
+
+}  // namespace plexel

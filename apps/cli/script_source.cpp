@@ -1,0 +1,94 @@
+#include "cli/script_source.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+#include <system_error>
+
+namespace plexel {
+
+namespace {
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+constexpr std::size_t ChunkSize = 65536;
+}  // namespace
+
+bool ScriptSource::Next(ScriptLine& line) {
+  while (!FindCommand()) {
+    if (ended_) return false;
+    ReadMore();
+  }
+  line.number = number_;
+  line.text = bytes_.substr(start_, end_ - start_);
+  if (line.text.ends_with('\r')) line.text.pop_back();
+  start_ = searched_ = std::min(end_ + 1, bytes_.size());
+  ++number_;
+  found_ = false;
+  return true;
+}
+
+bool ScriptSource::AtEnd() {
+  while (!FindCommand()) {
+    if (ended_) return true;
+    if (!DataReady()) return false;
+    ReadMore();
+  }
+  return false;
+}
+
+bool ScriptSource::FindCommand() {
+  while (!found_) {
+    end_ = bytes_.find('\n', searched_);
+    const bool last = end_ == std::string::npos;
+    if (last) end_ = bytes_.size();
+    searched_ = end_;
+    if (last && !ended_) return false;
+    if (IsCommand(start_, end_)) {
+      found_ = true;
+    } else if (last) {
+      return false;
+    } else {
+      start_ = searched_ = end_ + 1;
+      ++number_;
+    }
+  }
+  return true;
+}
+
+bool ScriptSource::IsCommand(std::size_t start, std::size_t end) const {
+  std::string_view line = std::string_view(bytes_).substr(start, end - start);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  const std::size_t first = line.find_first_not_of(" \t");
+  return first != std::string_view::npos && line[first] != '#';
+}
+
+void ScriptSource::ReadMore() {
+  if (start_ > ChunkSize && start_ > bytes_.size() / 2) {
+    bytes_.erase(0, start_);
+    searched_ -= start_;
+    start_ = 0;
+  }
+  std::array<char, ChunkSize> chunk;
+  ssize_t count = 0;
+  do {
+    count = read(descriptor_, chunk.data(), chunk.size());
+  } while (count < 0 && errno == EINTR);
+  if (count < 0) throw std::system_error(errno, std::generic_category());
+  ended_ = count == 0;
+  bytes_.append(chunk.data(), static_cast<std::size_t>(count));
+  if (!begun_ && (bytes_.size() >= Utf8Mark.size() || ended_)) {
+    begun_ = true;
+    if (bytes_.starts_with(Utf8Mark)) bytes_.erase(0, Utf8Mark.size());
+    searched_ = start_;
+  }
+}
+
+bool ScriptSource::DataReady() const {
+  pollfd waiting{descriptor_, POLLIN, 0};
+  return poll(&waiting, 1, ClosingTime) > 0;
+}
+
+}  // namespace plexel

@@ -1,0 +1,205 @@
+#include "cli/values_json.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+
+#include "element/ctlPlexelBaseElement.h"
+
+namespace plexel {
+
+namespace {
+
+template <typename... Cases>
+struct Match : Cases... {
+  using Cases::operator()...;
+};
+
+constexpr double LargestExact = 9007199254740992.0;
+
+/// The double that the shortest decimal text of a single-precision number stands for.
+double Shortest(float value) {
+  std::array<char, 64> text{};
+  const auto result = std::to_chars(text.data(), text.data() + text.size() - 1, value);
+  *result.ptr = '\0';
+  return std::strtod(text.data(), nullptr);
+}
+
+std::string Hex(std::uint32_t value) {
+  std::array<char, 16> text{};
+  const auto result = std::to_chars(text.data(), text.data() + text.size(), value, 16);
+  std::string digits(text.data(), result.ptr);
+  for (char& digit : digits) digit = digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
+  return digits.size() < 2 ? "0" + digits : digits;
+}
+
+Json ToJson(const GridCells& cells) {
+  Json rows = Json::array();
+  for (const auto& row : cells) {
+    Json cellsOfRow = Json::array();
+    for (const GridCell& cell : row) {
+      Json one;
+      one["Text"] = cell.text;
+      one["ForeColor"] = cell.foreColor;
+      one["BackColor"] = cell.backColor;
+      cellsOfRow.push_back(std::move(one));
+    }
+    rows.push_back(std::move(cellsOfRow));
+  }
+  return rows;
+}
+
+Json ToJson(const std::vector<bool>& values) {
+  Json list = Json::array();
+  for (const bool value : values) list.push_back(BooleanToJson(value));
+  return list;
+}
+
+Json ToJson(const SurfaceShape& shape) {
+  Json json;
+  json["Left"] = NumberToJson(shape.Left);
+  json["Top"] = NumberToJson(shape.Top);
+  json["Width"] = NumberToJson(shape.Width);
+  json["Height"] = NumberToJson(shape.Height);
+  json["BorderColor"] = shape.BorderColor;
+  json["BorderWidth"] = shape.BorderWidth;
+  json["Visible"] = BooleanToJson(shape.Visible);
+  return json;
+}
+
+Json ToJson(const SurfaceLine& line) {
+  Json json;
+  json["X1"] = NumberToJson(line.X1);
+  json["Y1"] = NumberToJson(line.Y1);
+  json["X2"] = NumberToJson(line.X2);
+  json["Y2"] = NumberToJson(line.Y2);
+  json["BorderColor"] = line.BorderColor;
+  json["BorderWidth"] = line.BorderWidth;
+  json["Visible"] = BooleanToJson(line.Visible);
+  return json;
+}
+
+Json ToJson(const BagValue& value) {
+  return std::visit(
+      Match{[](const BagBoolean& held) { return Json(held.value); }, [](double held) { return NumberToJson(held); },
+            [](const std::string& held) { return Json(held); }, [](auto held) { return Json(std::int32_t{held}); }},
+      value);
+}
+
+/// The names of the types in the order of BagValue.
+constexpr std::array<const char*, std::variant_size_v<BagValue>> bagTypes = {"int16",   "int32", "uint8",
+                                                                             "boolean", "float", "string"};
+
+Json ToJson(const LowLevelKey& key) {
+  return Json::array({key.virtualKey, key.scanCode, key.flags, key.time, key.extraInfo});
+}
+
+Json PressedKeysToJson(const ModuleState& state) {
+  Json rows = Json::array();
+  for (std::int32_t slot = 0; slot <= state.lngPressedKeyCount; ++slot) {
+    rows.push_back(state.lngPressedKeys.at(static_cast<std::size_t>(slot)));
+  }
+  return rows;
+}
+
+}  // namespace
+
+Json NumberToJson(double value) {
+  if (std::trunc(value) == value && std::abs(value) <= LargestExact) return Json(static_cast<std::int64_t>(value));
+  const auto single = static_cast<float>(value);
+  return Json(std::isfinite(single) && double{single} == value ? Shortest(single) : value);
+}
+
+std::string BytesToText(const std::uint8_t* bytes, std::size_t count) {
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : " ") + Hex(bytes[i]);
+  return text;
+}
+
+Json ToJson(const HostEvent::Value& value) {
+  return std::visit(Match{[](double held) { return NumberToJson(held); }, [](const auto& held) { return Json(held); }},
+                    value);
+}
+
+Json ToJson(const Description& description) {
+  Json json = Json::object();
+  for (const auto& [name, value] : description) {
+    json[name] = std::visit(
+        Match{[](bool held) { return BooleanToJson(held); }, [](double held) { return NumberToJson(held); },
+              [](const GridCells& held) { return ToJson(held); },
+              [](const std::vector<bool>& held) { return ToJson(held); }, [](const auto& held) { return Json(held); }},
+        value);
+  }
+  return json;
+}
+
+Json ToJson(const MemoryBag& bag) {
+  Json rows = Json::array();
+  for (const auto& [key, value] : bag.All()) {
+    rows.push_back(Json::array({Json(key), Json(bagTypes.at(value.index())), ToJson(value)}));
+  }
+  return rows;
+}
+
+Json ToJson(const Surface& surface) {
+  Json json;
+  json["Width"] = NumberToJson(surface.Width);
+  json["Height"] = NumberToJson(surface.Height);
+  json["shpOval"] = ToJson(surface.shpOval);
+  json["shpRect"] = ToJson(surface.shpRect);
+  json["linX1"] = ToJson(surface.linX1);
+  json["linX2"] = ToJson(surface.linX2);
+  json["linOK1"] = ToJson(surface.linOK1);
+  json["linOK2"] = ToJson(surface.linOK2);
+  return json;
+}
+
+Json ToJson(const udtTactisBaseElement_TACTIS_SCANCODE& code) {
+  Json json;
+  json["Value"] = BytesToText(code.Value.data(), code.Value.size());
+  json["NextValue"] = code.NextValue;
+  return json;
+}
+
+Json ToJson(const ModuleState& state) {
+  Json clipboard;
+  clipboard["Valid"] = state.udtScanCodeClipboard.Valid;
+  clipboard["scanCode"] = ToJson(state.udtScanCodeClipboard.scanCode);
+  clipboard["VisibleString"] = state.udtScanCodeClipboard.VisibleString;
+
+  Json json;
+  json["ctlCurrentElement"] = state.ctlCurrentElement ? Json(state.ctlCurrentElement->Name()) : Json();
+  json["lngMaxScanCodes"] = state.lngMaxScanCodes;
+  json["lngDialogLeft"] = state.lngDialogLeft;
+  json["lngDialogTop"] = state.lngDialogTop;
+  json["bDirectInputActive"] = state.bDirectInputActive;
+  json["intAsciiResult"] = state.intAsciiResult;
+  json["lngOsFamily"] = state.lngOsFamily;
+  json["bWizardPageChanging"] = state.bWizardPageChanging;
+  json["udtSavedScanCodeInfo"] = ToJson(state.udtSavedScanCodeInfo);
+  json["udtScanCodeClipboard"] = std::move(clipboard);
+  json["lngInputTarget"] = state.lngInputTarget;
+  json["lngKeyboardHook"] = state.lngKeyboardHook;
+  json["lngLowLevelHook"] = state.lngLowLevelHook;
+  json["lngPressedKeys"] = PressedKeysToJson(state);
+  json["lngPressedKeyCount"] = state.lngPressedKeyCount;
+  json["udtLowLevelKey"] = ToJson(state.udtLowLevelKey);
+  json["bShiftDown"] = state.bShiftDown;
+  json["bNumLockDown"] = state.bNumLockDown;
+  json["bAltDown"] = state.bAltDown;
+  json["bCtrlDown"] = state.bCtrlDown;
+  json["HelpFile"] = state.HelpFile;
+  return json;
+}
+
+void AddSequence(Json& answer, const std::string& name, const CodeArray& sequence, std::int32_t length) {
+  std::size_t count = sequence.size();
+  while (count > 0 && sequence[count - 1] == 0) --count;
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : " ") + Hex(static_cast<std::uint32_t>(sequence[i]));
+  answer[name] = text;
+  answer[name + "Length"] = length;
+}
+
+}  // namespace plexel

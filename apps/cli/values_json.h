@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <type_traits>
+
+#include "cli/json.h"
+#include "element/property_bag.h"
+#include "element/property_table.h"
+#include "element/surface.h"
+#include "forms/property_value.h"
+#include "headless/event_host.h"
+#include "headless/memory_bag.h"
+#include "scancodes/key_translation.h"
+#include "services/element_types.h"
+#include "services/module_state.h"
+
+namespace plexel {
+
+static_assert(std::is_same_v<HostEvent::Value, PropertyData>);
+
+/// How the values of the system stand in answers. Booleans are its own 16-bit values; whole numbers have no fraction.
+
+Json NumberToJson(double value);
+inline Json BooleanToJson(bool value) { return Json(std::int32_t{ToBoolean(value)}); }
+/// Two-digit upper-case hexadecimal numbers with blanks between them.
+std::string BytesToText(const std::uint8_t* bytes, std::size_t count);
+
+/// An argument of an event, or the value of a property.
+Json ToJson(const HostEvent::Value& value);
+Json ToJson(const Description& description);
+Json ToJson(const MemoryBag& bag);
+Json ToJson(const Surface& surface);
+Json ToJson(const udtTactisBaseElement_TACTIS_SCANCODE& code);
+Json ToJson(const udtTactisBaseElement_ScanCodeInfo& record);
+Json ToJson(const ModuleState& state);
+
+/// Puts a sequence and its length beside it into an answer, without the zeros at its end.
+void AddSequence(Json& answer, const std::string& name, const CodeArray& sequence, std::int32_t length);
+
+}  // namespace plexel

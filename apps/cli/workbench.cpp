@@ -1,0 +1,187 @@
+#include "cli/workbench.h"
+
+#include <filesystem>
+
+#include "cli/values_json.h"
+#include "component/component.h"
+#include "element/ctlPlexelBaseElement.h"
+#include "files/data_directory.h"
+#include "files/file_error.h"
+#include "files/language_file.h"
+#include "files/text_lines.h"
+#include "forms/form_directory.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr const char* InitialLanguage = "English";
+constexpr const char* InitialLayout = "us";
+
+std::filesystem::path LanguageFile(const std::string& name) { return DataDirectory() / "languages" / (name + ".lang"); }
+
+const char* HookName(HookKind kind) { return kind == HookKind::Keyboard ? "keyboard" : "lowlevel"; }
+
+}  // namespace
+
+Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), reporter_(reporter) {
+  RegisterForms(FormDirectory::Instance());
+  surroundings.Settings().BasePath(DataDirectory().string());
+  surroundings.Settings().LanguageName(InitialLanguage);
+  surroundings.Language().Source([] {
+    try {
+      return ReadLanguageFile(LanguageFile(InitialLanguage));
+    } catch (const FileError& error) {
+      throw Failure(FailureKind::Platform, error.what());
+    }
+  });
+  surroundings.ParameterFiles().Use(&parameterFiles_);
+  layout_ = std::make_unique<XkbLayout>(InitialLayout);
+  platform.Layout().Use(layout_.get());
+  ReportForms();
+  ReportSystem();
+}
+
+Workbench::~Workbench() {
+  for (const auto& [name, element] : elements_) element->Detach();
+  Module() = {};
+}
+
+void Workbench::UseLanguage(const std::string& name) {
+  const std::filesystem::path file = LanguageFile(name);
+  std::error_code error;
+  if (name.find('/') != std::string::npos || !std::filesystem::is_regular_file(file, error)) {
+    throw CommandError("no language is named " + Excerpt(name));
+  }
+  LanguageTexts texts = ReadLanguageFile(file);
+  surroundings.Language().Source([texts = std::move(texts)] { return texts; });
+  surroundings.Settings().LanguageName(name);
+}
+
+void Workbench::UseLayout(const std::string& name) {
+  auto layout = std::make_unique<XkbLayout>(name);
+  layout->Load();
+  platform.Layout().Use(layout.get());
+  layout_ = std::move(layout);
+}
+
+void Workbench::RequireNewName(const std::string& name) const {
+  if (name.empty()) throw CommandError("an element needs a name");
+  if (elements_.contains(name)) throw CommandError("there is an element " + Excerpt(name) + " already");
+}
+
+void Workbench::Add(const Element& element) {
+  elements_[element->Name()] = element;
+  selected_ = element->Name();
+}
+
+Workbench::Element Workbench::Find(const std::string& name) const {
+  const auto found = elements_.find(name);
+  if (found == elements_.end()) throw CommandError("there is no element " + Excerpt(name));
+  return found->second;
+}
+
+void Workbench::Select(const std::string& name) { selected_ = Find(name)->Name(); }
+
+void Workbench::Remove(const std::string& name) {
+  elements_.erase(name);
+  if (selected_ == name) selected_.clear();
+}
+
+Workbench::Element Workbench::Selected() const {
+  if (!HasSelected()) throw CommandError("no element is selected");
+  return Find(selected_);
+}
+
+MessageBox* Workbench::Box() {
+  if (boxes_.empty() || boxes_.back()->formsBelow < platform.Modal().Shown().size()) return nullptr;
+  return boxes_.back();
+}
+
+std::string Workbench::FrontName() {
+  if (Box() != nullptr) return "MessageBox";
+  const Form* form = platform.Modal().Topmost();
+  return form == nullptr ? std::string() : form->Name();
+}
+
+Form& Workbench::Front() {
+  if (Box() != nullptr) throw CommandError("a message box is open and waits for its answer");
+  if (platform.Modal().Topmost() == nullptr) throw CommandError("no form is shown");
+  return *platform.Modal().Topmost();
+}
+
+Control& Workbench::FrontControl(const std::string& name) {
+  Form& form = Front();
+  Control* control = form.Find(name);
+  if (control == nullptr) throw CommandError(form.Name() + " has no control " + Excerpt(name));
+  return *control;
+}
+
+void Workbench::ReportSwallowedKey() {
+  Json report;
+  report["swallowed"] = true;
+  reporter_.Report(std::move(report));
+}
+
+void Workbench::ReportForms() {
+  HeadlessModalLoop& modal = platform.Modal();
+  modal.onShown = [this](Form& form, Window* owner) {
+    Json report;
+    report["shown"] = form.Name();
+    report["owner"] = owner == nullptr ? Json() : Json(owner->WindowName());
+    reporter_.Report(std::move(report));
+  };
+  modal.onRun = [this](Form& form) { runWhile([&form] { return form.IsShown(); }); };
+  modal.onClosed = [this](Form& form) {
+    Json report;
+    report["unloaded"] = form.Name();
+    reporter_.Report(std::move(report));
+  };
+  modal.onPopup = [this](Form&, MenuItem& menu, bool placed, float x, float y) {
+    Json report;
+    report["popup"] = menu.FullName();
+    if (placed) {
+      report["x"] = NumberToJson(x);
+      report["y"] = NumberToJson(y);
+    }
+    reporter_.Report(std::move(report));
+  };
+  platform.Messages().onShow = [this](const std::string& prompt, std::int32_t style, const std::string& title) {
+    return ShowMessage(prompt, style, title);
+  };
+}
+
+void Workbench::ReportSystem() {
+  platform.Help().onShow = [this](const HeadlessHelp::Topic& topic) {
+    Json report;
+    report["help"]["file"] = topic.file;
+    report["help"]["topic"] = topic.topic;
+    reporter_.Report(std::move(report));
+  };
+  platform.Hooks().onChange = [this](HookKind kind, bool installed) {
+    Json report;
+    report["hook"] = HookName(kind);
+    report["installed"] = installed;
+    reporter_.Report(std::move(report));
+  };
+}
+
+MessageAnswer Workbench::ShowMessage(const std::string& prompt, std::int32_t style, const std::string& title) {
+  Json report;
+  report["message"]["prompt"] = prompt;
+  report["message"]["title"] = title;
+  report["message"]["style"] = style;
+  reporter_.Report(std::move(report));
+
+  MessageBox box{prompt, title, style, platform.Modal().Shown().size(), std::nullopt};
+  struct Opened {
+    std::vector<MessageBox*>& boxes;
+    ~Opened() { boxes.pop_back(); }
+  };
+  boxes_.push_back(&box);
+  const Opened opened{boxes_};
+  runWhile([&box] { return !box.answer.has_value(); });
+  return *box.answer;
+}
+
+}  // namespace plexel
