@@ -11,25 +11,29 @@ namespace plexel {
 
 namespace {
 
-constexpr std::size_t RowCount(std::int32_t Storage::*order) {
-  return static_cast<std::size_t>(std::count_if(propertyRows.begin(), propertyRows.end(),
-                                                [&](const PropertyRow& row) { return row.storage.*order != 0; }));
-}
+constexpr std::size_t readCount = 39, writeCount = 38;
 
 /// The rows that have a place in an order, in that order. Does not compile when places are missing or doubled.
-template <std::int32_t Storage::*order>
+template <std::size_t count, std::int32_t Storage::*order>
 consteval auto RowsBy() {
-  std::array<const PropertyRow*, RowCount(order)> rows{};
-  for (const PropertyRow& row : propertyRows) {
-    if (const std::int32_t place = row.storage.*order; place != 0) rows.at(static_cast<std::size_t>(place - 1)) = &row;
+  constexpr std::size_t none = propertyRows.size();
+  std::array<std::size_t, count> rows{};
+  rows.fill(none);
+  for (std::size_t row = 0; row < propertyRows.size(); ++row) {
+    const std::int32_t place = propertyRows[row].storage.*order;
+    if (place == 0) continue;
+    std::size_t& entry = rows.at(static_cast<std::size_t>(place - 1));
+    if (entry != none) throw "two rows share a place";
+    entry = row;
   }
-  if (std::find(rows.begin(), rows.end(), nullptr) != rows.end()) throw "an order has a gap";
+  for (const std::size_t row : rows) {
+    if (row == none) throw "a place is missing";
+  }
   return rows;
 }
 
-constexpr auto readRows = RowsBy<&Storage::readOrder>();
-constexpr auto writeRows = RowsBy<&Storage::writeOrder>();
-static_assert(readRows.size() == 39 && writeRows.size() == 38);
+constexpr auto readRows = RowsBy<readCount, &Storage::readOrder>();
+constexpr auto writeRows = RowsBy<writeCount, &Storage::writeOrder>();
 
 /// The write rule: a value equal to the default is not stored. A boolean counts as true (-1) or false (0), which never
 /// equals a default of 1.
@@ -110,15 +114,16 @@ void ctlPlexelBaseElement::UserControl_InitProperties() {
 
 void ctlPlexelBaseElement::UserControl_ReadProperties(const PropertyBag& bag) {
   EndQuietly([&] {
-    for (const PropertyRow* const row : readRows) ReadRow(*this, *row, bag);
+    for (const std::size_t row : readRows) ReadRow(*this, propertyRows[row], bag);
   });
 }
 
 void ctlPlexelBaseElement::UserControl_WriteProperties(PropertyBag& bag) const {
   EndQuietly([&] {
-    for (const PropertyRow* const row : writeRows) {
-      BagValue value = row->save(*this);
-      if (!EqualsDefault(value, row->storage.writeDefault)) bag.Store(row->storage.key, std::move(value));
+    for (const std::size_t place : writeRows) {
+      const PropertyRow& row = propertyRows[place];
+      BagValue value = row.save(*this);
+      if (!EqualsDefault(value, row.storage.writeDefault)) bag.Store(row.storage.key, std::move(value));
     }
   });
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 
 #include "element/property_access.h"
@@ -86,10 +85,9 @@ inline constexpr auto propertyRows = MakePropertyRows();
 
 /// The place of a property in the table; does not compile for an unknown name.
 consteval std::size_t RowOf(std::string_view name) {
-  const auto found =
-      std::find_if(propertyRows.begin(), propertyRows.end(), [&](const PropertyRow& row) { return row.name == name; });
-  if (found == propertyRows.end()) throw "no such property";
-  return static_cast<std::size_t>(found - propertyRows.begin());
+  std::size_t row = 0;
+  while (propertyRows.at(row).name != name) ++row;
+  return row;
 }
 
 }  // namespace plexel

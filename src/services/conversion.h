@@ -6,9 +6,9 @@
 
 namespace plexel {
 
-/// Numbers out of text and between types. Text is read as a decimal number with blanks around it, a sign, a fraction and
-/// an exponent, or as "&H" and hexadecimal digits. Fractions are rounded to the nearest integer, ties to the even one.
-/// What is no number is a Failure (Conversion), what does not fit a Failure (Overflow).
+/// Numbers out of text and between types. Text is read as a decimal number with blanks around it, a sign, a fraction
+/// and an exponent, or as "&H" and hexadecimal digits. Fractions are rounded to the nearest integer, ties to the even
+/// one. What is no number is a Failure (Conversion), what does not fit a Failure (Overflow).
 
 double TextToNumber(std::string_view text);
 std::int32_t TextToInt32(std::string_view text);

@@ -8,8 +8,8 @@
 
 namespace plexel {
 
-/// The shared vocabulary of elements and dialogs: enumerations and records. All enumerations are 32-bit integers that may
-/// hold any value, not only those named.
+/// The shared vocabulary of elements and dialogs: enumerations and records. All enumerations are 32-bit integers that
+/// may hold any value, not only those named.
 
 enum enumSpecialKeyFunctions : std::int32_t {
   SystemReset = 0,
