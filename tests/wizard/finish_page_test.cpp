@@ -14,6 +14,15 @@ TEST(WizardFinishPage, OkRaisesProjectModifiedOnceAndBeforeItsFormCloses) {
   EXPECT_EQ(session.host.EventNames(), (std::vector<std::string>{"ProjectModified", "SendKeyDefinition"}));
 }
 
+TEST(WizardFinishPage, OkClearsPageChangingThatAnEarlierWizardLeftTrue) {
+  WizardSession session(Led);
+  Module().bWizardPageChanging = True;
+  session.Click("cmdForward").Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(Module().bWizardPageChanging, False);
+  EXPECT_EQ(session.closed.size(), 2U);
+}
+
 TEST(WizardFinishPage, CancelAndBackRaiseNoProjectModifiedThoughTheElementHasChanged) {
   WizardSession session(Rect);
   session.Click("optKeyType(3)").Click("cmdForward").Click("cmdBack").Click("cmdForward").Click("cmdCancel");
