@@ -150,7 +150,7 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   std::int32_t HardwareNumberKeyAt(std::int32_t index) const;
   void HardwareNumberKeyAt(std::int32_t index, std::int32_t value);
 
-  // For the component's own forms and procedures.
+  // For the component's own forms and procedures. Failures of the host's handlers reach the caller.
   void RaiseProjectModified();
   void RaiseDirectInputStatusChanged(Boolean bDirectInputStatus);
   /// Whether all eight definition texts are empty.
@@ -164,6 +164,7 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   void UserControl_DblClick();
   void UserControl_ReadProperties(const PropertyBag& bag);
   void UserControl_WriteProperties(PropertyBag& bag) const;
+  /// The end of the element in its container, which calls it.
   void UserControl_Terminate();
 
   /// What the element shows.

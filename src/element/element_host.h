@@ -28,7 +28,8 @@ struct KeyDefinition {
   std::int32_t LEDTypeLayer1 = 0, LEDTypeLayer2 = 0, LEDTypeLayer3 = 0, LEDTypeLayer4 = 0;
 };
 
-/// The host of an element: its container and the listener to its events. Handlers may throw Failure.
+/// The host of an element: its container and the listener to its events. Handlers may throw Failure. A host keeps the
+/// element at least until a notice to it has returned; in the handlers of events it may let the element go.
 class ElementHost {
  public:
   virtual ~ElementHost() = default;

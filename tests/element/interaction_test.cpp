@@ -80,6 +80,12 @@ TEST_F(ElementInteraction, ADoubleClickIsPassedOn) {
   EXPECT_EQ(host.EventNames(), Names{"MouseDblClicked"});
 }
 
+TEST_F(ElementInteraction, AFailingListenerOfTheDoubleClickIsNotHeardOf) {
+  platform.faults.Turn(Fault::HandlerMouseDblClicked, true);
+  EXPECT_NO_THROW(element->UserControl_DblClick());
+  EXPECT_EQ(host.Count("MouseDblClicked"), 1);
+}
+
 TEST_F(ElementInteraction, RefreshTakesTheSettingsOver) {
   HeadlessSettings& settings = surroundings.Settings();
   settings.Parameter(2, "4711");
