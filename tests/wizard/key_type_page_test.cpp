@@ -1,6 +1,3 @@
-#include <algorithm>
-
-#include "services/shared_services.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {
@@ -8,7 +5,7 @@ namespace plexel {
 namespace {
 
 using Names = std::vector<std::string>;
-constexpr std::int32_t white = 0xFFFFFF, captureColour = 65535;
+constexpr std::int32_t white = 0xFFFFFF;
 
 /// A session on page 1 that looks and then cancels.
 void Look(WizardSession& session, const WizardSession::Act& look) {
@@ -19,40 +16,6 @@ void Look(WizardSession& session, const WizardSession::Act& look) {
 Names Items(WizardSession& session, const char* combo) { return session.Get<ComboBox>(combo).Items(); }
 
 bool Enabled(WizardSession& session, const char* control) { return session.Get<Control>(control).Enabled(); }
-
-/// A record whose buffers and texts are all filled.
-udtTactisBaseElement_ScanCodeInfo FilledRecord(WizardSession& session) {
-  auto record = session.Record();
-  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-    PressBuffer(record, layer)->Value.fill(0x1C);
-    PressBuffer(record, layer)->NextValue = 7;
-    ReleaseBuffer(record, layer)->Value.fill(0x2C);
-    ReleaseBuffer(record, layer)->NextValue = 8;
-  }
-  return record;
-}
-
-bool BuffersAreZero(WizardSession& session) {
-  auto record = session.Record();
-  auto zero = record;
-  ZeroAllBuffers(zero);
-  return record == zero;
-}
-
-/// Presses left Ctrl on top of left Shift, the end of key entry.
-void ShiftAndControl(WizardSession& session) { session.KeyDown(key::Control, key::ShiftBit | key::ControlBit); }
-
-}  // namespace
-
-TEST(WizardKeyTypePage, ATargetSystemWithoutFunctionsLeavesTheListEmptyAndDisabledAndItsOptionDisabled) {
-  WizardSession session(Oval);
-  Look(session, [&] {
-    EXPECT_EQ(Items(session, "cmdSpecialIPCFunction"), Names{});
-    EXPECT_EQ(session.Get<ComboBox>("cmdSpecialIPCFunction").Text(), "");
-    EXPECT_FALSE(Enabled(session, "cmdSpecialIPCFunction"));
-    EXPECT_FALSE(Enabled(session, "optKeyType(2)"));
-  });
-}
 
 TEST(WizardKeyTypePage, TheListHoldsFiveFunctionsInItsOwnOrderAndShowsTheFirst) {
   WizardSession session(Oval);
@@ -139,7 +102,7 @@ TEST(WizardKeyTypePage, ForwardOnAHandMadeElementWithoutTouchingAnythingLeavesIt
   WizardSession session(Oval);
   session.element->WizardOptions(ManuallyDefined);
   session.GiveTexts("[a‹]", "[a›]");
-  session.element->TactisBaseElementScanCodeBuffer(FilledRecord(session));
+  session.element->TactisBaseElementScanCodeBuffer(session.FilledRecord());
   const auto before = session.Record();
   session.Click("cmdForward").Click("cmdOK");
   session.Open();
@@ -213,7 +176,7 @@ TEST(WizardKeyTypePage, TheFocusCatcherIsFiveTwipsAtThePlaceOfCancelAndNoTabStop
 TEST(WizardKeyTypePage, AnOptionClickEmptiesTheElementInOrderAndMakesItHandMade) {
   WizardSession session(Oval);
   session.GiveTexts("[a‹›]", "[b›]");
-  session.element->TactisBaseElementScanCodeBuffer(FilledRecord(session));
+  session.element->TactisBaseElementScanCodeBuffer(session.FilledRecord());
   Module().bDirectInputActive = True;
   Names whenNoticed;
   session.Then([&] {
@@ -229,7 +192,7 @@ TEST(WizardKeyTypePage, AnOptionClickEmptiesTheElementInOrderAndMakesItHandMade)
     session.host.onEvent = nullptr;
     EXPECT_EQ(whenNoticed,
               (Names{"-xxxxxxx", "--xxxxxx", "---xxxxx", "----xxxx", "-----xxx", "------xx", "-------x", "--------"}));
-    EXPECT_TRUE(BuffersAreZero(session));
+    EXPECT_TRUE(session.BuffersAreZero());
     EXPECT_EQ(session.element->WizardOptions(), ManuallyDefined);
     EXPECT_EQ(Module().bDirectInputActive, False);
   });
@@ -286,239 +249,6 @@ TEST(WizardKeyTypePage, AnOptionClickDuringCaptureEndsItAndLeavesKeyPreviewOffUn
   });
   session.DblClick("txtScanCodes").DblClick("txtScanCodes");
   Look(session, [&] { EXPECT_TRUE(session.Top().KeyPreview()); });
-}
-
-TEST(WizardKeyTypePage, ADoubleClickOnTheDisabledBoxDoesNothing) {
-  WizardSession session(Oval);
-  session.element->WizardOptions(WindowsShortCut);
-  Look(session, [&] {
-    EXPECT_THROW(Hand(session.Top()).DblClick(session.Get<Control>("txtScanCodes")), Failure);
-    EXPECT_EQ(Module().lngKeyboardHook, 0);
-    EXPECT_EQ(Module().bDirectInputActive, False);
-  });
-}
-
-TEST(WizardKeyTypePage, StartingCaptureColoursAndEmptiesTheBoxAndTakesKeyPreviewAway) {
-  WizardSession session(Oval);
-  session.GiveTexts("[a‹›]", "");
-  session.DblClick("txtScanCodes");
-  Look(session, [&] {
-    EXPECT_NE(Module().lngKeyboardHook, 0);
-    EXPECT_EQ(Module().bDirectInputActive, True);
-    EXPECT_EQ(Module().lngInputTarget, 2);
-    EXPECT_EQ(session.Get<TextBox>("txtScanCodes").BackColor(), captureColour);
-    EXPECT_EQ(session.Get<TextBox>("txtScanCodes").Text(), "");
-    EXPECT_FALSE(session.Top().KeyPreview());
-    EXPECT_TRUE(session.Get<Control>("cmdFocusCatcher").HasFocus());
-  });
-}
-
-TEST(WizardKeyTypePage, StartingCaptureEmptiesTheCodesAndLeavesTheTexts) {
-  WizardSession session(Oval);
-  session.GiveTexts("[a‹›]", "[b›]");
-  session.element->TactisBaseElementScanCodeBuffer(FilledRecord(session));
-  const Names texts = session.Texts();
-  session.DblClick("txtScanCodes");
-  Look(session, [&] {
-    EXPECT_TRUE(BuffersAreZero(session));
-    EXPECT_EQ(session.Texts(), texts);
-    EXPECT_EQ(session.element->WizardOptions(), ManuallyDefined);
-  });
-}
-
-TEST(WizardKeyTypePage, EndingCaptureGivesWhiteKeyPreviewAndTheFocusOfTheFormBack) {
-  WizardSession session(Oval);
-  session.DblClick("txtScanCodes").DblClick("txtScanCodes");
-  Look(session, [&] {
-    EXPECT_EQ(Module().lngKeyboardHook, 0);
-    EXPECT_EQ(Module().bDirectInputActive, False);
-    EXPECT_EQ(session.Get<TextBox>("txtScanCodes").BackColor(), white);
-    EXPECT_TRUE(session.Top().KeyPreview());
-    EXPECT_EQ(session.Top().Focus(), nullptr);
-    EXPECT_FALSE(session.Get<Control>("cmdFocusCatcher").TabStop());
-  });
-}
-
-TEST(WizardKeyTypePage, CaptureWithoutAKeyStrokeLeavesTheCodesEmpty) {
-  WizardSession session(Oval);
-  session.element->TactisBaseElementScanCodeBuffer(FilledRecord(session));
-  session.DblClick("txtScanCodes");
-  ShiftAndControl(session);
-  Look(session, [&] { EXPECT_TRUE(BuffersAreZero(session)); });
-}
-
-TEST(WizardKeyTypePage, ReturnInTheIdleBoxStartsCapture) {
-  WizardSession session(Oval);
-  session.Then([&] { Hand(session.Top()).Focus(session.Get<Control>("txtScanCodes")); }).KeyDown(key::Return);
-  Look(session, [&] { EXPECT_NE(Module().lngKeyboardHook, 0); });
-}
-
-TEST(WizardKeyTypePage, AnyKeyInTheIdleBoxMakesForwardRewriteTheTexts) {
-  WizardSession session(Oval);
-  session.GiveTexts("[a‹›]", "[b›]");
-  session.Then([&] { Hand(session.Top()).Focus(session.Get<Control>("txtScanCodes")); }).KeyDown(key::Home);
-  session.Click("cmdForward").Click("cmdOK");
-  session.Open();
-  EXPECT_EQ(session.Texts(), (Names{"[a‹›]", "[a‹›]", "[a‹›]", "[a‹›]", "", "", "", ""}));
-}
-
-TEST(WizardKeyTypePage, ArrowsInTheIdleBoxAreNotDropped) {
-  WizardSession session(Oval);
-  Look(session, [&] {
-    Hand hand(session.Top());
-    hand.Focus(session.Get<Control>("txtScanCodes"));
-    EXPECT_EQ(hand.KeyDown(key::Left, 0), key::Left);
-  });
-}
-
-TEST(WizardKeyTypePage, ArrowsInTheBoxAreDroppedDuringCapture) {
-  WizardSession session(Oval);
-  session.DblClick("txtScanCodes");
-  Look(session, [&] {
-    Hand hand(session.Top());
-    hand.Focus(session.Get<Control>("txtScanCodes"));
-    for (const std::int16_t arrow : {key::Left, key::Up, key::Right, key::Down}) EXPECT_EQ(hand.KeyDown(arrow, 0), 0);
-    EXPECT_EQ(hand.KeyDown(key::Home, 0), key::Home);
-    EXPECT_EQ(hand.KeyDown(key::Return, 0), key::Return);
-    EXPECT_NE(Module().lngKeyboardHook, 0);
-  });
-}
-
-TEST(WizardKeyTypePage, ArrowsOnTheFocusCatcherAreDroppedDuringCaptureOnly) {
-  WizardSession session(Oval);
-  session.Then([&] {
-    Hand hand(session.Top());
-    hand.Focus(session.Get<Control>("cmdFocusCatcher"));
-    EXPECT_EQ(hand.KeyDown(key::Left, 0), key::Left);
-    EXPECT_EQ(hand.KeyDown(key::Control, key::ShiftBit | key::ControlBit), key::Control);
-    EXPECT_EQ(Module().lngKeyboardHook, 0);
-  });
-  session.DblClick("txtScanCodes");
-  Look(session, [&] {
-    Hand hand(session.Top());
-    for (const std::int16_t arrow : {key::Left, key::Up, key::Right, key::Down}) EXPECT_EQ(hand.KeyDown(arrow, 0), 0);
-    EXPECT_EQ(hand.KeyDown(key::End, 0), key::End);
-  });
-}
-
-TEST(WizardKeyTypePage, ShiftAndControlEndCaptureInTheBoxAndOnTheFocusCatcher) {
-  for (const char* control : {"txtScanCodes", "cmdFocusCatcher"}) {
-    WizardSession session(Oval);
-    session.DblClick("txtScanCodes");
-    session.Then([&] { Hand(session.Top()).Focus(session.Get<Control>(control)); });
-    ShiftAndControl(session);
-    Look(session, [&] { EXPECT_EQ(Module().lngKeyboardHook, 0) << control; });
-  }
-}
-
-TEST(WizardKeyTypePage, OnlyControlPressedWithExactlyShiftAndControlEndsCapture) {
-  WizardSession session(Oval);
-  session.DblClick("txtScanCodes");
-  session.KeyDown(key::Control, key::ControlBit);
-  session.KeyDown(key::Shift, key::ShiftBit | key::ControlBit);
-  session.KeyDown(key::Control, key::ShiftBit | key::ControlBit | key::AltBit);
-  Look(session, [&] { EXPECT_NE(Module().lngKeyboardHook, 0); });
-}
-
-TEST(WizardKeyTypePage, EndingCaptureOnTheFocusCatcherCountsAsAChange) {
-  WizardSession session(Oval);
-  session.GiveTexts("[a‹›]", "");
-  session.DblClick("txtScanCodes").Click("cmdForward").Click("cmdBack");
-  session.Then([&] {
-    session.GiveTexts("[a‹›]", "");
-    Module().bDirectInputActive = True;
-    Hand(session.Top()).Focus(session.Get<Control>("cmdFocusCatcher"));
-  });
-  ShiftAndControl(session);
-  session.Click("cmdForward").Click("cmdOK");
-  session.Open();
-  EXPECT_EQ(session.element->PressKeyDefLayer1(), "");
-}
-
-TEST(WizardKeyTypePage, AHookThatCannotBeInstalledLeavesThePageInItsCaptureLook) {
-  WizardSession session(Oval);
-  session.platform.faults.Turn(Fault::KeyboardHook, true);
-  session.DblClick("txtScanCodes");
-  Look(session, [&] {
-    EXPECT_EQ(Module().lngKeyboardHook, 0);
-    EXPECT_EQ(Module().bDirectInputActive, True);
-    EXPECT_EQ(session.Get<TextBox>("txtScanCodes").BackColor(), captureColour);
-    EXPECT_FALSE(session.Top().KeyPreview());
-  });
-}
-
-TEST(WizardKeyTypePage, TheListsTakeOnlyDownUpAndReturnAndNoCharacter) {
-  for (const char* combo : {"cmdSpecialIPCFunction", "cmbWindowsShortCuts"}) {
-    WizardSession session(Oval);
-    session.Grant(Capability::HasSystemReset);
-    session.element->WizardOptions(std::string_view(combo) == "cmbWindowsShortCuts" ? WindowsShortCut : IPCFunction);
-    Look(session, [&] {
-      Hand hand(session.Top());
-      hand.Focus(session.Get<Control>(combo));
-      for (const std::int16_t kept : {key::Down, key::Up, key::Return}) EXPECT_EQ(hand.KeyDown(kept, 0), kept);
-      for (const std::int16_t dropped : {key::Home, key::Left, key::Space, std::int16_t{'A'}, key::Delete}) {
-        EXPECT_EQ(hand.KeyDown(dropped, 0), 0) << combo << dropped;
-      }
-      EXPECT_EQ(hand.KeyPress('a'), 0);
-    });
-  }
-}
-
-TEST(WizardKeyTypePage, EachEventOfAListCountsAsAChange) {
-  const std::vector<std::function<void(WizardSession&)>> events = {
-      [](WizardSession& session) { Hand(session.Top()).Select(session.Get<ComboBox>("cmbWindowsShortCuts"), 0); },
-      [](WizardSession& session) { Hand(session.Top()).KeyDown('A', 0); },
-      [](WizardSession& session) { Hand(session.Top()).KeyPress('a'); }};
-  for (const auto& event : events) {
-    WizardSession session(Oval);
-    session.element->WizardOptions(WindowsShortCut);
-    session.GiveTexts("[text 2610‹]", "");
-    session.Then([&] {
-      Hand(session.Top()).Focus(session.Get<Control>("cmbWindowsShortCuts"));
-      event(session);
-    });
-    session.Click("cmdForward").Click("cmdOK");
-    session.Open();
-    EXPECT_EQ(session.element->ReleaseKeyDefLayer1(), "[text 2610›]");
-  }
-}
-
-TEST(WizardKeyTypePage, DeleteEmptiesTheDefinitionAndKeepsNotesLedsAndNumbers) {
-  WizardSession session(Oval);
-  session.GiveTexts("[a‹›]", "[b›]");
-  session.element->ButtonNotes("note");
-  session.element->LEDTypeLayer2(PowerLed);
-  session.element->HardwareNumberKey3(12);
-  session.element->TactisBaseElementScanCodeBuffer(FilledRecord(session));
-  session.Click("cmdDeleteKEY");
-  Look(session, [&] {
-    EXPECT_EQ(session.Texts(), Names(8, ""));
-    EXPECT_TRUE(BuffersAreZero(session));
-    EXPECT_EQ(session.element->WizardOptions(), ManuallyDefined);
-    EXPECT_EQ(session.element->ButtonNotes(), "note");
-    EXPECT_EQ(session.element->LEDTypeLayer2(), PowerLed);
-    EXPECT_EQ(session.element->HardwareNumberKey3(), 12);
-    EXPECT_EQ(session.Get<TextBox>("txtScanCodes").Text(), "");
-  });
-}
-
-TEST(WizardKeyTypePage, DeleteDuringCaptureTurnsTheBoxWhiteAndLeavesCaptureRunning) {
-  WizardSession session(Oval);
-  session.DblClick("txtScanCodes").Click("cmdDeleteKEY");
-  Look(session, [&] {
-    EXPECT_NE(Module().lngKeyboardHook, 0);
-    EXPECT_EQ(session.Get<TextBox>("txtScanCodes").BackColor(), white);
-  });
-}
-
-TEST(WizardKeyTypePage, ForwardAfterDeleteLeavesTheEmptiedElementHandMade) {
-  WizardSession session(Oval);
-  session.element->WizardOptions(WindowsShortCut);
-  session.GiveTexts("[a‹]", "[a›]");
-  session.Click("cmdDeleteKEY").Click("cmdForward").Click("cmdOK");
-  session.Open();
-  EXPECT_EQ(session.Texts(), Names(8, ""));
-  EXPECT_EQ(session.element->WizardOptions(), ManuallyDefined);
 }
 
 }  // namespace plexel

@@ -125,6 +125,24 @@ Form& WizardSession::Top() {
   return *form;
 }
 
+udtTactisBaseElement_ScanCodeInfo WizardSession::FilledRecord() {
+  auto record = Record();
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    PressBuffer(record, layer)->Value.fill(0x1C);
+    PressBuffer(record, layer)->NextValue = 7;
+    ReleaseBuffer(record, layer)->Value.fill(0x2C);
+    ReleaseBuffer(record, layer)->NextValue = 8;
+  }
+  return record;
+}
+
+bool WizardSession::BuffersAreZero() {
+  const auto record = Record();
+  auto zero = record;
+  ZeroAllBuffers(zero);
+  return record == zero;
+}
+
 std::vector<std::string> WizardSession::Texts() const {
   std::vector<std::string> texts;
   for (std::int32_t layer = 1; layer <= LayerCount; ++layer) texts.push_back(element->PressKeyDefLayer(layer));

@@ -59,6 +59,9 @@ class WizardSession {
 
   void Grant(Capability query, std::int32_t answer = 1) { surroundings.Capabilities().Set("*", query, answer); }
   udtTactisBaseElement_ScanCodeInfo Record() { return element->TactisBaseElementScanCodeBuffer(); }
+  /// The record with all eight code buffers filled.
+  udtTactisBaseElement_ScanCodeInfo FilledRecord();
+  bool BuffersAreZero();
   /// The press and release texts of the four layers.
   std::vector<std::string> Texts() const;
   void GiveTexts(const std::string& press, const std::string& release);
