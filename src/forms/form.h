@@ -61,9 +61,8 @@ class Form : public Window {
   /// The control with the focus; null for none. A control that is disabled or hidden keeps its place as the focus but
   /// gets no keys until it can take them again.
   Control* Focus() const { return focus_; }
-  /// Gives the focus to a control, or to the form itself with null; LostFocus and GotFocus are raised from loading to
-  /// unloading, LostFocus first, when the focus has already moved. Failure (InvalidCall) for a control that cannot take
-  /// it.
+  /// Gives the focus to a control, or to the form itself with null. From loading to unloading LostFocus and GotFocus
+  /// are raised, in this order, when the focus has already moved. Failure (InvalidCall) as with Control::SetFocus.
   void Focus(Control* control);
   CommandButton* DefaultButton() const { return defaultButton_; }
   CommandButton* CancelButton() const { return cancelButton_; }

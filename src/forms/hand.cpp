@@ -70,6 +70,7 @@ void Hand::MouseDown(Control& control, std::int16_t button, std::int16_t shift, 
 }
 
 void Hand::Focus(Control& control) {
+  CheckUsable(control);
   DismissMenu();
   form_.Focus(&control);
 }

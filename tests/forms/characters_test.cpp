@@ -1,0 +1,53 @@
+#include "forms/characters.h"
+
+namespace plexel {
+namespace {
+
+TEST(Characters, AreSplitAtTheirOwnLengths) {
+  EXPECT_EQ(characters::Split("aä€𝄞"), (std::vector<std::string_view>{"a", "ä", "€", "𝄞"}));
+}
+
+TEST(Characters, OfABrokenSequenceCountByteByByte) {
+  EXPECT_EQ(characters::Count("\x80"), 1);
+  EXPECT_EQ(characters::Count("\xC3"), 1);
+  EXPECT_EQ(characters::Count("\xE2\x82"), 2);
+  EXPECT_EQ(characters::Count("\xC3z"), 2);
+  EXPECT_EQ(characters::Count("\xC0\x80"), 2);
+  EXPECT_EQ(characters::Count("\xED\xA0\x80"), 3);
+  EXPECT_EQ(characters::Count("\xF4\x90\x80\x80"), 4);
+}
+
+TEST(Characters, OfTheLastPlaneAreWhole) { EXPECT_EQ(characters::Count("\xF4\x8F\xBF\xBF"), 1); }
+
+TEST(Characters, ComeBackFromTheirEncoding) {
+  for (const char32_t character :
+       {U'a', U'\u007F', U'\u0080', U'\u07FF', U'\u0800', U'\uFFFF', U'\U00010000', U'\U0010FFFF'}) {
+    EXPECT_EQ(characters::Decode(characters::Encode(character)), character);
+  }
+}
+
+TEST(Characters, OfEveryCodeHaveThatCode) {
+  for (int code = 0; code <= 0xFF; ++code) {
+    EXPECT_EQ(characters::CodeOf(characters::OfCode(static_cast<std::uint8_t>(code))), code);
+  }
+}
+
+TEST(Characters, OfTheMarksHaveTheCodes139And155) {
+  EXPECT_EQ(characters::CodeOf(U'\u2039'), 139);
+  EXPECT_EQ(characters::CodeOf(U'\u203A'), 155);
+}
+
+TEST(Characters, ThatTheCodePageLacksHaveNoCode) {
+  EXPECT_EQ(characters::CodeOf(U'\u0100'), -1);
+  EXPECT_EQ(characters::CodeOf(U'\u0080'), -1);
+}
+
+TEST(FoldedText, HasNeitherCaseNorAccent) {
+  EXPECT_EQ(characters::Folded("ÄäÉçÑ Zz"), "aaecn zz");
+  EXPECT_EQ(characters::Folded("Straße Æ Þ ÿ"), "strasse ae th y");
+}
+
+TEST(FoldedText, KeepsWhatIsNoLetterOfLatin1) { EXPECT_EQ(characters::Folded("×÷_€1Ω\xFF"), "×÷_€1Ω\xFF"); }
+
+}  // namespace
+}  // namespace plexel

@@ -1,0 +1,111 @@
+#include "test_form.h"
+
+namespace plexel {
+namespace {
+
+struct OrderForm : TestForm {
+  Label labA{*this, "labA"};
+  CommandButton cmdA{*this, "cmdA"};
+  OptionButton opt0{*this, "opt", 0}, opt1{*this, "opt", 1};
+  TextBox txtA{*this, "txtA"};
+  Frame fraA{*this, "fraA"};
+  OptionButton optInside{*this, "optInside"};
+  OrderForm() { optInside.Inside(fraA); }
+  Strings Order() const { return FullNamesOf(TabOrder()); }
+};
+
+TEST(TabOrder, HoldsOneOptionButtonOfEachContainer) {
+  const OrderForm form;
+  EXPECT_EQ(form.Order(), (Strings{"cmdA", "opt(0)", "txtA", "optInside"}));
+}
+
+TEST(TabOrder, HoldsTheOptionButtonThatIsSet) {
+  OrderForm form;
+  form.opt1.Value(true);
+  EXPECT_EQ(form.Order(), (Strings{"cmdA", "opt(1)", "txtA", "optInside"}));
+}
+
+TEST(TabOrder, HoldsTheFirstUsableOptionButtonWhenTheOneThatIsSetIsNot) {
+  OrderForm form;
+  form.opt1.Value(true);
+  form.opt1.Enabled(false);
+  EXPECT_EQ(form.Order(), (Strings{"cmdA", "opt(0)", "txtA", "optInside"}));
+}
+
+TEST(TabOrder, FollowsTheTabIndexThenTheOrderOfMaking) {
+  OrderForm form;
+  form.txtA.TabIndex(0);
+  form.cmdA.TabIndex(0);
+  form.optInside.TabIndex(1);
+  EXPECT_EQ(form.Order(), (Strings{"cmdA", "txtA", "optInside", "opt(0)"}));
+}
+
+TEST(TabOrder, LeavesOutWhatHasNoTabStopOrIsNotUsable) {
+  OrderForm form;
+  form.cmdA.TabStop(false);
+  form.txtA.Visible(false);
+  form.fraA.Enabled(false);
+  EXPECT_EQ(form.Order(), Strings{"opt(0)"});
+}
+
+TEST(TabOrder, LeavesOutPagesBehind) {
+  TestForm form;
+  TabStrip strip(form, "sstA", 2);
+  TextBox front(form, "txtFront"), behind(form, "txtBehind");
+  front.OnPage(strip, 0);
+  behind.OnPage(strip, 1);
+  EXPECT_EQ(FullNamesOf(form.TabOrder()), (Strings{"sstA", "txtFront"}));
+}
+
+TEST(TabNeighbour, WrapsAround) {
+  OrderForm form;
+  form.optInside.SetFocus();
+  EXPECT_EQ(form.TabNeighbour(true), &form.cmdA);
+  form.cmdA.SetFocus();
+  EXPECT_EQ(form.TabNeighbour(false), &form.optInside);
+}
+
+TEST(TabNeighbour, OfTheFormItselfIsTheFirstOrTheLast) {
+  const OrderForm form;
+  EXPECT_EQ(form.TabNeighbour(true), &form.cmdA);
+  EXPECT_EQ(form.TabNeighbour(false), &form.optInside);
+}
+
+TEST(TabNeighbour, OfAnOptionButtonThatIsNotSetIsOutsideItsContainer) {
+  OrderForm form;
+  form.opt1.Value(true);
+  form.opt0.SetFocus();
+  EXPECT_EQ(form.TabNeighbour(true), &form.txtA);
+  EXPECT_EQ(form.TabNeighbour(false), &form.cmdA);
+}
+
+TEST(TabNeighbour, OfAControlWithoutTabStopStartsFromItsOwnPlace) {
+  OrderForm form;
+  form.txtA.TabStop(false);
+  form.txtA.SetFocus();
+  EXPECT_EQ(form.TabNeighbour(true), &form.optInside);
+  EXPECT_EQ(form.TabNeighbour(false), &form.opt0);
+}
+
+TEST(TabNeighbour, OfAControlThatBecameDisabledStartsFromItsOwnPlace) {
+  OrderForm form;
+  form.txtA.SetFocus();
+  form.txtA.Enabled(false);
+  EXPECT_EQ(form.TabNeighbour(true), &form.optInside);
+}
+
+TEST(TabNeighbour, OfTheOnlyControlIsNone) {
+  TestForm form;
+  CommandButton button(form, "cmdA");
+  button.SetFocus();
+  EXPECT_EQ(form.TabNeighbour(true), nullptr);
+  EXPECT_EQ(form.TabNeighbour(false), nullptr);
+}
+
+TEST(TabNeighbour, OfAFormWithoutControlsIsNone) {
+  const TestForm form;
+  EXPECT_EQ(form.TabNeighbour(true), nullptr);
+}
+
+}  // namespace
+}  // namespace plexel
