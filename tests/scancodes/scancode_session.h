@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "element/ctlPlexelBaseElement.h"
@@ -34,7 +35,9 @@ class ScanCodeSession {
     surroundings.Settings().Option(1, True);
     surroundings.Language().Source([] {
       HeadlessLanguage::Texts texts;
-      for (int number = 1; number < 11000; ++number) texts[number] = "text " + std::to_string(number);
+      for (const auto [first, last] : {std::pair{100, 103}, {2000, 2999}, {10400, 10999}}) {
+        for (int number = first; number <= last; ++number) texts[number] = "text " + std::to_string(number);
+      }
       return texts;
     });
     host.Forget();
