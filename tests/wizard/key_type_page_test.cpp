@@ -17,6 +17,18 @@ Names Items(WizardSession& session, const char* combo) { return session.Get<Comb
 
 bool Enabled(WizardSession& session, const char* control) { return session.Get<Control>(control).Enabled(); }
 
+}  // namespace
+
+TEST(WizardKeyTypePage, ATargetSystemWithoutFunctionsLeavesTheListEmptyAndDisabledAndItsOptionDisabled) {
+  WizardSession session(Oval);
+  Look(session, [&] {
+    EXPECT_EQ(Items(session, "cmdSpecialIPCFunction"), Names{});
+    EXPECT_EQ(session.Get<ComboBox>("cmdSpecialIPCFunction").Text(), "");
+    EXPECT_FALSE(Enabled(session, "cmdSpecialIPCFunction"));
+    EXPECT_FALSE(Enabled(session, "optKeyType(2)"));
+  });
+}
+
 TEST(WizardKeyTypePage, TheListHoldsFiveFunctionsInItsOwnOrderAndShowsTheFirst) {
   WizardSession session(Oval);
   for (int query = 0; query < CapabilityCount; ++query) session.Grant(static_cast<Capability>(query));
