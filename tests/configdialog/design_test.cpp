@@ -63,7 +63,7 @@ TEST_F(ConfigurationDialogDesign, ControlsLieInsideTheirContainers) {
     if (control->Kind() == ControlKind::Menu) continue;
     const Control* container = control->Container();
     const float width = container == nullptr ? dialog.ClientWidth() : container->Width();
-    const float header = container != nullptr && container->Kind() == ControlKind::TabStrip ? 330.0F : 0.0F;
+    const float header = container != nullptr && container->Kind() == ControlKind::TabStrip ? 360.0F : 0.0F;
     const float height = container == nullptr ? dialog.ClientHeight() : container->Height() - header;
     EXPECT_GE(control->Left(), 0) << control->FullName();
     EXPECT_GE(control->Top(), 0) << control->FullName();
