@@ -44,6 +44,8 @@ class TextFile {
   TextFile(std::filesystem::path file, std::string content);
 
   const std::filesystem::path& Path() const { return path_; }
+  /// Whether the file began with the byte order mark of UTF-8.
+  bool HasUtf8Mark() const { return start_ != 0; }
   std::string_view Text() const { return std::string_view(content_).substr(start_); }
   LineWalk Lines() const { return LineWalk(Text()); }
   FileError Error(std::size_t line, const std::string& reason) const { return FileError(path_, line, reason); }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "element/property_bag.h"
+
+namespace plexel {
+
+/// The number of a key under which elements store a property, from 0 to BagKeyCount - 1; BagKeyCount for any other key.
+std::size_t BagKeyNumber(std::string_view key);
+/// The key of a number.
+std::string_view BagKey(std::size_t number);
+inline constexpr std::size_t BagKeyCount = 39;
+
+/// A property bag in memory, made for many elements: the keys of the element's properties are kept as numbers, and a
+/// value is found without a search. Other keys are kept as they are.
+class FlatBag : public PropertyBag {
+ public:
+  const BagValue* Find(std::string_view key) const override;
+  void Store(std::string_view key, BagValue value) override;
+
+  /// Stores under the number of a key, or under another key; false when the bag holds that key already.
+  bool StoreNew(std::size_t number, BagValue&& value);
+  bool StoreNew(std::string_view key, BagValue&& value);
+
+  std::size_t Size() const { return known_.size() + other_.size(); }
+  /// Calls `visit(key, value)` for the keys of properties in the order in which they were first stored, then for all
+  /// others.
+  template <typename Visit>
+  void ForEach(Visit&& visit) const {
+    for (const auto& [number, value] : known_) visit(BagKey(number), value);
+    for (const auto& [key, value] : other_) visit(std::string_view(key), value);
+  }
+
+  /// Equal when the same keys were stored with the same values in the same order.
+  bool operator==(const FlatBag& other) const { return known_ == other.known_ && other_ == other.other_; }
+
+ private:
+  std::array<std::uint8_t, BagKeyCount> places_{};  ///< in `known_`, from 1; 0 for a key that is not stored
+  std::vector<std::pair<std::uint8_t, BagValue>> known_;
+  std::vector<std::pair<std::string, BagValue>> other_;
+};
+
+}  // namespace plexel

@@ -1,0 +1,57 @@
+#include "files/project_file.h"
+
+#include "files/project_syntax.h"
+#include "files/system_files.h"
+#include "platform/failure.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::int32_t BufferCount = 8;
+
+const udtTactisBaseElement_TACTIS_SCANCODE& BufferOf(const udtTactisBaseElement_ScanCodeInfo& record,
+                                                     std::int32_t number) {
+  const std::int32_t layer = number / 2 + 1;
+  return number % 2 == 0 ? *PressBuffer(record, layer) : *ReleaseBuffer(record, layer);
+}
+
+udtTactisBaseElement_TACTIS_SCANCODE& BufferOf(udtTactisBaseElement_ScanCodeInfo& record, std::int32_t number) {
+  const std::int32_t layer = number / 2 + 1;
+  return number % 2 == 0 ? *PressBuffer(record, layer) : *ReleaseBuffer(record, layer);
+}
+
+constexpr udtTactisBaseElement_TACTIS_SCANCODE initialCodes = project_syntax::InitialCodes();
+
+}  // namespace
+
+std::vector<SavedCodes> CodesOf(const udtTactisBaseElement_ScanCodeInfo& record) {
+  std::vector<SavedCodes> codes;
+  for (std::int32_t number = 0; number < BufferCount; ++number) {
+    const udtTactisBaseElement_TACTIS_SCANCODE& buffer = BufferOf(record, number);
+    if (buffer != initialCodes) codes.push_back({number, buffer});
+  }
+  return codes;
+}
+
+void PutCodes(const std::vector<SavedCodes>& codes, udtTactisBaseElement_ScanCodeInfo& record) {
+  for (std::int32_t number = 0; number < BufferCount; ++number) BufferOf(record, number) = initialCodes;
+  for (const SavedCodes& saved : codes) {
+    if (saved.buffer >= 0 && saved.buffer < BufferCount) BufferOf(record, saved.buffer) = saved.codes;
+  }
+}
+
+Project ReadProject(const std::filesystem::path& file) { return ParseProject(TextFile(file, ProjectLimit)); }
+
+void WriteProject(const std::filesystem::path& file, const Project& project) {
+  std::string content;
+  try {
+    content = FormatProject(project);
+  } catch (const Failure& failure) {
+    throw FileError(file, 0, std::string("cannot be written: ") + failure.what());
+  }
+  if (content.size() > ProjectLimit) throw FileError(file, 0, "cannot be written: the project is too large");
+  WriteWholeFile(file, content);
+}
+
+}  // namespace plexel

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "files/flat_bag.h"
+#include "files/text_lines.h"
+#include "services/element_types.h"
+
+namespace plexel {
+
+/// One code buffer of an element's record. The buffers are numbered press before release, layer by layer, from 0 to 7.
+struct SavedCodes {
+  std::int32_t buffer = 0;
+  udtTactisBaseElement_TACTIS_SCANCODE codes;
+  bool operator==(const SavedCodes&) const = default;
+};
+
+/// What a project keeps of one element.
+struct ProjectElement {
+  std::string place;              ///< of the panel, unique in the project
+  FlatBag bag;                    ///< as the element wrote it
+  std::vector<SavedCodes> codes;  ///< of the buffers that are not in their initial state
+  bool operator==(const ProjectElement&) const = default;
+};
+
+struct Project {
+  std::string panel;  ///< name of the panel
+  std::vector<ProjectElement> elements;
+  bool operator==(const Project&) const = default;
+};
+
+/// The buffers of a record that are not in the initial state of an element's buffers.
+std::vector<SavedCodes> CodesOf(const udtTactisBaseElement_ScanCodeInfo& record);
+/// Gives the eight buffers of a record the saved codes; those that are not saved get the initial state.
+void PutCodes(const std::vector<SavedCodes>& codes, udtTactisBaseElement_ScanCodeInfo& record);
+
+/// The text of a project in Windows-1252, see docs/formats.md. Failure (Overflow) for a text that makes a line longer
+/// than TextFile::LongestLine, Failure (Index) for a place that stands twice or a buffer that does not exist.
+std::string FormatProject(const Project& project);
+/// Reads it back. FileError with the line for anything that is no whole and proper project.
+Project ParseProject(const TextFile& file);
+
+/// Reads and writes a project file; FileError when that fails, and then nothing has changed.
+Project ReadProject(const std::filesystem::path& file);
+void WriteProject(const std::filesystem::path& file, const Project& project);
+
+/// A larger project is neither read nor written.
+inline constexpr std::size_t ProjectLimit = std::size_t{512} << 20U;
+
+}  // namespace plexel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "services/element_types.h"
+
+namespace plexel::project_syntax {
+
+/// The words of a project file, for its reader and its writer.
+
+inline constexpr std::string_view ProjectSection = "PROJECT";
+inline constexpr std::string_view ElementSection = "ELEMENT ";
+inline constexpr std::string_view EndSection = "END";
+
+inline constexpr std::string_view FormatKey = "Format", MarksKey = "Marks", PanelKey = "Panel", CountKey = "Elements";
+inline constexpr std::string_view FormatVersion = "1";
+/// The make and the break mark in the code page of the file: they tell a file that was converted to another one.
+inline constexpr std::string_view Marks = "\x8B\x9B";
+
+inline constexpr std::string_view Int16 = "int16", Int32 = "int32", UInt8 = "uint8", BooleanType = "boolean",
+                                  Double = "double", Text = "string", Codes = "codes";
+
+inline constexpr std::array<std::string_view, 8> BufferNames = {
+    "strLayer1PressScanCode", "strLayer1ReleaseScanCode", "strLayer2PressScanCode", "strLayer2ReleaseScanCode",
+    "strLayer3PressScanCode", "strLayer3ReleaseScanCode", "strLayer4PressScanCode", "strLayer4ReleaseScanCode"};
+
+/// The state of every buffer of a new element.
+constexpr udtTactisBaseElement_TACTIS_SCANCODE InitialCodes() {
+  udtTactisBaseElement_TACTIS_SCANCODE codes;
+  for (std::size_t index = 0; index < 45; ++index) codes.Value[index] = udtTactisBaseElement_TACTIS_SCANCODE::EndMark;
+  return codes;
+}
+
+}  // namespace plexel::project_syntax

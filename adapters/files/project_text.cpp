@@ -1,0 +1,88 @@
+#include "files/project_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "files/project_syntax.h"
+#include "services/code_page.h"
+
+namespace plexel {
+
+namespace {
+
+bool IsPlain(char c) { return c >= ' ' && c <= '~' && c != '\\'; }
+
+void AppendEscape(std::string& out, char c) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  const auto code = static_cast<unsigned char>(c);
+  const std::array<char, 6> escape = {'\\', 'u', '{', digits[code >> 4U], digits[code & 0xFU], '}'};
+  out.append(escape.data(), escape.size());
+}
+
+/// Appends a text of plain characters and marks, the usual content of a definition; false for any other.
+bool AppendDefinition(std::string& out, std::string_view text) {
+  constexpr std::string_view lead = chrMakeMark.substr(0, 2);
+  static_assert(chrMakeMark.size() == 3 && chrBreakMark.size() == 3 && chrBreakMark.starts_with(lead));
+  const std::size_t start = out.size();
+  while (!text.empty()) {
+    const auto plainEnd = std::find_if_not(text.begin(), text.end(), IsPlain);
+    const auto plain = static_cast<std::size_t>(plainEnd - text.begin());
+    out.append(text.data(), plain);
+    text.remove_prefix(plain);
+    if (text.empty()) return true;
+    const bool make = text.starts_with(chrMakeMark);
+    if (!make && !text.starts_with(chrBreakMark)) {
+      out.resize(start);
+      return false;
+    }
+    out += project_syntax::Marks[make ? 0 : 1];
+    text.remove_prefix(chrMakeMark.size());
+  }
+  return true;
+}
+
+}  // namespace
+
+void AppendProjectText(std::string& out, std::string_view text, std::string_view reserved) {
+  if (text.empty()) return;
+  const bool bordered = text.front() == ' ' || text.back() == ' ';
+  if (!bordered && reserved.empty() && AppendDefinition(out, text)) return;
+  const std::string bytes = ToCodePageEscaped(text);
+  for (std::size_t index = 0; index < bytes.size(); ++index) {
+    const char c = bytes[index];
+    const bool control = (c >= 0 && c < ' ') || c == '\x7F';
+    const bool border = c == ' ' && (index == 0 || index + 1 == bytes.size());
+    if (control || border || reserved.find(c) != std::string_view::npos) {
+      AppendEscape(out, c);
+    } else {
+      out += c;
+    }
+  }
+}
+
+std::string ReadProjectText(std::string_view bytes) {
+  const auto high = [](char c) { return static_cast<signed char>(c) < 0; };
+  const auto first = std::find_if(bytes.begin(), bytes.end(), [&](char c) { return high(c) || c == '\\'; });
+  if (first == bytes.end()) return std::string(bytes);
+  if (std::find(first, bytes.end(), '\\') != bytes.end()) return FromCodePageEscaped(bytes);
+  static const auto characters = [] {
+    std::array<std::string, 128> made;
+    for (std::size_t index = 0; index < made.size(); ++index)
+      made[index] = CharacterOf(static_cast<std::uint8_t>(index + 128));
+    return made;
+  }();
+  std::string text;
+  text.reserve(bytes.size() + 4);
+  while (!bytes.empty()) {
+    const auto plain = static_cast<std::size_t>(std::find_if(bytes.begin(), bytes.end(), high) - bytes.begin());
+    text.append(bytes.data(), plain);
+    bytes.remove_prefix(plain);
+    if (bytes.empty()) break;
+    text += characters[static_cast<std::uint8_t>(bytes.front()) - 128U];
+    bytes.remove_prefix(1);
+  }
+  return text;
+}
+
+}  // namespace plexel

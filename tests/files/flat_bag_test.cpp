@@ -1,0 +1,74 @@
+#include "files/flat_bag.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+namespace plexel {
+namespace {
+
+using testing::ElementsAre;
+
+std::vector<std::string> KeysOf(const FlatBag& bag) {
+  std::vector<std::string> keys;
+  bag.ForEach([&keys](std::string_view key, const BagValue&) { keys.emplace_back(key); });
+  return keys;
+}
+
+TEST(FlatBag, EveryKeyOfAPropertyHasItsOwnNumber) {
+  std::set<std::string_view> keys;
+  for (std::size_t number = 0; number < BagKeyCount; ++number) {
+    EXPECT_EQ(BagKeyNumber(BagKey(number)), number) << BagKey(number);
+    keys.insert(BagKey(number));
+  }
+  EXPECT_EQ(keys.size(), BagKeyCount);
+}
+
+TEST(FlatBag, AnyOtherKeyHasNoNumber) {
+  for (const char* key : {"", "SizeY", "LEDTypeLayer1", "sizeX", "SizeX ", "LedType5"}) {
+    EXPECT_EQ(BagKeyNumber(key), BagKeyCount) << key;
+  }
+}
+
+TEST(FlatBag, WhatWasStoredIsFound) {
+  FlatBag bag;
+  bag.Store("SizeX", std::int16_t{20});
+  bag.Store("Foreign", 1.5);
+  ASSERT_NE(bag.Find("SizeX"), nullptr);
+  EXPECT_EQ(*bag.Find("SizeX"), BagValue(std::int16_t{20}));
+  ASSERT_NE(bag.Find("Foreign"), nullptr);
+  EXPECT_EQ(*bag.Find("Foreign"), BagValue(1.5));
+}
+
+TEST(FlatBag, WhatWasNotStoredIsAbsent) {
+  FlatBag bag;
+  bag.Store("SizeX", std::int16_t{20});
+  EXPECT_EQ(bag.Find("ZoomFactor"), nullptr);
+  EXPECT_EQ(bag.Find("Foreign"), nullptr);
+  EXPECT_EQ(bag.Find(""), nullptr);
+}
+
+TEST(FlatBag, StoringAnewReplacesTheValueAndKeepsThePlace) {
+  FlatBag bag;
+  bag.Store("SizeX", std::int16_t{20});
+  bag.Store("TargetSystem", std::string("a"));
+  bag.Store("SizeX", std::int32_t{21});
+  bag.Store("Foreign", std::uint8_t{1});
+  bag.Store("Foreign", std::uint8_t{2});
+  EXPECT_THAT(KeysOf(bag), ElementsAre("SizeX", "TargetSystem", "Foreign"));
+  EXPECT_EQ(*bag.Find("SizeX"), BagValue(std::int32_t{21}));
+  EXPECT_EQ(*bag.Find("Foreign"), BagValue(std::uint8_t{2}));
+}
+
+TEST(FlatBag, StoringANewKeyRefusesOneThatIsThere) {
+  FlatBag bag;
+  EXPECT_TRUE(bag.StoreNew("SizeX", BagValue(std::int16_t{1})));
+  EXPECT_FALSE(bag.StoreNew(BagKeyNumber("SizeX"), BagValue(std::int16_t{2})));
+  EXPECT_TRUE(bag.StoreNew("Foreign", BagValue(std::int16_t{1})));
+  EXPECT_FALSE(bag.StoreNew("Foreign", BagValue(std::int16_t{2})));
+  EXPECT_EQ(*bag.Find("SizeX"), BagValue(std::int16_t{1}));
+  EXPECT_EQ(bag.Size(), 2U);
+}
+
+}  // namespace
+}  // namespace plexel
