@@ -35,7 +35,7 @@ class ScanCodeSession {
     surroundings.Settings().Option(1, True);
     surroundings.Language().Source([] {
       HeadlessLanguage::Texts texts;
-      for (const auto [first, last] : {std::pair{100, 103}, {2000, 2999}, {10400, 10999}}) {
+      for (const auto& [first, last] : {std::pair{100, 103}, {2000, 2999}, {10400, 10999}}) {
         for (int number = first; number <= last; ++number) texts[number] = "text " + std::to_string(number);
       }
       return texts;
