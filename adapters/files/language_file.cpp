@@ -1,6 +1,7 @@
 #include "files/language_file.h"
 
 #include "files/number_text.h"
+#include "files/text_escapes.h"
 #include "files/text_lines.h"
 
 namespace plexel {
@@ -15,22 +16,6 @@ std::int32_t TextNumber(const TextFile& file, std::size_t line, std::string_view
   return *number;
 }
 
-std::string Unescape(const TextFile& file, std::size_t line, std::string_view text) {
-  std::string result;
-  for (std::size_t index = 0; index < text.size(); ++index) {
-    if (text[index] != '\\') {
-      result += text[index];
-      continue;
-    }
-    const char code = ++index < text.size() ? text[index] : '\0';
-    if (code != 'n' && code != 's' && code != '\\') {
-      throw file.Error(line, "a backslash stands only in \\n, \\s and \\\\");
-    }
-    result += code == 'n' ? '\n' : code == 's' ? ' ' : '\\';
-  }
-  return result;
-}
-
 }  // namespace
 
 LanguageTexts ReadLanguageFile(const std::filesystem::path& path) {
@@ -40,11 +25,10 @@ LanguageTexts ReadLanguageFile(const std::filesystem::path& path) {
   for (std::string_view line; lines.Next(line);) {
     const std::string_view content = TrimBlanks(line);
     if (content.empty() || content.front() == '#') continue;
-    if (!IsUtf8(content)) throw file.Error(lines.Number(), "the line is not UTF-8");
     const std::size_t equals = content.find('=');
     if (equals == std::string_view::npos) throw file.Error(lines.Number(), "a line must be NUMBER=TEXT");
     const std::int32_t number = TextNumber(file, lines.Number(), TrimBlanks(content.substr(0, equals)));
-    std::string text = Unescape(file, lines.Number(), TrimBlanks(content.substr(equals + 1)));
+    std::string text = ReadEscapedText(file, lines.Number(), TrimBlanks(content.substr(equals + 1)));
     if (!texts.emplace(number, std::move(text)).second) {
       throw file.Error(lines.Number(), "the text " + std::to_string(number) + " stands twice");
     }

@@ -1,0 +1,83 @@
+#include "files/help_topics.h"
+
+#include <gmock/gmock.h>
+
+#include <regex>
+
+#include "files/data_directory.h"
+#include "temporary_directory.h"
+
+namespace plexel {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr std::int32_t TopicNumbers[] = {1002, 2000, 2001, 2002, 2003, 2600, 2601, 2602, 2604};
+
+std::string ShippedHelp(const std::string& language) {
+  return DataDirectory().string() + "\\Help\\Plexel" + language + ".chm";
+}
+
+TEST(HelpTopics, AHelpFileStandsForADirectory) {
+  EXPECT_EQ(HelpDirectory("/base\\Help\\PlexelGerman.chm"), "/base/Help/PlexelGerman");
+}
+
+TEST(HelpTopics, AMissingTopicIsNothing) {
+  EXPECT_FALSE(ReadHelpTopic(ShippedHelp("English"), 4711));
+  EXPECT_FALSE(ReadHelpTopic(ShippedHelp("English"), -1));
+  EXPECT_FALSE(ReadHelpTopic("", 2000));
+}
+
+TEST(HelpTopics, AMissingHelpFileHasNoTopics) { EXPECT_THAT(ReadHelpTopics("no\\such.chm"), IsEmpty()); }
+
+TEST(HelpTopics, ATopicThatIsNoTextIsNothing) {
+  const TemporaryDirectory directory;
+  directory.Put("1.html", "<title>\xFF</title>");
+  directory.Put("2.html", std::string_view("a\0b", 3));
+  directory.Put("x.html", "<title>x</title>");
+  EXPECT_THAT(ReadHelpTopics(directory.Path().string() + ".chm"), IsEmpty());
+}
+
+TEST(HelpTopics, ATopicHasItsTitle) {
+  const TemporaryDirectory directory;
+  directory.Put("7.html", "<html><title>About</title>");
+  const auto topic = ReadHelpTopic(directory.Path().string() + ".chm", 7);
+  ASSERT_TRUE(topic);
+  EXPECT_EQ(topic->title, "About");
+  EXPECT_EQ(topic->number, 7);
+}
+
+TEST(HelpTopics, ATopicWithoutATitleIsRead) {
+  const TemporaryDirectory directory;
+  directory.Put("7.html", "<title>open");
+  const auto topic = ReadHelpTopic(directory.Path().string() + ".chm", 7);
+  ASSERT_TRUE(topic);
+  EXPECT_EQ(topic->title, "");
+}
+
+TEST(ShippedHelpTopics, EveryTopicOfTheDialogsIsThereInBothLanguages) {
+  for (const char* language : {"English", "German"}) {
+    for (const std::int32_t number : TopicNumbers) {
+      const auto topic = ReadHelpTopic(ShippedHelp(language), number);
+      ASSERT_TRUE(topic) << language << number;
+      EXPECT_NE(topic->title, "");
+      EXPECT_THAT(topic->html, HasSubstr("<h1>" + topic->title + "</h1>"));
+    }
+    EXPECT_EQ(ReadHelpTopics(ShippedHelp(language)).size(), std::size(TopicNumbers)) << language;
+  }
+}
+
+TEST(ShippedHelpTopics, EveryLinkLeadsToATopic) {
+  const std::regex link("href=\"([0-9]+)\\.html\"");
+  for (const char* language : {"English", "German"}) {
+    for (const HelpTopic& topic : ReadHelpTopics(ShippedHelp(language))) {
+      for (std::sregex_iterator match(topic.html.begin(), topic.html.end(), link), end; match != end; ++match) {
+        EXPECT_TRUE(ReadHelpTopic(ShippedHelp(language), std::stoi((*match)[1]))) << topic.number;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace plexel
