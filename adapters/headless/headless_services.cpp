@@ -13,8 +13,8 @@ struct SavedPosition {
 constexpr std::array<SavedPosition, 5> positionTable = {{{0, "ConfigDialogTop", "1500"},
                                                          {1, "ConfigDialogLeft", "1800"},
                                                          {2, "ConfigDialogMsFlexGridRow0Width", "735"},
-                                                         {3, "ConfigDialogMsFlexGridRow1Width", "3300"},
-                                                         {4, "ConfigDialogMsFlexGridRow2Width", "3300"}}};
+                                                         {3, "ConfigDialogMsFlexGridRow1Width", "3270"},
+                                                         {4, "ConfigDialogMsFlexGridRow2Width", "3270"}}};
 constexpr std::int32_t EntryMissing = 1;
 
 std::string Setting(const std::map<std::int32_t, std::string>& settings, std::int32_t number) {
@@ -30,7 +30,10 @@ void HeadlessLanguage::GetText(std::int32_t number, std::string& text) {
     text = own->second;
     return;
   }
-  if (source_) texts_ = std::exchange(source_, nullptr)();
+  if (source_) {
+    texts_ = source_();
+    source_ = nullptr;
+  }
   const auto found = texts_.find(number);
   text = found == texts_.end() ? std::string() : found->second;
 }

@@ -40,19 +40,23 @@ class LentElement {
   Workbench::Element before_, lent_;
 };
 
+void RequireCount(const std::string& name, const Procedure& procedure, std::size_t given) {
+  if (given >= procedure.least && given <= procedure.most) return;
+  const std::string most = procedure.most == procedure.least ? "" : " to " + std::to_string(procedure.most);
+  throw CommandError(name + " takes " + std::to_string(procedure.least) + most + " arguments");
+}
+
 void CallProcedure(Workbench& bench, Arguments& arguments, Json& answer) {
   static const Table table = AllProcedures();
   const std::string name = arguments.Text();
-  const auto found = table.find(name);
-  if (found == table.end()) throw CommandError("no procedure is named " + Excerpt(name));
-  const Procedure& procedure = *found->second;
-  if (arguments.Left() < procedure.least || arguments.Left() > procedure.most) {
-    const std::string most = procedure.most == procedure.least ? "" : " to " + std::to_string(procedure.most);
-    throw CommandError(name + " takes " + std::to_string(procedure.least) + most + " arguments");
-  }
   std::optional<LentElement> lent;
   if (bench.HasSelected()) lent.emplace(bench.Selected());
-  procedure.run(bench, arguments, answer);
+  if (const auto found = table.find(name); found != table.end()) {
+    RequireCount(name, *found->second, arguments.Left());
+    found->second->run(bench, arguments, answer);
+  } else if (!RunClickProcedure(bench, name, arguments)) {
+    throw CommandError("no procedure is named " + Excerpt(name));
+  }
 }
 
 constexpr std::array<Command, 1> commands = {{{"fn", "NAME ARGS...", 1, 17, CallProcedure}}};

@@ -29,4 +29,8 @@ std::span<const Procedure> ModuleProcedures();
 std::span<const Procedure> CodeProcedures();
 std::span<const Procedure> DialogProcedures();
 
+/// Runs the click procedure of a control, "cmdOK_Click", on the topmost form that has the control, whether the user
+/// could click it or not; a member of a control array takes its index. False for a name that is none.
+bool RunClickProcedure(Workbench& bench, const std::string& name, Arguments& arguments);
+
 }  // namespace plexel

@@ -1,6 +1,6 @@
 #include "cli/reporter.h"
 
-#include <string>
+#include <utility>
 
 namespace plexel {
 
@@ -19,11 +19,34 @@ void Reporter::Fail(const std::string& error) {
   Write(std::move(answer));
 }
 
+void Reporter::Defer(Json fields) { deferred_ = Deferred{line_, std::move(fields), {}}; }
+
+void Reporter::Settle(const std::string& error) {
+  if (!deferred_) return;
+  Deferred kept = std::move(*deferred_);
+  deferred_.reset();
+  const Current current(*this, kept.line);
+  if (error.empty()) {
+    Succeed(std::move(kept.fields));
+  } else {
+    Fail(error);
+  }
+  Put(kept.behind);
+}
+
 void Reporter::Write(Json fields) {
   Json object;
   object["line"] = line_;
   object.update(fields);
   const std::string text = object.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+  if (deferred_) {
+    deferred_->behind += text;
+  } else {
+    Put(text);
+  }
+}
+
+void Reporter::Put(const std::string& text) {
   const bool written = std::fwrite(text.data(), 1, text.size(), output_) == text.size();
   if (std::fflush(output_) != 0 || !written) anyFailed_ = true;
 }

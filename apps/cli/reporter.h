@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <optional>
+#include <string>
 
 #include "cli/json.h"
 
@@ -16,6 +18,11 @@ class Reporter {
   void Report(Json report) { Write(std::move(report)); }
   void Succeed(Json fields);
   void Fail(const std::string& error);
+  /// Keeps the success of the current command back, and all that follows behind it, until Settle tells what became of
+  /// it: a success after all, or the failure of this reason. Without a command kept back Settle does nothing.
+  void Defer(Json fields);
+  void Settle(const std::string& error);
+  bool IsDeferring() const { return deferred_.has_value(); }
   /// Whether any command has failed so far, or an answer could not be written.
   bool AnyFailed() const { return anyFailed_; }
 
@@ -35,11 +42,18 @@ class Reporter {
   };
 
  private:
+  struct Deferred {
+    std::size_t line;
+    Json fields;
+    std::string behind;  ///< what was written since
+  };
   void Write(Json fields);
+  void Put(const std::string& text);
 
   std::FILE* output_;
   std::size_t line_ = 0;
   bool anyFailed_ = false;
+  std::optional<Deferred> deferred_;
 };
 
 }  // namespace plexel

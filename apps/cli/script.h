@@ -16,19 +16,23 @@ class Script {
   void Run();
 
  private:
-  /// The script has ended while something was shown. Unwinds all commands that wait for it; it is no failure of the
-  /// system, so that nothing on the way can clear it.
+  /// The script has ended. Unwinds all commands that wait for something shown; it is no failure of the system, so that
+  /// nothing on the way can clear it.
   struct Ended {
-    std::string shown;
+    std::string reason;  ///< of their failure; empty when nothing is shown
   };
 
-  void RunWhile(const std::function<bool()>& open);
-  void Execute(const ScriptLine& line);
-  Json CarryOut(const ScriptLine& line);
+  using Open = std::function<bool()>;
+  void RunWhile(const Open& open);
+  void Execute(const ScriptLine& line, const Open& open);
+  /// Answers a command that has succeeded; Ended when it was the last one and its form stays open.
+  void Succeed(Json answer, const Open& open);
+  Ended End();
 
   ScriptSource& source_;
   Reporter& reporter_;
   Workbench bench_;
+  int depth_ = 0;  ///< of loops that wait for something shown
 };
 
 }  // namespace plexel
