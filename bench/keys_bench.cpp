@@ -2,6 +2,8 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include "allocations.h"
+#include "files/data_directory.h"
+#include "files/language_file.h"
 #include "headless/key_road.h"
 #include "scancodes/capture.h"
 #include "scancodes/dialog_access.h"
@@ -16,7 +18,7 @@ using namespace plexel;
 struct Key {
   std::int32_t virtualKey, scanCode, extended;
 };
-constexpr Key keys[] = {{0x41, 0x1E, 0}, {0x11, 0x1D, 0}, {0x0D, 0x1C, 1}, {0x27, 0x4D, 1},
+constexpr Key keys[] = {{0x41, 0x1E, 0}, {0x11, 0x1D, 0}, {0x0D, 0x1C, 1}, {0x66, 0x4D, 0},
                         {0x70, 0x3B, 0}, {0x5B, 0x5B, 1}, {0x31, 0x02, 0}, {0x87, 0x76, 0}};
 constexpr std::size_t KeyCount = sizeof keys / sizeof keys[0];
 
@@ -34,6 +36,18 @@ void TranslateOneScanCode(benchmark::State& state) {
   state.counters["allocations"] = static_cast<double>(bench::Allocations() - before);
 }
 BENCHMARK(TranslateOneScanCode);
+
+/// A key of the cursor block, for which the state of four keys is asked through the platform's port.
+void TranslateOneCursorKey(benchmark::State& state) {
+  bench::TheWorld();
+  CodeArray make{}, release{};
+  std::int32_t makeLength = 0, breakLength = 0;
+  for (auto _ : state) {
+    TranslateScanCode(0x4D, 0x27, 1, make, makeLength, release, breakLength);
+    benchmark::DoNotOptimize(make[0]);
+  }
+}
+BENCHMARK(TranslateOneCursorKey);
 
 /// The peer: one look-up from key to symbol and the key's change of state, as a toolkit does for each key event.
 void PeerXkbcommonKeyToSymbol(benchmark::State& state) {
@@ -60,7 +74,8 @@ void LowLevelHookOfOneKey(benchmark::State& state) {
 }
 BENCHMARK(LowLevelHookOfOneKey);
 
-/// Ctrl+a, four events, from the hook to the cell. The cell and its buffer are emptied after each; that time counts too.
+/// Ctrl+a, four events, from the hook to the cell. The cell and its buffer are emptied after each; that time counts
+/// too.
 void OneCombinationFromHookToCell(benchmark::State& state) {
   bench::World& world = bench::TheWorld();
   const auto element = ctlPlexelBaseElement::Create("F1", world.host);
@@ -91,8 +106,14 @@ void OpenAndCloseTheConfigurationDialog(benchmark::State& state) {
   bench::World& world = bench::TheWorld();
   const auto element = ctlPlexelBaseElement::Create("F1", world.host);
   element->ElementType(OvalLed);
-  world.platform.Modal().onRun = [](Form& form) { form.Unload(); };
+  world.surroundings.Language().Source([] { return ReadLanguageFile(DataDirectory() / "languages" / "English.lang"); });
+  std::size_t entries = 0;
+  world.platform.Modal().onRun = [&entries](Form& form) {
+    entries += form.Caption().size();
+    form.Unload();
+  };
   for (auto _ : state) element->OpenConfigurationDialog();
+  if (entries == 0) state.SkipWithError("the dialog did not load");
   Module().ctlCurrentElement.reset();
 }
 BENCHMARK(OpenAndCloseTheConfigurationDialog)->Unit(benchmark::kMicrosecond);

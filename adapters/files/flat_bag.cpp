@@ -79,6 +79,12 @@ bool FlatBag::StoreNew(std::string_view key, BagValue&& value) {
   return true;
 }
 
+void FlatBag::Clear() {
+  places_.fill(0);
+  known_.clear();
+  other_.clear();
+}
+
 void FlatBag::Store(std::string_view key, BagValue value) {
   if (auto* const stored = const_cast<BagValue*>(Find(key))) {
     *stored = std::move(value);

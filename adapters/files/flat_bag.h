@@ -28,6 +28,9 @@ class FlatBag : public PropertyBag {
   bool StoreNew(std::size_t number, BagValue&& value);
   bool StoreNew(std::string_view key, BagValue&& value);
 
+  /// Lets go of every value and keeps the room.
+  void Clear();
+
   std::size_t Size() const { return known_.size() + other_.size(); }
   /// Calls `visit(key, value)` for the keys of properties in the order in which they were first stored, then for all
   /// others.

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
+#include "files/project_file.h"
+
+namespace plexel {
+
+/// Writes the text of a project element by element. Failure (Overflow) for a text that makes a line longer than
+/// TextFile::LongestLine, Failure (Index) for a place that stands twice or a buffer that does not exist.
+class ProjectWriter {
+ public:
+  /// `count` is the number of elements that will be added.
+  ProjectWriter(std::string_view panel, std::size_t count);
+  void Add(const ProjectElement& element);
+  /// The whole text. Failure (Index) when the elements added are not as many as were told.
+  std::string Finish();
+
+ private:
+  void Append(std::string_view text) { out_ += text; }
+  void EndLine();
+  template <typename Number>
+  void AppendNumber(Number number);
+  template <typename Number>
+  void AppendTyped(std::string_view type, Number number);
+  void AppendKey(std::string_view key);
+  void AppendValue(std::int16_t value);
+  void AppendValue(std::int32_t value);
+  void AppendValue(std::uint8_t value);
+  void AppendValue(BagBoolean value);
+  void AppendValue(double value);
+  void AppendValue(const std::string& value);
+  void AppendCodes(const udtTactisBaseElement_TACTIS_SCANCODE& codes);
+
+  std::string out_;
+  std::size_t lineStart_ = 0;
+  std::size_t left_;  ///< elements still to be added
+  std::unordered_set<std::string> places_;
+};
+
+}  // namespace plexel
