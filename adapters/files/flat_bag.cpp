@@ -47,7 +47,10 @@ constexpr std::size_t UsualSize = 24;
 std::size_t BagKeyNumber(std::string_view key) {
   if (key.empty()) return BagKeyCount;
   for (std::size_t slot = FirstSlot(key); slots[slot] != EmptySlot; slot = (slot + 1) % SlotCount) {
-    if (keys[slots[slot]] == key) return slots[slot];
+    const std::string_view candidate = keys[slots[slot]];
+    // The element asks with the very texts of its table.
+    if (candidate.data() == key.data() && candidate.size() == key.size()) return slots[slot];
+    if (candidate == key) return slots[slot];
   }
   return BagKeyCount;
 }
