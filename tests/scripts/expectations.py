@@ -27,8 +27,8 @@ def settle(line):
 
 def answers(plexel, script):
     environment = dict(os.environ, PLEXEL_DATA=str(DATA))
-    run = subprocess.run([plexel, "script", str(script.resolve())], capture_output=True, env=environment, cwd=HERE,
-                         timeout=60)
+    run = subprocess.run([pathlib.Path(plexel).resolve(), "script", script.resolve()], capture_output=True,
+                         env=environment, cwd=HERE, timeout=60)
     lines = [settle(line) for line in run.stdout.decode("utf-8").splitlines()]
     return lines + run.stderr.decode("utf-8").splitlines() + [f"exit status {run.returncode}"]
 

@@ -1,0 +1,110 @@
+#include "cli/script.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <thread>
+
+#include "cli/json.h"
+#include "services/module_state.h"
+
+namespace plexel {
+namespace {
+
+/// Runs scripts inside the test and keeps their answers.
+class ScriptRun : public testing::Test {
+ protected:
+  std::vector<Json> Run(const std::string& script) {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(pipe(ends.data()), 0);
+    std::thread writer([&script, end = ends[1]] {
+      for (std::size_t sent = 0; sent < script.size();) {
+        const ssize_t count = write(end, script.data() + sent, script.size() - sent);
+        if (count <= 0) break;
+        sent += static_cast<std::size_t>(count);
+      }
+      close(end);
+    });
+    char* text = nullptr;
+    std::size_t length = 0;
+    std::FILE* output = open_memstream(&text, &length);
+    {
+      ScriptSource source(ends[0]);
+      Reporter reporter(output);
+      Script(source, reporter).Run();
+      failed = reporter.AnyFailed();
+    }
+    std::fclose(output);
+    writer.join();
+    close(ends[0]);
+    std::vector<Json> answers;
+    std::string_view rest(text, length);
+    while (!rest.empty()) {
+      const std::size_t end = rest.find('\n');
+      answers.push_back(Json::parse(rest.substr(0, end)));
+      rest.remove_prefix(end + 1);
+    }
+    std::free(text);
+    return answers;
+  }
+  bool failed = false;
+};
+
+TEST_F(ScriptRun, EveryCommandIsAnsweredOnce) {
+  const std::vector<Json> answers = Run("element A\nget SizeX\nnothing\n");
+  ASSERT_EQ(answers.size(), 3U);
+  EXPECT_EQ(answers[0].dump(), R"({"line":1,"ok":true})");
+  EXPECT_EQ(answers[1].dump(), R"({"line":2,"ok":true,"value":0})");
+  EXPECT_EQ(answers[2]["ok"], false);
+  EXPECT_TRUE(failed);
+}
+
+TEST_F(ScriptRun, AScriptWithoutFailureSucceeds) {
+  Run("element A\n");
+  EXPECT_FALSE(failed);
+}
+
+TEST_F(ScriptRun, OneScriptLeavesNothingToTheNext) {
+  Run("element A\nset ElementType 2\ncall OpenConfigurationDialog\ndblclick msgScanCodes\n");
+  EXPECT_TRUE(failed);
+  EXPECT_EQ(Module().ctlCurrentElement, nullptr);
+  const std::vector<Json> answers = Run("form\nelement A\nstate\n");
+  EXPECT_EQ(answers[0]["form"], nullptr);
+  EXPECT_EQ(answers[2]["state"]["lngKeyboardHook"], 0);
+  EXPECT_FALSE(failed);
+}
+
+TEST_F(ScriptRun, MoreThanAThousandCommandsRunInsideAForm) {
+  std::string script = "element A\nset ElementType 2\ncall OpenConfigurationDialog\n";
+  for (int i = 0; i < 2500; ++i) script += "cell 1 2\n";
+  const std::vector<Json> answers = Run(script + "close\n");
+  const std::size_t reports = 3;  // shown, unloaded, SendKeyDefinition
+  EXPECT_EQ(answers.size(), 2504U + reports);
+  EXPECT_FALSE(failed);
+}
+
+TEST_F(ScriptRun, AVeryLongLineWorks) {
+  const std::string note(4U << 20U, 'x');
+  const std::vector<Json> answers = Run("element A\nset ButtonNotes \"" + note + "\"\nget ButtonNotes\n");
+  EXPECT_EQ(answers[2]["value"].get<std::string>().size(), note.size());
+}
+
+TEST_F(ScriptRun, DeepJsonIsAFailedCommand) {
+  const std::string deep(200000, '[');
+  const std::vector<Json> answers = Run("element A\nset ButtonNotes " + deep + "\nget SizeX\n");
+  EXPECT_EQ(answers[1]["ok"], false);
+  EXPECT_EQ(answers[2]["ok"], true);
+}
+
+TEST_F(ScriptRun, AnElementDroppedInsideItsDialogLivesToItsEnd) {
+  const std::vector<Json> answers =
+      Run("element A\nset ElementType 2\nelement B\nuse A\ncall OpenConfigurationDialog\ndrop A\nuse B\n"
+          "set ShowDefined -1\nclose\nform\n");
+  EXPECT_EQ(answers.back()["form"], nullptr);
+  EXPECT_EQ(answers.back()["ok"], true);
+}
+
+}  // namespace
+}  // namespace plexel

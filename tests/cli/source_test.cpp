@@ -1,0 +1,119 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <utility>
+#include <vector>
+
+#include "cli/script_source.h"
+
+namespace plexel {
+namespace {
+
+/// A pipe of which the source reads one end.
+class Source : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_EQ(pipe(ends.data()), 0); }
+  void TearDown() override {
+    Close();
+    close(ends[0]);
+  }
+  void Write(const std::string& text) {
+    ASSERT_EQ(write(ends[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
+  }
+  void Close() {
+    if (ends[1] >= 0) close(std::exchange(ends[1], -1));
+  }
+  std::vector<std::pair<std::size_t, std::string>> All() {
+    Close();
+    ScriptSource source(ends[0]);
+    std::vector<std::pair<std::size_t, std::string>> lines;
+    for (ScriptLine line; source.Next(line);) lines.emplace_back(line.number, line.text);
+    return lines;
+  }
+  std::array<int, 2> ends{-1, -1};
+};
+
+using Lines = std::vector<std::pair<std::size_t, std::string>>;
+
+TEST_F(Source, LinesKeepTheirNumbers) {
+  Write("a\n\n  # comment\nb\n");
+  EXPECT_EQ(All(), (Lines{{1, "a"}, {4, "b"}}));
+}
+
+TEST_F(Source, TheLastLineNeedsNoEnd) {
+  Write("a\nb");
+  EXPECT_EQ(All(), (Lines{{1, "a"}, {2, "b"}}));
+}
+
+TEST_F(Source, CarriageReturnsAtLineEndsDoNotCount) {
+  Write("a\r\n\r\nb\rc\r\n");
+  EXPECT_EQ(All(), (Lines{{1, "a"}, {3, "b\rc"}}));
+}
+
+TEST_F(Source, AByteOrderMarkDoesNotCount) {
+  Write("\xEF\xBB\xBF# comment\na\n");
+  EXPECT_EQ(All(), (Lines{{2, "a"}}));
+}
+
+TEST_F(Source, AnEmptyScriptHasNoCommand) { EXPECT_TRUE(All().empty()); }
+
+TEST_F(Source, AScriptOfAMarkAloneHasNoCommand) {
+  Write("\xEF\xBB\xBF");
+  EXPECT_TRUE(All().empty());
+}
+
+TEST_F(Source, AByteOrderMarkMayComeInPieces) {
+  ScriptSource source(ends[0]);
+  ScriptLine line;
+  Write("\xEF\xBB");
+  EXPECT_FALSE(source.AtEnd());
+  Write(
+      "\xBF"
+      "a\n");
+  ASSERT_TRUE(source.Next(line));
+  EXPECT_EQ(line.text, "a");
+}
+
+TEST_F(Source, BehindTheLastCommandIsTheEnd) {
+  Write("a\n# comment\n\n");
+  Close();
+  ScriptSource source(ends[0]);
+  ScriptLine line;
+  EXPECT_FALSE(source.AtEnd());
+  source.Next(line);
+  EXPECT_TRUE(source.AtEnd());
+  EXPECT_FALSE(source.Next(line));
+}
+
+TEST_F(Source, LookingAheadLosesNothing) {
+  Write("a\n\nb\n");
+  ScriptSource source(ends[0]);
+  ScriptLine line;
+  source.Next(line);
+  EXPECT_FALSE(source.AtEnd());
+  EXPECT_FALSE(source.AtEnd());
+  ASSERT_TRUE(source.Next(line));
+  EXPECT_EQ(line.number, 3U);
+  EXPECT_EQ(line.text, "b");
+}
+
+TEST_F(Source, AnOpenPipeIsNotWaitedFor) {
+  Write("a\n");
+  ScriptSource source(ends[0]);
+  ScriptLine line;
+  source.Next(line);
+  const auto before = std::chrono::steady_clock::now();
+  EXPECT_FALSE(source.AtEnd());
+  EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(5));
+}
+
+TEST_F(Source, AReadThatFailsIsTold) {
+  ScriptSource source(-1);
+  ScriptLine line;
+  EXPECT_THROW(source.Next(line), std::system_error);
+}
+
+}  // namespace
+}  // namespace plexel
