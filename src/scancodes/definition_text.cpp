@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "scancodes/code_buffer.h"
 #include "scancodes/dialog_access.h"
 #include "services/code_page.h"

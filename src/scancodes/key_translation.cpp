@@ -17,8 +17,8 @@ namespace variant = scan_code_table::variant;
 constexpr std::int32_t virtualKeyShift = 0x10, virtualKeyControl = 0x11, virtualKeyMenu = 0x12, virtualKeyDivide = 0x6F,
                        virtualKeyNumLock = 0x90;
 
-Boolean IsPhysicallyDown(std::int32_t virtualKey) {
-  return ToBoolean((Platform::Current().Keys().Asynchronous(virtualKey) & 0x8000) != 0);
+Boolean IsPhysicallyDown(KeyState& keys, std::int32_t virtualKey) {
+  return ToBoolean((keys.Asynchronous(virtualKey) & 0x8000) != 0);
 }
 
 std::size_t SelectVariant(const Row& row, std::int32_t virtualKey, std::int32_t extended) {
@@ -60,10 +60,11 @@ void Write(const Sequence& sequence, CodeArray& codes, std::int32_t& length) {
 void SampleModifierKeys() {
   EndQuietly([] {
     ModuleState& state = Module();
-    state.bShiftDown = IsPhysicallyDown(virtualKeyShift);
-    state.bNumLockDown = IsPhysicallyDown(virtualKeyNumLock);
-    state.bAltDown = IsPhysicallyDown(virtualKeyMenu);
-    state.bCtrlDown = IsPhysicallyDown(virtualKeyControl);
+    KeyState& keys = Platform::Current().Keys();
+    state.bShiftDown = IsPhysicallyDown(keys, virtualKeyShift);
+    state.bNumLockDown = IsPhysicallyDown(keys, virtualKeyNumLock);
+    state.bAltDown = IsPhysicallyDown(keys, virtualKeyMenu);
+    state.bCtrlDown = IsPhysicallyDown(keys, virtualKeyControl);
   });
 }
 

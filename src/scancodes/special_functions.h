@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
 
 #include "element/ctlPlexelBaseElement.h"
@@ -10,8 +9,6 @@
 #include "services/surroundings.h"
 
 namespace plexel {
-
-class ComboBox;
 
 /// A function of the panel itself that a key can call.
 struct SpecialFunction {
