@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+namespace plexel {
+
+class FormView;
+class Keyboard;
+
+/// What the views of open forms share.
+class FormDesk {
+ public:
+  virtual ~FormDesk() = default;
+  virtual Keyboard& Keys() = 0;
+  /// Makes every open form show what its model says, now and once more when the events at hand are done.
+  virtual void SyncAll() = 0;
+  /// The window of a form has got, or lost, the keys of the desktop.
+  virtual void Activated(FormView& view) = 0;
+  virtual void Deactivated(FormView& view) = 0;
+  /// Tells the user, and the log, of a failure that came out of one of his acts.
+  virtual void Report(const std::string& what) = 0;
+};
+
+}  // namespace plexel

@@ -1,0 +1,222 @@
+#include "qt/form_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+
+#include "platform/failure.h"
+#include "qt/fonts.h"
+#include "qt/input_events.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+namespace {
+
+/// A dialog whose close box and Escape key are the form's.
+class FormWindow : public QDialog {
+ public:
+  FormWindow(QWidget* owner, std::function<void()> closing) : QDialog(owner), closing_(std::move(closing)) {}
+
+  void reject() override {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    closing_();
+  }
+
+ private:
+  std::function<void()> closing_;
+};
+
+}  // namespace
+
+FormView::FormView(Form& form, QWidget* owner, FormDesk& desk) : form_(form), desk_(desk) {
+  window_ = std::make_unique<FormWindow>(owner, [this] { CarryOnForm([](Hand& hand) { hand.Close(); }); });
+  window_->setFont(DialogFont());
+  window_->setWindowModality(Qt::ApplicationModal);
+  window_->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  window_->setObjectName(ToQt(form.Name()));
+  window_->installEventFilter(this);
+  MakeViews();
+}
+
+FormView::~FormView() {
+  window_->removeEventFilter(this);
+  for (const auto& [widget, view] : byWidget_) const_cast<QObject*>(widget)->removeEventFilter(this);
+}
+
+void FormView::MakeViews() {
+  for (Control* control : form_.Controls()) MakeViewOf(*control);
+}
+
+void FormView::MakeViewOf(Control& control) {
+  if (viewOf_.contains(&control)) return;
+  Control* const container = control.Container();
+  if (container != nullptr) MakeViewOf(*container);
+  ControlView* const around = ViewOf(container);
+  QWidget& parent = around != nullptr ? around->Inner(control.Page()) : *window_;
+  std::unique_ptr<ControlView> view = MakeControlView(control, parent, *this);
+  if (!view) return;
+  viewOf_[&control] = view.get();
+  for (QWidget* widget : {&view->Outer(), &view->FocusWidget(), &view->MouseWidget()}) {
+    if (byWidget_.emplace(widget, view.get()).second) widget->installEventFilter(this);
+  }
+  views_.push_back(std::move(view));
+}
+
+ControlView* FormView::ViewOf(const Control* control) const {
+  const auto found = viewOf_.find(control);
+  return found == viewOf_.end() ? nullptr : found->second;
+}
+
+void FormView::Show() {
+  Sync();
+  window_->show();
+  window_->activateWindow();
+}
+
+void FormView::Hide() {
+  if (menu_) menu_->close();
+  window_->hide();
+}
+
+void FormView::Sync() {
+  for (const std::unique_ptr<ControlView>& view : views_) view->Sync();
+  SyncWindow();
+  SyncFocus();
+  SyncMenu();
+}
+
+void FormView::SyncWindow() {
+  const QString caption = ToQt(form_.Caption());
+  if (window_->windowTitle() != caption) window_->setWindowTitle(caption);
+  const QSize client(ToPixels(form_.ClientWidth()), ToPixels(form_.ClientHeight()));
+  if (window_->size() != client || window_->minimumSize() != client) window_->setFixedSize(client);
+  const QPoint place(ToPixels(form_.Left()), ToPixels(form_.Top()));
+  if (place == placed_ && window_->testAttribute(Qt::WA_Moved)) return;
+  placed_ = place;
+  window_->move(place);
+}
+
+void FormView::SyncFocus() {
+  const ControlView* const view = ViewOf(form_.Focus());
+  QWidget& wanted = view != nullptr ? view->FocusWidget() : *window_;
+  if (window_->focusWidget() != &wanted) wanted.setFocus(Qt::OtherFocusReason);
+}
+
+void FormView::SyncMenu() {
+  if (form_.OpenPopup() == nullptr && menu_) menu_->close();
+}
+
+void FormView::OpenMenu(MenuItem& menu, bool placed, float x, float y) {
+  auto* const shown = new QMenu(window_.get());
+  shown->setAttribute(Qt::WA_DeleteOnClose);
+  for (MenuItem* entry : menu.Entries()) {
+    if (!entry->Visible()) continue;
+    if (entry->Separator()) {
+      shown->addSeparator();
+      continue;
+    }
+    QAction* const action = shown->addAction(ToQt(entry->Caption()).replace('&', "&&"));
+    action->setEnabled(entry->Enabled());
+    connect(action, &QAction::triggered, this,
+            [this, entry] { CarryOnForm([entry](Hand& hand) { hand.Menu(*entry); }); });
+  }
+  // The choice, if there is one, comes behind the hiding.
+  connect(shown, &QMenu::aboutToHide, this, [this] {
+    QMetaObject::invokeMethod(
+        this,
+        [this, hidden = menu_] {
+          if (hidden == menu_ || !menu_) CarryOnForm([](Hand& hand) { hand.DismissMenu(); });
+        },
+        Qt::QueuedConnection);
+  });
+  menu_ = shown;
+  shown->popup(placed ? window_->mapToGlobal(QPoint(ToPixels(x), ToPixels(y))) : QCursor::pos());
+}
+
+void FormView::Guarded(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const std::exception& failure) {
+    desk_.Report(failure.what());
+  }
+  desk_.SyncAll();
+}
+
+void FormView::Carry(const Control& control, const Act& act) {
+  if (control.Usable()) CarryOnForm(act);
+}
+
+void FormView::CarryOnForm(const Act& act) {
+  if (!form_.IsShown()) return;
+  Guarded([&] {
+    Hand hand(form_);
+    act(hand);
+  });
+}
+
+bool FormView::eventFilter(QObject* receiver, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      event->accept();
+      return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      return KeyArrives(receiver, static_cast<QKeyEvent&>(*event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick: {
+      const auto view = byWidget_.find(receiver);
+      return view != byWidget_.end() && MouseArrives(*view->second, static_cast<QMouseEvent&>(*event));
+    }
+    case QEvent::Move:
+      if (receiver == window_.get()) WindowMoved();
+      return false;
+    case QEvent::WindowActivate:
+      if (receiver == window_.get()) desk_.Activated(*this);
+      return false;
+    case QEvent::WindowDeactivate:
+      if (receiver == window_.get()) desk_.Deactivated(*this);
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool FormView::MouseArrives(ControlView& view, QMouseEvent& event) {
+  if (view.TakesMouseItself()) return false;
+  Control& control = view.Model();
+  const auto x = ToTwips(event.position().x()), y = ToTwips(event.position().y());
+  const std::int16_t button = ButtonOf(event.button()), shift = ShiftOf(event.modifiers());
+  if (event.type() == QEvent::MouseButtonRelease) {
+    const bool clicked = pressed_ == &control && view.MouseWidget().rect().contains(event.position().toPoint());
+    pressed_ = nullptr;
+    if (clicked && event.button() == Qt::LeftButton && !view.ClicksItself()) {
+      Carry(control, [&](Hand& hand) { hand.Click(control); });
+    }
+    return false;
+  }
+  if (event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton && control.OnDblClick) {
+    Carry(control, [&](Hand& hand) { hand.DblClick(control); });
+    return true;
+  }
+  pressed_ = &control;
+  Carry(control, [&](Hand& hand) { hand.MouseDown(control, button, shift, x, y); });
+  return false;
+}
+
+void FormView::WindowMoved() {
+  const QPoint place = window_->pos();
+  if (!window_->isVisible() || place == placed_) return;
+  placed_ = place;
+  CarryOnForm([place](Hand& hand) { hand.Move(ToTwips(place.x()), ToTwips(place.y())); });
+}
+
+}  // namespace plexel

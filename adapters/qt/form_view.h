@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QMenu>
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/keyboard.h"
+#include "qt/control_view.h"
+#include "qt/form_desk.h"
+
+class QDialog;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace plexel {
+
+/// Shows a form as a dialog of the desktop. It draws what the model says and hands over what the user did; keys do not
+/// reach the widgets but for the editing that the model leaves to a text box.
+class FormView : public QObject, public UserActs {
+ public:
+  /// `owner` is the widget over which the dialog opens, null for none.
+  FormView(Form& form, QWidget* owner, FormDesk& desk);
+  ~FormView() override;
+
+  void Show();
+  void Hide();
+  void Sync();
+  /// Opens a popup menu: at the mouse, or at a place of the client area in twips when `placed`.
+  void OpenMenu(MenuItem& menu, bool placed, float x, float y);
+
+  Form& Model() const { return form_; }
+  QDialog& Window() const { return *window_; }
+  ControlView* ViewOf(const Control* control) const;
+
+  void Carry(const Control& control, const Act& act) override;
+  /// The form's part of the road of a key. `character` is what the key types, 0 for nothing.
+  void TakeKey(const KeyEvent& event, char32_t character);
+
+  bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  /// An act that is not on one control.
+  void CarryOnForm(const Act& act);
+  void Guarded(const std::function<void()>& act);
+  void MakeViews();
+  void MakeViewOf(Control& control);
+  void SyncWindow();
+  void SyncFocus();
+  void SyncMenu();
+  bool KeyArrives(QObject* receiver, QKeyEvent& event);
+  bool MouseArrives(ControlView& view, QMouseEvent& event);
+  void WindowMoved();
+  void ShowHelp();
+
+  Form& form_;
+  FormDesk& desk_;
+  std::unique_ptr<QDialog> window_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  std::unordered_map<const Control*, ControlView*> viewOf_;
+  std::unordered_map<const QObject*, ControlView*> byWidget_;
+  QPointer<QMenu> menu_;
+  const Control* pressed_ = nullptr;
+  bool leftToEditor_ = false;  ///< the key at hand is the text box's own to carry out
+  QPoint placed_;
+};
+
+}  // namespace plexel

@@ -1,0 +1,108 @@
+#include "qt/qt_modal_loop.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include "platform/failure.h"
+#include "qt/form_view.h"
+#include "qt/keyboard.h"
+
+namespace plexel {
+
+QtModalLoop::QtModalLoop(Keyboard& keys) : keys_(keys) {}
+
+QtModalLoop::~QtModalLoop() = default;
+
+void QtModalLoop::Prepare(Form&) {
+  if (QCoreApplication::closingDown()) throw Failure(FailureKind::Platform, "the program is ending");
+}
+
+void QtModalLoop::Run(Form& form, Window* owner) {
+  QEventLoop loop;
+  open_.push_back({std::make_unique<FormView>(form, WidgetOf(owner), *this), &loop});
+  open_.back().view->Show();
+  if (form.IsShown()) loop.exec();
+  const std::unique_ptr<FormView> view = std::move(open_.back().view);
+  open_.pop_back();
+  if (form.IsShown()) form.Unload(UnloadMode::CloseBox);
+}
+
+void QtModalLoop::Closed(Form& form) {
+  for (const Open& one : open_) {
+    if (&one.view->Model() != &form) continue;
+    one.view->Hide();
+    one.loop->quit();
+  }
+}
+
+void QtModalLoop::Popup(Form& form, MenuItem& menu, bool placed, float x, float y) {
+  FormView* const view = ViewOf(form);
+  if (view == nullptr) throw Failure(FailureKind::InvalidCall, form.Name() + " is not shown");
+  view->OpenMenu(menu, placed, x, y);
+}
+
+FormView* QtModalLoop::ViewOf(const Form& form) const {
+  for (const Open& one : open_) {
+    if (&one.view->Model() == &form) return one.view.get();
+  }
+  return nullptr;
+}
+
+QWidget* QtModalLoop::WidgetOf(const Window* window) const {
+  for (const Open& one : open_) {
+    if (static_cast<const Window*>(&one.view->Model()) == window) return &one.view->Window();
+  }
+  for (const auto& [known, widget] : hostWindows_) {
+    if (known == window) return widget;
+  }
+  return nullptr;
+}
+
+FormView* QtModalLoop::Topmost() const { return open_.empty() ? nullptr : open_.back().view.get(); }
+
+FormView* QtModalLoop::ActiveView() const {
+  FormView* const top = Topmost();
+  if (top == nullptr || QApplication::activePopupWidget() != nullptr) return nullptr;
+  return QApplication::activeWindow() == &top->Window() ? top : nullptr;
+}
+
+void QtModalLoop::SyncViews() {
+  if (syncing_) return;
+  const QScopedValueRollback<bool> guard(syncing_, true);
+  for (std::size_t place = 0; place < open_.size(); ++place) {
+    if (open_[place].view->Model().IsShown()) open_[place].view->Sync();
+  }
+}
+
+void QtModalLoop::SyncAll() {
+  SyncViews();
+  if (syncPlanned_) return;
+  syncPlanned_ = true;
+  QTimer::singleShot(0, &timerContext_, [this] {
+    syncPlanned_ = false;
+    SyncViews();
+  });
+}
+
+void QtModalLoop::Activated(FormView& view) {
+  if (watcher_ != nullptr) {
+    watcher_->FormActivated(view);
+  } else {
+    keys_.ReleaseLost({}, [&view](const KeyEvent& event, bool) { view.TakeKey(event, 0); });
+  }
+}
+
+void QtModalLoop::Deactivated(FormView& view) {
+  if (watcher_ != nullptr) watcher_->FormDeactivated(view);
+}
+
+void QtModalLoop::Report(const std::string& what) {
+  qWarning("%s", what.c_str());
+  if (!onFailure || reporting_) return;
+  const QScopedValueRollback<bool> guard(reporting_, true);
+  onFailure(what);
+}
+
+}  // namespace plexel

@@ -1,0 +1,163 @@
+#include "qt/x11_capture.h"
+
+#include <QtGui/qguiapplication_platform.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+
+#include "headless/key_road.h"
+#include "platform/failure.h"
+#include "qt/form_view.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::uint8_t FirstKeycode = 8;
+constexpr std::uint8_t SyntheticBit = 0x80;
+/// An automatic repeat is a release and a press of one time; the press comes at once.
+constexpr int RepeatGapMilliseconds = 5;
+
+std::uint32_t GroupOf(std::uint16_t state) { return (state >> 13U) & 3U; }
+
+/// Whether the event has to do with the mouse's buttons, which the X input extension reports in an event of its own.
+bool IsButtonEvent(const xcb_generic_event_t& event) {
+  constexpr std::uint16_t ExtensionButtonPress = 4, ExtensionButtonRelease = 5;
+  switch (event.response_type & ~SyntheticBit) {
+    case XCB_BUTTON_PRESS:
+    case XCB_BUTTON_RELEASE:
+      return true;
+    case XCB_GE_GENERIC: {
+      const auto type = reinterpret_cast<const xcb_ge_generic_event_t&>(event).event_type;
+      return type == ExtensionButtonPress || type == ExtensionButtonRelease;
+    }
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<X11Capture> X11Capture::OnThisDesktop(HookTable& hooks, Keyboard& keys, QtModalLoop& forms) {
+  const auto* desktop = qApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (desktop == nullptr || desktop->connection() == nullptr) return nullptr;
+  return std::unique_ptr<X11Capture>(new X11Capture(desktop->connection(), hooks, keys, forms));
+}
+
+X11Capture::X11Capture(xcb_connection_t* connection, HookTable& hooks, Keyboard& keys, QtModalLoop& forms)
+    : hooks_(hooks), keys_(keys), forms_(forms), server_(connection) {
+  releaseTimer_.setSingleShot(true);
+  releaseTimer_.setInterval(RepeatGapMilliseconds);
+  busyTimer_.setSingleShot(true);
+  busyTimer_.setInterval(0);
+  connect(&releaseTimer_, &QTimer::timeout, this, [this] { SendHeldRelease(); });
+  hooks_.onChange = [this](HookKind kind, bool) {
+    if (kind == HookKind::LowLevelKeyboard) UpdateGrab();
+  };
+  ReadLayout();
+  qApp->installNativeEventFilter(this);
+  qApp->installEventFilter(this);
+}
+
+X11Capture::~X11Capture() {
+  hooks_.onChange = nullptr;
+  qApp->removeNativeEventFilter(this);
+}
+
+bool X11Capture::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
+  if (eventType != "xcb_generic_event_t") return false;
+  const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+  const int type = event.response_type & ~SyntheticBit;
+  if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
+    return KeyArrives(reinterpret_cast<const xcb_key_press_event_t&>(event), type == XCB_KEY_PRESS);
+  }
+  if (IsButtonEvent(event)) {
+    SendHeldRelease();
+    ToolkitIsBusy();
+  }
+  if (type == XCB_MAPPING_NOTIFY) ReadLayout();
+  return false;
+}
+
+bool X11Capture::KeyArrives(const xcb_key_press_event_t& event, bool down) {
+  const RawKey key{event.detail - FirstKeycode, down, event.time};
+  const bool repeats =
+      down && heldRelease_ && heldRelease_->key.evdev == key.evdev && heldRelease_->key.time == key.time;
+  if (repeats) {
+    heldRelease_.reset();
+    releaseTimer_.stop();
+  }
+  SendHeldRelease();
+  if (GroupOf(event.state) != group_) {
+    group_ = GroupOf(event.state);
+    ReadLayout();
+  }
+  if (forms_.ActiveView() == nullptr) return false;
+  if (!keys_.Captures() || busyTimer_.isActive()) {
+    ToolkitIsBusy();
+    return false;
+  }
+  if (down) {
+    Send(key, event.state);
+  } else {
+    heldRelease_ = {key, event.state};
+    releaseTimer_.start();
+  }
+  return true;
+}
+
+void X11Capture::Send(const RawKey& key, std::uint16_t state) {
+  FormView* const view = forms_.Topmost();
+  if (view == nullptr) return;
+  keys_.Feed(key, ServerKeyboard::NumLockOn(state), [this, view](const KeyEvent& event, bool leads) {
+    if (!leads) return view->TakeKey(event, 0);
+    char16_t plain = 0;
+    keys_.Layout().ToUnicode(event.virtualKey, event.scanCode, &plain, 1, keys_.Layout().Current());
+    view->TakeKey(event, TypedCharacter(event.virtualKey, keys_.ShiftState(), plain));
+  });
+}
+
+void X11Capture::SendHeldRelease() {
+  releaseTimer_.stop();
+  if (!heldRelease_) return;
+  const HeldRelease held = *heldRelease_;
+  heldRelease_.reset();
+  Send(held.key, held.state);
+}
+
+void X11Capture::ToolkitIsBusy() { busyTimer_.start(); }
+
+void X11Capture::ReadLayout() {
+  try {
+    keys_.Layout(server_.ReadLayout());
+  } catch (const Failure& failure) {
+    qWarning("%s", failure.what());
+  }
+}
+
+void X11Capture::FormActivated(FormView& view) {
+  keys_.ReleaseLost(server_.ReadKeys(), [&view](const KeyEvent& event, bool) { view.TakeKey(event, 0); });
+  UpdateGrab();
+}
+
+void X11Capture::FormDeactivated(FormView&) { server_.Ungrab(); }
+
+bool X11Capture::eventFilter(QObject*, QEvent* event) {
+  // A popup takes the keyboard for itself and drops the grab when it closes.
+  if (event->type() == QEvent::Hide && hooks_.Installed(HookKind::LowLevelKeyboard)) {
+    QMetaObject::invokeMethod(
+        this, [this] { UpdateGrab(); }, Qt::QueuedConnection);
+  }
+  return false;
+}
+
+void X11Capture::UpdateGrab() {
+  FormView* const view = forms_.ActiveView();
+  if (view == nullptr || !hooks_.Installed(HookKind::LowLevelKeyboard)) return server_.Ungrab();
+  if (!server_.Grab(static_cast<xcb_window_t>(view->Window().winId()))) {
+    qWarning("the keyboard cannot be taken from the desktop: another program holds it");
+  }
+}
+
+}  // namespace plexel
