@@ -1,0 +1,51 @@
+#include "editor/help_window.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileInfo>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "editor/texts.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+namespace {
+
+QString TopicFile(std::string_view helpFile, std::int32_t topic) {
+  const QString file = ToQt(helpFile).replace('\\', '/');
+  return file.section('.', 0, -2) + '/' + QString::number(topic) + ".html";
+}
+
+}  // namespace
+
+HelpWindow::~HelpWindow() { delete window_; }
+
+void HelpWindow::Show(std::intptr_t, std::string_view helpFile, std::int32_t command, std::int32_t topic) {
+  const QString file = TopicFile(helpFile, topic);
+  if (command != HelpContext) return;
+  if (!QFileInfo::exists(file)) return qWarning("%s: there is no such help topic", qUtf8Printable(file));
+  // A window that belongs to the open dialog stays usable while that is modal.
+  QWidget* const owner =
+      QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : QApplication::activeWindow();
+  if (window_ && window_->parentWidget() != owner) delete window_;
+  if (!window_) {
+    window_ = new QDialog(owner);
+    window_->setAttribute(Qt::WA_DeleteOnClose);
+    window_->resize(560, 480);
+    auto* layout = new QVBoxLayout(window_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* browser = new QTextBrowser;
+    browser->setFrameShape(QFrame::NoFrame);
+    browser->document()->setDocumentMargin(16);
+    layout->addWidget(browser);
+  }
+  window_->setWindowTitle(Say(Text::HelpTitle));
+  window_->findChild<QTextBrowser*>()->setSource(QUrl::fromLocalFile(file));
+  window_->show();
+  window_->activateWindow();
+}
+
+}  // namespace plexel

@@ -1,0 +1,77 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QMessageBox>
+#include <iostream>
+
+#include "component/component.h"
+#include "editor/log_panel.h"
+#include "editor/main_window.h"
+#include "editor/version.h"
+#include "files/data_directory.h"
+#include "forms/form_directory.h"
+#include "qt/fonts.h"
+#include "qt/pictures.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr QSize IconSize(64, 64);
+
+/// Tells what could not be read of the user's own files.
+void TellProblems(const FileSurroundings& surroundings, const FileRegistry& registry, const FileSettings& settings,
+                  QWidget* parent) {
+  QStringList problems;
+  for (const FileError& problem : settings.Problems()) problems.append(ToQt(std::string_view(problem.what())));
+  if (registry.Problem()) problems.append(ToQt(std::string_view(registry.Problem()->what())));
+  if (surroundings.LanguageProblem()) problems.append(ToQt(std::string_view(surroundings.LanguageProblem()->what())));
+  if (problems.isEmpty()) return;
+  for (const QString& problem : problems) qWarning("%s", qUtf8Printable(problem));
+  QMessageBox::warning(parent, "Plexel", Say(Text::FilesDamaged) + "\n\n" + problems.join('\n'));
+}
+
+int Run(const QStringList& arguments) {
+  FileSurroundings surroundings(DataDirectory(), ConfigurationDirectory());
+  const Surroundings::Use useSurroundings(surroundings);
+  HelpWindow help;
+  QtPlatform platform(surroundings.UserRegistry(), help);
+  const Platform::Use usePlatform(platform);
+  RegisterForms(FormDirectory::Instance());
+
+  MainWindow window(surroundings, platform, help);
+  window.show();
+  TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
+  const bool opened = !arguments.isEmpty() && window.OpenProject(arguments.front().toStdString());
+  if (!opened && !window.StartEmpty()) return 1;
+  return QApplication::exec();
+}
+
+}  // namespace
+
+}  // namespace plexel
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Plexel");
+  QApplication::setApplicationVersion(plexel::ProgramVersion);
+  QApplication::setFont(plexel::DialogFont());
+  QApplication::setWindowIcon(plexel::PicturePixmap("plexel", plexel::IconSize, 2));
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Configures the keys and LEDs of operator panels.");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("project", "The project file to open.", "[PROJECT]");
+  parser.process(application);
+  if (parser.positionalArguments().size() > 1) {
+    std::cerr << "plexel-editor: one project at most\n";
+    return 2;
+  }
+  try {
+    return plexel::Run(parser.positionalArguments());
+  } catch (const std::exception& failure) {
+    std::cerr << "plexel-editor: " << failure.what() << '\n';
+    QMessageBox::critical(nullptr, "Plexel", QString::fromUtf8(failure.what()));
+    return 1;
+  }
+}

@@ -1,0 +1,216 @@
+#include "editor/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "editor/element_text.h"
+#include "editor/elided_label.h"
+#include "editor/log_panel.h"
+#include "editor/panel_view.h"
+#include "files/data_directory.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+MainWindow::MainWindow(FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help)
+    : surroundings_(surroundings), platform_(platform), help_(help) {
+  MakeContent();
+  MakeActions();
+  ConnectElements();
+  platform_.Modal().Register(*windowObject_, *this);
+  platform_.Modal().onFailure = [this](const std::string& what) { Tell(Text::Failed, ToQt(what)); };
+  platform_.Messages().buttonText = [](MessageAnswer answer) {
+    if (answer == MessageAnswer::Yes) return Say(Text::Yes);
+    if (answer == MessageAnswer::No) return Say(Text::No);
+    return Say(answer == MessageAnswer::Cancel ? Text::Cancel : Text::OK);
+  };
+  Retranslate();
+  constexpr QSize FirstSize(1100, 940);
+  constexpr int Decoration = 60;
+  resize(FirstSize.boundedTo(screen()->availableSize() - QSize(0, Decoration)));
+}
+
+MainWindow::~MainWindow() {
+  view_->Show(nullptr);
+  document_.reset();
+  platform_.Modal().onFailure = nullptr;
+  platform_.Messages().buttonText = nullptr;
+}
+
+void MainWindow::MakeContent() {
+  auto* content = new QWidget;
+  auto* layout = new QVBoxLayout(content);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  scroll_ = new QScrollArea;
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  view_ = new PanelView;
+  scroll_->setWidget(view_);
+  layout->addWidget(scroll_);
+  limits_ = new QLabel;
+  limits_->setContentsMargins(8, 4, 8, 4);
+  limits_->setWordWrap(true);
+  limits_->setVisible(!platform_.HasFullCapture());
+  layout->addWidget(limits_);
+  setCentralWidget(content);
+  log_ = new LogPanel(this);
+  addDockWidget(Qt::BottomDockWidgetArea, log_);
+  constexpr int LogHeight = 120;
+  resizeDocks({log_}, {LogHeight}, Qt::Vertical);
+  status_ = new ElidedLabel;
+  statusBar()->addWidget(status_, 1);
+  statusBar()->setSizeGripEnabled(false);
+}
+
+void MainWindow::ConnectElements() {
+  host_.onChanged = [this](ctlPlexelBaseElement&) { view_->update(); };
+  host_.ledIsDefined = [this](std::int32_t type, std::int32_t layer) {
+    return document_ && document_->LedIsDefined(type, layer);
+  };
+  host_.onDoubleClick = [this](ctlPlexelBaseElement& element) { OpenConfiguration(element); };
+  host_.onModified = [this](ctlPlexelBaseElement&) {
+    if (document_) document_->Modified(true);
+    ShowTitle();
+  };
+  host_.onEvent = [this](const QString& line) { log_->Append(line); };
+  view_->run = [this](const std::function<void()>& act) { Guarded(act); };
+  view_->onSelected = [this] {
+    ShowStatus();
+    if (ctlPlexelBaseElement* const element = view_->Selected()) {
+      const QRect place = view_->PlaceRect(document_->PlaceOf(*element));
+      scroll_->ensureVisible(place.center().x(), place.center().y(), place.width(), place.height());
+    }
+  };
+  view_->onMenu = [this](const QPoint& place) { ShowElementMenu(place); };
+  view_->onProperties = [this] { ShowProperties(); };
+  view_->onZoom = [this](int steps) { steps > 0 ? ZoomIn() : ZoomOut(); };
+}
+
+PanelDocument::Site MainWindow::Site() { return {host_, windowObject_, DataDirectory() / "panels"}; }
+
+void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
+  view_->Show(nullptr);
+  document_ = std::move(document);
+  view_->Show(document_.get());
+  view_->setFocus();
+  ShowStatus();
+  ShowTitle();
+}
+
+bool MainWindow::StartEmpty() {
+  const std::vector<std::string> panels = PanelNames(Site().panelDirectory);
+  return !panels.empty() && NewProject(panels.front());
+}
+
+bool MainWindow::NewProject(const std::string& panel) {
+  try {
+    Take(PanelDocument::New(panel, Site()));
+    return true;
+  } catch (const std::exception& failure) {
+    Tell(Text::OpenFailed, failure.what());
+    return false;
+  }
+}
+
+bool MainWindow::OpenProject(const std::filesystem::path& file) {
+  try {
+    Take(PanelDocument::Open(file, Site()));
+    return true;
+  } catch (const std::exception& failure) {
+    Tell(Text::OpenFailed, failure.what());
+    return false;
+  }
+}
+
+bool MainWindow::SaveProject(const std::filesystem::path& file) {
+  try {
+    document_->Save(file);
+    ShowTitle();
+    return true;
+  } catch (const std::exception& failure) {
+    Tell(Text::SaveFailed, failure.what());
+    return false;
+  }
+}
+
+void MainWindow::OpenConfiguration(ctlPlexelBaseElement& element) {
+  const auto hold = element.shared_from_this();
+  const udtTactisBaseElement_ScanCodeInfo before = hold->TactisBaseElementScanCodeBuffer();
+  hold->OpenConfigurationDialog();
+  // A wizard that is left on its last page keeps what it wrote without a word.
+  if (document_ && hold->TactisBaseElementScanCodeBuffer() != before) document_->Modified(true);
+  view_->update();
+  ShowStatus();
+  ShowTitle();
+}
+
+void MainWindow::SetZoom(int percent) {
+  if (!document_) return;
+  Guarded([&] { document_->Zoom(percent); });
+  view_->Rescale();
+}
+
+void MainWindow::SettingsChanged() {
+  if (document_) document_->Refresh();
+  Retranslate();
+  view_->update();
+}
+
+QString MainWindow::StatusText() const { return status_->Content(); }
+
+void MainWindow::ShowStatus() {
+  const ctlPlexelBaseElement* const element = view_->Selected();
+  const QStringList text = element == nullptr ? QStringList(Say(Text::NothingSelected)) : ElementText(*element);
+  status_->SetText("  " + text.join("   \u00B7   "));
+  status_->setToolTip(text.join('\n'));
+}
+
+QString MainWindow::ProjectName() const {
+  if (!document_ || document_->File().empty()) return Say(Text::Untitled);
+  return QString::fromStdString(document_->File().filename().string());
+}
+
+void MainWindow::ShowTitle() {
+  setWindowModified(document_ && document_->Modified());
+  setWindowTitle(ProjectName() + "[*] \u2013 Plexel");
+}
+
+void MainWindow::Guarded(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const std::exception& failure) {
+    Tell(Text::Failed, failure.what());
+  }
+  view_->update();
+}
+
+void MainWindow::Tell(Text what, const QString& reason) {
+  qWarning("%s %s", qUtf8Printable(Say(what)), qUtf8Printable(reason));
+  log_->Append(reason);
+  QMessageBox box(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this);
+  box.setIcon(QMessageBox::Warning);
+  box.setWindowTitle("Plexel");
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Say(what));
+  box.setInformativeText(reason);
+  box.addButton(Say(Text::OK), QMessageBox::AcceptRole);
+  box.exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  bool leave = true;
+  Guarded([&] { leave = MayLeaveProject(); });
+  event->setAccepted(leave);
+}
+
+}  // namespace plexel

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QMainWindow>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "editor/editor_host.h"
+#include "editor/help_window.h"
+#include "editor/panel_document.h"
+#include "editor/texts.h"
+#include "files/file_surroundings.h"
+#include "qt/qt_platform.h"
+
+class QLabel;
+class QMenu;
+class QScrollArea;
+
+namespace plexel {
+
+class ElidedLabel;
+class LogPanel;
+class PanelView;
+
+/// The editor's window: one project, its panel, and everything that the user does with them.
+class MainWindow : public QMainWindow {
+ public:
+  MainWindow(FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help);
+  ~MainWindow() override;
+
+  /// A new project on the first panel; false when there is none that can be read.
+  bool StartEmpty();
+  /// Opens a project. On a failure the user is told and the open project stays; false then.
+  bool OpenProject(const std::filesystem::path& file);
+  bool SaveProject(const std::filesystem::path& file);
+  bool NewProject(const std::string& panel);
+
+  PanelDocument* Document() const { return document_.get(); }
+  PanelView& View() const { return *view_; }
+  LogPanel& Log() const { return *log_; }
+  QString StatusText() const;
+  void SetZoom(int percent);
+  /// Brings elements and texts into line with the settings.
+  void SettingsChanged();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  struct Named {
+    QAction* action;
+    Text text;
+  };
+  void MakeActions();
+  void MakeContent();
+  void ConnectElements();
+  QAction* Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)());
+  void Retranslate();
+  PanelDocument::Site Site();
+  void Take(std::unique_ptr<PanelDocument> document);
+
+  void AskNew();
+  void AskOpen();
+  void Save();
+  void SaveAs();
+  bool SaveOrAsk();
+  bool SaveAsked();
+  /// False when the user wants to go on with the open project.
+  bool MayLeaveProject();
+  void Configure();
+  void ShowProperties();
+  void ZoomIn();
+  void ZoomOut();
+  void ZoomNormal();
+  void EditSettings();
+  void ShowContents();
+  void ShowAbout();
+  void ShowElementMenu(const QPoint& globalPlace);
+
+  void OpenConfiguration(ctlPlexelBaseElement& element);
+  void ShowStatus();
+  void ShowTitle();
+  /// Runs what the user set off; an exception is told to him and ends there.
+  void Guarded(const std::function<void()>& act);
+  void Tell(Text what, const QString& reason);
+  QString ProjectName() const;
+
+  FileSurroundings& surroundings_;
+  QtPlatform& platform_;
+  HelpWindow& help_;
+  EditorHost host_;
+  std::shared_ptr<EditorWindowObject> windowObject_ = std::make_shared<EditorWindowObject>();
+  std::unique_ptr<PanelDocument> document_;
+  PanelView* view_ = nullptr;
+  QScrollArea* scroll_ = nullptr;
+  LogPanel* log_ = nullptr;
+  ElidedLabel* status_ = nullptr;
+  QLabel* limits_ = nullptr;
+  std::vector<Named> named_;
+  std::vector<std::pair<QMenu*, Text>> menus_;
+  QMenu* elementMenu_ = nullptr;
+};
+
+}  // namespace plexel

@@ -1,0 +1,179 @@
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <array>
+
+#include "editor/log_panel.h"
+#include "editor/main_window.h"
+#include "editor/panel_view.h"
+#include "editor/settings_dialog.h"
+#include "editor/version.h"
+#include "qt/units.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::array zoomSteps = {25, 50, 75, 100, 125, 150, 200, 250, 300, 400};
+
+}  // namespace
+
+QAction* MainWindow::Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)()) {
+  QAction* const action = menu.addAction(QString());
+  action->setShortcut(keys);
+  connect(action, &QAction::triggered, this, [this, act] { Guarded([this, act] { (this->*act)(); }); });
+  named_.push_back({action, text});
+  return action;
+}
+
+void MainWindow::MakeActions() {
+  const auto addMenu = [this](Text text) -> QMenu& {
+    QMenu* const menu = menuBar()->addMenu(QString());
+    menus_.emplace_back(menu, text);
+    return *menu;
+  };
+  QMenu& file = addMenu(Text::MenuFile);
+  Add(file, Text::New, QKeySequence::New, &MainWindow::AskNew);
+  Add(file, Text::Open, QKeySequence::Open, &MainWindow::AskOpen);
+  file.addSeparator();
+  Add(file, Text::Save, QKeySequence::Save, &MainWindow::Save);
+  Add(file, Text::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S, &MainWindow::SaveAs);
+  file.addSeparator();
+  QAction* const quit = file.addAction(QString(), this, &QWidget::close);
+  quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+  named_.push_back({quit, Text::Quit});
+  QMenu& element = addMenu(Text::MenuElement);
+  elementMenu_ = &element;
+  Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);
+  Add(element, Text::Properties, Qt::ALT | Qt::Key_Return, &MainWindow::ShowProperties);
+  QMenu& view = addMenu(Text::MenuView);
+  Add(view, Text::ZoomIn, QKeySequence::ZoomIn, &MainWindow::ZoomIn)
+      ->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
+  Add(view, Text::ZoomOut, Qt::CTRL | Qt::Key_Minus, &MainWindow::ZoomOut);
+  Add(view, Text::ZoomNormal, Qt::CTRL | Qt::Key_0, &MainWindow::ZoomNormal);
+  view.addSeparator();
+  view.addAction(log_->toggleViewAction());
+  QMenu& extras = addMenu(Text::MenuExtras);
+  Add(extras, Text::Settings, QKeySequence::Preferences, &MainWindow::EditSettings);
+  QMenu& help = addMenu(Text::MenuHelp);
+  Add(help, Text::HelpContents, QKeySequence::HelpContents, &MainWindow::ShowContents);
+  Add(help, Text::About, QKeySequence(), &MainWindow::ShowAbout);
+}
+
+void MainWindow::Retranslate() {
+  for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
+  for (const Named& named : named_) named.action->setText(Say(named.text));
+  limits_->setText(Say(Text::CaptureIsPartial));
+  log_->Retranslate();
+  ShowStatus();
+  ShowTitle();
+}
+
+void MainWindow::AskNew() {
+  if (!MayLeaveProject()) return;
+  QStringList panels;
+  for (const std::string& name : PanelNames(Site().panelDirectory)) panels.append(ToQt(name));
+  QInputDialog dialog(this);
+  dialog.setWindowTitle(Say(Text::NewTitle));
+  dialog.setLabelText(Say(Text::NewPanel));
+  dialog.setComboBoxItems(panels);
+  dialog.setOkButtonText(Say(Text::OK));
+  dialog.setCancelButtonText(Say(Text::Cancel));
+  if (dialog.exec() == QDialog::Accepted) NewProject(dialog.textValue().toStdString());
+}
+
+void MainWindow::AskOpen() {
+  if (!MayLeaveProject()) return;
+  const QString file = QFileDialog::getOpenFileName(this, Say(Text::OpenTitle), QString(), Say(Text::FileFilter));
+  if (!file.isEmpty()) OpenProject(file.toStdString());
+}
+
+void MainWindow::Save() { SaveOrAsk(); }
+void MainWindow::SaveAs() { SaveAsked(); }
+
+bool MainWindow::SaveOrAsk() {
+  if (!document_) return false;
+  return document_->File().empty() ? SaveAsked() : SaveProject(document_->File());
+}
+
+bool MainWindow::SaveAsked() {
+  if (!document_) return false;
+  QFileDialog dialog(this, Say(Text::SaveTitle), QString(), Say(Text::FileFilter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("plexel");
+  dialog.selectFile(ProjectName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  return SaveProject(dialog.selectedFiles().front().toStdString());
+}
+
+bool MainWindow::MayLeaveProject() {
+  if (!document_ || !document_->Modified()) return true;
+  QMessageBox box(this);
+  box.setIcon(QMessageBox::Question);
+  box.setWindowTitle("Plexel");
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Say(Text::AskSave).arg(ProjectName()));
+  QPushButton* const save = box.addButton(Say(Text::Save), QMessageBox::AcceptRole);
+  QPushButton* const leave = box.addButton(Say(Text::DoNotSave), QMessageBox::DestructiveRole);
+  box.setEscapeButton(box.addButton(Say(Text::Cancel), QMessageBox::RejectRole));
+  box.setDefaultButton(save);
+  box.exec();
+  if (box.clickedButton() == leave) return true;
+  return box.clickedButton() == save && SaveOrAsk();
+}
+
+void MainWindow::Configure() {
+  if (ctlPlexelBaseElement* const element = view_->Selected()) OpenConfiguration(*element);
+}
+
+void MainWindow::ShowProperties() {
+  if (ctlPlexelBaseElement* const element = view_->Selected()) element->OpenPropertiesDialog();
+}
+
+void MainWindow::ZoomIn() {
+  const auto* const next = std::find_if(zoomSteps.begin(), zoomSteps.end(),
+                                        [this](int step) { return document_ && step > document_->Zoom(); });
+  if (next != zoomSteps.end()) SetZoom(*next);
+}
+
+void MainWindow::ZoomOut() {
+  const auto next = std::find_if(zoomSteps.rbegin(), zoomSteps.rend(),
+                                 [this](int step) { return document_ && step < document_->Zoom(); });
+  if (next != zoomSteps.rend()) SetZoom(*next);
+}
+
+void MainWindow::ZoomNormal() { SetZoom(PanelDocument::NormalZoom); }
+
+void MainWindow::EditSettings() {
+  SettingsDialog dialog(surroundings_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  try {
+    dialog.Apply();
+  } catch (const std::exception& failure) {
+    Tell(Text::SettingsFailed, failure.what());
+  }
+  SettingsChanged();
+}
+
+void MainWindow::ShowContents() { help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents); }
+
+void MainWindow::ShowAbout() {
+  QMessageBox box(this);
+  box.setWindowTitle(Say(Text::About));
+  box.setIconPixmap(windowIcon().pixmap(64));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Say(Text::AboutText).arg(ProgramVersion));
+  box.addButton(Say(Text::OK), QMessageBox::AcceptRole);
+  box.exec();
+}
+
+void MainWindow::ShowElementMenu(const QPoint& globalPlace) { elementMenu_->popup(globalPlace); }
+
+}  // namespace plexel

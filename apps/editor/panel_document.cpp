@@ -1,0 +1,140 @@
+#include "editor/panel_document.h"
+
+#include <algorithm>
+
+#include "files/file_error.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+Panel ReadNamedPanel(const std::string& name, const std::filesystem::path& directory) {
+  return ReadPanel(PanelFile(directory, name));
+}
+
+/// The zoom that a project was saved with; every element carries it.
+int SavedZoom(const Project& project) {
+  if (project.elements.empty()) return PanelDocument::NormalZoom;
+  const BagValue* const value = project.elements.front().bag.Find("ZoomFactor");
+  const auto* const zoom = value == nullptr ? nullptr : std::get_if<std::int16_t>(value);
+  if (zoom == nullptr) return PanelDocument::NormalZoom;
+  return std::clamp<int>(*zoom, PanelDocument::SmallestZoom, PanelDocument::LargestZoom);
+}
+
+}  // namespace
+
+std::unique_ptr<PanelDocument> PanelDocument::New(const std::string& panelName, const Site& site) {
+  std::unique_ptr<PanelDocument> document(new PanelDocument(panelName, ReadNamedPanel(panelName, site.panelDirectory)));
+  for (const PanelPart& part : document->panel_.parts) {
+    if (part.element) document->AddNew(part, site);
+  }
+  document->Refresh();
+  return document;
+}
+
+std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& file, const Site& site) {
+  const Project project = ReadProject(file);
+  std::unique_ptr<PanelDocument> document(
+      new PanelDocument(project.panel, ReadNamedPanel(project.panel, site.panelDirectory)));
+  for (const ProjectElement& saved : project.elements) {
+    if (document->panel_.Find(saved.place) == nullptr) {
+      throw FileError(file, 0, "the panel \"" + project.panel + "\" has no place \"" + saved.place + '"');
+    }
+  }
+  document->file_ = file;
+  document->zoom_ = SavedZoom(project);
+  for (const PanelPart& part : document->panel_.parts) {
+    if (!part.element) continue;
+    const auto saved = std::find_if(project.elements.begin(), project.elements.end(),
+                                    [&part](const ProjectElement& one) { return one.place == part.element->id; });
+    if (saved == project.elements.end()) {
+      document->AddNew(part, site);
+    } else {
+      document->AddSaved(part, *saved, site);
+    }
+  }
+  document->Refresh();
+  return document;
+}
+
+PanelDocument::~PanelDocument() {
+  for (const Place& place : places_) {
+    place.element->Detach();
+    place.element->UserControl_Terminate();
+  }
+}
+
+void PanelDocument::AddNew(const PanelPart& part, const Site& site) {
+  const PanelElement& described = *part.element;
+  const auto element = ctlPlexelBaseElement::Create(described.id, site.host);
+  element->ZoomFactor(static_cast<std::int16_t>(zoom_));
+  element->SizeX(described.sizeX);
+  element->OriginalPosX(part.box.left);
+  element->TargetSystem(panel_.targetSystem);
+  element->HardwareNumberLed(described.hardwareNumberLed);
+  element->HardwareNumberButton(described.hardwareNumberButton);
+  for (std::size_t index = 0; index < described.hardwareNumberKeys.size(); ++index) {
+    element->HardwareNumberKeyAt(static_cast<std::int32_t>(index), described.hardwareNumberKeys[index]);
+  }
+  SetWhatIsNotSaved(*element, part, site);
+  places_.push_back({&part, element});
+}
+
+void PanelDocument::AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site) {
+  const auto element = ctlPlexelBaseElement::Read(saved.place, site.host, saved.bag);
+  udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
+  PutCodes(saved.codes, record);
+  element->TactisBaseElementScanCodeBuffer(record);
+  element->FocusVisible(False);
+  element->ZoomFactor(static_cast<std::int16_t>(zoom_));
+  SetWhatIsNotSaved(*element, part, site);
+  places_.push_back({&part, element});
+}
+
+void PanelDocument::SetWhatIsNotSaved(ctlPlexelBaseElement& element, const PanelPart& part, const Site& site) {
+  element.ParentWindow(site.window);
+  element.DPIFontScaleFactor(GetDpiScaleFactor());
+  element.DeviceType(panel_.deviceType);
+  element.VantaEnabled(panel_.vantaEnabled);
+  element.OriginalPosY(part.box.top);
+  element.ElementType(part.element->type);
+  element.SizeY(part.element->sizeY);
+}
+
+void PanelDocument::Save(const std::filesystem::path& file) {
+  Project project;
+  project.panel = panelName_;
+  for (const Place& place : places_) {
+    ProjectElement& saved = project.elements.emplace_back();
+    saved.place = place.part->element->id;
+    place.element->UserControl_WriteProperties(saved.bag);
+    saved.codes = CodesOf(place.element->TactisBaseElementScanCodeBuffer());
+  }
+  WriteProject(file, project);
+  file_ = file;
+  modified_ = false;
+}
+
+int PanelDocument::PlaceOf(const ctlPlexelBaseElement& element) const {
+  const auto place =
+      std::find_if(places_.begin(), places_.end(), [&](const Place& one) { return one.element.get() == &element; });
+  return place == places_.end() ? -1 : static_cast<int>(place - places_.begin());
+}
+
+void PanelDocument::Zoom(int percent) {
+  zoom_ = std::clamp(percent, SmallestZoom, LargestZoom);
+  for (const Place& place : places_) place.element->ZoomFactor(static_cast<std::int16_t>(zoom_));
+}
+
+void PanelDocument::Refresh() {
+  for (const Place& place : places_) place.element->Refresh();
+}
+
+bool PanelDocument::LedIsDefined(std::int32_t type, std::int32_t layer) const {
+  if (layer < 1 || layer > LayerCount) return false;
+  return std::any_of(places_.begin(), places_.end(),
+                     [=](const Place& place) { return place.element->LEDTypeLayer(layer) == type; });
+}
+
+}  // namespace plexel

@@ -1,0 +1,165 @@
+#include "editor/panel_painter.h"
+
+#include <QLinearGradient>
+#include <QPainterPath>
+#include <QRadialGradient>
+#include <array>
+
+#include "qt/fonts.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+namespace {
+
+QRectF BoxOf(const PanelPart& part) { return QRect(part.box.left, part.box.top, part.box.width, part.box.height); }
+
+/// Light from above: `depth` in percent brighter at the top, as much darker at the bottom.
+QLinearGradient Lit(const QRectF& box, const QColor& colour, int depth) {
+  QLinearGradient gradient(box.topLeft(), box.bottomLeft());
+  gradient.setColorAt(0, colour.lighter(100 + depth));
+  gradient.setColorAt(1, colour.darker(100 + depth));
+  return gradient;
+}
+
+void DrawRounded(QPainter& painter, const PanelPart& part, const QBrush& fill) {
+  painter.setPen(QPen(ColourOf(part.lineColor), 1));
+  painter.setBrush(fill);
+  painter.drawRoundedRect(BoxOf(part), part.cornerRadius, part.cornerRadius);
+}
+
+void DrawHousing(QPainter& painter, const PanelPart& part) {
+  DrawRounded(painter, part, Lit(BoxOf(part), ColourOf(part.fillColor), 6));
+}
+
+void DrawScreen(QPainter& painter, const PanelPart& part) {
+  DrawRounded(painter, part, ColourOf(part.fillColor));
+  const QRectF box = BoxOf(part);
+  QPainterPath glare;
+  glare.moveTo(box.topLeft());
+  glare.lineTo(box.left() + box.width() * 0.55, box.top());
+  glare.lineTo(box.left() + box.width() * 0.30, box.bottom());
+  glare.lineTo(box.bottomLeft());
+  glare.closeSubpath();
+  painter.fillPath(glare, QColor(255, 255, 255, 14));
+}
+
+void DrawKey(QPainter& painter, const PanelPart& part) {
+  DrawRounded(painter, part, Lit(BoxOf(part), ColourOf(part.fillColor), 7));
+}
+
+void DrawRoundKey(QPainter& painter, const PanelPart& part) {
+  painter.setPen(QPen(ColourOf(part.lineColor), 1));
+  painter.setBrush(Lit(BoxOf(part), ColourOf(part.fillColor), 7));
+  painter.drawEllipse(BoxOf(part));
+}
+
+void DrawKeySwitch(QPainter& painter, const PanelPart& part) {
+  DrawRoundKey(painter, part);
+  const QRectF box = BoxOf(part);
+  QRectF core(0, 0, box.width() * 0.5, box.height() * 0.5);
+  core.moveCenter(box.center());
+  painter.setBrush(ColourOf(part.fillColor).darker(115));
+  painter.drawEllipse(core);
+  QRectF slot(0, 0, box.width() * 0.08, box.height() * 0.34);
+  slot.moveCenter(box.center());
+  painter.setBrush(ColourOf(part.lineColor).darker(120));
+  painter.drawRoundedRect(slot, 1, 1);
+}
+
+void DrawLed(QPainter& painter, const PanelPart& part) {
+  const QRectF box = BoxOf(part);
+  const QColor colour = ColourOf(part.fillColor);
+  QRadialGradient gradient(box.center() - QPointF(box.width() * 0.15, box.height() * 0.2), box.width() * 0.6);
+  gradient.setColorAt(0, colour.lighter(150));
+  gradient.setColorAt(1, colour);
+  painter.setPen(QPen(ColourOf(part.lineColor), 1));
+  painter.setBrush(gradient);
+  if (part.cornerRadius > 0 || box.width() == box.height()) {
+    painter.drawEllipse(box);
+  } else {
+    painter.drawRect(box);
+  }
+}
+
+void DrawNothing(QPainter&, const PanelPart&) {}
+
+struct PartDrawing {
+  PanelPartKind kind;
+  void (*draw)(QPainter&, const PanelPart&);
+};
+
+constexpr std::array drawings = {PartDrawing{PanelPartKind::Housing, DrawHousing},
+                                 PartDrawing{PanelPartKind::Screen, DrawScreen},
+                                 PartDrawing{PanelPartKind::Key, DrawKey},
+                                 PartDrawing{PanelPartKind::RoundKey, DrawRoundKey},
+                                 PartDrawing{PanelPartKind::KeySwitch, DrawKeySwitch},
+                                 PartDrawing{PanelPartKind::Led, DrawLed},
+                                 PartDrawing{PanelPartKind::Legend, DrawNothing}};
+
+Qt::Alignment AlignmentOf(LegendAlignment alignment) {
+  switch (alignment) {
+    case LegendAlignment::Left:
+      return Qt::AlignLeft | Qt::AlignVCenter;
+    case LegendAlignment::Right:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case LegendAlignment::Center:
+      break;
+  }
+  return Qt::AlignCenter;
+}
+
+void DrawLegend(QPainter& painter, const PanelPart& part) {
+  if (part.legend.empty()) return;
+  QFont font = DialogFont();
+  font.setPixelSize(std::max(1, part.legendSize));
+  painter.setFont(font);
+  painter.setPen(ColourOf(part.legendColor));
+  painter.drawText(BoxOf(part), AlignmentOf(part.legendAlignment) | Qt::TextDontClip, ToQt(part.legend));
+}
+
+QPointF PixelPoint(float x, float y) {
+  return QPointF(static_cast<double>(x), static_cast<double>(y)) / static_cast<double>(TwipsPerLogicalPixel);
+}
+
+QRectF ShapeRect(const SurfaceShape& shape) {
+  return {PixelPoint(shape.Left, shape.Top), PixelPoint(shape.Left + shape.Width, shape.Top + shape.Height)};
+}
+
+QPen PenOf(std::int32_t colour, std::int16_t width) {
+  QPen pen(ColourOf(colour), width);
+  pen.setJoinStyle(Qt::MiterJoin);
+  return pen;
+}
+
+void DrawLine(QPainter& painter, const SurfaceLine& line) {
+  if (!line.Visible) return;
+  painter.setPen(PenOf(line.BorderColor, line.BorderWidth));
+  painter.drawLine(PixelPoint(line.X1, line.Y1), PixelPoint(line.X2, line.Y2));
+}
+
+}  // namespace
+
+void DrawPart(QPainter& painter, const PanelPart& part) {
+  for (const PartDrawing& one : drawings) {
+    if (one.kind == part.kind) one.draw(painter, part);
+  }
+  DrawLegend(painter, part);
+}
+
+void DrawSurface(QPainter& painter, const Surface& surface) {
+  painter.setBrush(Qt::NoBrush);
+  if (surface.shpOval.Visible) {
+    painter.setPen(PenOf(surface.shpOval.BorderColor, surface.shpOval.BorderWidth));
+    painter.drawEllipse(ShapeRect(surface.shpOval));
+  }
+  if (surface.shpRect.Visible) {
+    painter.setPen(PenOf(surface.shpRect.BorderColor, surface.shpRect.BorderWidth));
+    painter.drawRect(ShapeRect(surface.shpRect));
+  }
+  for (const SurfaceLine* line : {&surface.linX1, &surface.linX2, &surface.linOK1, &surface.linOK2}) {
+    DrawLine(painter, *line);
+  }
+}
+
+}  // namespace plexel

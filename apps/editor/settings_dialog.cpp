@@ -1,0 +1,124 @@
+#include "editor/settings_dialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "editor/colour_button.h"
+#include "editor/texts.h"
+#include "platform/failure.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+namespace {
+
+const SettingRow& RowOf(std::string_view name) {
+  const auto row = std::find_if(SettingTable.begin(), SettingTable.end(),
+                                [name](const SettingRow& one) { return one.name == name; });
+  if (row == SettingTable.end()) throw Failure(FailureKind::Index, "no setting " + std::string(name));
+  return *row;
+}
+
+}  // namespace
+
+SettingsDialog::SettingsDialog(FileSurroundings& surroundings, QWidget* parent)
+    : QDialog(parent), surroundings_(surroundings) {
+  setWindowTitle(Say(Text::SettingsTitle));
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(MakeGeneralGroup());
+  layout->addWidget(MakeMarksGroup());
+  layout->addWidget(MakeRecordingGroup());
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  buttons->button(QDialogButtonBox::Ok)->setText(Say(Text::OK));
+  buttons->button(QDialogButtonBox::Cancel)->setText(Say(Text::Cancel));
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  layout->addWidget(buttons);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget* SettingsDialog::MakeGeneralGroup() {
+  auto* group = new QGroupBox(Say(Text::GroupGeneral));
+  auto* layout = new QFormLayout(group);
+  language_ = new QComboBox;
+  for (const std::string& name : surroundings_.Language().Available()) language_->addItem(ToQt(name));
+  language_->setCurrentText(ToQt(surroundings_.Language().Chosen()));
+  layout->addRow(Say(Text::Language), language_);
+  AddSwitch(*layout, "UseWizard", Say(Text::UseWizard));
+  return group;
+}
+
+QWidget* SettingsDialog::MakeMarksGroup() {
+  auto* group = new QGroupBox(Say(Text::GroupMarks));
+  auto* layout = new QFormLayout(group);
+  AddColour(*layout, "FocusColor", Say(Text::FocusColor));
+  AddNumber(*layout, "FocusWidth", Say(Text::FocusWidth));
+  AddSwitch(*layout, "ShowX", Say(Text::ShowX));
+  AddSwitch(*layout, "ShowXPermanent", Say(Text::ShowXPermanent));
+  AddChoice(*layout, "XSize", Say(Text::XSize), {Say(Text::XBig), Say(Text::XMedium), Say(Text::XSmall)});
+  AddSwitch(*layout, "ShowDefined", Say(Text::ShowDefined));
+  AddColour(*layout, "DefinedColor", Say(Text::DefinedColor));
+  return group;
+}
+
+QWidget* SettingsDialog::MakeRecordingGroup() {
+  auto* group = new QGroupBox(Say(Text::GroupRecording));
+  auto* layout = new QFormLayout(group);
+  AddSwitch(*layout, "LockTaskKeys", Say(Text::LockTaskKeys));
+  AddSwitch(*layout, "ShowCodeBalance", Say(Text::ShowCodeBalance));
+  AddColour(*layout, "CaptureColor", Say(Text::CaptureColor));
+  return group;
+}
+
+void SettingsDialog::AddSwitch(QFormLayout& layout, std::string_view name, const QString& caption) {
+  const SettingRow& row = RowOf(name);
+  auto* box = new QCheckBox(caption);
+  box->setObjectName(ToQt(name));
+  box->setChecked(surroundings_.Settings().Value(row) != 0);
+  layout.addRow(box);
+  fields_.push_back({&row, [box] { return box->isChecked() ? 1 : 0; }});
+}
+
+void SettingsDialog::AddColour(QFormLayout& layout, std::string_view name, const QString& caption) {
+  const SettingRow& row = RowOf(name);
+  auto* button = new ColourButton(ColourOf(surroundings_.Settings().Value(row)));
+  button->setObjectName(ToQt(name));
+  layout.addRow(caption, button);
+  fields_.push_back({&row, [button] { return NumberOf(button->Colour()); }});
+}
+
+void SettingsDialog::AddNumber(QFormLayout& layout, std::string_view name, const QString& caption) {
+  const SettingRow& row = RowOf(name);
+  auto* box = new QSpinBox;
+  box->setObjectName(ToQt(name));
+  box->setRange(row.low, row.high);
+  box->setValue(surroundings_.Settings().Value(row));
+  layout.addRow(caption, box);
+  fields_.push_back({&row, [box] { return box->value(); }});
+}
+
+void SettingsDialog::AddChoice(QFormLayout& layout, std::string_view name, const QString& caption,
+                               const QStringList& choices) {
+  const SettingRow& row = RowOf(name);
+  auto* box = new QComboBox;
+  box->setObjectName(ToQt(name));
+  box->addItems(choices);
+  box->setCurrentIndex(surroundings_.Settings().Value(row) - row.low);
+  layout.addRow(caption, box);
+  fields_.push_back({&row, [box, &row] { return box->currentIndex() + row.low; }});
+}
+
+void SettingsDialog::Apply() {
+  surroundings_.ChooseLanguage(language_->currentText().toStdString());
+  for (const Field& field : fields_) surroundings_.Settings().Value(*field.row, field.read());
+  surroundings_.Settings().Save();
+}
+
+}  // namespace plexel
