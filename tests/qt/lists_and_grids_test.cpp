@@ -1,0 +1,217 @@
+#include <QComboBox>
+#include <QMenu>
+#include <QTabBar>
+
+#include "qt/grid_widget.h"
+#include "stage.h"
+
+namespace plexel::testing {
+namespace {
+
+using QtLists = Stage;
+
+GridWidget& GridOf(const FormView& view, const Grid& grid) {
+  return dynamic_cast<GridWidget&>(view.ViewOf(&grid)->Outer());
+}
+
+QMenu* MenuOf(const FormView& view) { return view.Window().findChild<QMenu*>(); }
+
+TEST_F(QtLists, AComboBoxShowsATextThatIsNoEntry) {
+  WhileShown([&](FormView& view) {
+    auto& box = WidgetOf<QComboBox>(view, form.combo);
+    EXPECT_EQ(box.currentIndex(), -1);
+    const QImage withText = box.grab().toImage();
+    form.combo.Text("");
+    platform.Modal().SyncAll();
+    EXPECT_NE(withText, box.grab().toImage());
+  });
+}
+
+TEST_F(QtLists, AnEntryPickedFromTheListIsHandedOver) {
+  WhileShown([&](FormView& view) {
+    auto& box = WidgetOf<QComboBox>(view, form.combo);
+    emit box.activated(1);
+    EXPECT_EQ(form.combo.Text(), "second");
+    EXPECT_EQ(box.currentIndex(), 1);
+    EXPECT_EQ(form.notes, std::vector<std::string>{"combo second"});
+  });
+}
+
+TEST_F(QtLists, EntriesThatTheProgramChangesAreShown) {
+  WhileShown([&](FormView& view) {
+    form.combo.Clear();
+    form.combo.AddItem("other");
+    platform.Modal().SyncAll();
+    EXPECT_EQ(WidgetOf<QComboBox>(view, form.combo).count(), 1);
+    EXPECT_TRUE(form.notes.empty());
+  });
+}
+
+TEST_F(QtLists, F4UnfoldsTheList) {
+  WhileShown([&](FormView& view) {
+    form.combo.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_F4);
+    auto& box = WidgetOf<QComboBox>(view, form.combo);
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    box.hidePopup();
+  });
+}
+
+TEST_F(QtLists, AListWhoseHandlerDropsF4StaysFolded) {
+  form.combo.OnKeyDown = [](std::int16_t& keyCode, std::int16_t) { keyCode = 0; };
+  WhileShown([&](FormView& view) {
+    form.combo.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_F4);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  });
+}
+
+TEST_F(QtLists, AClickOnATabBringsItsPageToTheFront) {
+  WhileShown([&](FormView& view) {
+    auto& bar = WidgetOf<QTabBar>(view, form.strip);
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(1).center());
+    EXPECT_EQ(form.strip.Tab(), 1);
+    EXPECT_TRUE(view.ViewOf(&form.note)->Outer().isVisible());
+    EXPECT_EQ(form.notes, std::vector<std::string>{"tab 1"});
+  });
+}
+
+TEST_F(QtLists, APageThatIsOffStaysBehind) {
+  WhileShown([&](FormView& view) {
+    auto& bar = WidgetOf<QTabBar>(view, form.strip);
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(2).center());
+    EXPECT_EQ(form.strip.Tab(), 0);
+    EXPECT_TRUE(form.notes.empty());
+  });
+}
+
+TEST_F(QtLists, AClickOnACellMakesItCurrent) {
+  WhileShown([&](FormView& view) {
+    Click(view, form.grid, Qt::LeftButton, CellPlace(2, 1));
+    EXPECT_EQ(form.notes, std::vector<std::string>{"cell 2,1"});
+    EXPECT_EQ(form.Focus(), &form.grid);
+  });
+}
+
+TEST_F(QtLists, ADoubleClickOnACellRaisesItsEvent) {
+  WhileShown([&](FormView& view) {
+    QTest::mouseDClick(&MouseWidgetOf(view, form.grid), Qt::LeftButton, Qt::NoModifier, CellPlace(1, 2));
+    EXPECT_EQ(form.notes.back(), "double cell");
+    EXPECT_EQ(form.grid.Col(), 2);
+  });
+}
+
+TEST_F(QtLists, TheArrowKeysMoveTheCurrentCell) {
+  WhileShown([&](FormView& view) {
+    form.grid.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_Down);
+    Press(view, Qt::Key_Right);
+    EXPECT_EQ(form.grid.Row(), 2);
+    EXPECT_EQ(form.grid.Col(), 2);
+  });
+}
+
+TEST_F(QtLists, ACellIsPaintedInItsOwnColour) {
+  WhileShown([&](FormView& view) {
+    form.grid.Current(2, 2);
+    form.grid.CellBackColor(0x00FFFF);
+    form.grid.Current(1, 1);
+    platform.Modal().SyncAll();
+    const QImage image = MouseWidgetOf(view, form.grid).grab().toImage();
+    EXPECT_EQ(image.pixelColor(CellPlace(2, 2)), QColor(255, 255, 0));
+    EXPECT_EQ(image.pixelColor(CellPlace(2, 1)), QColor(255, 255, 255));
+  });
+}
+
+TEST_F(QtLists, WhatChangesWhileRedrawIsOffIsShownWhenItIsOnAgain) {
+  WhileShown([&](FormView& view) {
+    const QImage before = MouseWidgetOf(view, form.grid).grab().toImage();
+    form.grid.Redraw(false);
+    form.grid.CellBackColor(0x0000FF);
+    platform.Modal().SyncAll();
+    EXPECT_EQ(MouseWidgetOf(view, form.grid).grab().toImage(), before);
+    form.grid.Redraw(true);
+    platform.Modal().SyncAll();
+    EXPECT_NE(MouseWidgetOf(view, form.grid).grab().toImage(), before);
+  });
+}
+
+TEST_F(QtLists, TheEdgeOfAColumnIsDraggedToANewWidth) {
+  WhileShown([&](FormView& view) {
+    QWidget& mouse = MouseWidgetOf(view, form.grid);
+    QTest::mousePress(&mouse, Qt::LeftButton, Qt::NoModifier, QPoint(80, 8));
+    QTest::mouseMove(&mouse, QPoint(100, 8));
+    QTest::mouseRelease(&mouse, Qt::LeftButton, Qt::NoModifier, QPoint(100, 8));
+    EXPECT_EQ(form.grid.ColWidth(0), 1500);
+    EXPECT_EQ(form.grid.ColWidth(1), 1200);
+    EXPECT_EQ(GridOf(view, form.grid).CellRect(0, 0).width(), 100);
+  });
+}
+
+TEST_F(QtLists, ColumnsOfFixedWidthAreNotDragged) {
+  form.grid.UserResizing(false);
+  WhileShown([&](FormView& view) {
+    QWidget& mouse = MouseWidgetOf(view, form.grid);
+    QTest::mousePress(&mouse, Qt::LeftButton, Qt::NoModifier, QPoint(80, 8));
+    QTest::mouseMove(&mouse, QPoint(100, 8));
+    QTest::mouseRelease(&mouse, Qt::LeftButton, Qt::NoModifier, QPoint(100, 8));
+    EXPECT_EQ(form.grid.ColWidth(0), 1200);
+  });
+}
+
+TEST_F(QtLists, TheRightButtonOpensThePopupMenuOfTheForm) {
+  WhileShown([&](FormView& view) {
+    Click(view, form.grid, Qt::RightButton, CellPlace(1, 1));
+    QMenu* const menu = MenuOf(view);
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 3);
+    EXPECT_EQ(menu->actions()[0]->text(), "Copy");
+    EXPECT_TRUE(menu->actions()[1]->isSeparator());
+    EXPECT_FALSE(menu->actions()[2]->isEnabled());
+    menu->close();
+  });
+}
+
+TEST_F(QtLists, AnEntryOfThePopupMenuIsHandedOver) {
+  WhileShown([&](FormView& view) {
+    Click(view, form.grid, Qt::RightButton, CellPlace(1, 1));
+    QMenu* const menu = MenuOf(view);
+    ASSERT_NE(menu, nullptr);
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(menu->actions()[0]).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form.notes, std::vector<std::string>{"copy"});
+    EXPECT_EQ(form.OpenPopup(), nullptr);
+  });
+}
+
+TEST_F(QtLists, APopupMenuThatIsDismissedIsClosedInTheModelToo) {
+  WhileShown([&](FormView& view) {
+    Click(view, form.grid, Qt::RightButton, CellPlace(1, 1));
+    ASSERT_EQ(form.OpenPopup(), &form.menu);
+    QTest::keyClick(MenuOf(view), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form.OpenPopup(), nullptr);
+    EXPECT_TRUE(form.notes.empty());
+    EXPECT_TRUE(form.IsShown());
+  });
+}
+
+TEST_F(QtLists, TheWheelScrollsAGridThatDoesNotFit) {
+  Grid tall(form, "tall", 40, 2, 1, 0);
+  tall.Place(3000, 1600, 2400, 900);
+  WhileShown([&](FormView& view) {
+    QWidget& mouse = MouseWidgetOf(view, tall);
+    QWheelEvent down(QPointF(5, 5), mouse.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&mouse, &down);
+    EXPECT_EQ(tall.TopRow(), 4);
+    EXPECT_TRUE(GridOf(view, tall).CellRect(1, 0).isEmpty());
+    EXPECT_FALSE(GridOf(view, tall).CellRect(0, 0).isEmpty());
+  });
+}
+
+}  // namespace
+}  // namespace plexel::testing

@@ -1,0 +1,172 @@
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <iostream>
+
+#include "component/component.h"
+#include "element/ctlPlexelBaseElement.h"
+#include "files/data_directory.h"
+#include "files/file_surroundings.h"
+#include "forms/form_directory.h"
+#include "headless/headless_system.h"
+#include "headless/recording_host.h"
+#include "qt/form_view.h"
+#include "qt/qt_platform.h"
+
+namespace plexel {
+namespace {
+
+class PictureMaker {
+ public:
+  PictureMaker(QDir target, const QString& language)
+      : target_(std::move(target)),
+        surroundings_(DataDirectory(), configuration_.path().toStdString()),
+        platform_(surroundings_.UserRegistry(), help_),
+        usePlatform_(platform_),
+        useSurroundings_(surroundings_) {
+    surroundings_.ChooseLanguage(language.toStdString());
+    suffix_ = "-" + language.left(2).toLower() + ".png";
+    FormDirectory::Instance() = FormDirectory();
+    RegisterForms(FormDirectory::Instance());
+  }
+
+  void TakeAll() {
+    TakeConfiguration(RectLed);
+    TakeConfiguration(Led);
+    TakeWizard();
+    TakeProperties();
+  }
+
+ private:
+  std::shared_ptr<ctlPlexelBaseElement> Element(enumTactisBaseElementType type) {
+    auto element = ctlPlexelBaseElement::Create("F1", host_);
+    element->ElementType(type);
+    element->TargetSystem("Standard");
+    element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
+    element->PressKeyDefLayer2("[F1\u2039\u203A][Enter\u2039\u203A]");
+    element->ReleaseKeyDefLayer2("[Shift Left\u203A]");
+    element->HardwareNumberButton(12);
+    element->HardwareNumberLed(14);
+    element->HardwareNumberKey(3);
+    element->HardwareNumberKey2(5);
+    element->LEDTypeLayer1(UserLed);
+    return element;
+  }
+
+  FormView& Top() { return *platform_.Modal().Topmost(); }
+  Form& TopForm() { return Top().Model(); }
+  void Act(const std::function<void(Hand&, Form&)>& act) {
+    Hand hand(TopForm());
+    act(hand, TopForm());
+    platform_.Modal().SyncAll();
+  }
+  void Click(const std::string& name) {
+    Act([&](Hand& hand, Form& form) { hand.Click(*form.Find(name)); });
+  }
+  void Take(const QString& name) {
+    QCoreApplication::processEvents();
+    Top().Window().grab().save(target_.filePath(name + suffix_));
+  }
+  void Later(std::function<void()> step) {
+    QTimer::singleShot(50, &context_, [step = std::move(step)] {
+      try {
+        step();
+      } catch (const std::exception& failure) {
+        std::cerr << failure.what() << "\n";
+      }
+    });
+  }
+
+  void TakeConfiguration(enumTactisBaseElementType type) {
+    const auto element = Element(type);
+    Later([&] {
+      if (type == Led) {
+        Take("configuration-led");
+      } else {
+        Take("configuration-keys");
+        Act([](Hand& hand, Form& form) { hand.DblClick(static_cast<Grid&>(*form.Find("msgScanCodes")), 1, 2); });
+        Take("configuration-capture");
+        for (int page = 1; page < 3; ++page) {
+          Act([page](Hand& hand, Form& form) { hand.Tab(static_cast<TabStrip&>(*form.Find("sstScanCode")), page); });
+          Take("configuration-page" + QString::number(page));
+        }
+        Act([](Hand& hand, Form& form) { hand.Tab(static_cast<TabStrip&>(*form.Find("sstScanCode")), 0); });
+        for (const char* name :
+             {"frmSpecialIPCKey", "frmSpecialWindowsKey", "frmASCIICharacterTable", "frmNonStandardScancodes"}) {
+          Later([this, name] {
+            if (TopForm().Name() != "frmConfigurationDialog") {
+              if (TopForm().Name() == "frmASCIICharacterTable") {
+                Act([](Hand& hand, Form& form) { hand.Click(static_cast<Grid&>(*form.Find("msgASCIICodes")), 4, 4); });
+              }
+              Take(name);
+              TopForm().Unload();
+            }
+          });
+          FormDirectory::Instance().ShowModal(name, &TopForm());
+        }
+      }
+      Click("cmdCancel");
+    });
+    element->OpenConfigurationDialog();
+  }
+
+  void TakeWizard() {
+    const auto element = Element(RectLed);
+    element->WizardOn(True);
+    Later([&] {
+      Take("wizard1");
+      Later([&] {
+        Take("wizard2");
+        Later([&] {
+          Take("wizard3");
+          Click("cmdCancel");
+        });
+        Click("cmdForward");
+      });
+      Click("cmdForward");
+    });
+    element->OpenConfigurationDialog();
+  }
+
+  void TakeProperties() {
+    for (const auto type : {RectLed, Key}) {
+      const auto element = Element(type);
+      Later([&] {
+        Take(type == Key ? "properties-keyswitch" : "properties-key");
+        Act([](Hand& hand, Form&) { hand.Close(); });
+      });
+      element->OpenPropertiesDialog();
+    }
+  }
+
+  QDir target_;
+  QString suffix_;
+  QTemporaryDir configuration_;
+  Faults faults_;
+  HeadlessHelp help_{faults_};
+  RecordingHost host_{faults_};
+  FileSurroundings surroundings_;
+  QtPlatform platform_;
+  Platform::Use usePlatform_;
+  Surroundings::Use useSurroundings_;
+  QObject context_;
+};
+
+}  // namespace
+}  // namespace plexel
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  if (argc != 2) {
+    std::cerr << "usage: picture_maker DIRECTORY\n";
+    return 2;
+  }
+  QDir().mkpath(argv[1]);
+  for (const char* language : {"English", "German"}) plexel::PictureMaker(QDir(argv[1]), language).TakeAll();
+  return 0;
+}
