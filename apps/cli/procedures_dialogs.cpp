@@ -1,4 +1,5 @@
 #include <array>
+#include <memory>
 #include <ranges>
 
 #include "cli/command_error.h"
@@ -55,13 +56,15 @@ class OpenOrOwn {
     for (auto* form : bench.platform.Modal().Shown()) {
       if (auto* open = dynamic_cast<Form*>(form)) dialog_ = open;
     }
-    if (dialog_ == nullptr) dialog_ = &own_.emplace();
+    if (dialog_ != nullptr) return;
+    own_ = std::make_unique<Form>();
+    dialog_ = own_.get();
   }
   Form* operator->() { return dialog_; }
   Form& operator*() { return *dialog_; }
 
  private:
-  std::optional<Form> own_;
+  std::unique_ptr<Form> own_;
   Form* dialog_ = nullptr;
 };
 
