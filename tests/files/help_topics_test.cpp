@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <regex>
+#include <set>
 
 #include "files/data_directory.h"
 #include "temporary_directory.h"
@@ -64,8 +65,15 @@ TEST(ShippedHelpTopics, EveryTopicOfTheDialogsIsThereInBothLanguages) {
       EXPECT_NE(topic->title, "");
       EXPECT_THAT(topic->html, HasSubstr("<h1>" + topic->title + "</h1>"));
     }
-    EXPECT_EQ(ReadHelpTopics(ShippedHelp(language)).size(), std::size(TopicNumbers)) << language;
   }
+}
+
+TEST(ShippedHelpTopics, BothLanguagesHaveTheSameTopics) {
+  std::set<std::int32_t> english;
+  std::set<std::int32_t> german;
+  for (const HelpTopic& topic : ReadHelpTopics(ShippedHelp("English"))) english.insert(topic.number);
+  for (const HelpTopic& topic : ReadHelpTopics(ShippedHelp("German"))) german.insert(topic.number);
+  EXPECT_EQ(english, german);
 }
 
 TEST(ShippedHelpTopics, EveryLinkLeadsToATopic) {
