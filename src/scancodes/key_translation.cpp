@@ -9,6 +9,8 @@ namespace plexel {
 
 namespace {
 
+using scan_code_table::Form;
+using scan_code_table::KeySequences;
 using scan_code_table::Row;
 using scan_code_table::Rule;
 using scan_code_table::Sequence;
@@ -21,38 +23,87 @@ Boolean IsPhysicallyDown(KeyState& keys, std::int32_t virtualKey) {
   return ToBoolean((keys.Asynchronous(virtualKey) & 0x8000) != 0);
 }
 
-std::size_t SelectVariant(const Row& row, std::int32_t virtualKey, std::int32_t extended) {
-  const ModuleState& state = Module();
+/// The module state with the modifiers of this moment.
+const ModuleState& SampledState() {
+  SampleModifierKeys();
+  return Module();
+}
+
+std::size_t SelectCursorVariant() {
+  const ModuleState& state = SampledState();
+  if (IsTrue(state.bShiftDown)) return variant::CursorShift;
+  return IsTrue(state.bNumLockDown) ? variant::CursorNumLock : variant::CursorPlain;
+}
+
+std::size_t SelectPrintVariant() {
+  const ModuleState& state = SampledState();
+  if (IsTrue(state.bShiftDown) || IsTrue(state.bCtrlDown)) return variant::PrintShiftOrCtrl;
+  return IsTrue(state.bAltDown) ? variant::PrintAlt : variant::PrintPlain;
+}
+
+/// The variants that the state of the modifier keys may decide.
+std::size_t SelectByModifiers(const Row& row, std::int32_t virtualKey) {
   switch (row.rule) {
-    case Rule::None:
-    case Rule::Fixed:
-      break;
-    case Rule::Sided:
-      return extended != 0 ? variant::Right : variant::Left;
     case Rule::Cursor:
-      if (virtualKey != row.navigationKey) return variant::CursorPad;
-      SampleModifierKeys();
-      if (IsTrue(state.bShiftDown)) return variant::CursorShift;
-      return IsTrue(state.bNumLockDown) ? variant::CursorNumLock : variant::CursorPlain;
+      return SelectCursorVariant();
     case Rule::Divide:
       if (virtualKey != virtualKeyDivide) return variant::DivideMainBlock;
-      SampleModifierKeys();
-      return IsTrue(state.bShiftDown) ? variant::DivideShift : variant::DividePlain;
+      return IsTrue(SampledState().bShiftDown) ? variant::DivideShift : variant::DividePlain;
     case Rule::Print:
-      SampleModifierKeys();
-      if (IsTrue(state.bShiftDown) || IsTrue(state.bCtrlDown)) return variant::PrintShiftOrCtrl;
-      return IsTrue(state.bAltDown) ? variant::PrintAlt : variant::PrintPlain;
+      return SelectPrintVariant();
     case Rule::NumLock:
       if (virtualKey == virtualKeyNumLock) return variant::NumLockKey;
-      SampleModifierKeys();
-      return IsTrue(state.bCtrlDown) ? variant::PauseCtrl : variant::PausePlain;
+      return IsTrue(SampledState().bCtrlDown) ? variant::PauseCtrl : variant::PausePlain;
+    case Rule::None:
+    case Rule::Fixed:
+    case Rule::Sided:
+      break;
   }
   return variant::Only;
 }
 
-void Write(const Sequence& sequence, CodeArray& codes, std::int32_t& length) {
-  for (std::size_t place = 0; place < sequence.count; ++place) codes[place] = sequence.codes[place];
-  if (sequence.length != Sequence::Untouched) length = sequence.length;
+constexpr std::int32_t extendedPrefix = 0xE0, breakPrefix = 0xF0;
+
+/// Where the caller wants one direction of a key.
+struct Target {
+  CodeArray& codes;
+  std::int32_t& length;
+
+  void Write(const Sequence& sequence) const {
+    for (std::size_t place = 0; place < sequence.count; ++place) codes[place] = sequence.codes[place];
+    if (sequence.length != Sequence::Untouched) length = sequence.length;
+  }
+};
+
+inline void Write(const KeySequences& key, Target make, Target breaking) {
+  const std::int32_t code = key.code;
+  switch (key.form) {
+    case Form::Plain:
+      make.codes[0] = code;
+      make.length = 1;
+      breaking.codes[0] = breakPrefix;
+      breaking.codes[1] = code;
+      breaking.length = 2;
+      break;
+    case Form::Extended:
+      make.codes[0] = extendedPrefix;
+      make.codes[1] = code;
+      make.length = 2;
+      breaking.codes[0] = extendedPrefix;
+      breaking.codes[1] = breakPrefix;
+      breaking.codes[2] = code;
+      breaking.length = 3;
+      break;
+    case Form::Listed:
+      make.Write(key.make);
+      breaking.Write(key.breaking);
+      break;
+  }
+}
+
+/// Apart from the keys that need no question, so that these cost nothing for it.
+[[gnu::noinline]] void TranslateByModifiers(const Row& row, std::int32_t virtualKey, Target make, Target breaking) {
+  Write(row.variants[SelectByModifiers(row, virtualKey)], make, breaking);
 }
 
 }  // namespace
@@ -74,10 +125,15 @@ void TranslateScanCode(std::int32_t varScanCode, std::int32_t varVirtualKey, std
   const auto& table = scan_code_table::table;
   if (varScanCode < 0 || static_cast<std::size_t>(varScanCode) >= table.size()) return;
   const Row& row = table[static_cast<std::size_t>(varScanCode)];
-  if (row.rule == Rule::None) return;
-  const auto& sequences = row.variants[SelectVariant(row, varVirtualKey, lngExtended)];
-  Write(sequences.make, lngMake, varMakeLength);
-  Write(sequences.breaking, lngBreak, varBreakLength);
+  const Target make{lngMake, varMakeLength}, breaking{lngBreak, varBreakLength};
+  if (row.rule == Rule::Fixed) return Write(row.variants[variant::Only], make, breaking);
+  if (row.rule == Rule::Sided) {
+    return Write(row.variants[lngExtended != 0 ? variant::Right : variant::Left], make, breaking);
+  }
+  if (row.rule == Rule::Cursor && varVirtualKey != row.navigationKey) {
+    return Write(row.variants[variant::CursorPad], make, breaking);
+  }
+  if (row.rule != Rule::None) TranslateByModifiers(row, varVirtualKey, make, breaking);
 }
 
 }  // namespace plexel

@@ -16,8 +16,17 @@ struct Sequence {
   std::int8_t length = 0;
 };
 
+/// Most keys send one of two forms, made of one code; the others are listed.
+enum class Form : std::uint8_t {
+  Plain,     ///< code / F0 code
+  Extended,  ///< E0 code / E0 F0 code
+  Listed,
+};
+
 struct KeySequences {
-  Sequence make, breaking;
+  Form form = Form::Listed;
+  std::uint8_t code = 0;    ///< of the first two forms
+  Sequence make, breaking;  ///< of a listed key
 };
 
 /// What decides between the variants of a key.
@@ -62,17 +71,20 @@ constexpr Sequence OfLength(Codes codes, std::int8_t length) {
   return sequence;
 }
 
-constexpr KeySequences Simple(std::uint8_t code) { return {Of({code}), Of({0xF0, code})}; }
-constexpr KeySequences Extended(std::uint8_t code) { return {Of({0xE0, code}), Of({0xE0, 0xF0, code})}; }
+constexpr KeySequences Simple(std::uint8_t code) { return {Form::Plain, code, {}, {}}; }
+constexpr KeySequences Extended(std::uint8_t code) { return {Form::Extended, code, {}, {}}; }
+constexpr KeySequences Listed(const Sequence& make, const Sequence& breaking) {
+  return {Form::Listed, 0, make, breaking};
+}
 
 constexpr Row FixedRow(const KeySequences& sequences) { return {Rule::Fixed, 0, {sequences}}; }
 constexpr Row SidedRow(std::uint8_t code) { return {Rule::Sided, 0, {Simple(code), Extended(code)}}; }
 constexpr Row CursorRow(std::uint8_t code, std::uint8_t navigationKey) {
-  return {Rule::Cursor,
-          navigationKey,
-          {KeySequences{Of({0xE0, 0xF0, 0x12, 0xE0, code}), Of({0xE0, 0xF0, code, 0xE0, 0x12})},
-           KeySequences{Of({0xE0, 0x12, 0xE0, code}), Of({0xE0, 0xF0, code, 0xE0, 0xF0, 0x12})}, Extended(code),
-           Simple(code)}};
+  return {
+      Rule::Cursor,
+      navigationKey,
+      {Listed(Of({0xE0, 0xF0, 0x12, 0xE0, code}), Of({0xE0, 0xF0, code, 0xE0, 0x12})),
+       Listed(Of({0xE0, 0x12, 0xE0, code}), Of({0xE0, 0xF0, code, 0xE0, 0xF0, 0x12})), Extended(code), Simple(code)}};
 }
 
 struct ScanCodePair {
@@ -118,18 +130,17 @@ constexpr Table BuildTable() {
   table[0x50].variants[CursorNumLock].breaking.codes[3] = 0x40;
   table[0x52].variants[CursorNumLock].make = Of({0xE0, 0x12, 0x70});
 
-  table[0x35] = {
-      Rule::Divide,
-      0,
-      {KeySequences{Of({0xE0, 0xF0, 0x12, 0x4A}), Of({0xE0, 0x12, 0xF0, 0x4A})}, Extended(0x4A), Simple(0x4A)}};
-  table[0x00] = {Rule::Print,
+  table[0x35] = {Rule::Divide,
                  0,
-                 {Extended(0x7C), Simple(0x84),
-                  KeySequences{Of({0xE0, 0x12, 0xE0, 0x7C}), Of({0xE0, 0xF0, 0x7C, 0xE0, 0xF0, 0x12})}}};
+                 {Listed(Of({0xE0, 0xF0, 0x12, 0x4A}), Of({0xE0, 0x12, 0xF0, 0x4A})), Extended(0x4A), Simple(0x4A)}};
+  table[0x00] = {
+      Rule::Print,
+      0,
+      {Extended(0x7C), Simple(0x84), Listed(Of({0xE0, 0x12, 0xE0, 0x7C}), Of({0xE0, 0xF0, 0x7C, 0xE0, 0xF0, 0x12}))}};
   table[0x45] = {Rule::NumLock,
                  0,
-                 {Simple(0x77), KeySequences{OfLength({0xE0, 0x7E, 0xE0, 0xF0, 0x7E}, 4), OfLength({0x00}, 1)},
-                  KeySequences{Of({0xE1, 0x14, 0x77, 0xE1, 0xF0, 0x14, 0xF0, 0x77}), OfLength({0x00}, 0)}}};
+                 {Simple(0x77), Listed(OfLength({0xE0, 0x7E, 0xE0, 0xF0, 0x7E}, 4), OfLength({0x00}, 1)),
+                  Listed(Of({0xE1, 0x14, 0x77, 0xE1, 0xF0, 0x14, 0xF0, 0x77}), OfLength({0x00}, 0))}};
   return table;
 }
 
