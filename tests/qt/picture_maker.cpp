@@ -8,14 +8,19 @@
 #include <iostream>
 
 #include "component/component.h"
+#include "editor/help_window.h"
+#include "editor/main_window.h"
+#include "editor/panel_view.h"
+#include "editor/settings_dialog.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
 #include "forms/form_directory.h"
-#include "headless/headless_system.h"
 #include "headless/recording_host.h"
+#include "qt/fonts.h"
 #include "qt/form_view.h"
 #include "qt/qt_platform.h"
+#include "services/shared_services.h"
 
 namespace plexel {
 namespace {
@@ -35,6 +40,7 @@ class PictureMaker {
   }
 
   void TakeAll() {
+    TakeEditor();
     TakeConfiguration(RectLed);
     TakeConfiguration(Led);
     TakeWizard();
@@ -69,8 +75,9 @@ class PictureMaker {
   }
   void Take(const QString& name) {
     QCoreApplication::processEvents();
-    Top().Window().grab().save(target_.filePath(name + suffix_));
+    Save(Top().Window(), name);
   }
+  void Save(QWidget& widget, const QString& name) { widget.grab().save(target_.filePath(name + suffix_)); }
   void Later(std::function<void()> step) {
     QTimer::singleShot(50, &context_, [step = std::move(step)] {
       try {
@@ -114,6 +121,30 @@ class PictureMaker {
     element->OpenConfigurationDialog();
   }
 
+  void TakeEditor() {
+    MainWindow window(surroundings_, platform_, help_);
+    window.NewProject("Large");
+    int place = 0;
+    for (const PanelDocument::Place& one : window.Document()->Places()) {
+      if (++place % 3 == 0 && one.element->ElementType() == RectLed) {
+        one.element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
+        one.element->LEDTypeLayer1(UserLed);
+      }
+    }
+    window.Document()->Refresh();
+    window.View().Select(20);
+    window.show();
+    QCoreApplication::processEvents();
+    Save(window, "editor");
+    SettingsDialog settings(surroundings_, &window);
+    settings.show();
+    QCoreApplication::processEvents();
+    Save(settings, "settings");
+    help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents);
+    QCoreApplication::processEvents();
+    if (help_.Window()) Save(*help_.Window(), "help");
+  }
+
   void TakeWizard() {
     const auto element = Element(RectLed);
     element->WizardOn(True);
@@ -147,7 +178,7 @@ class PictureMaker {
   QString suffix_;
   QTemporaryDir configuration_;
   Faults faults_;
-  HeadlessHelp help_{faults_};
+  HelpWindow help_;
   RecordingHost host_{faults_};
   FileSurroundings surroundings_;
   QtPlatform platform_;
@@ -162,6 +193,7 @@ class PictureMaker {
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  QApplication::setFont(plexel::DialogFont());
   if (argc != 2) {
     std::cerr << "usage: picture_maker DIRECTORY\n";
     return 2;

@@ -1,0 +1,332 @@
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <fstream>
+
+#include "component/component.h"
+#include "editor/log_panel.h"
+#include "editor/main_window.h"
+#include "editor/panel_view.h"
+#include "editor/settings_dialog.h"
+#include "files/data_directory.h"
+#include "files/file_error.h"
+#include "files/language_file.h"
+#include "forms/form_directory.h"
+#include "gtest/gtest.h"
+#include "qt/form_view.h"
+#include "services/module_state.h"
+
+namespace plexel::testing {
+namespace {
+
+class Editor : public ::testing::Test {
+ protected:
+  Editor() {
+    FormDirectory::Instance() = FormDirectory();
+    RegisterForms(FormDirectory::Instance());
+    window.NewProject("Large");
+    window.show();
+  }
+  ~Editor() override { Module().ctlCurrentElement.reset(); }
+
+  std::filesystem::path File(const std::string& name) { return files.path().toStdString() + "/" + name; }
+  ctlPlexelBaseElement& Element(const std::string& id) {
+    for (const PanelDocument::Place& place : window.Document()->Places()) {
+      if (place.element->Name() == id) return *place.element;
+    }
+    throw std::logic_error("no element " + id);
+  }
+  int PlaceOf(const std::string& id) { return window.Document()->PlaceOf(Element(id)); }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(&window.View(), key, modifiers);
+  }
+  QPoint Middle(const std::string& id) { return window.View().PlaceRect(PlaceOf(id)).center(); }
+  /// Acts on the message box that comes next.
+  void AnswerNextBox(const std::function<void(QMessageBox&)>& act) {
+    QTimer::singleShot(0, &context, [act] {
+      auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      act(*box);
+      box->close();
+    });
+  }
+  /// Acts on the form that opens next, and closes it.
+  void ActOnNextForm(const std::function<void(Hand&, Form&)>& act) {
+    QTimer::singleShot(0, &context, [this, act] {
+      FormView* const view = platform.Modal().Topmost();
+      ASSERT_NE(view, nullptr);
+      Form& form = view->Model();
+      Hand hand(form);
+      act(hand, form);
+      if (form.IsShown()) form.Unload();
+    });
+  }
+
+  QTemporaryDir files;
+  FileSurroundings surroundings{DataDirectory(), files.path().toStdString()};
+  Surroundings::Use useSurroundings{surroundings};
+  HelpWindow help;
+  QtPlatform platform{surroundings.UserRegistry(), help};
+  Platform::Use usePlatform{platform};
+  MainWindow window{surroundings, platform, help};
+  QObject context;
+};
+
+constexpr const char* Definition = "[Ctrl Left+a\u2039\u203A]";
+
+/// Every number of the editor's own texts in a language file.
+std::vector<std::int32_t> OwnNumbers(const LanguageTexts& texts) {
+  std::vector<std::int32_t> numbers;
+  for (const auto& [number, text] : texts) {
+    if (number >= 20000) numbers.push_back(number);
+  }
+  return numbers;
+}
+
+TEST(EditorTexts, BothLanguagesHaveTheSameOfThem) {
+  const auto english = ReadLanguageFile(DataDirectory() / "languages" / "English.lang");
+  const auto german = ReadLanguageFile(DataDirectory() / "languages" / "German.lang");
+  EXPECT_EQ(OwnNumbers(english), OwnNumbers(german));
+  EXPECT_GT(OwnNumbers(english).size(), 60U);
+}
+
+TEST_F(Editor, OnePanelPlaceHasOneElementOfItsKind) {
+  const PanelDocument& document = *window.Document();
+  for (const PanelDocument::Place& place : document.Places()) {
+    EXPECT_EQ(place.element->Name(), place.part->element->id);
+    EXPECT_EQ(place.element->ElementType(), place.part->element->type);
+    EXPECT_EQ(place.element->SizeX(), place.part->element->sizeX);
+    EXPECT_EQ(place.element->SizeY(), place.part->element->sizeY);
+  }
+  EXPECT_EQ(document.Places().size(), 46U);
+}
+
+TEST_F(Editor, AClickMovesTheFocusAndRaisesItsEvents) {
+  QTest::mouseClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
+  EXPECT_EQ(window.View().Selected(), &Element("F5"));
+  EXPECT_EQ(Element("F5").FocusVisible(), True);
+  EXPECT_TRUE(Element("F5").SurfaceObjects().shpRect.Visible);
+  EXPECT_TRUE(window.Log().Content().contains("F5: SendKeyDefinition("));
+  EXPECT_TRUE(window.Log().Content().contains("F5: MouseClicked(1, 0, "));
+}
+
+TEST_F(Editor, OnlyOneElementShowsTheFocus) {
+  window.View().Select(PlaceOf("F1"));
+  window.View().Select(PlaceOf("F2"));
+  EXPECT_EQ(Element("F1").FocusVisible(), False);
+  EXPECT_FALSE(Element("F1").SurfaceObjects().shpRect.Visible);
+  EXPECT_TRUE(Element("F2").SurfaceObjects().shpRect.Visible);
+}
+
+TEST_F(Editor, TabGoesFromElementToElementAndRound) {
+  const int count = static_cast<int>(window.Document()->Places().size());
+  window.View().Select(count - 1);
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(window.Document()->PlaceOf(*window.View().Selected()), 0);
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(window.Document()->PlaceOf(*window.View().Selected()), count - 1);
+}
+
+TEST_F(Editor, TheArrowKeysGoToTheNearestElement) {
+  window.View().Select(PlaceOf("F5"));
+  Press(Qt::Key_Right);
+  EXPECT_EQ(window.View().Selected()->Name(), "F6");
+  Press(Qt::Key_Down);
+  EXPECT_EQ(window.View().Selected()->Name(), "F18");
+  Press(Qt::Key_Left);
+  EXPECT_EQ(window.View().Selected()->Name(), "F17");
+  Press(Qt::Key_Up);
+  EXPECT_EQ(window.View().Selected()->Name(), "F5");
+}
+
+TEST_F(Editor, ReturnOpensTheConfigurationDialog) {
+  window.View().Select(PlaceOf("F5"));
+  std::string shown;
+  ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
+  Press(Qt::Key_Return);
+  EXPECT_EQ(shown, "frmConfigurationDialog");
+}
+
+TEST_F(Editor, ADoubleClickOpensTheConfigurationDialog) {
+  std::string shown;
+  ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
+  QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
+  EXPECT_EQ(shown, "frmConfigurationDialog");
+  EXPECT_TRUE(window.Log().Content().contains("F5: MouseDblClicked()"));
+}
+
+TEST_F(Editor, AltReturnOpensTheProperties) {
+  window.View().Select(PlaceOf("F5"));
+  std::string shown;
+  ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
+  Press(Qt::Key_Return, Qt::AltModifier);
+  EXPECT_EQ(shown, "frmPropertiesButton");
+}
+
+TEST_F(Editor, OkOfADialogMakesTheProjectModified) {
+  EXPECT_FALSE(window.isWindowModified());
+  ActOnNextForm([](Hand& hand, Form& form) { hand.Click(*form.Find("cmdOK")); });
+  QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
+  EXPECT_TRUE(window.Document()->Modified());
+  EXPECT_TRUE(window.isWindowModified());
+}
+
+TEST_F(Editor, CancelOfADialogLeavesTheProjectUnmodified) {
+  ActOnNextForm([](Hand& hand, Form& form) { hand.Click(*form.Find("cmdCancel")); });
+  QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
+  EXPECT_FALSE(window.Document()->Modified());
+}
+
+TEST_F(Editor, TheContainerKnowsTheLedFunctionsOfAllElements) {
+  Element("F5").LEDTypeLayer2(AlarmLed);
+  EXPECT_EQ(Element("F1").CheckIfLedIsAlreadyDefined(AlarmLed, 2), True);
+  EXPECT_EQ(Element("F1").CheckIfLedIsAlreadyDefined(AlarmLed, 1), False);
+  EXPECT_EQ(Element("F1").CheckIfLedIsAlreadyDefined(RunLed, 2), False);
+}
+
+TEST_F(Editor, ZoomGoesToAllElementsAndStaysInItsBounds) {
+  window.SetZoom(200);
+  EXPECT_EQ(Element("F1").ZoomFactor(), 200);
+  EXPECT_EQ(window.View().PlaceRect(PlaceOf("F1")).width(), 2 * Element("F1").SizeX());
+  window.SetZoom(100000);
+  EXPECT_EQ(Element("F1").ZoomFactor(), PanelDocument::LargestZoom);
+}
+
+TEST_F(Editor, TheStatusLineTellsKindNumbersAndDefinitions) {
+  Element("F5").PressKeyDefLayer1(Definition);
+  window.View().Select(PlaceOf("F5"));
+  const QString status = window.StatusText();
+  EXPECT_TRUE(status.contains("Rectangular key with LED")) << status.toStdString();
+  EXPECT_TRUE(status.contains("Key " + QString::number(Element("F5").HardwareNumberButton())));
+  EXPECT_TRUE(status.contains(QString("Layer 1: ") + Definition)) << status.toStdString();
+}
+
+TEST_F(Editor, AProjectComesBackWithTextsCodesAndKinds) {
+  Element("F5").PressKeyDefLayer1(Definition);
+  Element("F5").ButtonNotes("note");
+  auto record = Element("F5").TactisBaseElementScanCodeBuffer();
+  record.strLayer1PressScanCode.Value[0] = 0x14;
+  record.strLayer1PressScanCode.Value[1] = 0xFF;
+  record.strLayer1PressScanCode.NextValue = 1;
+  Element("F5").TactisBaseElementScanCodeBuffer(record);
+  const auto saved = Element("F5").TactisBaseElementScanCodeBuffer();
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ASSERT_TRUE(window.NewProject("Large"));
+  ASSERT_TRUE(window.OpenProject(File("a.plexel")));
+  EXPECT_EQ(Element("F5").TactisBaseElementScanCodeBuffer(), saved);
+  EXPECT_EQ(Element("L1").ElementType(), Led);
+  EXPECT_EQ(Element("F5").SizeY(), window.Document()->ThePanel().Find("F5")->element->sizeY);
+  EXPECT_EQ(Element("F5").OriginalPosY(), window.Document()->ThePanel().Find("F5")->box.top);
+  EXPECT_EQ(Element("F5").VantaEnabled(), window.Document()->ThePanel().vantaEnabled);
+  EXPECT_EQ(Element("F5").DeviceType(), window.Document()->ThePanel().deviceType);
+  EXPECT_NE(Element("F5").ParentWindow(), nullptr);
+  EXPECT_FALSE(window.Document()->Modified());
+}
+
+TEST_F(Editor, TheZoomOfAProjectComesBack) {
+  window.SetZoom(150);
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ASSERT_TRUE(window.NewProject("Large"));
+  EXPECT_EQ(window.Document()->Zoom(), 100);
+  ASSERT_TRUE(window.OpenProject(File("a.plexel")));
+  EXPECT_EQ(window.Document()->Zoom(), 150);
+  EXPECT_EQ(Element("F1").ZoomFactor(), 150);
+}
+
+TEST_F(Editor, AFileThatCannotBeReadTellsItsLineAndLosesNothing) {
+  std::ofstream(File("broken.plexel")) << "this is no project\n";
+  Element("F5").PressKeyDefLayer1(Definition);
+  QString told;
+  AnswerNextBox([&](QMessageBox& box) { told = box.informativeText(); });
+  EXPECT_FALSE(window.OpenProject(File("broken.plexel")));
+  EXPECT_TRUE(told.contains("broken.plexel:1:")) << told.toStdString();
+  EXPECT_EQ(Element("F5").PressKeyDefLayer1(), Definition);
+}
+
+TEST_F(Editor, AProjectWithAPlaceThatThePanelLacksIsRefused) {
+  Project project;
+  project.panel = "Small";
+  project.elements.push_back({"nowhere", {}, {}});
+  WriteProject(File("other.plexel"), project);
+  QString told;
+  AnswerNextBox([&](QMessageBox& box) { told = box.informativeText(); });
+  EXPECT_FALSE(window.OpenProject(File("other.plexel")));
+  EXPECT_TRUE(told.contains("nowhere")) << told.toStdString();
+  EXPECT_EQ(window.Document()->Places().size(), 46U);
+}
+
+TEST_F(Editor, AFileThatCannotBeWrittenLeavesTheProjectModified) {
+  window.Document()->Modified(true);
+  QString told;
+  AnswerNextBox([&](QMessageBox& box) { told = box.informativeText(); });
+  EXPECT_FALSE(window.SaveProject(File("missing/a.plexel")));
+  EXPECT_FALSE(told.isEmpty());
+  EXPECT_TRUE(window.Document()->Modified());
+}
+
+TEST_F(Editor, ClosingAModifiedProjectAsksAndCancelKeepsTheWindow) {
+  window.Document()->Modified(true);
+  int asked = 0;
+  AnswerNextBox([&](QMessageBox& box) {
+    ++asked;
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  EXPECT_FALSE(window.close());
+  EXPECT_EQ(asked, 1);
+  EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(Editor, ClosingAnUnmodifiedProjectAsksNothing) { EXPECT_TRUE(window.close()); }
+
+TEST_F(Editor, TheSettingsReachFileAndElements) {
+  {
+    SettingsDialog dialog(surroundings, &window);
+    auto* const wizard = dialog.findChild<QAbstractButton*>("UseWizard");
+    ASSERT_NE(wizard, nullptr);
+    wizard->setChecked(true);
+    dialog.Apply();
+  }
+  window.SettingsChanged();
+  EXPECT_EQ(Element("F5").WizardOn(), True);
+  FileSurroundings again(DataDirectory(), files.path().toStdString());
+  Boolean useWizard = False;
+  again.Settings().GetOption(2, useWizard);
+  EXPECT_EQ(useWizard, True);
+}
+
+TEST_F(Editor, EverySettingHasAFieldThatKeepsItsValue) {
+  std::vector<std::int32_t> before, after;
+  for (const SettingRow& row : SettingTable) before.push_back(surroundings.Settings().Value(row));
+  SettingsDialog dialog(surroundings, &window);
+  for (const SettingRow& row : SettingTable) {
+    EXPECT_NE(dialog.findChild<QWidget*>(QString::fromUtf8(row.name.data(), static_cast<qsizetype>(row.name.size()))),
+              nullptr)
+        << row.name;
+  }
+  dialog.Apply();
+  for (const SettingRow& row : SettingTable) after.push_back(surroundings.Settings().Value(row));
+  EXPECT_EQ(before, after);
+}
+
+TEST_F(Editor, AllTextsFollowTheLanguage) {
+  surroundings.ChooseLanguage("German");
+  window.SettingsChanged();
+  window.View().Select(PlaceOf("F5"));
+  EXPECT_TRUE(window.StatusText().contains("Rechteckige Taste mit LED"));
+  EXPECT_EQ(window.Log().windowTitle(), "Ereignisse");
+}
+
+TEST_F(Editor, ATopicOfTheHelpIsShownAndAMissingOneOpensNothing) {
+  help.Show(0, "nowhere\\Help\\PlexelEnglish.chm", HelpViewer::HelpContext, 2000);
+  EXPECT_TRUE(help.Window().isNull());
+  help.Show(0, DataDirectory().string() + "\\Help\\PlexelEnglish.chm", HelpViewer::HelpContext, 2000);
+  ASSERT_FALSE(help.Window().isNull());
+  EXPECT_TRUE(help.Window()->isVisible());
+}
+
+}  // namespace
+}  // namespace plexel::testing
