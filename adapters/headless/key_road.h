@@ -16,6 +16,7 @@ char32_t TypedCharacter(std::int32_t virtualKey, std::int16_t shift, char32_t pl
 /// the topmost form and its control with the focus.
 class KeyRoad {
  public:
+  static constexpr std::int32_t LastVirtualKey = 255;
   explicit KeyRoad(HeadlessPlatform& platform) : platform_(platform) {}
   /// The whole road. True when the low-level hook kept the key.
   bool Send(const KeyEvent& event);

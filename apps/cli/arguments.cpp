@@ -69,6 +69,12 @@ std::int64_t Arguments::Integer(int bits) {
 std::int32_t Arguments::Int32() { return static_cast<std::int32_t>(Integer(32)); }
 std::int16_t Arguments::Int16() { return static_cast<std::int16_t>(Integer(16)); }
 
+std::int32_t Arguments::UpTo(std::int32_t last, const char* what) {
+  const std::int32_t value = Int32();
+  if (value >= 0 && value <= last) return value;
+  throw CommandError(std::to_string(value) + " is no " + what + ", 0 to " + std::to_string(last));
+}
+
 std::int32_t Arguments::Bits32() {
   const std::int64_t value = Integer(64);
   if (value < INT32_MIN || value > UINT32_MAX) throw CommandError(std::to_string(value) + " does not fit 32 bits");

@@ -23,6 +23,8 @@ class Arguments {
   std::string Text();
   std::int32_t Int32();
   std::int16_t Int16();
+  /// A number from 0 to `last`; `what` names it in the refusal.
+  std::int32_t UpTo(std::int32_t last, const char* what);
   /// A word of 32 bits, whose number may be given with or without a sign.
   std::int32_t Bits32();
   float Single();

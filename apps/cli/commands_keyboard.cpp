@@ -1,6 +1,5 @@
 #include <array>
 
-#include "cli/command_error.h"
 #include "cli/commands.h"
 #include "cli/values_json.h"
 #include "scancodes/capture.h"
@@ -9,21 +8,13 @@ namespace plexel {
 
 namespace {
 
-constexpr std::int32_t LastVirtualKey = 255, LastScanCode = 255;
-
-std::int32_t TakeUpTo(Arguments& arguments, std::int32_t last, const char* what) {
-  const std::int32_t value = arguments.Int32();
-  if (value < 0 || value > last) {
-    throw CommandError(std::to_string(value) + " is no " + what + ", 0 to " + std::to_string(last));
-  }
-  return value;
-}
+constexpr std::int32_t LastScanCode = 255;
 
 void SendKey(Workbench& bench, Arguments& arguments, Json&) {
   KeyEvent event;
   event.down = arguments.Choice("down", "up");
-  event.virtualKey = TakeUpTo(arguments, LastVirtualKey, "virtual key");
-  event.scanCode = TakeUpTo(arguments, LastScanCode, "scan code");
+  event.virtualKey = arguments.UpTo(KeyRoad::LastVirtualKey, "virtual key");
+  event.scanCode = arguments.UpTo(LastScanCode, "scan code");
   event.extended = arguments.Int32() != 0;
   const bool swallowed = bench.Box() != nullptr ? bench.keys.ToHooks(event) : bench.keys.Send(event);
   if (swallowed) bench.ReportSwallowedKey();

@@ -93,8 +93,13 @@ void SetKeyText(Workbench& bench, Arguments& arguments, Json&) {
   bench.platform.Layout().KeyText(virtualKey, result, std::move(text));
 }
 
-void HoldKey(Workbench& bench, Arguments& arguments, Json&) { bench.platform.Keys().Hold(arguments.Int32()); }
-void FreeKey(Workbench& bench, Arguments& arguments, Json&) { bench.platform.Keys().Free(arguments.Int32()); }
+void HoldKey(Workbench& bench, Arguments& arguments, Json&) {
+  bench.platform.Keys().Hold(arguments.UpTo(KeyRoad::LastVirtualKey, "virtual key"));
+}
+
+void FreeKey(Workbench& bench, Arguments& arguments, Json&) {
+  bench.platform.Keys().Free(arguments.UpTo(KeyRoad::LastVirtualKey, "virtual key"));
+}
 
 void SetFault(Workbench& bench, Arguments& arguments, Json&) {
   const Fault fault = FaultNamed(arguments.Text());

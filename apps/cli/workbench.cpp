@@ -1,5 +1,6 @@
 #include "cli/workbench.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "cli/values_json.h"
@@ -18,7 +19,29 @@ namespace {
 constexpr const char* InitialLanguage = "English";
 constexpr const char* InitialLayout = "us";
 
-std::filesystem::path LanguageFile(const std::string& name) { return DataDirectory() / "languages" / (name + ".lang"); }
+std::filesystem::path LanguageDirectory() { return DataDirectory() / "languages"; }
+
+LanguageTexts InitialTexts() {
+  try {
+    return ReadLanguageFile(LanguageDirectory() / (std::string(InitialLanguage) + ".lang"));
+  } catch (const FileError& error) {
+    throw Failure(FailureKind::Platform, error.what());
+  }
+}
+
+bool SameLetters(std::string_view a, std::string_view b) {
+  const auto lower = [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// The file of a language, whose name may be written in any case.
+std::filesystem::path LanguageFile(const std::string& name) {
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(LanguageDirectory(), error)) {
+    if (SameLetters(entry.path().filename().string(), name + ".lang")) return entry.path();
+  }
+  throw CommandError("no language is named " + Excerpt(name));
+}
 
 const char* HookName(HookKind kind) { return kind == HookKind::Keyboard ? "keyboard" : "lowlevel"; }
 
@@ -28,13 +51,7 @@ Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), repo
   RegisterForms(FormDirectory::Instance());
   surroundings.Settings().BasePath(DataDirectory().string());
   surroundings.Settings().LanguageName(InitialLanguage);
-  surroundings.Language().Source([] {
-    try {
-      return ReadLanguageFile(LanguageFile(InitialLanguage));
-    } catch (const FileError& error) {
-      throw Failure(FailureKind::Platform, error.what());
-    }
-  });
+  surroundings.Language().Source(InitialTexts);
   surroundings.ParameterFiles().Use(&parameterFiles_);
   layout_ = std::make_unique<XkbLayout>(InitialLayout);
   platform.Layout().Use(layout_.get());
@@ -48,12 +65,7 @@ Workbench::~Workbench() {
 }
 
 void Workbench::UseLanguage(const std::string& name) {
-  const std::filesystem::path file = LanguageFile(name);
-  std::error_code error;
-  if (name.find('/') != std::string::npos || !std::filesystem::is_regular_file(file, error)) {
-    throw CommandError("no language is named " + Excerpt(name));
-  }
-  LanguageTexts texts = ReadLanguageFile(file);
+  LanguageTexts texts = ReadLanguageFile(LanguageFile(name));
   surroundings.Language().Source([texts = std::move(texts)] { return texts; });
   surroundings.Settings().LanguageName(name);
 }
