@@ -56,6 +56,8 @@ void Keyboard::ReleaseLost(const WinKeys::KeySet& really, const ToForm& toForm) 
 }
 
 void Keyboard::Keep(const KeyEvent& event) {
+  // Of two Shifts one release alone is told: behind it neither is down.
+  if (!event.down && event.virtualKey == VkShift) std::replace(down_.begin(), down_.end(), VkShift, 0);
   down_[SlotOf(event.scanCode, event.extended)] = event.down ? event.virtualKey : 0;
 }
 
