@@ -1,0 +1,194 @@
+"""The editor under test, as its user meets it."""
+
+import json
+import subprocess
+import time
+from pathlib import Path
+
+from desktop import Box, Failed, PATIENCE, wait_for
+from project import Panel, read_project, read_values
+
+TWIPS = 15  # on a pixel at scale 1
+PAGE_LEFT, PAGE_TOP = 2, 24  # pixels round the pages of a tab strip
+MAIN = "\u2013 Plexel"  # ends the title of the editor's window
+
+
+class Tools:
+    """What the tests work with."""
+
+    def __init__(self, build, source, pictures):
+        programs = Path(build).resolve() / "bin"
+        self.editor, self.script, self.typist = (programs / name for name in ("plexel-editor", "plexel", "typist"))
+        self.data, self.pictures = Path(source).resolve() / "data", Path(pictures).resolve()
+
+    def texts(self, language):
+        return {int(number): text
+                for number, text in read_values(self.data / "languages" / f"{language}.lang").items()}
+
+
+class Plan:
+    """Where the controls of a form lie, as the command line tells it for the same element.
+
+    `setup` are commands of a script that bring the form to the front."""
+
+    def __init__(self, tools, setup):
+        self.tools, self.setup, self.known = tools, list(setup), {}
+
+    def control(self, name):
+        if name not in self.known:
+            commands = "\n".join([*self.setup, f"control {name}", "close", ""])
+            told = subprocess.run([tools_path(self.tools.script), "script"], input=commands, capture_output=True,
+                                  text=True, encoding="utf-8", timeout=PATIENCE).stdout
+            answers = [json.loads(line) for line in told.splitlines()]
+            found = [one["control"] for one in answers if "control" in one]
+            if not found:
+                raise Failed(f"no control {name}: {[one for one in answers if one.get('ok') is False]}")
+            self.known[name] = found[0]
+        return self.known[name]
+
+    def box(self, path):
+        """In pixels at scale 1, from the form's corner. `path` names the control behind its containers."""
+        left = top = 0.0
+        for name in path:
+            control = self.control(name)
+            left += control["Left"] / TWIPS
+            top += control["Top"] / TWIPS
+            if control["Kind"] == "TabStrip" and name != path[-1]:
+                left, top = left + PAGE_LEFT, top + PAGE_TOP
+        return Box(left, top, control["Width"] / TWIPS, control["Height"] / TWIPS)
+
+
+def tools_path(path):
+    if not path.exists():
+        raise Failed(f"{path} is missing")
+    return str(path)
+
+
+class Dialog:
+    """A dialog on the screen."""
+
+    def __init__(self, editor, title, plan):
+        self.editor, self.title, self.plan = editor, title, plan
+        self.window = editor.desktop.window(title)
+
+    def box(self, *path):
+        scale, local = self.editor.scale, self.plan.box(path)
+        return Box(self.window.left + local.left * scale, self.window.top + local.top * scale, local.width * scale,
+                   local.height * scale)
+
+    def click(self, *path, button=1):
+        self.editor.desktop.click(self.box(*path).centre(), button)
+
+    def wait_closed(self):
+        self.editor.desktop.gone(self.title)
+
+
+class ConfigurationDialog(Dialog):
+    GRID = ("sstScanCode", "fraButton", "msgScanCodes")
+    ROW_HEIGHT = 285  # twips
+
+    def __init__(self, editor, kind):
+        plan = Plan(editor.tools, ["element A", f"set ElementType {kind}", "set ParentWindow form",
+                                   "call OpenConfigurationDialog"])
+        super().__init__(editor, editor.texts[2005], plan)
+
+    def cell(self, layer, press=True):
+        grid, scale = self.box(*self.GRID), self.editor.scale
+        widths = [width / TWIPS * scale for width in self.plan.control("msgScanCodes")["ColWidth"]]
+        height, column = self.ROW_HEIGHT / TWIPS * scale, 1 if press else 2
+        return Box(grid.left + sum(widths[:column]), grid.top + layer * height, widths[column], height)
+
+    def captures_in(self, layer, press=True):
+        count, _ = self.editor.desktop.colour(self.cell(layer, press).inner(3), "FFFF00")
+        return count > 100
+
+    def start_capture(self, layer=1, press=True):
+        self.editor.desktop.double_click(self.cell(layer, press).centre())
+        self.wait_capture(layer, press)
+
+    def move_capture(self, layer, press):
+        self.editor.desktop.click(self.cell(layer, press).centre())
+        self.wait_capture(layer, press)
+
+    def wait_capture(self, layer, press=True):
+        wait_for(f"recording in layer {layer}", lambda: self.captures_in(layer, press))
+
+    def wait_no_capture(self, layer, press=True):
+        wait_for(f"the end of recording in layer {layer}", lambda: not self.captures_in(layer, press))
+
+    def ok(self):
+        self.click("cmdOK")
+        self.wait_closed()
+
+
+class Editor:
+    def __init__(self, desktop, tools, project=None, panel="Small", scale=1, language="English",
+                 settings=None):
+        self.desktop, self.tools, self.scale, self.project = desktop, tools, scale, project
+        self.texts, self.panel = tools.texts(language), Panel(tools.data / "panels" / f"{panel}.panel")
+        self.configuration = Path(desktop.environment["XDG_CONFIG_HOME"]) / "plexel"
+        if settings is not None:
+            self.configuration.mkdir(parents=True, exist_ok=True)
+            lines = [f"Language={language}"] + [f"{name}={value}" for name, value in settings.items()]
+            (self.configuration / "settings.ini").write_text("[SETTINGS]\n" + "\n".join(lines) + "\n", encoding="utf-8")
+        self.log = desktop.folder / "plexel-editor.log"
+        self.log.touch()
+        environment = {"QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": str(scale), "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+        command = [tools_path(tools.editor)] + ([str(project)] if project else [])
+        self.process = desktop.start(command, environment)
+        self.window = desktop.window(MAIN)
+
+    # ---- the panel
+
+    def element(self, name):
+        """The place of an element on the screen, once the panel is drawn."""
+        facts = self.panel
+
+        def find():
+            self.window = self.desktop.window(MAIN)
+            count, box = self.desktop.colour(self.window, facts.screen_colour)
+            return box if count > 1000 else None
+
+        # A light falls on the left of the panel's screen: its colour ends at the other edges.
+        seen = wait_for("the picture of the panel", find)
+        right, top = facts.screen[0] + facts.screen[2], facts.screen[1]
+        left = seen.left + seen.width - right * self.scale
+        above = seen.top - top * self.scale
+        box = facts.elements[name]
+        return Box(left + box[0] * self.scale, above + box[1] * self.scale, box[2] * self.scale, box[3] * self.scale)
+
+    def configure(self, name):
+        """Opens the configuration dialog of an element by a double click."""
+        self.desktop.double_click(self.element(name).centre())
+        return ConfigurationDialog(self, self.panel.kinds[name])
+
+    # ---- the project
+
+    def wait_modified(self, modified):
+        wait_for("the mark of a changed project" if modified else "the end of the mark of a changed project",
+                 lambda: any(MAIN in one["title"] and ("*" in one["title"]) == modified
+                             for one in self.desktop.windows()))
+
+    def save(self):
+        """Saves by Ctrl+S and gives the elements of the saved project."""
+        self.wait_modified(True)
+        self.desktop.window(MAIN)
+        self.desktop.chord(29, 31)
+        self.wait_modified(False)
+        return read_project(self.project)
+
+    def quit(self):
+        """Leaves by Ctrl+Q and looks at what the editor left behind."""
+        self.desktop.window(MAIN)
+        self.desktop.chord(29, 16)
+        try:
+            status = self.process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            raise Failed("the editor does not end") from None
+        said = self.log.read_text(encoding="utf-8", errors="replace")
+        if status != 0 or "Sanitizer" in said or "runtime error" in said:
+            raise Failed(f"the editor ended with status {status} and said:\n{said}")
+
+    def pause(self, seconds):
+        """Lets time pass where the passing of time is what is tested."""
+        time.sleep(seconds)

@@ -1,0 +1,45 @@
+#!/usr/bin/env python3
+"""Runs one test of the editor's windows under an X server of its own: run.py BUILD SOURCE PICTURES TEST."""
+
+import shutil
+import sys
+import tempfile
+import traceback
+from pathlib import Path
+
+import tests_keyboard
+from desktop import Failed
+from editor import Tools
+
+TESTS = {
+    "us-keyboard": tests_keyboard.us_keyboard,
+    "german-keyboard": tests_keyboard.german_keyboard,
+}
+
+
+def main(build, source, pictures, name):
+    tools = Tools(build, source, Path(pictures))
+    home = Path(tempfile.mkdtemp(prefix="plexel-window-"))
+    folder = home / name
+    folder.mkdir()
+    try:
+        return run(TESTS[name], tools, folder)
+    finally:
+        shutil.rmtree(home)
+
+
+def run(test, tools, folder):
+    try:
+        test(tools, folder)
+        return 0
+    except Failed as failure:
+        print(f"{folder.name}: {failure}", file=sys.stderr)
+    except Exception:
+        traceback.print_exc()
+    for log in sorted(folder.glob("*.log")):
+        print(f"--- {log.name}\n{log.read_text(encoding='utf-8', errors='replace')}", file=sys.stderr)
+    return 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

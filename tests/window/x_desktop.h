@@ -1,0 +1,71 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace plexel::window_test {
+
+struct Box {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+
+/// A window on the screen: a managed one by its title, or a popup that the window manager leaves alone.
+struct WindowFacts {
+  xcb_window_t id = XCB_WINDOW_NONE;
+  std::string title;
+  Box client;  ///< without the frame, on the screen
+  bool active = false;
+  bool popup = false;
+};
+
+struct Pixels {
+  Box box;
+  std::vector<std::uint32_t> values;  ///< 0xRRGGBB, row by row
+};
+
+/// An X server as a user meets it: keys and mouse by the XTEST extension, windows as the window manager tells them, and
+/// what is to be seen. Everything that fails throws std::runtime_error.
+class XDesktop {
+ public:
+  XDesktop();
+  ~XDesktop();
+  XDesktop(const XDesktop&) = delete;
+  XDesktop& operator=(const XDesktop&) = delete;
+
+  void Key(int evdev, bool down);
+  void Button(int number, bool down);
+  void MoveTo(int x, int y);
+  /// The keys that the server takes for held, as evdev codes.
+  std::vector<int> HeldKeys();
+  /// Whether a program holds the keyboard for itself.
+  bool KeyboardIsGrabbed();
+
+  std::vector<WindowFacts> Windows();
+  /// Puts up a plain window of its own.
+  void Open(const std::string& title, const Box& box);
+  /// Asks the window manager to bring a window to the front with the focus.
+  void Activate(xcb_window_t window);
+  /// Asks the window manager to close a window, as its close box does.
+  void Close(xcb_window_t window);
+
+  Pixels Read(const Box& box);
+  Box Screen() const { return {0, 0, screen_->width_in_pixels, screen_->height_in_pixels}; }
+
+ private:
+  xcb_atom_t Atom(std::string_view name);
+  std::vector<std::uint32_t> Numbers(xcb_window_t window, std::string_view property);
+  std::string Title(xcb_window_t window);
+  WindowFacts Describe(xcb_window_t window, bool popup);
+  void Ask(xcb_window_t window, std::string_view message, std::array<std::uint32_t, 2> words);
+  void Fake(std::uint8_t type, std::uint8_t detail, int x, int y);
+
+  xcb_connection_t* connection_;
+  xcb_screen_t* screen_ = nullptr;
+};
+
+}  // namespace plexel::window_test
