@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
+#include <algorithm>
 
 #include "platform/failure.h"
 #include "qt/fonts.h"
@@ -33,6 +34,14 @@ class FormWindow : public QDialog {
  private:
   std::function<void()> closing_;
 };
+
+/// Whether the user could see any of the form.
+bool OnAnyScreen(const Form& form) {
+  const QRect place = PixelRect(form.Left(), form.Top(), form.Width(), form.Height());
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  return std::any_of(screens.begin(), screens.end(),
+                     [&place](const QScreen* screen) { return screen->availableGeometry().intersects(place); });
+}
 
 }  // namespace
 
@@ -76,9 +85,17 @@ ControlView* FormView::ViewOf(const Control* control) const {
 }
 
 void FormView::Show() {
+  if (!form_.Placed() || !OnAnyScreen(form_)) PlaceOverOwner();
   Sync();
   window_->show();
   window_->activateWindow();
+}
+
+void FormView::PlaceOverOwner() {
+  const QWidget* const owner = window_->parentWidget();
+  const QRect around = owner != nullptr ? owner->frameGeometry() : window_->screen()->availableGeometry();
+  const QPoint corner = around.center() - QPoint(ToPixels(form_.Width()), ToPixels(form_.Height())) / 2;
+  Hand(form_).Move(ToTwips(std::max(0, corner.x())), ToTwips(std::max(0, corner.y())));
 }
 
 void FormView::Hide() {

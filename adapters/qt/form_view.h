@@ -48,6 +48,7 @@ class FormView : public QObject, public UserActs {
   void Guarded(const std::function<void()>& act);
   void MakeViews();
   void MakeViewOf(Control& control);
+  void PlaceOverOwner();
   void SyncWindow();
   void SyncFocus();
   void SyncMenu();

@@ -32,9 +32,17 @@ class Form : public Window {
   const std::string& Caption() const { return caption_; }
   void Caption(std::string value) { caption_ = std::move(value); }
   float Left() const { return left_; }
-  void Left(float value) { left_ = value; }
+  void Left(float value) {
+    left_ = value;
+    placed_ = true;
+  }
   float Top() const { return top_; }
-  void Top(float value) { top_ = value; }
+  void Top(float value) {
+    top_ = value;
+    placed_ = true;
+  }
+  /// Whether the form has been given a place. One that has none opens where the desktop puts it.
+  bool Placed() const { return placed_; }
   float Width() const { return width_; }
   void Width(float value) { width_ = value; }
   float Height() const { return height_; }
@@ -110,7 +118,7 @@ class Form : public Window {
 
   std::string name_, caption_;
   float left_ = 0, top_ = 0, width_ = 4800, height_ = 3600;
-  bool keyPreview_ = false, loaded_ = false, shown_ = false, unloading_ = false;
+  bool keyPreview_ = false, loaded_ = false, shown_ = false, placed_ = false, unloading_ = false;
   std::int32_t helpContext_ = 0;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;

@@ -137,6 +137,40 @@ TEST_F(FormViewTest, MovingTheWindowMovesTheForm) {
   });
 }
 
+TEST_F(FormViewTest, AFormWithoutAPlaceOpensOverTheMiddleOfItsOwner) {
+  Form inner("inner");
+  inner.Width(3000);
+  inner.Height(1500);
+  QRect place;
+  form.ok.OnClick = [&] {
+    QTimer::singleShot(0, &context, [&] {
+      place = QRect(platform.Modal().Topmost()->Window().pos(), QSize(200, 100));
+      inner.Unload();
+    });
+    inner.ShowModal(&form);
+  };
+  WhileShown([&](FormView& view) {
+    Click(view, form.ok);
+    const QPoint apart = place.center() - view.Window().frameGeometry().center();
+    EXPECT_LE(apart.manhattanLength(), 2);
+    EXPECT_EQ(inner.Left(), ToTwips(place.left()));
+  });
+}
+
+TEST_F(FormViewTest, AFormOnNoScreenIsBroughtBack) {
+  form.Left(-100000);
+  WhileShown([&](FormView& view) {
+    EXPECT_TRUE(view.Window().screen()->availableGeometry().contains(view.Window().pos()));
+    EXPECT_EQ(ToPixels(form.Left()), view.Window().pos().x());
+  });
+}
+
+TEST_F(FormViewTest, TheCornerOfTheScreenIsAPlaceLikeAnyOther) {
+  form.Left(0);
+  form.Top(0);
+  WhileShown([&](FormView& view) { EXPECT_EQ(view.Window().pos(), QPoint(0, 0)); });
+}
+
 TEST_F(FormViewTest, APlaceBetweenPixelsIsKeptWhenTheWindowDoesNotMove) {
   form.Left(1507.5F);
   WhileShown([&](FormView&) {

@@ -132,6 +132,7 @@ class PictureMaker {
       }
     }
     window.Document()->Refresh();
+    window.resize(1100, 940);
     window.View().Select(20);
     window.show();
     QCoreApplication::processEvents();
