@@ -49,7 +49,8 @@ FormView::FormView(Form& form, QWidget* owner, FormDesk& desk) : form_(form), de
   window_ = std::make_unique<FormWindow>(owner, [this] { CarryOnForm([](Hand& hand) { hand.Close(); }); });
   window_->setFont(DialogFont());
   window_->setWindowModality(Qt::ApplicationModal);
-  window_->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  window_->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint);
   window_->setObjectName(ToQt(form.Name()));
   window_->installEventFilter(this);
   MakeViews();

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <cstdlib>
+#include <string_view>
 
 #include "headless/key_road.h"
 #include "platform/failure.h"
@@ -18,6 +20,15 @@ constexpr std::uint8_t FirstKeycode = 8;
 constexpr std::uint8_t SyntheticBit = 0x80;
 /// An automatic repeat is a release and a press of one time; the press comes at once.
 constexpr int RepeatGapMilliseconds = 5;
+
+/// The first event number of the keyboard extension, 0 for a server without it.
+std::uint8_t KeyboardEventOf(xcb_connection_t* connection) {
+  constexpr std::string_view Name = "XKEYBOARD";
+  const std::unique_ptr<xcb_query_extension_reply_t, decltype(&std::free)> reply(
+      xcb_query_extension_reply(connection, xcb_query_extension(connection, Name.size(), Name.data()), nullptr),
+      &std::free);
+  return reply && reply->present ? reply->first_event : std::uint8_t{0};
+}
 
 std::uint32_t GroupOf(std::uint16_t state) { return (state >> 13U) & 3U; }
 
@@ -46,7 +57,7 @@ std::unique_ptr<X11Capture> X11Capture::OnThisDesktop(HookTable& hooks, Keyboard
 }
 
 X11Capture::X11Capture(xcb_connection_t* connection, HookTable& hooks, Keyboard& keys, QtModalLoop& forms)
-    : hooks_(hooks), keys_(keys), forms_(forms), server_(connection) {
+    : hooks_(hooks), keys_(keys), forms_(forms), server_(connection), keyboardEvent_(KeyboardEventOf(connection)) {
   releaseTimer_.setSingleShot(true);
   releaseTimer_.setInterval(RepeatGapMilliseconds);
   busyTimer_.setSingleShot(true);
@@ -76,8 +87,26 @@ bool X11Capture::nativeEventFilter(const QByteArray& eventType, void* message, q
     SendHeldRelease();
     ToolkitIsBusy();
   }
-  if (type == XCB_MAPPING_NOTIFY) ReadLayout();
+  if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT) {
+    FocusMoves(reinterpret_cast<const xcb_focus_in_event_t&>(event), type == XCB_FOCUS_IN);
+  }
+  if (type == XCB_MAPPING_NOTIFY || IsKeymapEvent(event)) layoutIsStale_ = true;
   return false;
+}
+
+void X11Capture::FocusMoves(const xcb_focus_in_event_t& event, bool comes) {
+  FormView* const view = forms_.Topmost();
+  const bool ofThePointer = event.detail == XCB_NOTIFY_DETAIL_POINTER || event.detail == XCB_NOTIFY_DETAIL_INFERIOR;
+  if (view == nullptr || event.event != view->Window().winId() || ofThePointer) return;
+  const bool grabBegins = event.mode == XCB_NOTIFY_MODE_GRAB, grabEnds = event.mode == XCB_NOTIFY_MODE_UNGRAB;
+  if (comes && !grabBegins) FormActivated(*view);
+  if (!comes && !grabBegins && !grabEnds) FormDeactivated(*view);
+}
+
+bool X11Capture::IsKeymapEvent(const xcb_generic_event_t& event) const {
+  constexpr std::uint8_t NewKeyboard = 0, NewMap = 1;
+  const bool ofKeyboard = keyboardEvent_ != 0 && (event.response_type & ~SyntheticBit) == keyboardEvent_;
+  return ofKeyboard && (event.pad0 == NewKeyboard || event.pad0 == NewMap);
 }
 
 bool X11Capture::KeyArrives(const xcb_key_press_event_t& event, bool down) {
@@ -89,7 +118,7 @@ bool X11Capture::KeyArrives(const xcb_key_press_event_t& event, bool down) {
     releaseTimer_.stop();
   }
   SendHeldRelease();
-  if (GroupOf(event.state) != group_) {
+  if (layoutIsStale_ || GroupOf(event.state) != group_) {
     group_ = GroupOf(event.state);
     ReadLayout();
   }
@@ -129,6 +158,7 @@ void X11Capture::SendHeldRelease() {
 void X11Capture::ToolkitIsBusy() { busyTimer_.start(); }
 
 void X11Capture::ReadLayout() {
+  layoutIsStale_ = false;
   try {
     keys_.Layout(server_.ReadLayout());
   } catch (const Failure& failure) {

@@ -30,6 +30,9 @@ class X11Capture : public QObject, public QAbstractNativeEventFilter, public Key
  private:
   X11Capture(xcb_connection_t* connection, HookTable& hooks, Keyboard& keys, QtModalLoop& forms);
 
+  bool IsKeymapEvent(const xcb_generic_event_t& event) const;
+  /// The toolkit tells of a focus that leaves a moment late, and not at all of one that is back by then.
+  void FocusMoves(const xcb_focus_in_event_t& event, bool comes);
   bool KeyArrives(const xcb_key_press_event_t& event, bool down);
   void Send(const RawKey& key, std::uint16_t state);
   void SendHeldRelease();
@@ -42,12 +45,14 @@ class X11Capture : public QObject, public QAbstractNativeEventFilter, public Key
   Keyboard& keys_;
   QtModalLoop& forms_;
   ServerKeyboard server_;
+  std::uint8_t keyboardEvent_;  ///< number of the keyboard extension's events
   struct HeldRelease {
     RawKey key;
     std::uint16_t state;
   };
   std::optional<HeldRelease> heldRelease_;  ///< until it is certain that no repeat follows
   QTimer releaseTimer_, busyTimer_;
+  bool layoutIsStale_ = false;
   std::optional<std::uint32_t> group_;  ///< of the layout in force, once a key has told it
 };
 

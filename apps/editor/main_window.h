@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTranslator>
 #include <filesystem>
 #include <memory>
 #include <vector>
@@ -56,6 +57,8 @@ class MainWindow : public QMainWindow {
   void ConnectElements();
   QAction* Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)());
   void Retranslate();
+  /// The toolkit's own dialogs speak the user's language too, where its texts are installed.
+  void UseToolkitTexts();
   PanelDocument::Site Site();
   void Take(std::unique_ptr<PanelDocument> document);
 
@@ -99,6 +102,7 @@ class MainWindow : public QMainWindow {
   std::vector<Named> named_;
   std::vector<std::pair<QMenu*, Text>> menus_;
   QMenu* elementMenu_ = nullptr;
+  QTranslator toolkitTexts_;
 };
 
 }  // namespace plexel

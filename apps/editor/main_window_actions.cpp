@@ -4,6 +4,8 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,6 +16,7 @@
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
 #include "editor/version.h"
+#include "files/file_error.h"
 #include "qt/units.h"
 #include "services/shared_services.h"
 
@@ -22,6 +25,25 @@ namespace plexel {
 namespace {
 
 constexpr std::array zoomSteps = {25, 50, 75, 100, 125, 150, 200, 250, 300, 400};
+
+/// The locale of a language's English name, the system's for an unknown one.
+QLocale LocaleOf(const std::string& name) {
+  for (int language = QLocale::C + 1; language <= QLocale::LastLanguage; ++language) {
+    const auto known = static_cast<QLocale::Language>(language);
+    if (QLocale::languageToString(known) == ToQt(name)) return QLocale(known);
+  }
+  return QLocale::system();
+}
+
+/// A panel as the user knows it; its name alone when its file cannot be read.
+QString PanelTitle(const std::filesystem::path& directory, const std::string& name) {
+  try {
+    return ToQt(name) + " \u2013 " + ToQt(ReadPanel(PanelFile(directory, name)).title);
+  } catch (const FileError& failure) {
+    qWarning("%s", failure.what());
+    return ToQt(name);
+  }
+}
 
 }  // namespace
 
@@ -68,6 +90,7 @@ void MainWindow::MakeActions() {
 }
 
 void MainWindow::Retranslate() {
+  UseToolkitTexts();
   for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
   for (const Named& named : named_) named.action->setText(Say(named.text));
   limits_->setText(Say(Text::CaptureIsPartial));
@@ -76,17 +99,28 @@ void MainWindow::Retranslate() {
   ShowTitle();
 }
 
+void MainWindow::UseToolkitTexts() {
+  QCoreApplication::removeTranslator(&toolkitTexts_);
+  const QLocale locale = LocaleOf(surroundings_.Language().Chosen());
+  if (toolkitTexts_.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&toolkitTexts_);
+  }
+}
+
 void MainWindow::AskNew() {
   if (!MayLeaveProject()) return;
+  const std::vector<std::string> names = PanelNames(Site().panelDirectory);
   QStringList panels;
-  for (const std::string& name : PanelNames(Site().panelDirectory)) panels.append(ToQt(name));
+  for (const std::string& name : names) panels.append(PanelTitle(Site().panelDirectory, name));
   QInputDialog dialog(this);
   dialog.setWindowTitle(Say(Text::NewTitle));
   dialog.setLabelText(Say(Text::NewPanel));
   dialog.setComboBoxItems(panels);
   dialog.setOkButtonText(Say(Text::OK));
   dialog.setCancelButtonText(Say(Text::Cancel));
-  if (dialog.exec() == QDialog::Accepted) NewProject(dialog.textValue().toStdString());
+  if (dialog.exec() != QDialog::Accepted) return;
+  const qsizetype chosen = panels.indexOf(dialog.textValue());
+  if (chosen >= 0) NewProject(names[static_cast<std::size_t>(chosen)]);
 }
 
 void MainWindow::AskOpen() {

@@ -148,7 +148,7 @@ void PanelView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (element == nullptr) return;
-      if (event->modifiers().testFlag(Qt::AltModifier)) return onProperties();
+      if (event->modifiers().testFlag(Qt::AltModifier)) return run(onProperties);
       return run([hold = element->shared_from_this()] { hold->UserControl_KeyPress(ReturnCharacter); });
     default:
       return QWidget::keyPressEvent(event);
