@@ -12,6 +12,8 @@ import time
 import zlib
 from pathlib import Path
 
+from keys import KEYS
+
 PATIENCE = 30  # seconds that anything may take before it counts as not happening
 
 
@@ -52,6 +54,14 @@ class Box:
 
     def __str__(self):
         return f"{self.left} {self.top} {self.width} {self.height}"
+
+
+class Window(Box):
+    """A window of a program, without its frame."""
+
+    def __init__(self, number, *box):
+        super().__init__(*box)
+        self.id = number
 
 
 def window_manager_settings(bindings):
@@ -194,6 +204,17 @@ class Desktop:
     def free(self, *keys):
         self.do("key up " + " ".join(map(str, keys)))
 
+    def drag(self, start, end):
+        self.do(f"move {start[0]} {start[1]}")
+        self.do("button down 1")
+        self.do(f"move {(start[0] + end[0]) // 2} {(start[1] + end[1]) // 2}")
+        self.do(f"move {end[0]} {end[1]}")
+        self.do("button up 1")
+
+    def type(self, text):
+        """Types small letters and digits of a US keyboard."""
+        self.tap(*(KEYS[character] for character in text))
+
     def click(self, place, button=1):
         self.do(f"move {place[0]} {place[1]}")
         self.do(f"click {button}")
@@ -207,12 +228,16 @@ class Desktop:
     def windows(self):
         return json.loads(self.do("windows"))
 
-    def window(self, title):
-        """Waits for a window with the focus, or a popup; gives its box without the frame."""
-        return Box(*json.loads(self.do(f"wait-window {PATIENCE * 1000} {title}"))["client"])
+    def window(self, title, besides=()):
+        """Waits for the newest window with these words in its title to have the focus. `besides` are older ones."""
+        def find():
+            found = [one for one in self.windows() if title in one["title"] and one["id"] not in besides]
+            return found[-1] if found and found[-1]["active"] else None
+        found = wait_for(f"the window {title!r}", find)
+        return Window(found["id"], *found["client"])
 
-    def gone(self, title):
-        wait_for(f"the end of the window {title!r}", lambda: not any(title in one["title"] for one in self.windows()))
+    def gone(self, window):
+        wait_for("the end of a window", lambda: all(one["id"] != window.id for one in self.windows()))
 
     def popup(self):
         """Waits for an open menu or list."""

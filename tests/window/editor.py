@@ -6,6 +6,7 @@ import time
 from pathlib import Path
 
 from desktop import Box, Failed, PATIENCE, wait_for
+from keys import KEYS
 from project import Panel, read_project, read_values
 
 TWIPS = 15  # on a pixel at scale 1
@@ -67,9 +68,10 @@ def tools_path(path):
 class Dialog:
     """A dialog on the screen."""
 
-    def __init__(self, editor, title, plan):
+    def __init__(self, editor, title, plan, below=()):
+        """`below` are the dialogs of the same title under this one."""
         self.editor, self.title, self.plan = editor, title, plan
-        self.window = editor.desktop.window(title)
+        self.window = editor.desktop.window(title, [one.window.id for one in below])
 
     def box(self, *path):
         scale, local = self.editor.scale, self.plan.box(path)
@@ -80,7 +82,7 @@ class Dialog:
         self.editor.desktop.click(self.box(*path).centre(), button)
 
     def wait_closed(self):
-        self.editor.desktop.gone(self.title)
+        self.editor.desktop.gone(self.window)
 
 
 class ConfigurationDialog(Dialog):
@@ -97,6 +99,17 @@ class ConfigurationDialog(Dialog):
         widths = [width / TWIPS * scale for width in self.plan.control("msgScanCodes")["ColWidth"]]
         height, column = self.ROW_HEIGHT / TWIPS * scale, 1 if press else 2
         return Box(grid.left + sum(widths[:column]), grid.top + layer * height, widths[column], height)
+
+    def is_blank(self, layer, press):
+        """Whether nothing stands in a cell."""
+        box = self.cell(layer, press).inner(4)
+        return self.editor.desktop.colour(box, "FFFFFF")[0] == box.width * box.height
+
+    def turn_to_page(self, page):
+        """Brings a page to the front, from the strip's first one."""
+        strip = self.box("sstScanCode")
+        self.editor.desktop.click((strip.left + 15 * self.editor.scale, strip.top + 12 * self.editor.scale))
+        self.editor.desktop.tap(*[KEYS["Right"]] * page)
 
     def captures_in(self, layer, press=True):
         count, _ = self.editor.desktop.colour(self.cell(layer, press).inner(3), "FFFF00")
@@ -160,6 +173,10 @@ class Editor:
     def configure(self, name):
         """Opens the configuration dialog of an element by a double click."""
         self.desktop.double_click(self.element(name).centre())
+        return self.configuration_dialog(name)
+
+    def configuration_dialog(self, name):
+        """The dialog of an element, once it is open."""
         return ConfigurationDialog(self, self.panel.kinds[name])
 
     # ---- the project

@@ -7,13 +7,22 @@ import tempfile
 import traceback
 from pathlib import Path
 
+import tests_focus
 import tests_keyboard
+import tests_walk
 from desktop import Failed
 from editor import Tools
 
 TESTS = {
     "us-keyboard": tests_keyboard.us_keyboard,
     "german-keyboard": tests_keyboard.german_keyboard,
+    "first-walk": tests_walk.first_walk,
+    "dialog-place": tests_walk.dialog_returns_to_its_place,
+    "task-keys": tests_focus.task_keys,
+    "unlocked-task-keys": tests_focus.unlocked_task_keys,
+    "lost-release": tests_focus.lost_release_with_lock,
+    "lost-release-unlocked": tests_focus.lost_release_without_lock,
+    "held-key": tests_focus.held_key,
 }
 
 

@@ -16,8 +16,6 @@ namespace plexel::window_test {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
   for (const char character : text) {
@@ -92,6 +90,14 @@ class Typist {
     for (int evdev = 0; words >> evdev;) Key(evdev, way == "down");
     return {};
   }
+  std::string ButtonUpOrDown(std::istringstream& words) {
+    std::string way;
+    words >> way;
+    if (way != "down" && way != "up") throw std::runtime_error("a button goes down or up");
+    desktop_.Button(Number(words), way == "down");
+    Pace();
+    return {};
+  }
   std::string Tap(std::istringstream& words) {
     for (int evdev = 0; words >> evdev;) {
       Key(evdev, true);
@@ -125,33 +131,6 @@ class Typist {
     std::string told;
     for (const WindowFacts& facts : desktop_.Windows()) told += (told.empty() ? "" : ",") + Told(facts);
     return '[' + told + ']';
-  }
-  /// The last window with these words in its title, or one without an id.
-  WindowFacts Find(const std::string& title) {
-    WindowFacts found;
-    for (const WindowFacts& facts : desktop_.Windows()) {
-      if (facts.title.find(title) != std::string::npos) found = facts;
-    }
-    return found;
-  }
-  WindowFacts MustFind(const std::string& title) {
-    const WindowFacts found = Find(title);
-    if (found.id == XCB_WINDOW_NONE) throw std::runtime_error("there is no window \"" + title + '"');
-    return found;
-  }
-  /// Waits until a window is there and has the focus.
-  std::string WaitWindow(std::istringstream& words) {
-    const auto deadline = Clock::now() + std::chrono::milliseconds(Number(words));
-    const std::string title = Rest(words);
-    for (;;) {
-      const WindowFacts found = Find(title);
-      if (found.active || found.popup) return Told(found);
-      if (Clock::now() > deadline) {
-        throw std::runtime_error((found.id == XCB_WINDOW_NONE ? "no window \"" : "no focus for the window \"") + title +
-                                 '"');
-      }
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
   }
 
   std::string Picture(std::istringstream& words) {
@@ -213,10 +192,10 @@ class Typist {
          Pace();
          return std::string();
        }},
+      {"button", [this](auto& words) { return ButtonUpOrDown(words); }},
       {"click", [this](auto& words) { return Clicks(words, 1); }},
       {"dblclick", [this](auto& words) { return Clicks(words, 2); }},
       {"windows", [this](auto&) { return Windows(); }},
-      {"wait-window", [this](auto& words) { return WaitWindow(words); }},
       {"open-window",
        [this](auto& words) {
          const Box box = ReadBox(words);
@@ -225,12 +204,12 @@ class Typist {
        }},
       {"activate",
        [this](auto& words) {
-         desktop_.Activate(MustFind(Rest(words)).id);
+         desktop_.Activate(static_cast<xcb_window_t>(Number(words)));
          return std::string();
        }},
       {"close",
        [this](auto& words) {
-         desktop_.Close(MustFind(Rest(words)).id);
+         desktop_.Close(static_cast<xcb_window_t>(Number(words)));
          return std::string();
        }},
       {"screen", [this](auto&) { return Told(desktop_.Screen()); }},
