@@ -26,12 +26,15 @@ double Shortest(float value) {
   return std::strtod(text.data(), nullptr);
 }
 
-std::string Hex(std::uint32_t value) {
-  std::array<char, 16> text{};
-  const auto result = std::to_chars(text.data(), text.data() + text.size(), value, 16);
-  std::string digits(text.data(), result.ptr);
-  for (char& digit : digits) digit = digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
-  return digits.size() < 2 ? "0" + digits : digits;
+/// Adds a number of at least two hexadecimal digits to a row of them.
+void AppendHex(std::string& row, std::uint32_t value) {
+  std::array<char, 16> digits{};
+  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value, 16);
+  if (!row.empty()) row.push_back(' ');
+  if (result.ptr == digits.data() + 1) row.push_back('0');
+  for (const char* digit = digits.data(); digit != result.ptr; ++digit) {
+    row.push_back(*digit >= 'a' ? static_cast<char>(*digit - 'a' + 'A') : *digit);
+  }
 }
 
 Json ToJson(const GridCells& cells) {
@@ -113,7 +116,8 @@ Json NumberToJson(double value) {
 
 std::string BytesToText(const std::uint8_t* bytes, std::size_t count) {
   std::string text;
-  for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : " ") + Hex(bytes[i]);
+  text.reserve(count * 3);
+  for (std::size_t i = 0; i < count; ++i) AppendHex(text, bytes[i]);
   return text;
 }
 
@@ -197,7 +201,7 @@ void AddSequence(Json& answer, const std::string& name, const CodeArray& sequenc
   std::size_t count = sequence.size();
   while (count > 0 && sequence[count - 1] == 0) --count;
   std::string text;
-  for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : " ") + Hex(static_cast<std::uint32_t>(sequence[i]));
+  for (std::size_t i = 0; i < count; ++i) AppendHex(text, static_cast<std::uint32_t>(sequence[i]));
   answer[name] = text;
   answer[name + "Length"] = length;
 }
