@@ -1,7 +1,9 @@
 #include "element/property_bag.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <string_view>
 #include <type_traits>
 
 #include "services/conversion.h"
@@ -26,6 +28,11 @@ double ToNumber(const BagValue& value) {
       value);
 }
 
+bool EqualsWord(std::string_view text, std::string_view lowerCaseWord) {
+  return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
+                    [](char one, char other) { return (one >= 'A' && one <= 'Z' ? one + ('a' - 'A') : one) == other; });
+}
+
 }  // namespace
 
 std::int32_t BagToInt32(const BagValue& value) {
@@ -45,6 +52,10 @@ std::uint8_t BagToUInt8(const BagValue& value) {
 
 Boolean BagToBoolean(const BagValue& value) {
   if (const auto* same = std::get_if<BagBoolean>(&value)) return same->value;
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    if (EqualsWord(*text, "true")) return True;
+    if (EqualsWord(*text, "false")) return False;
+  }
   return ToBoolean(ToNumber(value) != 0);
 }
 

@@ -30,7 +30,8 @@ class PropertyBag {
 };
 
 /// Conversions of a stored value, as the element reads it. Failure (Conversion) or (Overflow) for a value that does not
-/// convert. A boolean keeps its 16-bit value; any other value that is not 0 becomes true.
+/// convert. A boolean keeps its 16-bit value; of a text for
+/// a boolean "True" and "False" in any case count too; any other value that is not 0 becomes true.
 std::int32_t BagToInt32(const BagValue& value);
 std::int16_t BagToInt16(const BagValue& value);
 std::uint8_t BagToUInt8(const BagValue& value);

@@ -86,6 +86,8 @@ std::int32_t SetDirectInput(Boolean bActive, std::int32_t lngTarget) {
   });
 }
 
-void ParkInputFocus() { CatchFocus(Module().lngInputTarget); }
+void ParkInputFocus() {
+  EndQuietly([] { CatchFocus(Module().lngInputTarget); });
+}
 
 }  // namespace plexel

@@ -90,19 +90,21 @@ void UpdateGridRowMarks() {
 }
 
 void ResetGridCellColours() {
-  Grid& grid = OpenConfigurationDialogAccess().ScanCodeGrid();
-  const int currentRow = grid.Row(), currentCol = grid.Col();
-  grid.Redraw(false);
-  for (int row = 1; row < grid.Rows(); ++row) {
-    for (int col = 1; col < grid.Cols(); ++col) {
-      grid.Current(row, col);
-      grid.CellBackColor(colourWhite);
+  EndQuietly([] {
+    Grid& grid = OpenConfigurationDialogAccess().ScanCodeGrid();
+    const int currentRow = grid.Row(), currentCol = grid.Col();
+    grid.Redraw(false);
+    for (int row = 1; row < grid.Rows(); ++row) {
+      for (int col = 1; col < grid.Cols(); ++col) {
+        grid.Current(row, col);
+        grid.CellBackColor(colourWhite);
+      }
     }
-  }
-  grid.Current(currentRow, currentCol);
-  grid.Redraw(true);
-  grid.Refresh();
-  grid.Visible(true);
+    grid.Current(currentRow, currentCol);
+    grid.Redraw(true);
+    grid.Refresh();
+    grid.Visible(true);
+  });
 }
 
 }  // namespace plexel

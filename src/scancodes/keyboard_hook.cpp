@@ -128,7 +128,7 @@ std::int32_t KeyboardHookProc(std::int32_t nCode, std::int32_t wParam, std::intp
     });
   }
   if (nCode != 0) return result;
-  PassOver(ParkInputFocus);
+  ParkInputFocus();
   TrackKeyEvent(wParam, flags, ScanCodeOf(flags), ExtendedFlagOf(flags));
   if (AllKeysReleased()) FinishCombination();
   return 0;

@@ -396,6 +396,9 @@ TEST(BagValues, AnyNumberButZeroIsTrue) {
   EXPECT_EQ(BagToBoolean(std::uint8_t{1}), True);
   EXPECT_EQ(BagToBoolean(0.25), True);
   EXPECT_EQ(BagToBoolean(string("0")), False);
+  EXPECT_EQ(BagToBoolean(string("True")), True);
+  EXPECT_EQ(BagToBoolean(string("FALSE")), False);
+  EXPECT_EQ(KindOf([] { BagToBoolean(string("Truely")); }), FailureKind::Conversion);
   EXPECT_EQ(BagToBoolean(BagBoolean{2}), 2);
 }
 
