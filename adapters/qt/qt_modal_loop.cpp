@@ -27,6 +27,8 @@ void QtModalLoop::Run(Form& form, Window* owner) {
   const std::unique_ptr<FormView> view = std::move(open_.back().view);
   open_.pop_back();
   if (form.IsShown()) form.Unload(UnloadMode::CloseBox);
+  // Where nested dialogs close at once, a window manager may leave the focus with none of the windows below.
+  if (QWidget* const below = WidgetOf(owner)) below->activateWindow();
 }
 
 void QtModalLoop::Closed(Form& form) {
