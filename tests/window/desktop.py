@@ -14,7 +14,7 @@ from pathlib import Path
 
 from keys import KEYS
 
-PATIENCE = 30  # seconds that anything may take before it counts as not happening
+PATIENCE = 8  # seconds that anything may take before it counts as not happening
 
 
 class Failed(Exception):
@@ -244,6 +244,22 @@ class Desktop:
         def find():
             return [one for one in self.windows() if one["popup"]]
         return Box(*wait_for("a menu or list", find)[-1]["client"])
+
+    def no_popup(self):
+        wait_for("the end of a menu or list", lambda: not self.has_popup())
+
+    def has_popup(self):
+        return any(one["popup"] for one in self.windows())
+
+    def click_away_popup(self, place):
+        """Picks an entry of an open menu or list, which takes no click in the time of a double click."""
+        def click():
+            if not self.has_popup():
+                return True
+            self.click(place)
+            time.sleep(0.1)
+            return not self.has_popup()
+        wait_for("a menu or list to take a click", click)
 
     def colour(self, box, colour):
         """How many pixels of the box have the colour RRGGBB, and the box round them."""

@@ -35,17 +35,23 @@ class Plan:
     def __init__(self, tools, setup):
         self.tools, self.setup, self.known = tools, list(setup), {}
 
-    def control(self, name):
-        if name not in self.known:
-            commands = "\n".join([*self.setup, f"control {name}", "close", ""])
+    def ask(self, command, answer):
+        if command not in self.known:
+            commands = "\n".join([*self.setup, command, "close", ""])
             told = subprocess.run([tools_path(self.tools.script), "script"], input=commands, capture_output=True,
                                   text=True, encoding="utf-8", timeout=PATIENCE).stdout
             answers = [json.loads(line) for line in told.splitlines()]
-            found = [one["control"] for one in answers if "control" in one]
+            found = [one[answer] for one in answers if one.get(answer)]
             if not found:
-                raise Failed(f"no control {name}: {[one for one in answers if one.get('ok') is False]}")
-            self.known[name] = found[0]
-        return self.known[name]
+                raise Failed(f"{command}: {[one for one in answers if one.get('ok') is False]}")
+            self.known[command] = found[0]
+        return self.known[command]
+
+    def title(self):
+        return self.ask("form", "form")["Caption"]
+
+    def control(self, name):
+        return self.ask(f"control {name}", "control")
 
     def box(self, path):
         """In pixels at scale 1, from the form's corner. `path` names the control behind its containers."""
@@ -66,12 +72,13 @@ def tools_path(path):
 
 
 class Dialog:
-    """A dialog on the screen."""
+    """A dialog on the screen. `setup` brings it to the front in a script; `below` are dialogs under it."""
 
-    def __init__(self, editor, title, plan, below=()):
-        """`below` are the dialogs of the same title under this one."""
-        self.editor, self.title, self.plan = editor, title, plan
-        self.window = editor.desktop.window(title, [one.window.id for one in below])
+    def __init__(self, editor, setup, below=()):
+        self.editor = editor
+        self.plan = Plan(editor.tools, [f"language {editor.language}", *setup])
+        self.title = self.plan.title()
+        self.window = editor.desktop.window(self.title, [one.window.id for one in below])
 
     def box(self, *path):
         scale, local = self.editor.scale, self.plan.box(path)
@@ -80,6 +87,23 @@ class Dialog:
 
     def click(self, *path, button=1):
         self.editor.desktop.click(self.box(*path).centre(), button)
+
+    def choose(self, *path):
+        """Clicks on the button of an option."""
+        box = self.box(*path)
+        self.editor.desktop.click((box.left + 8 * self.editor.scale, box.top + box.height // 2))
+
+    def pick(self, path, entry, entries):
+        """Unfolds a list and picks one of its entries, by the mouse."""
+        self.click(*path)
+        shown = self.editor.desktop.popup()
+        height = shown.height / entries
+        self.editor.desktop.click_away_popup((shown.left + shown.width // 2,
+                                              round(shown.top + height * (entry + 0.5))))
+
+    def captures(self, *path):
+        """Whether a field has the colour of a recording one."""
+        return self.editor.desktop.colour(self.box(*path).inner(3), "FFFF00")[0] > 100
 
     def wait_closed(self):
         self.editor.desktop.gone(self.window)
@@ -90,9 +114,8 @@ class ConfigurationDialog(Dialog):
     ROW_HEIGHT = 285  # twips
 
     def __init__(self, editor, kind):
-        plan = Plan(editor.tools, ["element A", f"set ElementType {kind}", "set ParentWindow form",
-                                   "call OpenConfigurationDialog"])
-        super().__init__(editor, editor.texts[2005], plan)
+        super().__init__(editor, ["element A", f"set ElementType {kind}", "set ParentWindow form",
+                                  "call OpenConfigurationDialog"])
 
     def cell(self, layer, press=True):
         grid, scale = self.box(*self.GRID), self.editor.scale
@@ -138,7 +161,8 @@ class Editor:
     def __init__(self, desktop, tools, project=None, panel="Small", scale=1, language="English",
                  settings=None):
         self.desktop, self.tools, self.scale, self.project = desktop, tools, scale, project
-        self.texts, self.panel = tools.texts(language), Panel(tools.data / "panels" / f"{panel}.panel")
+        self.language, self.texts = language, tools.texts(language)
+        self.panel = Panel(tools.data / "panels" / f"{panel}.panel")
         self.configuration = Path(desktop.environment["XDG_CONFIG_HOME"]) / "plexel"
         if settings is not None:
             self.configuration.mkdir(parents=True, exist_ok=True)

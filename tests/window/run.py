@@ -9,7 +9,9 @@ from pathlib import Path
 
 import tests_focus
 import tests_keyboard
+import tests_special
 import tests_walk
+import tests_wizard
 from desktop import Failed
 from editor import Tools
 
@@ -23,6 +25,8 @@ TESTS = {
     "lost-release": tests_focus.lost_release_with_lock,
     "lost-release-unlocked": tests_focus.lost_release_without_lock,
     "held-key": tests_focus.held_key,
+    "german-wizard": tests_wizard.german_wizard,
+    "special-kinds": tests_special.special_kinds,
 }
 
 
