@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 #include <iostream>
+#include <stdexcept>
 
 #include "component/component.h"
 #include "editor/help_window.h"
@@ -25,10 +26,13 @@
 namespace plexel {
 namespace {
 
+/// Draws the editor and every dialog into picture files, in one language.
 class PictureMaker {
  public:
-  PictureMaker(QDir target, const QString& language)
+  /// Without a project the editor shows a panel with some keys defined.
+  PictureMaker(QDir target, const QString& language, std::string project)
       : target_(std::move(target)),
+        project_(std::move(project)),
         surroundings_(DataDirectory(), configuration_.path().toStdString()),
         platform_(surroundings_.UserRegistry(), help_),
         usePlatform_(platform_),
@@ -77,7 +81,11 @@ class PictureMaker {
     QCoreApplication::processEvents();
     Save(Top().Window(), name);
   }
-  void Save(QWidget& widget, const QString& name) { widget.grab().save(target_.filePath(name + suffix_)); }
+  void Save(QWidget& widget, const QString& name) {
+    const QString file = target_.filePath(name + suffix_);
+    if (!widget.grab().save(file)) throw std::runtime_error(file.toStdString() + " cannot be written");
+    std::cout << file.toStdString() << '\n';
+  }
   void Later(std::function<void()> step) {
     QTimer::singleShot(50, &context_, [step = std::move(step)] {
       try {
@@ -123,15 +131,11 @@ class PictureMaker {
 
   void TakeEditor() {
     MainWindow window(surroundings_, platform_, help_);
-    window.NewProject("Large");
-    int place = 0;
-    for (const PanelDocument::Place& one : window.Document()->Places()) {
-      if (++place % 3 == 0 && one.element->ElementType() == RectLed) {
-        one.element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
-        one.element->LEDTypeLayer1(UserLed);
-      }
+    if (project_.empty()) {
+      FillSamplePanel(window);
+    } else if (!window.OpenProject(project_)) {
+      throw std::runtime_error(project_ + " cannot be opened");
     }
-    window.Document()->Refresh();
     window.resize(1100, 940);
     window.View().Select(20);
     window.show();
@@ -144,6 +148,18 @@ class PictureMaker {
     help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents);
     QCoreApplication::processEvents();
     if (help_.Window()) Save(*help_.Window(), "help");
+  }
+
+  static void FillSamplePanel(MainWindow& window) {
+    window.NewProject("Large");
+    int place = 0;
+    for (const PanelDocument::Place& one : window.Document()->Places()) {
+      if (++place % 3 == 0 && one.element->ElementType() == RectLed) {
+        one.element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
+        one.element->LEDTypeLayer1(UserLed);
+      }
+    }
+    window.Document()->Refresh();
   }
 
   void TakeWizard() {
@@ -176,6 +192,7 @@ class PictureMaker {
   }
 
   QDir target_;
+  std::string project_;
   QString suffix_;
   QTemporaryDir configuration_;
   Faults faults_;
@@ -195,11 +212,21 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setFont(plexel::DialogFont());
-  if (argc != 2) {
-    std::cerr << "usage: picture_maker DIRECTORY\n";
+  if (argc != 2 && argc != 3) {
+    std::cerr << "usage: plexel-pictures DIRECTORY [PROJECT]\n";
     return 2;
   }
-  QDir().mkpath(argv[1]);
-  for (const char* language : {"English", "German"}) plexel::PictureMaker(QDir(argv[1]), language).TakeAll();
+  const QDir target(QString::fromLocal8Bit(argv[1]));
+  if (!target.mkpath(".")) {
+    std::cerr << "plexel-pictures: " << argv[1] << " cannot be made\n";
+    return 1;
+  }
+  try {
+    for (const char* language : {"English", "German"})
+      plexel::PictureMaker(target, language, argc == 3 ? argv[2] : "").TakeAll();
+  } catch (const std::exception& failure) {
+    std::cerr << "plexel-pictures: " << failure.what() << '\n';
+    return 1;
+  }
   return 0;
 }
