@@ -12,7 +12,6 @@ enum class Text : std::int32_t {
   Cancel = 101,
   Yes = 20001,
   No = 20002,
-  Close = 20003,
   MenuFile = 20100,
   New = 20101,
   Open = 20102,

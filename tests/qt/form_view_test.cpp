@@ -8,8 +8,6 @@
 namespace plexel::testing {
 namespace {
 
-using ::testing::Test;
-
 using FormViewTest = Stage;
 
 TEST_F(FormViewTest, EveryControlThatShowsSomethingStandsAtItsPlace) {
