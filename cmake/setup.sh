@@ -1,9 +1,9 @@
 # Shared by ./run and ./test, with the repository as the current directory.
 
-# Installs the Debian packages that are missing; with "test" those of the tests too.
+# Installs the Debian packages that are missing, those of a section too when it is named.
 install_packages() {
   local wanted missing root=""
-  wanted=$(sed -e 's/#.*//' packages | if [ "${1:-}" = test ]; then grep -v '^\['; else sed '/^\[test\]/,$d'; fi)
+  wanted=$(awk -v section="[${1:-}]" '/^#/ { next } /^\[/ { other = ($0 != section); next } !other' packages)
   missing=$(for package in $wanted; do
     dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || echo "$package"
   done | xargs)

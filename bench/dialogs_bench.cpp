@@ -1,0 +1,107 @@
+// From the call to the pixels: dialogs shown as native widgets on the toolkit's offscreen platform, drawn, and closed.
+// The peer is a dialog of the toolkit with as many widgets, made by hand.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "component/component.h"
+#include "editor/help_window.h"
+#include "element/ctlPlexelBaseElement.h"
+#include "files/data_directory.h"
+#include "files/file_surroundings.h"
+#include "forms/form_directory.h"
+#include "qt/fonts.h"
+#include "qt/form_view.h"
+#include "qt/qt_platform.h"
+#include "services/module_state.h"
+#include "world.h"
+
+namespace {
+
+using namespace plexel;
+
+/// The desktop as the dialogs see it.
+struct Desktop {
+  Desktop()
+      : surroundings(DataDirectory(), configuration.path().toStdString()),
+        platform(surroundings.UserRegistry(), help),
+        usePlatform(platform),
+        useSurroundings(surroundings) {
+    FormDirectory::Instance() = FormDirectory();
+    RegisterForms(FormDirectory::Instance());
+  }
+  QTemporaryDir configuration;
+  HelpWindow help;
+  FileSurroundings surroundings;
+  QtPlatform platform;
+  Platform::Use usePlatform;
+  Surroundings::Use useSurroundings;
+  bench::SilentHost host;
+};
+
+void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, bool wizard) {
+  Desktop desktop;
+  const auto element = ctlPlexelBaseElement::Create("F1", desktop.host);
+  element->ElementType(type);
+  element->TargetSystem("Standard");
+  element->WizardOn(ToBoolean(wizard));
+  std::int64_t pixels = 0;
+  for (auto _ : state) {
+    QTimer::singleShot(0, [&] {
+      FormView& view = *desktop.platform.Modal().Topmost();
+      pixels += view.Window().grab().width();
+      view.Model().Unload();
+    });
+    element->OpenConfigurationDialog();
+  }
+  if (pixels == 0) state.SkipWithError("nothing was drawn");
+  Module().ctlCurrentElement.reset();
+}
+
+void ConfigurationDialogToPixels(benchmark::State& state) { OpenDrawAndClose(state, RectLed, false); }
+void WizardKeyPageToPixels(benchmark::State& state) { OpenDrawAndClose(state, RectLed, true); }
+void WizardLedPageToPixels(benchmark::State& state) { OpenDrawAndClose(state, Led, true); }
+BENCHMARK(ConfigurationDialogToPixels)->Unit(benchmark::kMillisecond);
+BENCHMARK(WizardKeyPageToPixels)->Unit(benchmark::kMillisecond);
+BENCHMARK(WizardLedPageToPixels)->Unit(benchmark::kMillisecond);
+
+void PeerDialogByHandToPixels(benchmark::State& state) {
+  for (auto _ : state) {
+    QDialog dialog;
+    auto* layout = new QGridLayout(&dialog);
+    for (int row = 0; row < 8; ++row) {
+      layout->addWidget(new QLabel("label"), row, 0);
+      layout->addWidget(new QComboBox, row, 1);
+      layout->addWidget(new QLineEdit, row, 2);
+      layout->addWidget(new QPushButton("button"), row, 3);
+    }
+    layout->addWidget(new QTableWidget(5, 3), 8, 0, 1, 4);
+    QTimer::singleShot(0, &dialog, [&dialog] {
+      benchmark::DoNotOptimize(dialog.grab().width());
+      dialog.accept();
+    });
+    dialog.exec();
+  }
+}
+BENCHMARK(PeerDialogByHandToPixels)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int count, char** words) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(count, words);
+  QApplication::setFont(DialogFont());
+  benchmark::Initialize(&count, words);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
