@@ -14,7 +14,7 @@ from pathlib import Path
 
 from keys import KEYS
 
-PATIENCE = 8  # seconds that anything may take before it counts as not happening
+PATIENCE = 30  # seconds that anything may take before it counts as not happening
 
 
 class Failed(Exception):
@@ -236,6 +236,10 @@ class Desktop:
         found = wait_for(f"the window {title!r}", find)
         return Window(found["id"], *found["client"])
 
+    def window_id(self, title):
+        """The number of a window, whether it has the focus or not."""
+        return next(one["id"] for one in self.windows() if title in one["title"])
+
     def gone(self, window):
         wait_for("the end of a window", lambda: all(one["id"] != window.id for one in self.windows()))
 
@@ -266,10 +270,9 @@ class Desktop:
         answer = json.loads(self.do(f"colour {box} {colour}"))
         return answer["count"], Box(*answer["box"])
 
-    def picture(self, file, box=None):
-        """Keeps a picture of the box, or of the whole screen, once nothing moves there any more."""
+    def picture(self, file, box):
+        """Keeps a picture of the box once nothing moves there any more, and tells how many colours it has."""
         raw = self.folder / "picture.ppm"
-        box = box or Box(*json.loads(self.do("screen")))
         last = []
 
         def still():
@@ -280,6 +283,8 @@ class Desktop:
 
         wait_for("a picture that stands still", still)
         keep(file, last[-1])
+        pixels = last[-1].split(b"\n", 3)[3]
+        return len({pixels[place:place + 3] for place in range(0, len(pixels), 3)})
 
     def keep_picture(self, file):
         """Keeps a picture of the whole screen as it is now."""

@@ -6,7 +6,7 @@ import time
 from pathlib import Path
 
 from desktop import Box, Failed, PATIENCE, wait_for
-from keys import KEYS
+from keys import KEYS, press
 from project import Panel, read_project, read_values
 
 TWIPS = 15  # on a pixel at scale 1
@@ -92,6 +92,13 @@ class Dialog:
         """Clicks on the button of an option."""
         box = self.box(*path)
         self.editor.desktop.click((box.left + 8 * self.editor.scale, box.top + box.height // 2))
+
+    def window_with_popup(self):
+        """The place of the dialog together with an open menu."""
+        popup, own = self.editor.desktop.popup(), self.window
+        left, top = min(own.left, popup.left), min(own.top, popup.top)
+        right = max(own.left + own.width, popup.left + popup.width)
+        return Box(left, top, right - left, max(own.top + own.height, popup.top + popup.height) - top)
 
     def pick(self, path, entry, entries):
         """Unfolds a list and picks one of its entries, by the mouse."""
@@ -214,14 +221,25 @@ class Editor:
         """Saves by Ctrl+S and gives the elements of the saved project."""
         self.wait_modified(True)
         self.desktop.window(MAIN)
-        self.desktop.chord(29, 31)
+        press(self.desktop, "LeftCtrl+s")
         self.wait_modified(False)
         return read_project(self.project)
 
     def quit(self):
         """Leaves by Ctrl+Q and looks at what the editor left behind."""
         self.desktop.window(MAIN)
-        self.desktop.chord(29, 16)
+        press(self.desktop, "LeftCtrl+q")
+        self.wait_end()
+
+    def leave_changed(self):
+        """Leaves by Ctrl+Q without saving what has changed."""
+        main = self.desktop.window(MAIN)
+        press(self.desktop, "LeftCtrl+q")
+        self.desktop.window("Plexel", [main.id])
+        press(self.desktop, "Tab Return")
+        self.wait_end()
+
+    def wait_end(self):
         try:
             status = self.process.wait(PATIENCE)
         except subprocess.TimeoutExpired:

@@ -9,6 +9,7 @@ from pathlib import Path
 
 import tests_focus
 import tests_keyboard
+import tests_pictures
 import tests_special
 import tests_walk
 import tests_wizard
@@ -27,6 +28,8 @@ TESTS = {
     "held-key": tests_focus.held_key,
     "german-wizard": tests_wizard.german_wizard,
     "special-kinds": tests_special.special_kinds,
+    "english-pictures": tests_pictures.english_pictures,
+    "german-pictures": tests_pictures.german_pictures,
 }
 
 
