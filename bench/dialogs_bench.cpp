@@ -13,6 +13,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <functional>
 
 #include "component/component.h"
 #include "editor/help_window.h"
@@ -56,12 +57,15 @@ void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, b
   element->TargetSystem("Standard");
   element->WizardOn(ToBoolean(wizard));
   std::int64_t pixels = 0;
+  // A page handles waiting events while it loads, ahead of being shown.
+  std::function<void()> drawAndClose = [&] {
+    FormView* const view = desktop.platform.Modal().Topmost();
+    if (view == nullptr) return QTimer::singleShot(0, drawAndClose);
+    pixels += view->Window().grab().width();
+    view->Model().Unload();
+  };
   for (auto _ : state) {
-    QTimer::singleShot(0, [&] {
-      FormView& view = *desktop.platform.Modal().Topmost();
-      pixels += view.Window().grab().width();
-      view.Model().Unload();
-    });
+    QTimer::singleShot(0, drawAndClose);
     element->OpenConfigurationDialog();
   }
   if (pixels == 0) state.SkipWithError("nothing was drawn");
