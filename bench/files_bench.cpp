@@ -16,8 +16,7 @@ namespace {
 using namespace plexel;
 using Elements = std::vector<std::shared_ptr<ctlPlexelBaseElement>>;
 
-/// Elements as an engineer leaves them: a third with both definitions on every layer, a third with one key, the rest
-/// empty.
+/// Keys as an engineer leaves them: each with a definition in layer 1, every third in all layers, some with a note.
 Elements MakeElements(std::int64_t count) {
   Elements elements;
   for (std::int64_t number = 0; number < count; ++number) {
@@ -26,10 +25,17 @@ Elements MakeElements(std::int64_t count) {
     element->ZoomFactor(100);
     element->SizeX(40);
     element->SizeY(30);
-    element->TargetSystem("OP 24");
+    element->OriginalPosX(static_cast<std::int32_t>(number % 1000));
+    element->TargetSystem("Extended");
     element->HardwareNumberButton(static_cast<std::int32_t>(number));
+    element->HardwareNumberLed(static_cast<std::int32_t>(2 * number));
+    element->WizardOptions(ManuallyDefined);
+    element->KeyDefinedColor(32768);
+    element->ShowDefined(True);
+    element->LEDTypeLayer1(UserLed);
+    if (number % 10 == 0) element->ButtonNotes("Starts the pump when the tank is filled.");
     udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
-    const std::int32_t layers = number % 3 == 0 ? LayerCount : number % 3 == 1 ? 1 : 0;
+    const std::int32_t layers = number % 3 == 0 ? LayerCount : 1;
     for (std::int32_t layer = 1; layer <= layers; ++layer) {
       element->PressKeyDefLayer(layer, "[Ctrl Left+a\u2039]");
       element->ReleaseKeyDefLayer(layer, "[Ctrl Left+a\u203A]");

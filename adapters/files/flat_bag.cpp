@@ -8,11 +8,14 @@ namespace plexel {
 
 namespace {
 
+/// The keys in the order in which an element reads them.
 constexpr auto keys = [] {
   std::array<std::string_view, BagKeyCount> made{};
   std::size_t count = 0;
   for (const PropertyRow& row : propertyRows) {
-    if (!row.storage.key.empty()) made.at(count++) = row.storage.key;
+    if (row.storage.readOrder == 0) continue;
+    made.at(static_cast<std::size_t>(row.storage.readOrder - 1)) = row.storage.key;
+    ++count;
   }
   if (count != BagKeyCount) throw "the number of keys has changed";
   return made;
@@ -57,9 +60,14 @@ std::size_t BagKeyNumber(std::string_view key) {
 
 std::string_view BagKey(std::size_t number) { return keys.at(number); }
 
+const BagValue* FlatBag::FindOwn(std::size_t place, std::string_view) const {
+  const std::size_t index = places_.at(place);
+  return index == 0 ? nullptr : &known_[index - 1].second;
+}
+
 const BagValue* FlatBag::Find(std::string_view key) const {
   const std::size_t number = BagKeyNumber(key);
-  if (number < BagKeyCount) return places_[number] == 0 ? nullptr : &known_[places_[number] - 1U].second;
+  if (number < BagKeyCount) return FindOwn(number, key);
   const auto found =
       std::find_if(other_.begin(), other_.end(), [key](const auto& entry) { return entry.first == key; });
   return found == other_.end() ? nullptr : &found->second;

@@ -11,7 +11,8 @@
 
 namespace plexel {
 
-/// The number of a key under which elements store a property, from 0 to BagKeyCount - 1; BagKeyCount for any other key.
+/// The number of a key under which elements store a property: its place in the order in which they read, from 0 to
+/// BagKeyCount - 1; BagKeyCount for any other key.
 std::size_t BagKeyNumber(std::string_view key);
 /// The key of a number.
 std::string_view BagKey(std::size_t number);
@@ -22,6 +23,7 @@ inline constexpr std::size_t BagKeyCount = 39;
 class FlatBag : public PropertyBag {
  public:
   const BagValue* Find(std::string_view key) const override;
+  const BagValue* FindOwn(std::size_t place, std::string_view key) const override;
   void Store(std::string_view key, BagValue value) override;
 
   /// Stores under the number of a key, or under another key; false when the bag holds that key already.

@@ -46,7 +46,8 @@ bool EqualsDefault(const BagValue& value, std::int32_t writeDefault) {
 const BagValue emptyText = std::string();
 
 void ReadRow(ctlPlexelBaseElement& element, const PropertyRow& row, const PropertyBag& bag) {
-  const BagValue* const stored = bag.Find(row.storage.key);
+  const auto place = static_cast<std::size_t>(row.storage.readOrder - 1);
+  const BagValue* const stored = bag.FindOwn(place, row.storage.key);
   if (stored != nullptr) {
     row.load(element, *stored);
   } else if (row.type == PropertyType::String) {
