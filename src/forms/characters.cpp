@@ -15,6 +15,7 @@ constexpr std::array<char16_t, 32> SpecialCodes = {0x20AC, 0x0081, 0x201A, 0x019
                                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                                    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+static_assert(SpecialCodes.size() == FirstLatinCode - FirstSpecialCode);
 
 /// Letters of U+00C0 to U+00FF without case and accent; null for the two that are no letters.
 constexpr std::array<const char*, 64> FoldedLetters = {
@@ -34,17 +35,14 @@ int Followers(std::uint8_t lead) {
   return -1;
 }
 
-struct Sequence {
-  std::size_t length;
-  char32_t character;
-};
+}  // namespace
 
-Sequence First(std::string_view utf8) {
-  constexpr Sequence broken{1, Replacement};
+Decoded First(std::string_view utf8) {
+  constexpr Decoded broken{Replacement, 1, true};
   constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};
   const std::uint8_t lead = Byte(utf8, 0);
   const int followers = Followers(lead);
-  if (followers == 0) return {1, lead};
+  if (followers == 0) return {lead, 1, false};
   const auto count = static_cast<std::size_t>(followers);
   if (followers < 0 || utf8.size() <= count) return broken;
   char32_t character = lead & (0x3FU >> count);
@@ -52,12 +50,9 @@ Sequence First(std::string_view utf8) {
     if ((Byte(utf8, i) & 0xC0) != 0x80) return broken;
     character = character << 6 | (Byte(utf8, i) & 0x3FU);
   }
-  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-  if (character < smallest[count] || character > 0x10FFFF || surrogate) return broken;
-  return {count + 1, character};
+  if (character < smallest[count] || !IsCharacter(character)) return broken;
+  return {character, count + 1, false};
 }
-
-}  // namespace
 
 std::vector<std::string_view> Split(std::string_view utf8) {
   std::vector<std::string_view> parts;
@@ -78,11 +73,27 @@ int Count(std::string_view utf8) {
 char32_t Decode(std::string_view character) { return First(character).character; }
 
 std::string Encode(char32_t character) {
-  const auto tail = [&](unsigned shift) { return static_cast<char>(0x80U | (character >> shift & 0x3FU)); };
-  if (character < 0x80) return {static_cast<char>(character)};
-  if (character < 0x800) return {static_cast<char>(0xC0U | character >> 6), tail(0)};
-  if (character < 0x10000) return {static_cast<char>(0xE0U | character >> 12), tail(6), tail(0)};
-  return {static_cast<char>(0xF0U | character >> 18), tail(12), tail(6), tail(0)};
+  std::string text;
+  Append(text, character);
+  return text;
+}
+
+void Append(std::string& text, char32_t character) {
+  const auto byte = [&](char32_t bits) { text += static_cast<char>(static_cast<std::uint8_t>(bits)); };
+  const auto next = [&](int shift) { byte(0x80U | (character >> shift & 0x3FU)); };
+  if (character < 0x80) return byte(character);
+  if (character < 0x800) {
+    byte(0xC0U | character >> 6);
+  } else {
+    if (character < 0x10000) {
+      byte(0xE0U | character >> 12);
+    } else {
+      byte(0xF0U | character >> 18);
+      next(12);
+    }
+    next(6);
+  }
+  next(0);
 }
 
 char32_t OfCode(std::uint8_t code) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "forms/characters.h"
+
 namespace plexel {
 
 /// Windows-1252, the system's 8-bit code page, and back. Memory holds UTF-8. The five bytes that the code page leaves
@@ -12,7 +14,7 @@ namespace plexel {
 /// The character of a code, as UTF-8.
 std::string CharacterOf(std::uint8_t code);
 /// The code of a Unicode character, or -1 when the code page lacks it.
-std::int32_t CodeOf(char32_t character);
+using characters::CodeOf;
 
 std::string FromCodePage(std::string_view bytes);
 /// Characters that the code page lacks become `replacement`.
@@ -24,7 +26,7 @@ std::string ToCodePageEscaped(std::string_view utf8);
 std::string FromCodePageEscaped(std::string_view bytes);
 
 /// The number of characters of a UTF-8 text; every byte of a broken sequence counts as one.
-std::size_t CountCharacters(std::string_view utf8);
+inline std::size_t CountCharacters(std::string_view utf8) { return static_cast<std::size_t>(characters::Count(utf8)); }
 /// The first `count` characters.
 std::string_view FirstCharacters(std::string_view utf8, std::size_t count);
 

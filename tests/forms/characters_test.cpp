@@ -17,6 +17,24 @@ TEST(Characters, OfABrokenSequenceCountByteByByte) {
   EXPECT_EQ(characters::Count("\xF4\x90\x80\x80"), 4);
 }
 
+TEST(Characters, ThatComeFirstTellTheirLength) {
+  const characters::Decoded first = characters::First("\u20ACx");
+  EXPECT_EQ(first.character, U'\u20AC');
+  EXPECT_EQ(first.length, 3U);
+  EXPECT_FALSE(first.broken);
+}
+
+TEST(Characters, ThatAreBrokenAreToldFromTheReplacementCharacter) {
+  EXPECT_TRUE(characters::First("\xFF").broken);
+  EXPECT_EQ(characters::First("\xFF").character, U'\uFFFD');
+  EXPECT_FALSE(characters::First("\uFFFD").broken);
+}
+
+TEST(Characters, AreNeitherSurrogatesNorBeyondTheLastPlane) {
+  for (const char32_t number : {0x0U, 0xD7FFU, 0xE000U, 0x10FFFFU}) EXPECT_TRUE(characters::IsCharacter(number));
+  for (const char32_t number : {0xD800U, 0xDFFFU, 0x110000U}) EXPECT_FALSE(characters::IsCharacter(number));
+}
+
 TEST(Characters, OfTheLastPlaneAreWhole) { EXPECT_EQ(characters::Count("\xF4\x8F\xBF\xBF"), 1); }
 
 TEST(Characters, ComeBackFromTheirEncoding) {
@@ -24,6 +42,12 @@ TEST(Characters, ComeBackFromTheirEncoding) {
        {U'a', U'\u007F', U'\u0080', U'\u07FF', U'\u0800', U'\uFFFF', U'\U00010000', U'\U0010FFFF'}) {
     EXPECT_EQ(characters::Decode(characters::Encode(character)), character);
   }
+}
+
+TEST(Characters, AreAppendedBehindWhatStands) {
+  std::string text = "x";
+  for (const char32_t character : {U'a', U'\u00E4', U'\u20AC', U'\U0001D11E'}) characters::Append(text, character);
+  EXPECT_EQ(text, "xa\u00E4\u20AC\U0001D11E");
 }
 
 TEST(Characters, OfEveryCodeHaveThatCode) {
