@@ -2,6 +2,7 @@
 
 #include "configdialog/frmConfigurationDialog.h"
 #include "element/ctlPlexelBaseElement.h"
+#include "forms/list_keys.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
@@ -100,7 +101,7 @@ void frmConfigurationDialog::cmdDeleteLED_Click(std::int16_t Index) {
 }
 
 void frmConfigurationDialog::cmbLEDTypes_KeyDown(std::int16_t, std::int16_t& KeyCode, std::int16_t) {
-  if (KeyCode != key::Down && KeyCode != key::Up && KeyCode != key::Return) KeyCode = 0;
+  KeepListKeys(KeyCode);
 }
 
 void frmConfigurationDialog::cmbLEDTypes_KeyPress(std::int16_t, std::int16_t& KeyAscii) { KeyAscii = 0; }

@@ -1,5 +1,6 @@
 #include "scancodes/list_dialog.h"
 
+#include "forms/list_keys.h"
 #include "services/failure_styles.h"
 #include "services/shared_services.h"
 
@@ -9,10 +10,6 @@ namespace {
 
 constexpr float margin = 240, pictureSize = 480, lineHeight = 300, fieldHeight = 375, contentWidth = 4200,
                 buttonWidth = 1500, buttonGap = 120;
-
-void KeepListKeys(std::int16_t& keyCode) {
-  if (keyCode != key::Down && keyCode != key::Up && keyCode != key::Return) keyCode = 0;
-}
 
 }  // namespace
 

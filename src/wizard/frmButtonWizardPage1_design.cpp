@@ -1,5 +1,6 @@
 #include <initializer_list>
 
+#include "forms/list_keys.h"
 #include "wizard/frmButtonWizardPage1.h"
 
 namespace plexel {

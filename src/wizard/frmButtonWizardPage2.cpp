@@ -5,6 +5,7 @@
 
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
+#include "forms/list_keys.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"

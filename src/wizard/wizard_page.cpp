@@ -73,8 +73,4 @@ void WizardPage::TakeHandedOverLeft() { Left(static_cast<float>(Module().lngDial
 
 void WizardPage::TakeHandedOverTop() { Top(static_cast<float>(Module().lngDialogTop)); }
 
-void KeepListKeys(std::int16_t& keyCode) {
-  if (keyCode != key::Down && keyCode != key::Up && keyCode != key::Return) keyCode = 0;
-}
-
 }  // namespace plexel

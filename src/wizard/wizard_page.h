@@ -46,7 +46,4 @@ class WizardPage : public Form {
   CommandButton cmdCancel{*this, "cmdCancel"};
 };
 
-/// The key filter of a list in which nobody may type: every key but Down, Up and Return is dropped.
-void KeepListKeys(std::int16_t& keyCode);
-
 }  // namespace plexel
