@@ -8,6 +8,7 @@
 #include "files/number_text.h"
 #include "files/system_files.h"
 #include "platform/failure.h"
+#include "services/saved_positions.h"
 
 namespace plexel {
 
@@ -17,18 +18,6 @@ constexpr std::size_t Limit = std::size_t{1} << 20U;
 constexpr std::size_t MostProblems = 10;
 constexpr std::string_view SectionName = "SETTINGS";
 constexpr std::string_view LanguageKey = "Language";
-
-struct PositionRow {
-  std::int32_t number;
-  std::string_view registryName;
-  std::string_view initial;  ///< twips
-};
-
-constexpr std::array<PositionRow, 5> positions = {{{0, "ConfigDialogTop", "1500"},
-                                                   {1, "ConfigDialogLeft", "1800"},
-                                                   {2, "ConfigDialogMsFlexGridRow0Width", "735"},
-                                                   {3, "ConfigDialogMsFlexGridRow1Width", "3300"},
-                                                   {4, "ConfigDialogMsFlexGridRow2Width", "3300"}}};
 
 const SettingRow* RowOf(bool isSwitch, std::int32_t number) {
   const auto row = std::find_if(SettingTable.begin(), SettingTable.end(), [&](const SettingRow& candidate) {
@@ -111,13 +100,10 @@ void FileSettings::GetParameter(std::int32_t number, std::string& text) {
 }
 
 void FileSettings::GetWindowPosition(std::int32_t number, std::string& text) {
-  const auto row = std::find_if(positions.begin(), positions.end(),
-                                [number](const PositionRow& candidate) { return candidate.number == number; });
-  if (row == positions.end()) {
-    text.clear();
-    return;
-  }
-  const std::string* stored = registry_.Find(row->registryName);
+  text.clear();
+  const PositionRow* row = FindPosition(number);
+  if (row == nullptr) return;
+  const std::string* stored = registry_.Find(row->name);
   text = stored != nullptr ? *stored : std::string(row->initial);
 }
 

@@ -1,20 +1,11 @@
 #include "headless/headless_services.h"
 
+#include "services/saved_positions.h"
+
 namespace plexel {
 
 namespace {
 
-struct SavedPosition {
-  std::int32_t number;
-  std::string_view registryName;
-  std::string_view initial;  ///< twips
-};
-
-constexpr std::array<SavedPosition, 5> positionTable = {{{0, "ConfigDialogTop", "1500"},
-                                                         {1, "ConfigDialogLeft", "1800"},
-                                                         {2, "ConfigDialogMsFlexGridRow0Width", "735"},
-                                                         {3, "ConfigDialogMsFlexGridRow1Width", "3270"},
-                                                         {4, "ConfigDialogMsFlexGridRow2Width", "3270"}}};
 constexpr std::int32_t EntryMissing = 1;
 
 std::string Setting(const std::map<std::int32_t, std::string>& settings, std::int32_t number) {
@@ -68,11 +59,10 @@ void HeadlessSettings::GetWindowPosition(std::int32_t number, std::string& text)
   faults_.Check(Fault::Settings);
   text = Setting(positions_, number);
   if (positions_.contains(number)) return;
-  for (const SavedPosition& position : positionTable) {
-    if (position.number != number) continue;
-    const std::string* stored = registry_.Find(position.registryName);
-    text = stored != nullptr ? *stored : std::string(position.initial);
-  }
+  const PositionRow* row = FindPosition(number);
+  if (row == nullptr) return;
+  const std::string* stored = registry_.Find(row->name);
+  text = stored != nullptr ? *stored : std::string(row->initial);
 }
 
 std::int32_t HeadlessCapabilities::Ask(Capability query, std::string_view targetSystem) {

@@ -13,8 +13,6 @@ namespace plexel {
 
 namespace {
 
-enum SavedPosition : std::int32_t { SavedTop = 0, SavedLeft = 1 };
-
 constexpr float loadingHeight = 3810;
 
 }  // namespace
@@ -99,11 +97,11 @@ void frmConfigurationDialog::LoadDialogPosition() {
 void frmConfigurationDialog::SaveDialogPosition() {
   EndQuietly([this] {
     const std::intptr_t positions = OpenPositions();
-    StorePosition(positions, "ConfigDialogMsFlexGridRow0Width", std::to_string(msgScanCodes.ColWidth(0)));
-    StorePosition(positions, "ConfigDialogMsFlexGridRow1Width", std::to_string(msgScanCodes.ColWidth(1)));
-    StorePosition(positions, "ConfigDialogMsFlexGridRow2Width", std::to_string(msgScanCodes.ColWidth(2)));
-    StorePosition(positions, "ConfigDialogTop", SingleToText(Top()));
-    StorePosition(positions, "ConfigDialogLeft", SingleToText(Left()));
+    StorePosition(positions, SavedColumn0Width, std::to_string(msgScanCodes.ColWidth(0)));
+    StorePosition(positions, SavedColumn1Width, std::to_string(msgScanCodes.ColWidth(1)));
+    StorePosition(positions, SavedColumn2Width, std::to_string(msgScanCodes.ColWidth(2)));
+    StorePosition(positions, SavedTop, SingleToText(Top()));
+    StorePosition(positions, SavedLeft, SingleToText(Left()));
     ClosePositions(positions);
   });
 }

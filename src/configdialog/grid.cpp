@@ -15,7 +15,6 @@ namespace {
 
 enum GridColumn : int { NumberColumn = 0, PressColumn = 1, ReleaseColumn = 2 };
 
-constexpr std::int32_t firstSavedWidth = 2;
 constexpr std::int32_t captureColour = 3;
 constexpr std::array<std::int32_t, 3> headerTexts = {2002, 2003, 2004};
 constexpr std::int16_t rightButton = 2;
@@ -33,7 +32,7 @@ bool LayerTakes(const udtTactisBaseElement_TACTIS_SCANCODE* otherDirection, std:
 void frmConfigurationDialog::InitScanCodeGrid() {
   EndQuietly([this] {
     for (int col = 0; col < msgScanCodes.Cols(); ++col) {
-      msgScanCodes.ColWidth(col, TextToInt32(GetWindowPosition(firstSavedWidth + col)));
+      msgScanCodes.ColWidth(col, TextToInt32(GetWindowPosition(SavedColumn0Width + col)));
     }
     for (int row = 1; row < msgScanCodes.Rows(); ++row) {
       msgScanCodes.Current(row, NumberColumn);

@@ -169,9 +169,9 @@ std::intptr_t OpenPositions() {
   return key;
 }
 
-void StorePosition(std::intptr_t key, std::string_view name, std::string_view text) {
+void StorePosition(std::intptr_t key, SavedPosition position, std::string_view text) {
   const auto length = static_cast<std::int32_t>(text.size());
-  Platform::Current().UserRegistry().SetValue(key, name, 0, Registry::TypeText, text, length);
+  Platform::Current().UserRegistry().SetValue(key, PositionName(position), 0, Registry::TypeText, text, length);
 }
 
 void ClosePositions(std::intptr_t key) { Platform::Current().UserRegistry().CloseKey(key); }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "services/element_types.h"
+#include "services/saved_positions.h"
 #include "services/surroundings.h"
 
 namespace plexel {
@@ -48,7 +49,7 @@ std::string LedTypeToText(std::int32_t type);
 /// Results of the registry are not looked at.
 inline constexpr std::string_view PositionKey = "SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS";
 std::intptr_t OpenPositions();
-void StorePosition(std::intptr_t key, std::string_view name, std::string_view text);
+void StorePosition(std::intptr_t key, SavedPosition position, std::string_view text);
 void ClosePositions(std::intptr_t key);
 
 }  // namespace plexel

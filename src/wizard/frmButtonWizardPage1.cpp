@@ -42,8 +42,8 @@ void EmptyScanCodes(udtTactisBaseElement_ScanCodeInfo& info) {
 
 void frmButtonWizardPage1::OnLoad() {
   ScaleTitlePicture();
-  PassOver([this] { Top(TextToSingle(GetWindowPosition(0))); });
-  PassOver([this] { Left(TextToSingle(GetWindowPosition(1))); });
+  PassOver([this] { Top(TextToSingle(GetWindowPosition(SavedTop))); });
+  PassOver([this] { Left(TextToSingle(GetWindowPosition(SavedLeft))); });
   PassOver([] { DetermineOsFamily(); });
   PlaceFocusCatcher();
   PassOver([this] { TranslateForm(*this, "@"); });

@@ -30,7 +30,7 @@ WizardPage::WizardPage(std::string_view name, std::string_view description, floa
   fraDummy.Place(0, RuleTop, PageWidth, RuleHeight);
   labLimitations.Caption("@168");
   labLimitations.Look(LabelLook::Link);
-  labLimitations.Place(Margin, 4710, 2940, 300);
+  labLimitations.Place(Margin, 4755, 2940, 300);
   labLimitations.OnClick = [this] { labLimitations_Click(); };
   cmdCancel.Caption("@101");
   PlaceInButtonRow(cmdCancel, 0);
@@ -39,8 +39,8 @@ WizardPage::WizardPage(std::string_view name, std::string_view description, floa
 void WizardPage::SaveDialogPosition() {
   EndQuietly([this] {
     const std::intptr_t key = OpenPositions();
-    StorePosition(key, "ConfigDialogTop", SingleToText(Top()));
-    StorePosition(key, "ConfigDialogLeft", SingleToText(Left()));
+    StorePosition(key, SavedTop, SingleToText(Top()));
+    StorePosition(key, SavedLeft, SingleToText(Left()));
     ClosePositions(key);
   });
 }

@@ -167,7 +167,11 @@ TEST_F(SettingsFiles, SavingWhereNothingCanBeWrittenIsAFault) {
 }
 
 TEST_F(SettingsFiles, PositionsHaveDefaults) {
-  for (std::int32_t number = 0; number <= 4; ++number) EXPECT_NE(Position(Settings(), number), "") << number;
+  EXPECT_EQ(Position(Settings(), 0), "1500");
+  EXPECT_EQ(Position(Settings(), 1), "1800");
+  EXPECT_EQ(Position(Settings(), 2), "735");
+  EXPECT_EQ(Position(Settings(), 3), "3270");
+  EXPECT_EQ(Position(Settings(), 4), "3270");
   EXPECT_EQ(Position(Settings(), 5), "");
 }
 

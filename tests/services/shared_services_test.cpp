@@ -301,7 +301,7 @@ TEST(SavedPositions, TheRegistryGetsTheKeyTheTypeAndTheLength) {
   RegistryPlatform platform;
   const Platform::Use use(platform);
   const std::intptr_t key = OpenPositions();
-  StorePosition(key, "ConfigDialogTop", "22.5");
+  StorePosition(key, SavedTop, "22.5");
   ClosePositions(key);
   const std::vector<std::string> expected = {"2147483649 SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS 0 2",
                                              "5 ConfigDialogTop 0 1 22.5 4", "close 5"};
@@ -319,7 +319,7 @@ TEST(Surroundings, WithoutAnyAskingFails) {
 
 TEST_F(SharedServices, PositionsAreStoredUnderTheComponentsKey) {
   const std::intptr_t key = OpenPositions();
-  StorePosition(key, "ConfigDialogTop", "1530");
+  StorePosition(key, SavedTop, "1530");
   ClosePositions(key);
   const MemoryRegistry::Values expected = {{"ConfigDialogTop", "1530"}};
   EXPECT_EQ(platform.UserRegistry().Stored(), expected);
@@ -328,7 +328,7 @@ TEST_F(SharedServices, PositionsAreStoredUnderTheComponentsKey) {
 
 TEST_F(SharedServices, AStoredPositionIsReadBackThroughTheSettings) {
   const std::intptr_t key = OpenPositions();
-  StorePosition(key, "ConfigDialogLeft", "22.5");
+  StorePosition(key, SavedLeft, "22.5");
   ClosePositions(key);
   EXPECT_EQ(GetWindowPosition(1), "22.5");
 }
@@ -336,7 +336,7 @@ TEST_F(SharedServices, AStoredPositionIsReadBackThroughTheSettings) {
 TEST_F(SharedServices, ARegistryThatRefusesIsNotLookedAt) {
   platform.faults.Turn(Fault::Registry, true);
   const std::intptr_t key = OpenPositions();
-  EXPECT_NO_THROW(StorePosition(key, "ConfigDialogTop", "1"));
+  EXPECT_NO_THROW(StorePosition(key, SavedTop, "1"));
   EXPECT_NO_THROW(ClosePositions(key));
   EXPECT_TRUE(platform.UserRegistry().Stored().empty());
 }
