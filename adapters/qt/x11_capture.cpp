@@ -62,7 +62,7 @@ X11Capture::X11Capture(xcb_connection_t* connection, HookTable& hooks, Keyboard&
   releaseTimer_.setInterval(RepeatGapMilliseconds);
   busyTimer_.setSingleShot(true);
   busyTimer_.setInterval(0);
-  connect(&releaseTimer_, &QTimer::timeout, this, [this] { SendHeldRelease(); });
+  connect(&releaseTimer_, &QTimer::timeout, this, [this] { RepeatGapIsOver(); });
   hooks_.onChange = [this](HookKind kind, bool) {
     if (kind == HookKind::LowLevelKeyboard) UpdateGrab();
   };
@@ -145,6 +145,14 @@ void X11Capture::Send(const RawKey& key, std::uint16_t state) {
     keys_.Layout().ToUnicode(event.virtualKey, event.scanCode, &plain, 1, keys_.Layout().Current());
     view->TakeKey(event, TypedCharacter(event.virtualKey, keys_.ShiftState(), plain));
   });
+}
+
+void X11Capture::RepeatGapIsOver() {
+  // The press of a key that is down again is on its way, and tells whether the release was one.
+  if (heldRelease_ && server_.ReadKeys()[static_cast<std::size_t>(heldRelease_->key.evdev)]) {
+    return releaseTimer_.start();
+  }
+  SendHeldRelease();
 }
 
 void X11Capture::SendHeldRelease() {

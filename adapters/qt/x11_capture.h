@@ -35,6 +35,7 @@ class X11Capture : public QObject, public QAbstractNativeEventFilter, public Key
   void FocusMoves(const xcb_focus_in_event_t& event, bool comes);
   bool KeyArrives(const xcb_key_press_event_t& event, bool down);
   void Send(const RawKey& key, std::uint16_t state);
+  void RepeatGapIsOver();
   void SendHeldRelease();
   /// Events went to the toolkit that it has not handled yet; keys behind them must not overtake them.
   void ToolkitIsBusy();
