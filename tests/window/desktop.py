@@ -76,9 +76,6 @@ def window_manager_settings(bindings):
   <keyboard>{keys}</keyboard>
   <mouse>
     <context name="Frame"/>
-    <context name="Client">
-      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
-    </context>
     <context name="Titlebar">
       <mousebind button="Left" action="Drag"><action name="Move"/></mousebind>
     </context>

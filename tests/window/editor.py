@@ -188,16 +188,21 @@ class Editor:
         """The place of an element on the screen, once the panel is drawn."""
         facts = self.panel
 
-        def find():
+        seen = []
+
+        def still():
             self.window = self.desktop.window(MAIN)
             count, box = self.desktop.colour(self.window, facts.screen_colour)
-            return box if count > 1000 else None
+            seen.append((str(box), box, str(self.window)))
+            time.sleep(0.05)
+            return count > 1000 and len(seen) > 1 and seen[-1][::2] == seen[-2][::2]
 
         # A light falls on the left of the panel's screen: its colour ends at the other edges.
-        seen = wait_for("the picture of the panel", find)
+        wait_for("the picture of the panel", still)
+        screen = seen[-1][1]
         right, top = facts.screen[0] + facts.screen[2], facts.screen[1]
-        left = seen.left + seen.width - right * self.scale
-        above = seen.top - top * self.scale
+        left = screen.left + screen.width - right * self.scale
+        above = screen.top - top * self.scale
         box = facts.elements[name]
         return Box(left + box[0] * self.scale, above + box[1] * self.scale, box[2] * self.scale, box[3] * self.scale)
 
