@@ -12,8 +12,10 @@ namespace {
 /// The place of the picture and of the title on top of each page.
 constexpr float pictureLeft = 120, pictureTop = 60, pictureSize = 480;
 constexpr float titleLeft = 720, titleTop = 165, titleWidth = 6690, titleHeight = 300;
-constexpr float contentLeft = 120, contentWidth = 7290;
+constexpr float contentLeft = 120, contentWidth = 7335;
 constexpr float pageWidth = 7560, pageHeight = 2610;
+constexpr float gridTop = 540;
+constexpr int gridRowHeight = 285;
 
 void PlaceHeading(PictureBox& picture, const std::string& pictureName, Label& title, std::string caption) {
   picture.Place(pictureLeft, pictureTop, pictureSize, pictureSize);
@@ -75,13 +77,13 @@ void frmConfigurationDialog::DesignButtonPage() {
     control->Inside(fraButton);
   }
   PlaceHeading(imgButton, "button", labButtonTitel, "@2001");
-  msgScanCodes.Place(contentLeft, 570, contentWidth, 1455);
-  msgScanCodes.RowHeight(285);
+  msgScanCodes.Place(contentLeft, gridTop, contentWidth, 5 * gridRowHeight);
+  msgScanCodes.RowHeight(gridRowHeight);
   msgScanCodes.UserResizing(true);
-  cmdFocusCatcher.Place(contentLeft, 570, 15, 15);
+  cmdFocusCatcher.Place(contentLeft, gridTop, 15, 15);
   cmdFocusCatcher.Caption("Focus");
 
-  fraCodeType.Place(contentLeft, 2040, contentWidth, 555);
+  fraCodeType.Place(contentLeft, 1995, contentWidth, 540);
   fraCodeType.Caption("@2008");
   struct OptionDesign {
     float left, width;
@@ -109,7 +111,7 @@ void frmConfigurationDialog::DesignLedPage() {
   for (std::size_t i = 0; i < labels.size(); ++i) {
     const float top = 645 + 465 * static_cast<float>(i);
     labels[i]->Inside(fraLed);
-    labels[i]->Place(contentLeft, top + 60, 1200, 255);
+    labels[i]->Place(contentLeft, top + 75, 1200, 255);
     labels[i]->Caption("Layer " + std::to_string(i + 1) + ":");
     cmbLEDTypes[i].Inside(fraLed);
     cmbLEDTypes[i].Place(1440, top, 4800, 375);
