@@ -12,7 +12,7 @@ namespace {
 /// The place of the picture and of the title on top of each page.
 constexpr float pictureLeft = 120, pictureTop = 60, pictureSize = 480;
 constexpr float titleLeft = 720, titleTop = 165, titleWidth = 6690, titleHeight = 300;
-constexpr float contentLeft = 120, contentWidth = 7335;
+constexpr float contentLeft = 120, contentWidth = 7290;
 constexpr float pageWidth = 7560, pageHeight = 2610;
 constexpr float gridTop = 540;
 constexpr int gridRowHeight = 285;
