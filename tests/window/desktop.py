@@ -268,20 +268,21 @@ class Desktop:
         return answer["count"], Box(*answer["box"])
 
     def picture(self, file, box):
-        """Keeps a picture of the box once nothing moves there any more, and tells how many colours it has."""
+        """Keeps a picture of the box once nothing moves there any more, and tells how many colours a part of its
+        pixels has."""
         raw = self.folder / "picture.ppm"
         last = []
 
         def still():
             self.do(f"picture {box} {raw}")
             last.append(raw.read_bytes())
-            time.sleep(0.15)
+            time.sleep(0.1)
             return len(last) > 1 and last[-1] == last[-2]
 
         wait_for("a picture that stands still", still)
         keep(file, last[-1])
         pixels = last[-1].split(b"\n", 3)[3]
-        return len({pixels[place:place + 3] for place in range(0, len(pixels), 3)})
+        return len({pixels[place:place + 3] for place in range(0, len(pixels), 3 * 7)})
 
     def keep_picture(self, file):
         """Keeps a picture of the whole screen as it is now."""
@@ -306,4 +307,4 @@ def png_of(ppm):
         return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", zlib.crc32(kind + content))
 
     return (b"\x89PNG\r\n\x1a\n" + part(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)) +
-            part(b"IDAT", zlib.compress(rows, 6)) + part(b"IEND", b""))
+            part(b"IDAT", zlib.compress(rows, 3)) + part(b"IEND", b""))

@@ -105,6 +105,8 @@ std::string XDesktop::Title(xcb_window_t window) {
 
 WindowFacts XDesktop::Describe(xcb_window_t window, bool popup) {
   WindowFacts facts;
+  facts.id = window;
+  facts.popup = popup;
   const Owned<xcb_get_geometry_reply_t> size(
       xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window), nullptr));
   const Owned<xcb_translate_coordinates_reply_t> place(xcb_translate_coordinates_reply(
@@ -113,11 +115,10 @@ WindowFacts XDesktop::Describe(xcb_window_t window, bool popup) {
       xcb_get_window_attributes_reply(connection_, xcb_get_window_attributes(connection_, window), nullptr));
   if (!size || !place || !attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE) return facts;
   const std::vector<std::uint32_t> active = Numbers(screen_->root, "_NET_ACTIVE_WINDOW");
-  facts.id = window;
+  facts.viewable = true;
   facts.title = Title(window);
   facts.client = {place->dst_x, place->dst_y, size->width, size->height};
   facts.active = !active.empty() && active.front() == window;
-  facts.popup = popup;
   return facts;
 }
 
@@ -133,7 +134,7 @@ std::vector<WindowFacts> XDesktop::Windows() {
     // Frames and helper windows of the window manager carry no type.
     if (!Numbers(children[child], "_NET_WM_WINDOW_TYPE").empty()) windows.push_back(Describe(children[child], true));
   }
-  std::erase_if(windows, [](const WindowFacts& facts) { return facts.id == XCB_WINDOW_NONE; });
+  std::erase_if(windows, [](const WindowFacts& facts) { return facts.popup && !facts.viewable; });
   return windows;
 }
 

@@ -18,7 +18,8 @@ struct Box {
 struct WindowFacts {
   xcb_window_t id = XCB_WINDOW_NONE;
   std::string title;
-  Box client;  ///< without the frame, on the screen
+  Box client;             ///< without the frame, on the screen
+  bool viewable = false;  ///< false while it comes and goes
   bool active = false;
   bool popup = false;
 };
