@@ -65,18 +65,6 @@ std::string FromCodePage(std::string_view bytes) {
   return text;
 }
 
-std::string ToCodePage(std::string_view utf8, char replacement) {
-  std::string bytes;
-  bytes.reserve(utf8.size());
-  while (!utf8.empty()) {
-    const characters::Decoded next = characters::First(utf8);
-    const std::int32_t code = CodeOf(next);
-    bytes += code < 0 ? replacement : static_cast<char>(static_cast<std::uint8_t>(code));
-    utf8.remove_prefix(next.length);
-  }
-  return bytes;
-}
-
 std::string ToCodePageEscaped(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
@@ -110,12 +98,6 @@ std::string FromCodePageEscaped(std::string_view bytes) {
     bytes.remove_prefix(length);
   }
   return text;
-}
-
-std::string_view FirstCharacters(std::string_view utf8, std::size_t count) {
-  std::size_t length = 0;
-  for (; count > 0 && length < utf8.size(); --count) length += characters::First(utf8.substr(length)).length;
-  return utf8.substr(0, length);
 }
 
 }  // namespace plexel

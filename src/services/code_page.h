@@ -17,18 +17,14 @@ std::string CharacterOf(std::uint8_t code);
 using characters::CodeOf;
 
 std::string FromCodePage(std::string_view bytes);
-/// Characters that the code page lacks become `replacement`.
-std::string ToCodePage(std::string_view utf8, char replacement = '?');
-/// The same without loss: a backslash becomes two, a character that the code page lacks "\u{HEX}", a byte of a broken
-/// sequence "\x{HEX}".
+/// The other way, without loss: a backslash becomes two, a character that the code page lacks "\u{HEX}", a byte of a
+/// broken sequence "\x{HEX}".
 std::string ToCodePageEscaped(std::string_view utf8);
 /// Undoes ToCodePageEscaped; Failure (Conversion) for a broken escape.
 std::string FromCodePageEscaped(std::string_view bytes);
 
 /// The number of characters of a UTF-8 text; every byte of a broken sequence counts as one.
 inline std::size_t CountCharacters(std::string_view utf8) { return static_cast<std::size_t>(characters::Count(utf8)); }
-/// The first `count` characters.
-std::string_view FirstCharacters(std::string_view utf8, std::size_t count);
 
 /// The marks of a definition text: codes 139 and 155 of the code page.
 inline constexpr std::string_view chrMakeMark = "\u2039";
