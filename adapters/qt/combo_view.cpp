@@ -56,8 +56,10 @@ void ComboView::SyncMore() {
   const QSignalBlocker blocker(box_);
   if (items_ != model_.Items()) {
     items_ = model_.Items();
+    QStringList texts;
+    for (const std::string& item : items_) texts.append(ToQt(item));
     box_->clear();
-    for (const std::string& item : items_) box_->addItem(ToQt(item));
+    box_->addItems(texts);
   }
   if (box_->currentIndex() != model_.ListIndex()) box_->setCurrentIndex(model_.ListIndex());
   box_->ShowText(ToQt(model_.Text()));
