@@ -13,7 +13,10 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <filesystem>
+#include <fstream>
 #include <functional>
+#include <memory>
 
 #include "component/component.h"
 #include "editor/help_window.h"
@@ -33,8 +36,8 @@ using namespace plexel;
 
 /// The desktop as the dialogs see it.
 struct Desktop {
-  Desktop()
-      : surroundings(DataDirectory(), configuration.path().toStdString()),
+  explicit Desktop(const std::filesystem::path& data = DataDirectory())
+      : surroundings(data, configuration.path().toStdString()),
         platform(surroundings.UserRegistry(), help),
         usePlatform(platform),
         useSurroundings(surroundings) {
@@ -78,6 +81,55 @@ void WizardLedPageToPixels(benchmark::State& state) { OpenDrawAndClose(state, Le
 BENCHMARK(ConfigurationDialogToPixels)->Unit(benchmark::kMillisecond);
 BENCHMARK(WizardKeyPageToPixels)->Unit(benchmark::kMillisecond);
 BENCHMARK(WizardLedPageToPixels)->Unit(benchmark::kMillisecond);
+
+/// The program's data with a file of named sequences of 10 MB in place of its own.
+class LargeData {
+ public:
+  LargeData() {
+    std::filesystem::copy(DataDirectory(), Path(), std::filesystem::copy_options::recursive);
+    std::ofstream file(Path() / "NonStandardScancodes.cfg");
+    while (file.tellp() < 10'000'000) {
+      ++count_;
+      file << "[SCANCODE" << count_ << "]\nREMARK001=Sequence number " << count_ << "\nREMARK049=Sequenz Nummer "
+           << count_ << "\nMAKECODE=E0:5E\nBREAKCODE=E0:F0:5E\n\n";
+    }
+  }
+  std::filesystem::path Path() const { return std::filesystem::path(directory_.path().toStdString()) / "data"; }
+  std::int64_t Count() const { return count_; }
+
+ private:
+  QTemporaryDir directory_;
+  std::int64_t count_ = 0;
+};
+
+/// From the menu entry's call to the pixels. The file has not been read before, or has been since it was changed.
+void LargeSequenceFileToPixels(benchmark::State& state, bool first) {
+  const LargeData data;
+  auto desktop = std::make_unique<Desktop>(data.Path());
+  std::int64_t pixels = 0, entries = 0;
+  const std::function<void()> draw = [&] {
+    FormView* const view = desktop->platform.Modal().Topmost();
+    pixels += view->Window().grab().width();
+    state.PauseTiming();
+    entries = dynamic_cast<const ComboBox&>(*view->Model().Find("cmbNonStandardScancodes")).ListCount();
+    view->Model().Unload();
+  };
+  for (auto _ : state) {
+    if (first) {
+      state.PauseTiming();
+      desktop.reset();
+      desktop = std::make_unique<Desktop>(data.Path());
+      state.ResumeTiming();
+    }
+    QTimer::singleShot(0, draw);
+    FormDirectory::Instance().ShowModal("frmNonStandardScancodes", nullptr);
+    state.ResumeTiming();
+  }
+  if (pixels == 0 || entries != data.Count()) state.SkipWithError("the dialog did not show the file");
+  state.counters["entries"] = static_cast<double>(entries);
+}
+BENCHMARK_CAPTURE(LargeSequenceFileToPixels, first, true)->Unit(benchmark::kMillisecond)->MinTime(2);
+BENCHMARK_CAPTURE(LargeSequenceFileToPixels, again, false)->Unit(benchmark::kMillisecond)->MinTime(2);
 
 void PeerDialogByHandToPixels(benchmark::State& state) {
   for (auto _ : state) {

@@ -65,12 +65,15 @@ const BagValue* FlatBag::FindOwn(std::size_t place, std::string_view) const {
   return index == 0 ? nullptr : &known_[index - 1].second;
 }
 
-const BagValue* FlatBag::Find(std::string_view key) const {
-  const std::size_t number = BagKeyNumber(key);
-  if (number < BagKeyCount) return FindOwn(number, key);
+const BagValue* FlatBag::FindOther(std::string_view key) const {
   const auto found =
       std::find_if(other_.begin(), other_.end(), [key](const auto& entry) { return entry.first == key; });
   return found == other_.end() ? nullptr : &found->second;
+}
+
+const BagValue* FlatBag::Find(std::string_view key) const {
+  const std::size_t number = BagKeyNumber(key);
+  return number < BagKeyCount ? FindOwn(number, key) : FindOther(key);
 }
 
 bool FlatBag::StoreNew(std::size_t number, BagValue&& value) {
@@ -85,7 +88,7 @@ bool FlatBag::StoreNew(std::size_t number, BagValue&& value) {
 bool FlatBag::StoreNew(std::string_view key, BagValue&& value) {
   const std::size_t number = BagKeyNumber(key);
   if (number < BagKeyCount) return StoreNew(number, std::move(value));
-  if (Find(key) != nullptr) return false;
+  if (FindOther(key) != nullptr) return false;
   other_.emplace_back(key, std::move(value));
   return true;
 }
@@ -97,10 +100,14 @@ void FlatBag::Clear() {
 }
 
 void FlatBag::Store(std::string_view key, BagValue value) {
-  if (auto* const stored = const_cast<BagValue*>(Find(key))) {
-    *stored = std::move(value);
+  const std::size_t number = BagKeyNumber(key);
+  const BagValue* const stored = number < BagKeyCount ? FindOwn(number, key) : FindOther(key);
+  if (stored != nullptr) {
+    *const_cast<BagValue*>(stored) = std::move(value);
+  } else if (number < BagKeyCount) {
+    StoreNew(number, std::move(value));
   } else {
-    StoreNew(key, std::move(value));
+    other_.emplace_back(key, std::move(value));
   }
 }
 

@@ -34,18 +34,20 @@ class FlatBag : public PropertyBag {
   void Clear();
 
   std::size_t Size() const { return known_.size() + other_.size(); }
-  /// Calls `visit(key, value)` for the keys of properties in the order in which they were first stored, then for all
-  /// others.
-  template <typename Visit>
-  void ForEach(Visit&& visit) const {
-    for (const auto& [number, value] : known_) visit(BagKey(number), value);
-    for (const auto& [key, value] : other_) visit(std::string_view(key), value);
+  /// Calls `visitOwn(key, value)` for the keys of properties in the order in which they were first stored, then
+  /// `visitOther(key, value)` for all others.
+  template <typename VisitOwn, typename VisitOther>
+  void ForEach(VisitOwn&& visitOwn, VisitOther&& visitOther) const {
+    for (const auto& [number, value] : known_) visitOwn(BagKey(number), value);
+    for (const auto& [key, value] : other_) visitOther(std::string_view(key), value);
   }
 
   /// Equal when the same keys were stored with the same values in the same order.
   bool operator==(const FlatBag& other) const { return known_ == other.known_ && other_ == other.other_; }
 
  private:
+  const BagValue* FindOther(std::string_view key) const;
+
   std::array<std::uint8_t, BagKeyCount> places_{};  ///< in `known_`, from 1; 0 for a key that is not stored
   std::vector<std::pair<std::uint8_t, BagValue>> known_;
   std::vector<std::pair<std::string, BagValue>> other_;

@@ -36,13 +36,17 @@ std::string_view Between(const char* begin, const char* end) { return {begin, st
 
 FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)) {
   const std::string_view text = text_.Text();
-  LineWalk lines(text);
-  for (std::string_view line; lines.Next(line);) {
-    if (line.find('[') == std::string_view::npos) continue;
-    const ParameterLine read = ReadParameterLine(line);
+  const char* const textEnd = text.data() + text.size();
+  const auto endsLine = [](char c) { return c == '\n' || c == '\r'; };
+  for (std::size_t bracket = text.find('['); bracket != std::string_view::npos; bracket = text.find('[', bracket + 1)) {
+    const char* start = text.data() + bracket;
+    while (start != text.data() && (start[-1] == ' ' || start[-1] == '\t')) --start;
+    if (start != text.data() && !endsLine(start[-1])) continue;
+    const char* const end = std::find_if(start, textEnd, endsLine);
+    const ParameterLine read = ReadParameterLine(Between(start, end));
     if (read.kind != ParameterLineKind::Section) continue;
-    if (!sections_.empty()) sections_.back().body = Between(sections_.back().body.data(), line.data());
-    sections_.push_back({read.name, Between(line.data() + line.size(), text.data() + text.size())});
+    if (!sections_.empty()) sections_.back().body = Between(sections_.back().body.data(), start);
+    sections_.push_back({read.name, Between(end, textEnd)});
   }
   EnterSections();
 }

@@ -1,6 +1,5 @@
 #include "files/project_file.h"
 
-#include "files/project_syntax.h"
 #include "files/system_files.h"
 #include "platform/failure.h"
 
@@ -21,7 +20,7 @@ udtTactisBaseElement_TACTIS_SCANCODE& BufferOf(udtTactisBaseElement_ScanCodeInfo
   return number % 2 == 0 ? *PressBuffer(record, layer) : *ReleaseBuffer(record, layer);
 }
 
-constexpr udtTactisBaseElement_TACTIS_SCANCODE initialCodes = project_syntax::InitialCodes();
+constexpr udtTactisBaseElement_TACTIS_SCANCODE initialCodes = InitialCodes();
 
 }  // namespace
 

@@ -120,7 +120,7 @@ void ProjectReader::ReadHeader() {
     }
   }
   if (!format || !marks || !panel || !count_) Refuse("Format, Marks, Panel and Elements must stand below [PROJECT]");
-  places_.reserve(std::min<std::size_t>(*count_, file_.Text().size() / ElementSection.size()));
+  places_ = PlaceSet(std::min<std::size_t>(*count_, file_.Text().size() / ElementSection.size()));
   TakeSection(more);
 }
 
@@ -137,7 +137,7 @@ void ProjectReader::TakeSection(bool more) {
   if (given_ == *count_) RefuseCount("more");
   const std::string_view place = name.substr(ElementSection.size());
   place_ = Decode(place);
-  if (!places_.insert(place_).second) Refuse("the place " + Excerpt(place) + " stands twice");
+  if (!places_.Insert(place_)) Refuse("the place " + Excerpt(place) + " stands twice");
 }
 
 void ProjectReader::CheckEnd() {

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
+#include "files/place_set.h"
 #include "files/project_file.h"
 #include "files/text_lines.h"
 
@@ -47,7 +47,7 @@ class ProjectReader {
   std::optional<std::uint32_t> count_;
   std::string panel_;
   std::string place_;  ///< of the element whose section comes next
-  std::unordered_set<std::string> places_;
+  PlaceSet places_;
   std::size_t given_ = 0;
   bool ended_ = false;
 };

@@ -26,11 +26,4 @@ inline constexpr std::array<std::string_view, 8> BufferNames = {
     "strLayer1PressScanCode", "strLayer1ReleaseScanCode", "strLayer2PressScanCode", "strLayer2ReleaseScanCode",
     "strLayer3PressScanCode", "strLayer3ReleaseScanCode", "strLayer4PressScanCode", "strLayer4ReleaseScanCode"};
 
-/// The state of every buffer of a new element.
-constexpr udtTactisBaseElement_TACTIS_SCANCODE InitialCodes() {
-  udtTactisBaseElement_TACTIS_SCANCODE codes;
-  for (std::size_t index = 0; index < 45; ++index) codes.Value[index] = udtTactisBaseElement_TACTIS_SCANCODE::EndMark;
-  return codes;
-}
-
 }  // namespace plexel::project_syntax

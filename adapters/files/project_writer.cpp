@@ -22,9 +22,8 @@ constexpr std::size_t ShortestRun = 4;
 
 }  // namespace
 
-ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count) : left_(count) {
+ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count) : left_(count), places_(count) {
   out_.reserve(count * UsualBytes);
-  places_.reserve(count);
   Append("[PROJECT]\nFormat=1\nMarks=\x8B\x9B\nPanel=");
   AppendProjectText(out_, panel, {});
   EndLine();
@@ -52,29 +51,30 @@ void ProjectWriter::AppendNumber(Number number) {
   if (error == std::errc()) out_.append(digits, end);
 }
 
-void ProjectWriter::AppendKey(std::string_view key) {
-  if (key.empty()) Refuse(FailureKind::Index, "a value has no key");
-  if (BagKeyNumber(key) < BagKeyCount) {
-    out_ += key;
-  } else {
-    AppendProjectText(out_, key, "=[];#");
-  }
+void ProjectWriter::AppendEntry(const BagValue& value) {
   out_ += '=';
+  std::visit([this](const auto& typed) { AppendValue(typed); }, value);
+  EndLine();
 }
 
 void ProjectWriter::Add(const ProjectElement& element) {
   if (left_ == 0) Refuse(FailureKind::Index, "there are more elements than were told");
   --left_;
-  if (!places_.insert(element.place).second) Refuse(FailureKind::Index, "the place " + element.place + " stands twice");
+  if (!places_.Insert(element.place)) Refuse(FailureKind::Index, "the place " + element.place + " stands twice");
   Append("\n[ELEMENT ");
   AppendProjectText(out_, element.place, "]");
   out_ += ']';
   EndLine();
-  element.bag.ForEach([this](std::string_view key, const BagValue& value) {
-    AppendKey(key);
-    std::visit([this](const auto& typed) { AppendValue(typed); }, value);
-    EndLine();
-  });
+  element.bag.ForEach(
+      [this](std::string_view key, const BagValue& value) {
+        Append(key);
+        AppendEntry(value);
+      },
+      [this](std::string_view key, const BagValue& value) {
+        if (key.empty()) Refuse(FailureKind::Index, "a value has no key");
+        AppendProjectText(out_, key, "=[];#");
+        AppendEntry(value);
+      });
   for (const SavedCodes& saved : element.codes) {
     if (saved.buffer < 0 || static_cast<std::size_t>(saved.buffer) >= BufferNames.size()) {
       Refuse(FailureKind::Index, "there is no code buffer " + std::to_string(saved.buffer));

@@ -2,8 +2,8 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
+#include "files/place_set.h"
 #include "files/project_file.h"
 
 namespace plexel {
@@ -25,7 +25,7 @@ class ProjectWriter {
   void AppendNumber(Number number);
   template <typename Number>
   void AppendTyped(std::string_view type, Number number);
-  void AppendKey(std::string_view key);
+  void AppendEntry(const BagValue& value);
   void AppendValue(std::int16_t value);
   void AppendValue(std::int32_t value);
   void AppendValue(std::uint8_t value);
@@ -37,7 +37,7 @@ class ProjectWriter {
   std::string out_;
   std::size_t lineStart_ = 0;
   std::size_t left_;  ///< elements still to be added
-  std::unordered_set<std::string> places_;
+  PlaceSet places_;
 };
 
 }  // namespace plexel

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdint>
 #include <system_error>
@@ -130,20 +131,19 @@ std::string ReadUpTo(const std::filesystem::path& file, std::size_t limit, bool&
   if (S_ISDIR(status.st_mode)) throw refuse("it is a directory");
   if (!S_ISREG(status.st_mode)) throw refuse("it is no regular file");
 
-  // One byte more than the size is asked for, so that the end shows without another round.
-  const auto size = static_cast<std::uintmax_t>(status.st_size);
-  std::string content(size < limit ? static_cast<std::size_t>(size) + 1 : limit + 1, '\0');
-  std::size_t length = 0;
-  while (length <= limit) {
-    if (length == content.size()) content.resize(std::min(length + std::max<std::size_t>(length / 2, 4096), limit + 1));
-    const ssize_t count = ::read(handle.Get(), content.data() + length, content.size() - length);
+  // Piece by piece through a block that stays in the cache: the memory of the content is touched only once.
+  std::array<char, std::size_t{64} << 10U> piece;
+  std::string content;
+  content.reserve(std::min(static_cast<std::uintmax_t>(status.st_size), std::uintmax_t{limit}));
+  for (complete = false; !complete;) {
+    const ssize_t count = ::read(handle.Get(), piece.data(), piece.size());
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) throw refuse(ReasonOf(errno));
-    if (count == 0) break;
-    length += static_cast<std::size_t>(count);
+    complete = count == 0;
+    const std::size_t room = limit - content.size();
+    content.append(piece.data(), std::min(static_cast<std::size_t>(count), room));
+    if (static_cast<std::size_t>(count) > room) break;
   }
-  complete = length <= limit;
-  content.resize(std::min(length, limit));
   return content;
 }
 

@@ -1,6 +1,8 @@
 #include "qt/combo_view.h"
 
+#include <QAbstractListModel>
 #include <QComboBox>
+#include <QListView>
 #include <QSignalBlocker>
 #include <QStylePainter>
 #include <QWheelEvent>
@@ -9,6 +11,29 @@
 
 namespace plexel {
 
+/// The entries of the model as the widget asks for them, so that a list of many thousands costs nothing to open.
+class ItemsModel : public QAbstractListModel {
+ public:
+  ItemsModel(const ComboBox& list, QObject& parent) : QAbstractListModel(&parent), list_(list) {}
+  int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
+  QVariant data(const QModelIndex& index, int role) const override {
+    const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
+    return text && index.row() < list_.ListCount() ? QVariant(ToQt(list_.List(index.row()))) : QVariant();
+  }
+  void Sync() {
+    if (version_ == list_.ItemsVersion()) return;
+    beginResetModel();
+    version_ = list_.ItemsVersion();
+    count_ = list_.ListCount();
+    endResetModel();
+  }
+
+ private:
+  const ComboBox& list_;
+  std::uint64_t version_ = 0;
+  int count_ = 0;
+};
+
 class ComboWidget : public QComboBox {
  public:
   using QComboBox::QComboBox;
@@ -16,6 +41,12 @@ class ComboWidget : public QComboBox {
     if (text_ == text) return;
     text_ = text;
     update();
+  }
+
+  void showPopup() override {
+    // Every entry is one line of text: the list measures one and not all.
+    if (auto* const list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+    QComboBox::showPopup();
   }
 
  protected:
@@ -41,7 +72,8 @@ class ComboWidget : public QComboBox {
 };
 
 ComboView::ComboView(ComboBox& model, QWidget& parent, UserActs& acts)
-    : ControlView(model), model_(model), box_(new ComboWidget(&parent)) {
+    : ControlView(model), model_(model), box_(new ComboWidget(&parent)), items_(new ItemsModel(model, *box_)) {
+  box_->setModel(items_);
   box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   QObject::connect(box_, &QComboBox::activated, box_, [this, &acts](int index) {
     acts.Carry(model_, [this, index](Hand& hand) { hand.Select(model_, index); });
@@ -54,13 +86,7 @@ void ComboView::Unfold() { box_->showPopup(); }
 
 void ComboView::SyncMore() {
   const QSignalBlocker blocker(box_);
-  if (items_ != model_.Items()) {
-    items_ = model_.Items();
-    QStringList texts;
-    for (const std::string& item : items_) texts.append(ToQt(item));
-    box_->clear();
-    box_->addItems(texts);
-  }
+  items_->Sync();
   if (box_->currentIndex() != model_.ListIndex()) box_->setCurrentIndex(model_.ListIndex());
   box_->ShowText(ToQt(model_.Text()));
 }

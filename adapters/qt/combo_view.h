@@ -5,6 +5,7 @@
 namespace plexel {
 
 class ComboWidget;
+class ItemsModel;
 
 /// A drop-down list that shows the model's text, whether or not it is an entry.
 class ComboView : public ControlView {
@@ -20,7 +21,7 @@ class ComboView : public ControlView {
  private:
   ComboBox& model_;
   ComboWidget* box_;
-  std::vector<std::string> items_;
+  ItemsModel* items_;
 };
 
 }  // namespace plexel

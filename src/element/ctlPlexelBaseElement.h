@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "element/element_host.h"
+#include "element/packed_codes.h"
 #include "element/property_bag.h"
 #include "element/surface.h"
 #include "platform/window.h"
@@ -116,8 +117,8 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   void ShowDefined(Boolean value);
   std::int32_t KeyDefinedColor() const;
   void KeyDefinedColor(std::int32_t value);
-  /// Brings the record up to date from the properties and hands out a copy; after a failure an empty one.
-  udtTactisBaseElement_ScanCodeInfo TactisBaseElementScanCodeBuffer();
+  /// A copy of the record, with the properties as they are now and the code bytes of the last record that was set.
+  udtTactisBaseElement_ScanCodeInfo TactisBaseElementScanCodeBuffer() const;
   void TactisBaseElementScanCodeBuffer(const udtTactisBaseElement_ScanCodeInfo& value);
   Boolean ShowX() const;
   void ShowX(Boolean value);
@@ -172,6 +173,7 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
 
  private:
   ctlPlexelBaseElement(std::string name, ElementHost& host);
+  static std::shared_ptr<ctlPlexelBaseElement> Make(std::string name, ElementHost& host);
   void UserControl_Initialize();
   void UserControl_InitProperties();
 
@@ -205,7 +207,7 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   std::string name_;
   ElementHost* host_ = nullptr;
   Surface surface_;
-  udtTactisBaseElement_ScanCodeInfo info_;
+  PackedCodes codes_;
   std::array<std::string, LayerCount> pressKeyDefs_, releaseKeyDefs_;
   std::array<enumLedType, LayerCount> ledTypes_{};
   std::array<std::int32_t, 8> hardwareNumberKeys_{};

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -71,8 +70,16 @@ static_assert(sizeof(ctlPlexelBaseElement) <= 4096);
 ctlPlexelBaseElement::ctlPlexelBaseElement(std::string name, ElementHost& host)
     : name_(std::move(name)), host_(&host) {}
 
+/// One block of memory for the element and its counts.
+std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Make(std::string name, ElementHost& host) {
+  struct Shared : ctlPlexelBaseElement {
+    Shared(std::string name, ElementHost& host) : ctlPlexelBaseElement(std::move(name), host) {}
+  };
+  return std::make_shared<Shared>(std::move(name), host);
+}
+
 std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Create(std::string name, ElementHost& host) {
-  const std::shared_ptr<ctlPlexelBaseElement> element(new ctlPlexelBaseElement(std::move(name), host));
+  const std::shared_ptr<ctlPlexelBaseElement> element = Make(std::move(name), host);
   element->UserControl_Initialize();
   element->UserControl_InitProperties();
   return element;
@@ -80,7 +87,7 @@ std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Create(std::string n
 
 std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Read(std::string name, ElementHost& host,
                                                                  const PropertyBag& bag) {
-  const std::shared_ptr<ctlPlexelBaseElement> element(new ctlPlexelBaseElement(std::move(name), host));
+  const std::shared_ptr<ctlPlexelBaseElement> element = Make(std::move(name), host);
   element->UserControl_Initialize();
   element->UserControl_ReadProperties(bag);
   return element;
@@ -88,13 +95,7 @@ std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Read(std::string nam
 
 void ctlPlexelBaseElement::UserControl_Initialize() {
   EndQuietly([&] {
-    constexpr std::ptrdiff_t firstEntries = 45;
     surface_.Picture = false;
-    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-      for (auto* const buffer : {PressBuffer(info_, layer), ReleaseBuffer(info_, layer)}) {
-        std::fill_n(buffer->Value.begin(), firstEntries, udtTactisBaseElement_TACTIS_SCANCODE::EndMark);
-      }
-    }
     Screen& screen = Platform::Current().TheScreen();
     for (SurfaceShape* const shape : {&surface_.shpOval, &surface_.shpRect}) {
       shape->Left = Finite(focusWidth_ * static_cast<double>(screen.TwipsPerPixelX()));

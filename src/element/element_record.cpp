@@ -33,20 +33,20 @@ void ForEach(const Array& members, Action&& action) {
 
 }  // namespace
 
-Info ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer() {
-  return EndQuietlyWith(Info{}, [&](Info& result) {
-    info_.lngButtonHardwareNumber = HardwareNumberButton();
-    info_.lngKeyHardwareNumber = HardwareNumberKey();
-    ForEach(furtherKeyNumbers, [&](std::int32_t index, auto member) { info_.*member = HardwareNumberKeyAt(index); });
-    info_.lngLedHardwareNumber = HardwareNumberLed();
-    ForEach(ledTypes, [&](std::int32_t layer, auto member) { info_.*member = LEDTypeLayer(layer); });
-    info_.enumWizardButtonType = WizardOptions();
-    ForEach(pressStrings, [&](std::int32_t layer, auto member) { info_.*member = PressKeyDefLayer(layer); });
-    ForEach(releaseStrings, [&](std::int32_t layer, auto member) { info_.*member = ReleaseKeyDefLayer(layer); });
-    info_.strBaseElementNotes = ButtonNotes();
-    info_.enumBaseElementType = ElementType();
-    result = info_;
-  });
+Info ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer() const {
+  Info info;
+  info.lngButtonHardwareNumber = HardwareNumberButton();
+  info.lngKeyHardwareNumber = HardwareNumberKey();
+  ForEach(furtherKeyNumbers, [&](std::int32_t index, auto member) { info.*member = HardwareNumberKeyAt(index); });
+  info.lngLedHardwareNumber = HardwareNumberLed();
+  ForEach(ledTypes, [&](std::int32_t layer, auto member) { info.*member = LEDTypeLayer(layer); });
+  info.enumWizardButtonType = WizardOptions();
+  ForEach(pressStrings, [&](std::int32_t layer, auto member) { info.*member = PressKeyDefLayer(layer); });
+  ForEach(releaseStrings, [&](std::int32_t layer, auto member) { info.*member = ReleaseKeyDefLayer(layer); });
+  info.strBaseElementNotes = ButtonNotes();
+  info.enumBaseElementType = ElementType();
+  codes_.PutInto(info);
+  return info;
 }
 
 void ctlPlexelBaseElement::PassOnHead(const Info& info) {
@@ -63,7 +63,7 @@ void ctlPlexelBaseElement::PassOnRest(const Info& info) {
 }
 
 void ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer(const Info& value) {
-  info_ = value;
+  codes_.Keep(value);
   EndQuietly([&] {
     PassOnHead(value);
     ForEach(furtherKeyNumbers, [&](std::int32_t index, auto member) { HardwareNumberKeyAt(index, value.*member); });
@@ -72,7 +72,7 @@ void ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer(const Info& value) {
 }
 
 void ctlPlexelBaseElement::SetTactisBaseElementDefinition(const Info& udtTactisBaseElementInfo) {
-  info_ = udtTactisBaseElementInfo;
+  codes_.Keep(udtTactisBaseElementInfo);
   EndQuietly([&] {
     PassOnHead(udtTactisBaseElementInfo);
     PassOnRest(udtTactisBaseElementInfo);

@@ -19,15 +19,17 @@ void ComboBox::Text(std::string value) {
   listIndex_ = entry == items_.end() ? -1 : static_cast<int>(entry - items_.begin());
 }
 
-void ComboBox::AddItem(const std::string& text) {
+void ComboBox::AddItem(std::string text) {
   const auto place = sorted_ ? std::upper_bound(items_.begin(), items_.end(), text, StandsBefore) : items_.end();
   const int index = static_cast<int>(place - items_.begin());
-  items_.insert(place, text);
+  items_.insert(place, std::move(text));
+  ++itemsVersion_;
   if (index <= listIndex_) ++listIndex_;
 }
 
 void ComboBox::Clear() {
   items_.clear();
+  ++itemsVersion_;
   listIndex_ = -1;
   text_.clear();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -77,13 +78,15 @@ class ComboBox : public Control {
   /// With a sorted list entries stand in the order of their texts, letters without regard to case and accent first.
   bool Sorted() const { return sorted_; }
   void Sorted(bool value) { sorted_ = value; }
-  void AddItem(const std::string& text);
+  void AddItem(std::string text);
   /// Takes all entries away, and the text with them.
   void Clear();
   int ListCount() const { return static_cast<int>(items_.size()); }
   /// Failure (Index) outside the list.
   const std::string& List(int index) const;
   const std::vector<std::string>& Items() const { return items_; }
+  /// A number that is another one after every change of the entries.
+  std::uint64_t ItemsVersion() const { return itemsVersion_; }
   int ListIndex() const { return listIndex_; }
   /// Picks an entry: its text goes into the field, and Click is raised. -1 picks none and empties the field. Failure
   /// (Index) outside the list.
@@ -97,6 +100,7 @@ class ComboBox : public Control {
   std::string text_;
   bool sorted_ = false;
   std::vector<std::string> items_;
+  std::uint64_t itemsVersion_ = 0;
   int listIndex_ = -1;
 };
 

@@ -34,7 +34,7 @@ void frmNonStandardScancodes::OnLoad() {
     TranslateForm(*this, "@");
     const NamedSequences sequences;
     std::int32_t number = 1;
-    for (auto name = sequences.NameOf(number); name; name = sequences.NameOf(++number)) list.AddItem(*name);
+    for (auto name = sequences.NameOf(number); name; name = sequences.NameOf(++number)) list.AddItem(*std::move(name));
     ShowFirstEntry();
   });
 }

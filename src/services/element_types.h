@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -64,6 +65,15 @@ struct udtTactisBaseElement_TACTIS_SCANCODE {
   std::int32_t NextValue = 0;  ///< index of the last end mark, 0 in an empty sequence
   bool operator==(const udtTactisBaseElement_TACTIS_SCANCODE&) const = default;
 };
+
+/// The state of every code buffer of a new element: end marks in its first 45 bytes.
+constexpr udtTactisBaseElement_TACTIS_SCANCODE InitialCodes() {
+  constexpr std::size_t endMarks = 45;
+  udtTactisBaseElement_TACTIS_SCANCODE codes;
+  for (std::size_t index = 0; index < endMarks; ++index)
+    codes.Value[index] = udtTactisBaseElement_TACTIS_SCANCODE::EndMark;
+  return codes;
+}
 
 /// All that a dialog needs of an element. The scan codes lie press before release, layer by layer; of the strings all
 /// press strings come first.

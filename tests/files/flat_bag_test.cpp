@@ -11,7 +11,8 @@ using testing::ElementsAre;
 
 std::vector<std::string> KeysOf(const FlatBag& bag) {
   std::vector<std::string> keys;
-  bag.ForEach([&keys](std::string_view key, const BagValue&) { keys.emplace_back(key); });
+  const auto take = [&keys](std::string_view key, const BagValue&) { keys.emplace_back(key); };
+  bag.ForEach(take, take);
   return keys;
 }
 
