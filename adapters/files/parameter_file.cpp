@@ -21,56 +21,77 @@ std::string ReadLeniently(const std::filesystem::path& file) {
   }
 }
 
-std::size_t HashOf(std::string_view name) {
-  std::size_t hash = 14695981039346656037U;
-  for (const char c : name) {
-    const bool upper = c >= 'A' && c <= 'Z';
-    hash = (hash ^ static_cast<unsigned char>(upper ? c - 'A' + 'a' : c)) * 1099511628211U;
-  }
-  return hash ^ (hash >> 32U);
-}
+constexpr std::size_t FewestSlots = 16;
 
-std::string_view Between(const char* begin, const char* end) { return {begin, static_cast<std::size_t>(end - begin)}; }
+/// Names that differ in their last digit lie side by side, as they are asked for.
+std::uint32_t HashOf(std::string_view name) {
+  std::uint32_t hash = 0;
+  for (const char c : name) hash = hash * 31 + static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+  return hash;
+}
 
 }  // namespace
 
-FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)) {
+FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)), slots_(FewestSlots) {
   const std::string_view text = text_.Text();
-  const char* const textEnd = text.data() + text.size();
   const auto endsLine = [](char c) { return c == '\n' || c == '\r'; };
+  Section passedOver;
+  Section* open = &passedOver;
   for (std::size_t bracket = text.find('['); bracket != std::string_view::npos; bracket = text.find('[', bracket + 1)) {
-    const char* start = text.data() + bracket;
-    while (start != text.data() && (start[-1] == ' ' || start[-1] == '\t')) --start;
-    if (start != text.data() && !endsLine(start[-1])) continue;
-    const char* const end = std::find_if(start, textEnd, endsLine);
-    const ParameterLine read = ReadParameterLine(Between(start, end));
-    if (read.kind != ParameterLineKind::Section) continue;
-    if (!sections_.empty()) sections_.back().body = Between(sections_.back().body.data(), start);
-    sections_.push_back({read.name, Between(end, textEnd)});
+    std::size_t start = bracket;
+    while (start > 0 && (text[start - 1] == ' ' || text[start - 1] == '\t')) --start;
+    if (start > 0 && !endsLine(text[start - 1])) continue;
+    const auto end =
+        static_cast<std::size_t>(std::find_if(text.begin() + bracket, text.end(), endsLine) - text.begin());
+    const ParameterLine line = ReadParameterLine(text.substr(start, end - start));
+    if (line.kind != ParameterLineKind::Section) continue;
+    open->bodyEnd = static_cast<std::uint32_t>(start);
+    open = Enter(line.name);
+    if (open == nullptr) open = &passedOver;
+    open->body = static_cast<std::uint32_t>(end);
   }
-  EnterSections();
+  open->bodyEnd = static_cast<std::uint32_t>(text.size());
 }
 
-void FileParameterReader::Index::EnterSections() {
-  std::size_t size = 16;
-  while (size < sections_.size() * 2) size *= 2;
-  slots_.resize(size, Free);
-  for (std::size_t number = 0; number < sections_.size(); ++number) {
-    std::uint32_t& slot = slots_[SlotOf(sections_[number].name)];
-    if (slot == Free) slot = static_cast<std::uint32_t>(number);
+/// The slot of a section's name, or the free one where it belongs.
+std::size_t FileParameterReader::Index::SlotOf(std::string_view name, std::uint32_t hash) const {
+  const std::size_t last = slots_.size() - 1;
+  std::size_t index = hash & last;
+  for (; slots_[index].number != 0; index = (index + 1) & last) {
+    if (slots_[index].hash != hash) continue;
+    const Section& section = sections_[slots_[index].number - 1];
+    if (SameName(Piece(section.name, section.nameEnd), name)) break;
   }
+  return index;
 }
 
-std::size_t FileParameterReader::Index::SlotOf(std::string_view name) const {
-  std::size_t slot = HashOf(name) & (slots_.size() - 1);
-  while (slots_[slot] != Free && !SameName(sections_[slots_[slot]].name, name)) slot = (slot + 1) & (slots_.size() - 1);
-  return slot;
+/// A new section; null when there is one of that name already.
+FileParameterReader::Index::Section* FileParameterReader::Index::Enter(std::string_view name) {
+  if (2 * (sections_.size() + 1) > slots_.size()) Grow();
+  const std::uint32_t hash = HashOf(name);
+  Slot& slot = slots_[SlotOf(name, hash)];
+  if (slot.number != 0) return nullptr;
+  const auto start = static_cast<std::uint32_t>(name.empty() ? 0 : name.data() - text_.Text().data());
+  sections_.push_back({start, start + static_cast<std::uint32_t>(name.size()), 0, 0});
+  slot = {hash, static_cast<std::uint32_t>(sections_.size())};
+  return &sections_.back();
+}
+
+void FileParameterReader::Index::Grow() {
+  std::vector<Slot> larger(2 * slots_.size());
+  for (const Slot& slot : slots_) {
+    if (slot.number == 0) continue;
+    std::size_t index = slot.hash & (larger.size() - 1);
+    while (larger[index].number != 0) index = (index + 1) & (larger.size() - 1);
+    larger[index] = slot;
+  }
+  slots_ = std::move(larger);
 }
 
 std::optional<std::string> FileParameterReader::Index::Find(std::string_view section, std::string_view name) const {
-  const std::uint32_t number = slots_[SlotOf(section)];
-  if (number == Free) return std::nullopt;
-  LineWalk lines(sections_[number].body);
+  const std::uint32_t number = slots_[SlotOf(section, HashOf(section))].number;
+  if (number == 0) return std::nullopt;
+  LineWalk lines(Piece(sections_[number - 1].body, sections_[number - 1].bodyEnd));
   for (std::string_view line; lines.Next(line);) {
     const ParameterLine read = ReadParameterLine(line);
     if (read.kind == ParameterLineKind::Key && SameName(read.name, name)) return text_.Decode(read.value);

@@ -28,22 +28,28 @@ class FileParameterReader : public ParameterFileReader {
   class Index {
    public:
     explicit Index(const std::filesystem::path& file);
-    Index(const Index&) = delete;
-    Index& operator=(const Index&) = delete;
     /// The value of a key, or nothing.
     std::optional<std::string> Find(std::string_view section, std::string_view name) const;
 
    private:
+    /// Places in the text, which is shorter than ParameterFileLimit.
     struct Section {
-      std::string_view name, body;
+      std::uint32_t name = 0, nameEnd = 0, body = 0, bodyEnd = 0;
     };
-    std::size_t SlotOf(std::string_view name) const;
-    void EnterSections();
+    struct Slot {
+      std::uint32_t hash = 0;
+      std::uint32_t number = 0;  ///< of the section, from 1; 0 in a free slot
+    };
+    std::string_view Piece(std::uint32_t start, std::uint32_t end) const {
+      return text_.Text().substr(start, end - start);
+    }
+    std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    Section* Enter(std::string_view name);
+    void Grow();
 
-    static constexpr std::uint32_t Free = 0xFFFFFFFFU;
     ParameterText text_;
     std::vector<Section> sections_;
-    std::vector<std::uint32_t> slots_;  ///< open addressing: numbers of sections
+    std::vector<Slot> slots_;  ///< open addressing: a power of two, at least half of them free
   };
 
   /// What tells one state of a file from another.

@@ -28,6 +28,7 @@ ParameterLine ReadParameterLine(std::string_view line) {
 }
 
 bool SameName(std::string_view a, std::string_view b) {
+  if (a == b) return true;
   return a.size() == b.size() &&
          std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
 }

@@ -11,6 +11,12 @@
 
 namespace plexel {
 
+/// As much of an entry as can ever be seen of it; an endless one is not measured to its end.
+QString ShownPart(const std::string& text) {
+  constexpr std::size_t most = 1024;
+  return ToQt(std::string_view(text).substr(0, most));
+}
+
 /// The entries of the model as the widget asks for them, so that a list of many thousands costs nothing to open.
 class ItemsModel : public QAbstractListModel {
  public:
@@ -18,7 +24,7 @@ class ItemsModel : public QAbstractListModel {
   int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
   QVariant data(const QModelIndex& index, int role) const override {
     const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
-    return text && index.row() < list_.ListCount() ? QVariant(ToQt(list_.List(index.row()))) : QVariant();
+    return text && index.row() < list_.ListCount() ? QVariant(ShownPart(list_.List(index.row()))) : QVariant();
   }
   void Sync() {
     if (version_ == list_.ItemsVersion()) return;
@@ -88,7 +94,7 @@ void ComboView::SyncMore() {
   const QSignalBlocker blocker(box_);
   items_->Sync();
   if (box_->currentIndex() != model_.ListIndex()) box_->setCurrentIndex(model_.ListIndex());
-  box_->ShowText(ToQt(model_.Text()));
+  box_->ShowText(ShownPart(model_.Text()));
 }
 
 }  // namespace plexel

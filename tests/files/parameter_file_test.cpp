@@ -2,9 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
+#include <array>
+#include <random>
 
 #include "files/data_directory.h"
+#include "reader_properties.h"
 #include "temporary_directory.h"
 
 namespace plexel {
@@ -161,7 +163,42 @@ TEST_F(ParameterFile, AFileThatComesLaterIsRead) {
   EXPECT_EQ(Value("S", "A"), "1");
 }
 
-TEST_F(ParameterFile, AFileOf10MegabytesIsWalkedOncePerEntry) {
+TEST_F(ParameterFile, ABracketBeginsASectionOnlyAtTheStartOfALine) {
+  Put("[A]\nX=[B]\n;[B]\n# [B]\nY [B]\n[B\n \t[B] \nZ=2\r[C]\rZ=3");
+  EXPECT_EQ(Value("A", "X"), "[B]");
+  EXPECT_EQ(Value("A", "Z"), "missing");
+  EXPECT_EQ(Value("B", "Z"), "2");
+  EXPECT_EQ(Value("C", "Z"), "3");
+}
+
+TEST_F(ParameterFile, ASectionMayHaveTheEmptyName) {
+  Put("[]\nA=1\n[ ]\nA=2\nB=3\n[S]\n=4");
+  EXPECT_EQ(Value("", "A"), "1");
+  EXPECT_EQ(Value("", "B"), "missing");
+  EXPECT_EQ(Value("S", ""), "4");
+}
+
+TEST_F(ParameterFile, ASectionEndsWhereOneBeginsThatStandsTwice) {
+  Put("[S]\nA=1\n[T]\nB=2\n[S]\nC=3\n[T]\nD=4\n");
+  EXPECT_EQ(Value("S", "A"), "1");
+  EXPECT_EQ(Value("T", "B"), "2");
+  EXPECT_EQ(Value("S", "C"), "missing");
+  EXPECT_EQ(Value("T", "D"), "missing");
+}
+
+TEST_F(ParameterFile, AnyTextGivesWhatAWalkOverItsLinesGives) {
+  constexpr std::array pieces = {"[",         "]",         "[SCANCODE1]", "[scancode2]", "SCANCODE", "1",   "2",
+                                 "\n",        " ",         "\n",          "\r",          "\r\n",     "\t",  "=",
+                                 "REMARK001", "MAKECODE=", ";",           "#",           "\xC3\xA4", "\xE4"};
+  std::mt19937 random(7);
+  for (int round = 0; round < 400; ++round) {
+    std::string content;
+    while (random() % 60 != 0) content += pieces[random() % pieces.size()];
+    ASSERT_NO_THROW(CheckParameterReader(directory_.Path(), content)) << content;
+  }
+}
+
+TEST_F(ParameterFile, EveryEntryOfAFileOf10MegabytesIsFound) {
   std::string content;
   std::int32_t count = 0;
   while (content.size() < 10'000'000) {
@@ -170,12 +207,10 @@ TEST_F(ParameterFile, AFileOf10MegabytesIsWalkedOncePerEntry) {
                "\nREMARK049=Eintrag\nMAKECODE=E0:5E\nBREAKCODE=E0:F0:5E\n";
   }
   Put(content);
-  const auto start = std::chrono::steady_clock::now();
   for (std::int32_t number = 1; number <= count; ++number) {
     ASSERT_EQ(Value("SCANCODE" + std::to_string(number), "REMARK001"), "Entry " + std::to_string(number));
   }
   EXPECT_EQ(Value("SCANCODE" + std::to_string(count + 1), "REMARK001"), "missing");
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 TEST(ShippedSequences, EveryEntryHasANameInBothLanguagesAndCodes) {

@@ -1,6 +1,7 @@
 #include "reader_properties.h"
 
 #include <fstream>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -10,6 +11,7 @@
 #include "files/panel_file.h"
 #include "files/parameter_check.h"
 #include "files/parameter_file.h"
+#include "files/parameter_syntax.h"
 #include "files/project_file.h"
 #include "files/text_lines.h"
 
@@ -52,6 +54,35 @@ std::string Read(FileParameterReader& reader, const std::string& file, std::size
   found = status == 0;
   Require(found || value.empty(), "a missing value is empty");
   return value;
+}
+
+/// The raw value of a key as a walk over all lines finds it: the first of that name in the first section of that name.
+std::optional<std::string_view> Walked(std::string_view text, std::string_view section, std::string_view key) {
+  LineWalk lines(text);
+  bool inside = false;
+  for (std::string_view line; lines.Next(line);) {
+    const ParameterLine read = ReadParameterLine(line);
+    if (read.kind == ParameterLineKind::Section && inside) return std::nullopt;
+    if (read.kind == ParameterLineKind::Section) inside = SameName(read.name, section);
+    if (read.kind == ParameterLineKind::Key && inside && SameName(read.name, key)) return read.value;
+  }
+  return std::nullopt;
+}
+
+/// Compares the first entries with a walk over the lines.
+void CheckAgainstWalk(FileParameterReader& reader, const std::string& file, std::string_view content) {
+  const ParameterText text{std::string(content)};
+  for (std::size_t entry = 0; entry <= 12; ++entry) {
+    for (const char* const key : {"REMARK001", "MAKECODE", ""}) {
+      const std::string section = entry == 0 ? "" : "SCANCODE" + std::to_string(entry);
+      std::string value;
+      std::int32_t status = -1;
+      reader.ReadEntry(file, section, key, value, 0, status);
+      const std::optional<std::string_view> walked = Walked(text.Text(), section, key);
+      Require((status == 0) == walked.has_value(), "a key is found where a walk over the lines finds it");
+      Require(!walked || value == text.Decode(*walked), "a value is the one that a walk over the lines finds");
+    }
+  }
 }
 
 /// Reads a list as the dialog does and gives its length.
@@ -125,6 +156,7 @@ void CheckParameterReader(const std::filesystem::path& directory, std::string_vi
   const std::string file = Put(directory, "f.cfg", content).string();
   FileParameterReader reader;
   reader.SetDelimiter(":");
+  CheckAgainstWalk(reader, file, content);
   const std::size_t english = CountNames(reader, file, "REMARK001");
   const std::size_t german = CountNames(reader, file, "REMARK049");
   std::vector<Finding> findings;

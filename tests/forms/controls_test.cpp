@@ -1,3 +1,5 @@
+#include <set>
+
 #include "test_form.h"
 
 namespace plexel {
@@ -167,6 +169,20 @@ TEST(ComboBox, ClearedHasNeitherEntriesNorText) {
   EXPECT_EQ(box.ListCount(), 0);
   EXPECT_EQ(box.ListIndex(), -1);
   EXPECT_EQ(box.Text(), "");
+}
+
+TEST(ComboBox, TellsEveryChangeOfItsEntriesByAnotherVersion) {
+  TestForm form;
+  ComboBox box(form, "cmbA");
+  std::set<std::uint64_t> versions = {box.ItemsVersion()};
+  box.AddItem("one");
+  EXPECT_TRUE(versions.insert(box.ItemsVersion()).second);
+  box.Clear();
+  EXPECT_TRUE(versions.insert(box.ItemsVersion()).second);
+  box.AddItem("one");
+  EXPECT_TRUE(versions.insert(box.ItemsVersion()).second);
+  box.ListIndex(0);
+  EXPECT_FALSE(versions.insert(box.ItemsVersion()).second);
 }
 
 struct TextForm : TestForm {

@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QMenu>
 #include <QTabBar>
@@ -44,6 +45,56 @@ TEST_F(QtLists, EntriesThatTheProgramChangesAreShown) {
     platform.Modal().SyncAll();
     EXPECT_EQ(WidgetOf<QComboBox>(view, form.combo).count(), 1);
     EXPECT_TRUE(form.notes.empty());
+  });
+}
+
+TEST_F(QtLists, EntriesThatChangeAfterTheyWereShownAreShown) {
+  WhileShown([&](FormView& view) {
+    auto& box = WidgetOf<QComboBox>(view, form.combo);
+    form.combo.Clear();
+    for (const char* const entry : {"a", "b", "c"}) form.combo.AddItem(entry);
+    form.combo.ListIndex(2);
+    platform.Modal().SyncAll();
+    EXPECT_EQ(box.itemText(1), "b");
+    EXPECT_EQ(box.currentIndex(), 2);
+    form.combo.Clear();
+    EXPECT_EQ(box.itemText(1), "") << "an entry that has gone, ahead of the next look at the model";
+    form.combo.AddItem("d");
+    platform.Modal().SyncAll();
+    EXPECT_EQ(box.count(), 1);
+    EXPECT_EQ(box.itemText(0), "d");
+    EXPECT_EQ(box.currentIndex(), -1);
+  });
+}
+
+TEST_F(QtLists, AListOfManyEntriesUnfoldsWhole) {
+  constexpr int many = 50'000;
+  WhileShown([&](FormView& view) {
+    auto& box = WidgetOf<QComboBox>(view, form.combo);
+    form.combo.Clear();
+    for (int number = 0; number < many; ++number) form.combo.AddItem("Entry " + std::to_string(number));
+    form.combo.ListIndex(many - 1);
+    form.combo.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_F4);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(box.view()->model()->rowCount(), many);
+    EXPECT_EQ(box.view()->currentIndex().row(), many - 1);
+    EXPECT_TRUE(box.view()->viewport()->rect().intersects(box.view()->visualRect(box.view()->currentIndex())));
+    box.hidePopup();
+  });
+}
+
+TEST_F(QtLists, OfAnEndlessEntryItsStartIsShown) {
+  WhileShown([&](FormView& view) {
+    auto& box = WidgetOf<QComboBox>(view, form.combo);
+    form.combo.Clear();
+    form.combo.AddItem("start" + std::string(5'000'000, 'x'));
+    form.combo.ListIndex(0);
+    platform.Modal().SyncAll();
+    EXPECT_TRUE(box.itemText(0).startsWith("startxxx"));
+    EXPECT_LE(box.itemText(0).size(), 1024);
+    EXPECT_EQ(form.combo.Text().size(), 5'000'005U);
   });
 }
 
