@@ -198,7 +198,11 @@ bool FormView::eventFilter(QObject* receiver, QEvent* event) {
       if (receiver == window_.get()) WindowMoved();
       return false;
     case QEvent::WindowActivate:
-      if (receiver == window_.get()) desk_.Activated(*this);
+      if (receiver == window_.get()) {
+        // The model moves the focus, by keys too, which the toolkit does not know: without this it shows no focus.
+        window_->setAttribute(Qt::WA_KeyboardFocusChange);
+        desk_.Activated(*this);
+      }
       return false;
     case QEvent::WindowDeactivate:
       if (receiver == window_.get()) desk_.Deactivated(*this);

@@ -52,6 +52,10 @@ int Run(const QStringList& arguments) {
 }  // namespace plexel
 
 int main(int argc, char** argv) {
+  // Of a desktop that has both, the X server is taken: it tells more of the keyboard.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+  }
   QApplication application(argc, argv);
   QApplication::setApplicationName("Plexel");
   QApplication::setApplicationVersion(plexel::ProgramVersion);

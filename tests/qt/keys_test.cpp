@@ -98,6 +98,19 @@ TEST_F(QtKeys, TabFollowsTheTabOrderOfTheModel) {
   });
 }
 
+TEST_F(QtKeys, EveryControlShowsThatItHasTheFocus) {
+  WhileShown([&](FormView& view) {
+    const auto pictureOf = [&](const Control& control) { return view.ViewOf(&control)->Outer().grab().toImage(); };
+    for (std::size_t step = 0; step < form.TabOrder().size(); ++step) {
+      const Control* const before = form.Focus();
+      const QImage with = pictureOf(*before);
+      Press(view, Qt::Key_Tab);
+      ASSERT_NE(form.Focus(), before);
+      EXPECT_NE(with, pictureOf(*before)) << before->FullName();
+    }
+  });
+}
+
 TEST_F(QtKeys, EscapePressesTheCancelButton) {
   WhileShown([&](FormView& view) {
     Press(view, Qt::Key_Escape);
