@@ -14,6 +14,12 @@ namespace {
 
 QRectF BoxOf(const PanelPart& part) { return QRect(part.box.left, part.box.top, part.box.width, part.box.height); }
 
+/// Where the outline of a part runs: inside its box, so that at scale 1 it fills whole pixels.
+QRectF OutlineOf(const PanelPart& part) {
+  constexpr double half = 0.5;
+  return BoxOf(part).adjusted(half, half, -half, -half);
+}
+
 /// Light from above: `depth` in percent brighter at the top, as much darker at the bottom.
 QLinearGradient Lit(const QRectF& box, const QColor& colour, int depth) {
   QLinearGradient gradient(box.topLeft(), box.bottomLeft());
@@ -25,7 +31,7 @@ QLinearGradient Lit(const QRectF& box, const QColor& colour, int depth) {
 void DrawRounded(QPainter& painter, const PanelPart& part, const QBrush& fill) {
   painter.setPen(QPen(ColourOf(part.lineColor), 1));
   painter.setBrush(fill);
-  painter.drawRoundedRect(BoxOf(part), part.cornerRadius, part.cornerRadius);
+  painter.drawRoundedRect(OutlineOf(part), part.cornerRadius, part.cornerRadius);
 }
 
 void DrawHousing(QPainter& painter, const PanelPart& part) {
@@ -51,7 +57,7 @@ void DrawKey(QPainter& painter, const PanelPart& part) {
 void DrawRoundKey(QPainter& painter, const PanelPart& part) {
   painter.setPen(QPen(ColourOf(part.lineColor), 1));
   painter.setBrush(Lit(BoxOf(part), ColourOf(part.fillColor), 7));
-  painter.drawEllipse(BoxOf(part));
+  painter.drawEllipse(OutlineOf(part));
 }
 
 void DrawKeySwitch(QPainter& painter, const PanelPart& part) {
@@ -76,9 +82,9 @@ void DrawLed(QPainter& painter, const PanelPart& part) {
   painter.setPen(QPen(ColourOf(part.lineColor), 1));
   painter.setBrush(gradient);
   if (part.cornerRadius > 0 || box.width() == box.height()) {
-    painter.drawEllipse(box);
+    painter.drawEllipse(OutlineOf(part));
   } else {
-    painter.drawRect(box);
+    painter.drawRect(OutlineOf(part));
   }
 }
 
