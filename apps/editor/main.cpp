@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <iostream>
 
 #include "component/component.h"
@@ -18,6 +19,15 @@ namespace plexel {
 namespace {
 
 constexpr QSize IconSize(64, 64);
+
+/// The desktop's style without icons on the buttons of some boxes and none on others.
+class PlainButtons : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override {
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+};
 
 /// Tells what could not be read of the user's own files.
 void TellProblems(const FileSurroundings& surroundings, const FileRegistry& registry, const FileSettings& settings,
@@ -59,6 +69,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Plexel");
   QApplication::setApplicationVersion(plexel::ProgramVersion);
+  QApplication::setStyle(new plexel::PlainButtons);
   QApplication::setFont(plexel::DialogFont());
   QApplication::setWindowIcon(plexel::PicturePixmap("plexel", plexel::IconSize, 2));
   QCommandLineParser parser;

@@ -1,6 +1,5 @@
 #include <QAction>
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -25,15 +24,6 @@ namespace plexel {
 namespace {
 
 constexpr std::array zoomSteps = {25, 50, 75, 100, 125, 150, 200, 250, 300, 400};
-
-/// The locale of a language's English name, the system's for an unknown one.
-QLocale LocaleOf(const std::string& name) {
-  for (int language = QLocale::C + 1; language <= QLocale::LastLanguage; ++language) {
-    const auto known = static_cast<QLocale::Language>(language);
-    if (QLocale::languageToString(known) == ToQt(name)) return QLocale(known);
-  }
-  return QLocale::system();
-}
 
 /// A panel as the user knows it; its name alone when its file cannot be read.
 QString PanelTitle(const std::filesystem::path& directory, const std::string& name) {
@@ -82,6 +72,7 @@ void MainWindow::MakeActions() {
   Add(view, Text::ZoomNormal, Qt::CTRL | Qt::Key_0, &MainWindow::ZoomNormal);
   view.addSeparator();
   view.addAction(log_->toggleViewAction());
+  named_.push_back({log_->toggleViewAction(), Text::ShowEvents});
   QMenu& extras = addMenu(Text::MenuExtras);
   Add(extras, Text::Settings, QKeySequence::Preferences, &MainWindow::EditSettings);
   QMenu& help = addMenu(Text::MenuHelp);
@@ -91,17 +82,18 @@ void MainWindow::MakeActions() {
 
 void MainWindow::Retranslate() {
   UseToolkitTexts();
+  log_->Retranslate();
   for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
   for (const Named& named : named_) named.action->setText(Say(named.text));
   limits_->setText(Say(Text::CaptureIsPartial));
-  log_->Retranslate();
   ShowStatus();
   ShowTitle();
 }
 
 void MainWindow::UseToolkitTexts() {
   QCoreApplication::removeTranslator(&toolkitTexts_);
-  const QLocale locale = LocaleOf(surroundings_.Language().Chosen());
+  const QLocale::Language language = LanguageOf(surroundings_.Language().Chosen());
+  const QLocale locale = language == QLocale::AnyLanguage ? QLocale::system() : QLocale(language);
   if (toolkitTexts_.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&toolkitTexts_);
   }
@@ -200,7 +192,7 @@ void MainWindow::ShowContents() { help_.Show(0, HelpFileName(), HelpViewer::Help
 
 void MainWindow::ShowAbout() {
   QMessageBox box(this);
-  box.setWindowTitle(Say(Text::About));
+  box.setWindowTitle(Say(Text::About).remove('&'));
   box.setIconPixmap(windowIcon().pixmap(64));
   box.setTextFormat(Qt::PlainText);
   box.setText(Say(Text::AboutText).arg(ProgramVersion));

@@ -35,6 +35,7 @@ SettingsDialog::SettingsDialog(FileSurroundings& surroundings, QWidget* parent)
   layout->addWidget(MakeGeneralGroup());
   layout->addWidget(MakeMarksGroup());
   layout->addWidget(MakeRecordingGroup());
+  AlignFields();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   buttons->button(QDialogButtonBox::Ok)->setText(Say(Text::OK));
   buttons->button(QDialogButtonBox::Cancel)->setText(Say(Text::Cancel));
@@ -48,8 +49,11 @@ QWidget* SettingsDialog::MakeGeneralGroup() {
   auto* group = new QGroupBox(Say(Text::GroupGeneral));
   auto* layout = new QFormLayout(group);
   language_ = new QComboBox;
-  for (const std::string& name : surroundings_.Language().Available()) language_->addItem(ToQt(name));
-  language_->setCurrentText(ToQt(surroundings_.Language().Chosen()));
+  language_->setObjectName("Language");
+  for (const std::string& name : surroundings_.Language().Available()) {
+    language_->addItem(LanguageTitle(name), ToQt(name));
+  }
+  language_->setCurrentIndex(language_->findData(ToQt(surroundings_.Language().Chosen())));
   layout->addRow(Say(Text::Language), language_);
   AddSwitch(*layout, "UseWizard", Say(Text::UseWizard));
   return group;
@@ -75,6 +79,19 @@ QWidget* SettingsDialog::MakeRecordingGroup() {
   AddSwitch(*layout, "ShowCodeBalance", Say(Text::ShowCodeBalance));
   AddColour(*layout, "CaptureColor", Say(Text::CaptureColor));
   return group;
+}
+
+/// Gives all groups the same column of captions.
+void SettingsDialog::AlignFields() {
+  QList<QWidget*> captions;
+  for (QFormLayout* const layout : findChildren<QFormLayout*>()) {
+    for (int row = 0; row < layout->rowCount(); ++row) {
+      if (QLayoutItem* const caption = layout->itemAt(row, QFormLayout::LabelRole)) captions.append(caption->widget());
+    }
+  }
+  int widest = 0;
+  for (const QWidget* const caption : captions) widest = std::max(widest, caption->sizeHint().width());
+  for (QWidget* const caption : captions) caption->setMinimumWidth(widest);
 }
 
 void SettingsDialog::AddSwitch(QFormLayout& layout, std::string_view name, const QString& caption) {
@@ -116,7 +133,7 @@ void SettingsDialog::AddChoice(QFormLayout& layout, std::string_view name, const
 }
 
 void SettingsDialog::Apply() {
-  surroundings_.ChooseLanguage(language_->currentText().toStdString());
+  surroundings_.ChooseLanguage(language_->currentData().toString().toStdString());
   for (const Field& field : fields_) surroundings_.Settings().Value(*field.row, field.read());
   surroundings_.Settings().Save();
 }

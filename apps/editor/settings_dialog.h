@@ -23,6 +23,7 @@ class SettingsDialog : public QDialog {
   QWidget* MakeGeneralGroup();
   QWidget* MakeMarksGroup();
   QWidget* MakeRecordingGroup();
+  void AlignFields();
   void AddSwitch(QFormLayout& layout, std::string_view name, const QString& caption);
   void AddColour(QFormLayout& layout, std::string_view name, const QString& caption);
   void AddNumber(QFormLayout& layout, std::string_view name, const QString& caption);

@@ -17,4 +17,19 @@ QString Say(Text text) {
   return "@" + QString::number(number);
 }
 
+QLocale::Language LanguageOf(const std::string& name) {
+  for (int language = QLocale::C + 1; language <= QLocale::LastLanguage; ++language) {
+    const auto known = static_cast<QLocale::Language>(language);
+    if (QLocale::languageToString(known) == ToQt(name)) return known;
+  }
+  return QLocale::AnyLanguage;
+}
+
+QString LanguageTitle(const std::string& name) {
+  const QLocale::Language language = LanguageOf(name);
+  const QString title =
+      language == QLocale::AnyLanguage ? QString() : QLocale(language, QLocale::World).nativeLanguageName();
+  return title.isEmpty() ? ToQt(name) : title;
+}
+
 }  // namespace plexel

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace plexel {
 
@@ -25,6 +27,7 @@ enum class Text : std::int32_t {
   ZoomIn = 20121,
   ZoomOut = 20122,
   ZoomNormal = 20123,
+  ShowEvents = 20124,
   MenuExtras = 20130,
   Settings = 20131,
   MenuHelp = 20140,
@@ -84,5 +87,10 @@ enum class Text : std::int32_t {
 
 /// The text of a number in the user's language.
 QString Say(Text text);
+
+/// The language of an English name, AnyLanguage for an unknown one.
+QLocale::Language LanguageOf(const std::string& name);
+/// The name that a language has in itself; one that is unknown keeps its own.
+QString LanguageTitle(const std::string& name);
 
 }  // namespace plexel

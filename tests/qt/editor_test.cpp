@@ -1,17 +1,22 @@
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <fstream>
+#include <set>
 
 #include "component/component.h"
 #include "editor/log_panel.h"
 #include "editor/main_window.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
+#include "editor/texts.h"
 #include "files/data_directory.h"
 #include "files/file_error.h"
 #include "files/language_file.h"
@@ -298,6 +303,29 @@ TEST_F(Editor, TheSettingsReachFileAndElements) {
   EXPECT_EQ(useWizard, True);
 }
 
+TEST_F(Editor, TheLanguageIsChosenByTheNameThatItHasInItself) {
+  SettingsDialog dialog(surroundings, &window);
+  auto* const list = dialog.findChild<QComboBox*>("Language");
+  ASSERT_NE(list, nullptr);
+  EXPECT_EQ(list->currentText(), "English");
+  list->setCurrentText("Deutsch");
+  dialog.Apply();
+  EXPECT_EQ(surroundings.Language().Chosen(), "German");
+  EXPECT_EQ(LanguageTitle("Klingonish"), "Klingonish");
+}
+
+TEST_F(Editor, TheFieldsOfAllSettingsStandInOneColumn) {
+  SettingsDialog dialog(surroundings, &window);
+  dialog.show();
+  std::set<int> edges;
+  for (const char* const name : {"Language", "FocusWidth", "XSize", "FocusColor", "CaptureColor", "DefinedColor"}) {
+    const auto* const field = dialog.findChild<QWidget*>(name);
+    ASSERT_NE(field, nullptr) << name;
+    edges.insert(field->mapTo(&dialog, QPoint()).x());
+  }
+  EXPECT_EQ(edges.size(), 1U);
+}
+
 TEST_F(Editor, EverySettingHasAFieldThatKeepsItsValue) {
   std::vector<std::int32_t> before, after;
   for (const SettingRow& row : SettingTable) before.push_back(surroundings.Settings().Value(row));
@@ -318,6 +346,26 @@ TEST_F(Editor, AllTextsFollowTheLanguage) {
   window.View().Select(PlaceOf("F5"));
   EXPECT_TRUE(window.StatusText().contains("Rechteckige Taste mit LED"));
   EXPECT_EQ(window.Log().windowTitle(), "Ereignisse");
+}
+
+TEST_F(Editor, EveryMenuAndEntryHasALetterOfItsOwnInBothLanguages) {
+  const auto expectOwnLetters = [](const QList<QAction*>& actions) {
+    QString letters;
+    for (const QAction* const action : actions) {
+      if (action->isSeparator()) continue;
+      const qsizetype mark = action->text().indexOf('&');
+      ASSERT_GE(mark, 0) << action->text().toStdString();
+      const QChar letter = action->text().at(mark + 1).toLower();
+      EXPECT_FALSE(letters.contains(letter)) << action->text().toStdString();
+      letters += letter;
+    }
+  };
+  for (const char* const language : {"English", "German"}) {
+    surroundings.ChooseLanguage(language);
+    window.SettingsChanged();
+    expectOwnLetters(window.menuBar()->actions());
+    for (const QAction* const menu : window.menuBar()->actions()) expectOwnLetters(menu->menu()->actions());
+  }
 }
 
 TEST_F(Editor, ATopicOfTheHelpIsShownAndAMissingOneOpensNothing) {
