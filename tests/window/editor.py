@@ -23,7 +23,8 @@ class Tools:
         self.data, self.pictures = Path(source).resolve() / "data", Path(pictures).resolve()
 
     def texts(self, language):
-        return {int(number): text
+        """The texts as windows show them, without the marks of the menus' letters."""
+        return {int(number): text.replace("&", "")
                 for number, text in read_values(self.data / "languages" / f"{language}.lang").items()}
 
 
