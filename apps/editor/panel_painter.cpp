@@ -128,8 +128,11 @@ QPointF PixelPoint(float x, float y) {
   return QPointF(static_cast<double>(x), static_cast<double>(y)) / static_cast<double>(TwipsPerLogicalPixel);
 }
 
+/// Where the line of a shape runs: inside its box.
 QRectF ShapeRect(const SurfaceShape& shape) {
-  return {PixelPoint(shape.Left, shape.Top), PixelPoint(shape.Left + shape.Width, shape.Top + shape.Height)};
+  const double half = shape.BorderWidth / 2.0;
+  return QRectF(PixelPoint(shape.Left, shape.Top), PixelPoint(shape.Left + shape.Width, shape.Top + shape.Height))
+      .adjusted(half, half, -half, -half);
 }
 
 QPen PenOf(std::int32_t colour, std::int16_t width) {
