@@ -21,18 +21,9 @@ std::string ReadLeniently(const std::filesystem::path& file) {
   }
 }
 
-constexpr std::size_t FewestSlots = 16;
-
-/// Names that differ in their last digit lie side by side, as they are asked for.
-std::uint32_t HashOf(std::string_view name) {
-  std::uint32_t hash = 0;
-  for (const char c : name) hash = hash * 31 + static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
-  return hash;
-}
-
 }  // namespace
 
-FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)), slots_(FewestSlots) {
+FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)) {
   const std::string_view text = text_.Text();
   const auto endsLine = [](char c) { return c == '\n' || c == '\r'; };
   Section passedOver;
@@ -53,43 +44,16 @@ FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(Rea
   open->bodyEnd = static_cast<std::uint32_t>(text.size());
 }
 
-/// The slot of a section's name, or the free one where it belongs.
-std::size_t FileParameterReader::Index::SlotOf(std::string_view name, std::uint32_t hash) const {
-  const std::size_t last = slots_.size() - 1;
-  std::size_t index = hash & last;
-  for (; slots_[index].number != 0; index = (index + 1) & last) {
-    if (slots_[index].hash != hash) continue;
-    const Section& section = sections_[slots_[index].number - 1];
-    if (SameName(Piece(section.name, section.nameEnd), name)) break;
-  }
-  return index;
-}
-
 /// A new section; null when there is one of that name already.
 FileParameterReader::Index::Section* FileParameterReader::Index::Enter(std::string_view name) {
-  if (2 * (sections_.size() + 1) > slots_.size()) Grow();
-  const std::uint32_t hash = HashOf(name);
-  Slot& slot = slots_[SlotOf(name, hash)];
-  if (slot.number != 0) return nullptr;
+  const auto number = static_cast<std::uint32_t>(sections_.size() + 1);
+  if (!numbers_.Enter(HashOfName(name), number, IsNamed(name))) return nullptr;
   const auto start = static_cast<std::uint32_t>(name.empty() ? 0 : name.data() - text_.Text().data());
-  sections_.push_back({start, start + static_cast<std::uint32_t>(name.size()), 0, 0});
-  slot = {hash, static_cast<std::uint32_t>(sections_.size())};
-  return &sections_.back();
-}
-
-void FileParameterReader::Index::Grow() {
-  std::vector<Slot> larger(2 * slots_.size());
-  for (const Slot& slot : slots_) {
-    if (slot.number == 0) continue;
-    std::size_t index = slot.hash & (larger.size() - 1);
-    while (larger[index].number != 0) index = (index + 1) & (larger.size() - 1);
-    larger[index] = slot;
-  }
-  slots_ = std::move(larger);
+  return &sections_.emplace_back(Section{start, start + static_cast<std::uint32_t>(name.size()), 0, 0});
 }
 
 std::optional<std::string> FileParameterReader::Index::Find(std::string_view section, std::string_view name) const {
-  const std::uint32_t number = slots_[SlotOf(section, HashOf(section))].number;
+  const std::uint32_t number = numbers_.Find(HashOfName(section), IsNamed(section));
   if (number == 0) return std::nullopt;
   LineWalk lines(Piece(sections_[number - 1].body, sections_[number - 1].bodyEnd));
   for (std::string_view line; lines.Next(line);) {

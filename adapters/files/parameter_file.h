@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "files/number_table.h"
 #include "files/parameter_syntax.h"
 #include "services/surroundings.h"
 
@@ -36,20 +37,21 @@ class FileParameterReader : public ParameterFileReader {
     struct Section {
       std::uint32_t name = 0, nameEnd = 0, body = 0, bodyEnd = 0;
     };
-    struct Slot {
-      std::uint32_t hash = 0;
-      std::uint32_t number = 0;  ///< of the section, from 1; 0 in a free slot
-    };
     std::string_view Piece(std::uint32_t start, std::uint32_t end) const {
       return text_.Text().substr(start, end - start);
     }
-    std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    /// Whether the section of a number has the name.
+    auto IsNamed(std::string_view name) const {
+      return [this, name](std::uint32_t number) {
+        const Section& section = sections_[number - 1];
+        return SameName(Piece(section.name, section.nameEnd), name);
+      };
+    }
     Section* Enter(std::string_view name);
-    void Grow();
 
     ParameterText text_;
     std::vector<Section> sections_;
-    std::vector<Slot> slots_;  ///< open addressing: a power of two, at least half of them free
+    NumberTable numbers_;  ///< of the sections, from 1
   };
 
   /// What tells one state of a file from another.

@@ -1,6 +1,5 @@
 #include "element/packed_codes.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -12,7 +11,7 @@ using Info = udtTactisBaseElement_ScanCodeInfo;
 using Buffer = udtTactisBaseElement_TACTIS_SCANCODE;
 
 constexpr std::size_t bufferCount = 2 * LayerCount;
-constexpr std::size_t headSize = 1 + sizeof(Buffer::NextValue);
+constexpr std::size_t mostBytes = bufferCount * (1 + sizeof(Buffer::NextValue) + Buffer::Size);
 /// In place of a number of bytes: the buffer is as it is in a new element.
 constexpr std::uint8_t untouched = 0xFF;
 static_assert(Buffer::Size < untouched, "the number of bytes is kept in one byte");
@@ -42,7 +41,7 @@ std::size_t LengthOf(const Buffer& buffer) {
 }  // namespace
 
 void PackedCodes::Keep(const Info& record) {
-  std::array<std::uint8_t, bufferCount * (headSize + Buffer::Size)> packed;
+  std::array<std::uint8_t, mostBytes> packed;
   std::size_t size = 0;
   bool anyTouched = false;
   ForEachBuffer(record, [&](const Buffer& buffer) {

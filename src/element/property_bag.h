@@ -26,8 +26,8 @@ class PropertyBag {
   virtual ~PropertyBag() = default;
   /// The stored value of the key, or null when it is absent. The pointer holds until the bag changes.
   virtual const BagValue* Find(std::string_view key) const = 0;
-  /// The same for a key of the element's own, with its place in the order of reading, from 0. A bag that keeps its values
-  /// by place finds them without comparing texts.
+  /// The same for a key of the element's own, with its place in the order of reading, from 0. A bag that keeps its
+  /// values by place finds them without comparing texts.
   virtual const BagValue* FindOwn(std::size_t /*place*/, std::string_view key) const { return Find(key); }
   /// Stores a value under a key.
   virtual void Store(std::string_view key, BagValue value) = 0;

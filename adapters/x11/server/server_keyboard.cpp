@@ -64,10 +64,9 @@ std::string GroupName(xcb_connection_t* connection, std::uint32_t group) {
 
 std::unique_ptr<XkbLayout> ServerKeyboard::ReadLayout() const {
   const Owned<xkb_context> context(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES));
-  const bool extension = xkb_x11_setup_xkb_extension(connection_, XKB_X11_MIN_MAJOR_XKB_VERSION,
-                                                     XKB_X11_MIN_MINOR_XKB_VERSION,
-                                                     XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr,
-                                                     nullptr) == 1;
+  const bool extension =
+      xkb_x11_setup_xkb_extension(connection_, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+                                  XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr) == 1;
   if (!context || !extension) throw Failure(FailureKind::Platform, "the X server has no keyboard extension");
   const std::int32_t device = xkb_x11_get_core_keyboard_device_id(connection_);
   const Owned<xkb_keymap> keymap(
