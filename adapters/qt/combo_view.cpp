@@ -24,7 +24,8 @@ class ItemsModel : public QAbstractListModel {
   int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
   QVariant data(const QModelIndex& index, int role) const override {
     const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
-    return text && index.row() < list_.ListCount() ? QVariant(ShownPart(list_.List(index.row()))) : QVariant();
+    const bool there = index.isValid() && index.row() < list_.ListCount();
+    return text && there ? QVariant(ShownPart(list_.List(index.row()))) : QVariant();
   }
   void Sync() {
     if (version_ == list_.ItemsVersion()) return;
