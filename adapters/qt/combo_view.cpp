@@ -11,11 +11,15 @@
 
 namespace plexel {
 
+namespace {
+
 /// As much of an entry as can ever be seen of it; an endless one is not measured to its end.
 QString ShownPart(const std::string& text) {
   constexpr std::size_t most = 1024;
   return ToQt(std::string_view(text).substr(0, most));
 }
+
+}  // namespace
 
 /// The entries of the model as the widget asks for them, so that a list of many thousands costs nothing to open.
 class ItemsModel : public QAbstractListModel {
