@@ -15,12 +15,19 @@ namespace {
 
 using namespace project_syntax;
 
-std::optional<std::uint8_t> HexDigit(char c) {
-  if (c >= '0' && c <= '9') return static_cast<std::uint8_t>(c - '0');
-  if (c >= 'A' && c <= 'F') return static_cast<std::uint8_t>(c - 'A' + 10);
-  if (c >= 'a' && c <= 'f') return static_cast<std::uint8_t>(c - 'a' + 10);
-  return std::nullopt;
-}
+/// The values of the hexadecimal digits, NoDigit for any other character.
+constexpr std::uint8_t NoDigit = 0xFF;
+constexpr auto digitValues = [] {
+  std::array<std::uint8_t, 256> values{};
+  values.fill(NoDigit);
+  for (std::uint8_t value = 0; value < 16; ++value) {
+    values[static_cast<std::uint8_t>("0123456789ABCDEF"[value])] = value;
+    values[static_cast<std::uint8_t>("0123456789abcdef"[value])] = value;
+  }
+  return values;
+}();
+
+std::uint8_t HexDigit(char c) { return digitValues[static_cast<std::uint8_t>(c)]; }
 
 /// Reads the bytes of a code buffer: pairs of digits, a pair with "*COUNT" for a run, blanks between them as wanted.
 bool ReadBytes(std::string_view text, udtTactisBaseElement_TACTIS_SCANCODE& codes) {
@@ -30,9 +37,9 @@ bool ReadBytes(std::string_view text, udtTactisBaseElement_TACTIS_SCANCODE& code
       text.remove_prefix(1);
       continue;
     }
-    const std::optional<std::uint8_t> high = HexDigit(text.front());
-    const std::optional<std::uint8_t> low = text.size() > 1 ? HexDigit(text[1]) : std::nullopt;
-    if (!high || !low) return false;
+    const std::uint8_t high = HexDigit(text.front());
+    const std::uint8_t low = text.size() > 1 ? HexDigit(text[1]) : NoDigit;
+    if (high == NoDigit || low == NoDigit) return false;
     text.remove_prefix(2);
     std::size_t run = 1;
     if (!text.empty() && text.front() == '*') {
@@ -44,7 +51,7 @@ bool ReadBytes(std::string_view text, udtTactisBaseElement_TACTIS_SCANCODE& code
     }
     if (count + run > codes.Value.size()) return false;
     std::fill_n(codes.Value.begin() + static_cast<std::ptrdiff_t>(count), run,
-                static_cast<std::uint8_t>(*high * 16 + *low));
+                static_cast<std::uint8_t>(high * 16 + low));
     count += run;
   }
   return true;

@@ -62,26 +62,32 @@ void AppendProjectText(std::string& out, std::string_view text, std::string_view
 }
 
 std::string ReadProjectText(std::string_view bytes) {
-  const auto high = [](char c) { return static_cast<signed char>(c) < 0; };
-  const auto first = std::find_if(bytes.begin(), bytes.end(), [&](char c) { return high(c) || c == '\\'; });
-  if (first == bytes.end()) return std::string(bytes);
-  if (std::find(first, bytes.end(), '\\') != bytes.end()) return FromCodePageEscaped(bytes);
+  const auto isHigh = [](char c) { return static_cast<signed char>(c) < 0; };
+  std::size_t highs = 0;
+  bool escaped = false;
+  for (const char c : bytes) {
+    highs += isHigh(c) ? 1 : 0;
+    escaped |= c == '\\';
+  }
+  if (escaped) return FromCodePageEscaped(bytes);
+  if (highs == 0) return std::string(bytes);
   static const auto characters = [] {
     std::array<std::string, 128> made;
     for (std::size_t index = 0; index < made.size(); ++index)
       made[index] = CharacterOf(static_cast<std::uint8_t>(index + 128));
     return made;
   }();
-  std::string text;
-  text.reserve(bytes.size() + 4);
-  while (!bytes.empty()) {
-    const auto plain = static_cast<std::size_t>(std::find_if(bytes.begin(), bytes.end(), high) - bytes.begin());
-    text.append(bytes.data(), plain);
-    bytes.remove_prefix(plain);
-    if (bytes.empty()) break;
-    text += characters[static_cast<std::uint8_t>(bytes.front()) - 128U];
-    bytes.remove_prefix(1);
+  constexpr std::size_t longest = 3;
+  std::string text(bytes.size() + highs * (longest - 1), '\0');
+  char* put = text.data();
+  for (const char c : bytes) {
+    if (isHigh(c)) {
+      put = std::ranges::copy(characters[static_cast<std::uint8_t>(c) - 128U], put).out;
+    } else {
+      *put++ = c;
+    }
   }
+  text.resize(static_cast<std::size_t>(put - text.data()));
   return text;
 }
 

@@ -33,18 +33,12 @@ std::size_t SequenceLength(std::string_view bytes) {
 
 }  // namespace
 
-std::size_t LineWalk::Find(char end, std::size_t known) const {
-  if (started_ && (known >= position_ || known == std::string_view::npos)) return known;
-  return text_.find(end, position_);
-}
-
 bool LineWalk::Next(std::string_view& line) {
   if (position_ >= text_.size()) return false;
-  lineFeed_ = Find('\n', lineFeed_);
-  carriageReturn_ = Find('\r', carriageReturn_);
-  started_ = true;
-  const std::size_t end = std::min({lineFeed_, carriageReturn_, text_.size()});
-  line = text_.substr(position_, end - position_);
+  if (lineFeed_ < position_) lineFeed_ = Find('\n');
+  if (carriageReturn_ < position_) carriageReturn_ = Find('\r');
+  const std::size_t end = std::min(lineFeed_, carriageReturn_);
+  line = std::string_view(text_.data() + position_, end - position_);
   position_ = end == carriageReturn_ && lineFeed_ == end + 1 ? end + 2 : end + 1;
   ++number_;
   return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <filesystem>
 #include <string>
@@ -12,7 +13,7 @@ namespace plexel {
 /// Walks over the lines of a text. LF, CR LF and CR each end a line, mixed as they come.
 class LineWalk {
  public:
-  explicit LineWalk(std::string_view text) : text_(text) {}
+  explicit LineWalk(std::string_view text) : text_(text), lineFeed_(Find('\n')), carriageReturn_(Find('\r')) {}
   /// Gives the next line without its end; false behind the last one. A text that ends in a line end has no empty line
   /// behind it.
   bool Next(std::string_view& line);
@@ -20,14 +21,13 @@ class LineWalk {
   std::size_t Number() const { return number_; }
 
  private:
-  std::size_t Find(char end, std::size_t known) const;
+  std::size_t Find(char end) const { return std::min(text_.find(end, position_), text_.size()); }
 
   std::string_view text_;
   std::size_t position_ = 0;
-  std::size_t lineFeed_ = 0;        ///< the next LF at or behind the position, once looked for
-  std::size_t carriageReturn_ = 0;  ///< the same for CR
+  std::size_t lineFeed_;        ///< the next LF at or behind the position, the end of the text when there is none
+  std::size_t carriageReturn_;  ///< the same for CR
   std::size_t number_ = 0;
-  bool started_ = false;
 };
 
 /// A text file in memory, checked for what no text of this program holds.
