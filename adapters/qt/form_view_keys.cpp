@@ -1,9 +1,10 @@
+#include "qt/form_view.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
 
 #include "platform/platform.h"
-#include "qt/form_view.h"
 #include "qt/input_events.h"
 #include "qt/keyboard.h"
 #include "services/module_state.h"

@@ -1,10 +1,11 @@
+#include "cli/commands.h"
+
 #include <algorithm>
 #include <array>
 
 #include "cli/bag_json.h"
 #include "cli/call.h"
 #include "cli/command_error.h"
-#include "cli/commands.h"
 #include "cli/record_json.h"
 #include "cli/values_json.h"
 #include "element/ctlPlexelBaseElement.h"

@@ -1,8 +1,9 @@
+#include "cli/commands.h"
+
 #include <algorithm>
 #include <array>
 
 #include "cli/command_error.h"
-#include "cli/commands.h"
 #include "cli/values_json.h"
 #include "files/text_lines.h"
 #include "forms/hand.h"

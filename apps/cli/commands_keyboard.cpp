@@ -1,6 +1,7 @@
+#include "cli/commands.h"
+
 #include <array>
 
-#include "cli/commands.h"
 #include "cli/values_json.h"
 #include "scancodes/capture.h"
 

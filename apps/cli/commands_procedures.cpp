@@ -1,8 +1,9 @@
+#include "cli/commands.h"
+
 #include <array>
 #include <unordered_map>
 
 #include "cli/command_error.h"
-#include "cli/commands.h"
 #include "cli/procedures.h"
 #include "files/text_lines.h"
 #include "services/module_state.h"

@@ -1,7 +1,8 @@
+#include "cli/procedures.h"
+
 #include <ranges>
 
 #include "cli/command_error.h"
-#include "cli/procedures.h"
 
 namespace plexel {
 

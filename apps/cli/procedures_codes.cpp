@@ -1,6 +1,7 @@
+#include "cli/procedures.h"
+
 #include <array>
 
-#include "cli/procedures.h"
 #include "cli/record_json.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "scancodes/code_buffer.h"

@@ -1,9 +1,10 @@
+#include "cli/procedures.h"
+
 #include <array>
 #include <memory>
 #include <ranges>
 
 #include "cli/command_error.h"
-#include "cli/procedures.h"
 #include "cli/record_json.h"
 #include "configdialog/frmConfigurationDialog.h"
 #include "element/ctlPlexelBaseElement.h"

@@ -1,6 +1,7 @@
+#include "cli/procedures.h"
+
 #include <array>
 
-#include "cli/procedures.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "element/defined_marker.h"
 #include "scancodes/capture.h"

@@ -1,3 +1,5 @@
+#include "editor/main_window.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
@@ -11,7 +13,6 @@
 #include <array>
 
 #include "editor/log_panel.h"
-#include "editor/main_window.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
 #include "editor/version.h"

@@ -1,29 +1,21 @@
 #include "configdialog/frmConfigurationDialog.h"
 
 #include <cstddef>
-#include <initializer_list>
+#include <string>
 
-#include "platform/failure.h"
+#include "element/ctlPlexelBaseElement.h"
+#include "scancodes/code_buffer.h"
+#include "scancodes/definition_text.h"
+#include "services/conversion.h"
+#include "services/failure_styles.h"
+#include "services/module_state.h"
+#include "services/shared_services.h"
 
 namespace plexel {
 
 namespace {
 
-/// The place of the picture and of the title on top of each page.
-constexpr float pictureLeft = 120, pictureTop = 60, pictureSize = 480;
-constexpr float titleLeft = 720, titleTop = 165, titleWidth = 6690, titleHeight = 300;
-constexpr float contentLeft = 120, contentWidth = 7290;
-constexpr float pageWidth = 7560, pageHeight = 2610;
-constexpr float gridTop = 540;
-constexpr int gridRowHeight = 285;
-
-void PlaceHeading(PictureBox& picture, const std::string& pictureName, Label& title, std::string caption) {
-  picture.Place(pictureLeft, pictureTop, pictureSize, pictureSize);
-  picture.Picture(pictureName);
-  picture.Stretch(true);
-  title.Place(titleLeft, titleTop, titleWidth, titleHeight);
-  title.Caption(std::move(caption));
-}
+constexpr float loadingHeight = 3810;
 
 template <typename Array>
 auto& Member(Array& controls, int index) {
@@ -35,165 +27,125 @@ auto& Member(Array& controls, int index) {
 
 }  // namespace
 
-frmConfigurationDialog::frmConfigurationDialog() : Form("frmConfigurationDialog") {
-  DesignFrame();
-  DesignButtonPage();
-  DesignLedPage();
-  DesignNotesPage();
-  DesignMenu();
-  DesignTabOrder();
-  HelpContextID(HelpTopic);
-  for (Control* control : Controls()) control->HelpContextID(HelpTopic);
-  ConnectEvents();
+void frmConfigurationDialog::OnLoad() {
+  EndQuietly([this] {
+    ModuleState& module = Module();
+    module.HelpFile = HelpFileName();
+    DetermineOsFamily();
+    stbStatusBar.SimpleText(GetText(module.lngOsFamily != 0 ? 2017 : 2018));
+    LoadDialogPosition();
+    InitScanCodeGrid();
+    PlaceFocusCatcher();
+    FillLedLists();
+    module.udtScanCodeClipboard.Valid = False;
+    MNU_POPUP_PASTE.Enabled(false);
+    TranslateForm(*this, "@");
+    msgScanCodes.ToolTipText(GetText(10956));
+    txtButtonNotes.Text(CurrentElement().ButtonNotes());
+    LoadByElementType();
+    Height(DialogHeight);
+    cmdCancel.Cancel(true);
+    msgScanCodes.Current(1, 1);
+    strNotesCounterPrefix = GetText(2109);
+    ShowCharactersLeft();
+    UpdateGridRowMarks();
+  });
 }
 
-void frmConfigurationDialog::DesignFrame() {
-  Width(DialogWidth);
-  Height(DialogHeight);
-  KeyPreview(true);
-
-  sstScanCode.Place(60, 60, 7620, 2970);
-  sstScanCode.TabCaption(0, "@2007");
-  sstScanCode.TabCaption(1, "@2014");
-  sstScanCode.TabCaption(2, "@2107");
-
-  cmdOK.Place(7830, 390, 1305, 375);
-  cmdOK.Caption("@153");
-  cmdCancel.Place(7830, 855, 1305, 375);
-  cmdCancel.Caption("@154");
-  cmdHelp.Place(7830, 1320, 1305, 375);
-  cmdHelp.Caption("@155");
-
-  stbStatusBar.Place(0, ClientHeight() - 300, ClientWidth(), 300);
-}
-
-void frmConfigurationDialog::DesignButtonPage() {
-  fraButton.OnPage(sstScanCode, 0);
-  fraButton.Place(0, 0, pageWidth, pageHeight);
-  fraButton.Border(false);
-
-  for (Control* control :
-       std::initializer_list<Control*>{&imgButton, &labButtonTitel, &cmdFocusCatcher, &msgScanCodes, &fraCodeType}) {
-    control->Inside(fraButton);
-  }
-  PlaceHeading(imgButton, "button", labButtonTitel, "@2001");
-  msgScanCodes.Place(contentLeft, gridTop, contentWidth, 5 * gridRowHeight);
-  msgScanCodes.RowHeight(gridRowHeight);
-  msgScanCodes.UserResizing(true);
-  cmdFocusCatcher.Place(contentLeft, gridTop, 15, 15);
-  cmdFocusCatcher.Caption("Focus");
-
-  fraCodeType.Place(contentLeft, 1995, contentWidth, 540);
-  fraCodeType.Caption("@2008");
-  struct OptionDesign {
-    float left, width;
-    const char* caption;
-  };
-  constexpr std::array<OptionDesign, 3> options = {
-      {{120, 2880, "@2700"}, {3030, 2100, "@2701"}, {5160, 2070, "@2702"}}};
-  for (std::size_t i = 0; i < options.size(); ++i) {
-    optCodeType[i].Inside(fraCodeType);
-    optCodeType[i].Place(options[i].left, 240, options[i].width, 255);
-    optCodeType[i].Caption(options[i].caption);
-  }
-  optCodeType[0].Value(true);
-}
-
-void frmConfigurationDialog::DesignLedPage() {
-  fraLed.OnPage(sstScanCode, 1);
-  fraLed.Place(0, 0, pageWidth, pageHeight);
-  fraLed.Border(false);
-
-  imgLed.Inside(fraLed);
-  labLedTitel.Inside(fraLed);
-  PlaceHeading(imgLed, "led", labLedTitel, "@2101");
-  const std::array<Label*, LayerCount> labels = {&Label2, &Label3, &Label4, &Label5};
-  for (std::size_t i = 0; i < labels.size(); ++i) {
-    const float top = 645 + 465 * static_cast<float>(i);
-    labels[i]->Inside(fraLed);
-    labels[i]->Place(contentLeft, top + 75, 1200, 255);
-    labels[i]->Caption("Layer " + std::to_string(i + 1) + ":");
-    cmbLEDTypes[i].Inside(fraLed);
-    cmbLEDTypes[i].Place(1440, top, 4800, 375);
-    cmbLEDTypes[i].Sorted(true);
-    cmdDeleteLED[i].Inside(fraLed);
-    cmdDeleteLED[i].Place(6360, top, 375, 375);
-    cmdDeleteLED[i].Picture("delete");
+void frmConfigurationDialog::LoadByElementType() {
+  switch (CurrentElement().ElementType()) {
+    case Led:
+      Caption(GetText(2006));
+      sstScanCode.TabEnabled(0, false);
+      LoadLedSelections();
+      sstScanCode.Tab(1);
+      break;
+    case Oval:
+    case Rect:
+      Caption(GetText(2005));
+      sstScanCode.TabEnabled(1, false);
+      LoadGridFromElement();
+      sstScanCode.Tab(0);
+      break;
+    case OvalLed:
+    case RectLed:
+      Caption(GetText(2005));
+      LoadGridFromElement();
+      LoadLedSelections();
+      sstScanCode.Tab(0);
+      break;
+    default:
+      break;
   }
 }
 
-void frmConfigurationDialog::DesignNotesPage() {
-  for (Control* control : std::initializer_list<Control*>{&imgButtonNotesIcon, &Label1, &txtButtonNotes, &StatusBar1}) {
-    control->OnPage(sstScanCode, 2);
-  }
-  PlaceHeading(imgButtonNotesIcon, "notes", Label1, "@2108");
-  txtButtonNotes.Place(contentLeft, 600, contentWidth, 1635);
-  txtButtonNotes.MultiLine(true);
-  txtButtonNotes.MaxLength(1000);
-  StatusBar1.Place(contentLeft, 2280, contentWidth, 300);
+void frmConfigurationDialog::OnQueryUnload(UnloadMode mode) {
+  EndQuietly([this, mode] {
+    EndKeyCapture();
+    if (mode == UnloadMode::CloseBox) RestoreDefinition();
+  });
 }
 
-void frmConfigurationDialog::DesignMenu() {
-  struct EntryDesign {
-    MenuItem& entry;
-    const char* caption;
-  };
-  MNU_POPUP.Caption("&Popup");
-  for (const EntryDesign& design :
-       {EntryDesign{MNU_POPUP_ASCII, "@2400"}, EntryDesign{MNU_SPECIALKEY, "@2402"},
-        EntryDesign{MNU_POPUP_WINDOWSKEY, "@2401"}, EntryDesign{MNU_POPUP_NONSTANDARDCODE, "@10814"},
-        EntryDesign{MNU_DUMMY, "-"}, EntryDesign{MNU_POPUP_COPY, "@159"}, EntryDesign{MNU_POPUP_PASTE, "@160"}}) {
-    design.entry.Caption(design.caption);
-    MNU_POPUP.Add(design.entry);
-  }
+void frmConfigurationDialog::OnUnload() { SaveDialogPosition(); }
+
+void frmConfigurationDialog::RestoreDefinition() {
+  EndQuietly([this] {
+    EndKeyCapture();
+    CurrentElement().SetTactisBaseElementDefinition(Module().udtSavedScanCodeInfo);
+  });
 }
 
-void frmConfigurationDialog::DesignTabOrder() {
-  int next = 0;
-  const auto follows = [&next](Control& control) { control.TabIndex(next++); };
-  follows(msgScanCodes);
-  for (OptionButton& option : optCodeType) follows(option);
-  follows(cmdFocusCatcher);
-  for (std::size_t i = 0; i < cmbLEDTypes.size(); ++i) {
-    follows(cmbLEDTypes[i]);
-    follows(cmdDeleteLED[i]);
-  }
-  follows(txtButtonNotes);
-  follows(cmdOK);
-  follows(cmdCancel);
-  follows(cmdHelp);
-  follows(sstScanCode);
+void frmConfigurationDialog::LoadDialogPosition() {
+  EndQuietly([this] {
+    Width(DialogWidth);
+    Height(loadingHeight);
+    Top(TextToSingle(GetWindowPosition(SavedTop)));
+    Left(TextToSingle(GetWindowPosition(SavedLeft)));
+  });
 }
 
-void frmConfigurationDialog::ConnectEvents() {
-  cmdOK.OnClick = [this] { cmdOK_Click(); };
-  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
-  cmdHelp.OnClick = [this] { cmdHelp_Click(); };
-  sstScanCode.OnClick = [this] { EndKeyCapture(); };
-  sstScanCode.OnDblClick = [this] { EndKeyCapture(); };
-  txtButtonNotes.OnChange = [this] { txtButtonNotes_Change(); };
+void frmConfigurationDialog::SaveDialogPosition() {
+  EndQuietly([this] {
+    const std::intptr_t positions = OpenPositions();
+    StorePosition(positions, SavedColumn0Width, std::to_string(msgScanCodes.ColWidth(0)));
+    StorePosition(positions, SavedColumn1Width, std::to_string(msgScanCodes.ColWidth(1)));
+    StorePosition(positions, SavedColumn2Width, std::to_string(msgScanCodes.ColWidth(2)));
+    StorePosition(positions, SavedTop, SingleToText(Top()));
+    StorePosition(positions, SavedLeft, SingleToText(Left()));
+    ClosePositions(positions);
+  });
+}
 
-  msgScanCodes.OnClick = [this] { msgScanCodes_Click(); };
-  msgScanCodes.OnDblClick = [this] { msgScanCodes_DblClick(); };
-  msgScanCodes.OnMouseDown = [this](std::int16_t button, std::int16_t shift, float x, float y) {
-    msgScanCodes_MouseDown(button, shift, x, y);
-  };
+void frmConfigurationDialog::cmdOK_Click() {
+  EndQuietly([this] {
+    EndKeyCapture();
+    ApplyDialogResult(TargetConfigurationDialog);
+    CurrentElement().WizardOptions(ManuallyDefined);
+    CurrentElement().RaiseProjectModified();
+    Unload();
+  });
+}
 
-  for (std::size_t i = 0; i < cmbLEDTypes.size(); ++i) {
-    const auto index = static_cast<std::int16_t>(i);
-    cmdDeleteLED[i].OnClick = [this, index] { cmdDeleteLED_Click(index); };
-    cmbLEDTypes[i].OnKeyDown = [this, index](std::int16_t& keyCode, std::int16_t shift) {
-      cmbLEDTypes_KeyDown(index, keyCode, shift);
-    };
-    cmbLEDTypes[i].OnKeyPress = [this, index](std::int16_t& keyAscii) { cmbLEDTypes_KeyPress(index, keyAscii); };
-  }
+void frmConfigurationDialog::cmdCancel_Click() {
+  EndQuietly([this] {
+    RestoreDefinition();
+    Unload();
+  });
+}
 
-  MNU_POPUP_ASCII.OnClick = [this] { MNU_POPUP_ASCII_Click(); };
-  MNU_SPECIALKEY.OnClick = [this] { MNU_SPECIALKEY_Click(); };
-  MNU_POPUP_WINDOWSKEY.OnClick = [this] { MNU_POPUP_WINDOWSKEY_Click(); };
-  MNU_POPUP_NONSTANDARDCODE.OnClick = [this] { MNU_POPUP_NONSTANDARDCODE_Click(); };
-  MNU_POPUP_COPY.OnClick = [this] { MNU_POPUP_COPY_Click(); };
-  MNU_POPUP_PASTE.OnClick = [this] { MNU_POPUP_PASTE_Click(); };
+void frmConfigurationDialog::cmdHelp_Click() {
+  EndQuietly([this] { ShowHelpTopic(reinterpret_cast<std::intptr_t>(static_cast<Window*>(this)), HelpTopic); });
+}
+
+void frmConfigurationDialog::txtButtonNotes_Change() {
+  EndQuietly([this] {
+    if (!strNotesCounterPrefix.empty()) ShowCharactersLeft();
+  });
+}
+
+void frmConfigurationDialog::ShowCharactersLeft() {
+  StatusBar1.SimpleText(strNotesCounterPrefix +
+                        std::to_string(txtButtonNotes.MaxLength() - txtButtonNotes.TextLength()));
 }
 
 OptionButton& frmConfigurationDialog::CodeTypeOption(int index) { return Member(optCodeType, index); }

@@ -1,6 +1,7 @@
+#include "forms/hand.h"
+
 #include "forms/acting.h"
 #include "forms/characters.h"
-#include "forms/hand.h"
 
 namespace plexel {
 

@@ -1,9 +1,10 @@
+#include "forms/hand.h"
+
 #include <array>
 #include <string_view>
 
 #include "forms/acting.h"
 #include "forms/characters.h"
-#include "forms/hand.h"
 
 namespace plexel {
 

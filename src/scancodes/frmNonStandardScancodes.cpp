@@ -21,14 +21,6 @@ void StoreSequence(const NamedSequences& sequences, std::int32_t number, const s
 
 }  // namespace
 
-frmNonStandardScancodes::frmNonStandardScancodes()
-    : ListDialog({.form = "frmNonStandardScancodes",
-                  .caption = "@10815",
-                  .title = "labTitle",
-                  .titleCaption = "@10816",
-                  .list = "cmbNonStandardScancodes",
-                  .helpTopic = HelpTopic}) {}
-
 void frmNonStandardScancodes::OnLoad() {
   EndQuietly([this] {
     TranslateForm(*this, "@");

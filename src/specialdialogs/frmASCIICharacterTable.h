@@ -30,6 +30,8 @@ class frmASCIICharacterTable : public Form {
   CommandButton cmdOK{*this, "cmdOK"}, cmdCancel{*this, "cmdCancel"}, cmdHelp{*this, "cmdHelp"};
 
  private:
+  static constexpr int ColumnWidth = 300;  ///< twips
+
   void PlaceControls();
   void ConnectEvents();
   void FillCaptions();

@@ -33,16 +33,6 @@ void StoreFunction(const std::string& text) {
 
 }  // namespace
 
-frmSpecialIPCKey::frmSpecialIPCKey()
-    : ListDialog({.form = "frmSpecialIPCKey",
-                  .caption = "@2009",
-                  .title = "labTitel",
-                  .titleCaption = "@2013",
-                  .list = "cmbSpecialFunction",
-                  .helpTopic = HelpTopic}) {
-  PlacePicture(imgSpecialFunction, "special-function");
-}
-
 void frmSpecialIPCKey::OnLoad() {
   EndQuietly([this] {
     TranslateForm(*this, "@");

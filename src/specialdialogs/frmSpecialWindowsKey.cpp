@@ -36,16 +36,6 @@ void StoreShortCut(std::int32_t index, const std::string& text) {
 
 }  // namespace
 
-frmSpecialWindowsKey::frmSpecialWindowsKey()
-    : ListDialog({.form = "frmSpecialWindowsKey",
-                  .caption = "@2015",
-                  .title = "labTitel",
-                  .titleCaption = "@2016",
-                  .list = "cmbSpecialFunction",
-                  .helpTopic = HelpTopic}) {
-  PlacePicture(imgSpecialFunction, "windows-key");
-}
-
 void frmSpecialWindowsKey::OnLoad() {
   EndQuietly([this] {
     TranslateForm(*this, "@");

@@ -1,7 +1,8 @@
+#include "wizard/frmButtonWizardPage1.h"
+
 #include <initializer_list>
 
 #include "forms/list_keys.h"
-#include "wizard/frmButtonWizardPage1.h"
 
 namespace plexel {
 

@@ -1,3 +1,5 @@
+#include "wizard/frmButtonWizardPage1.h"
+
 #include <optional>
 #include <string_view>
 
@@ -10,7 +12,6 @@
 #include "services/conversion.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
-#include "wizard/frmButtonWizardPage1.h"
 
 namespace plexel {
 

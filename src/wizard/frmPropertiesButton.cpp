@@ -12,67 +12,27 @@ namespace plexel {
 
 namespace {
 
-constexpr std::int32_t rows = 8;
 constexpr std::int32_t noKey = -1;  ///< the number of a key that is not in the matrix
 
 constexpr std::int32_t soleNumber = 10863, buttonNumber = 2503, ledNumber = 2504;
 /// Descriptions of HardwareNumberKey and HardwareNumberKey1 to HardwareNumberKey7.
-constexpr std::array<std::int32_t, rows> keyNumbers = {10864, 10865, 10866, 10867, 10868, 10869, 10870, 10871};
+constexpr std::array<std::int32_t, frmPropertiesButton::Rows> keyNumbers = {10864, 10865, 10866, 10867,
+                                                                            10868, 10869, 10870, 10871};
 
 std::int32_t Halved(std::int32_t number) { return RoundToInt32(number / 2.0); }
 
 Label& At(std::deque<Label>& labels, std::int32_t row) {
-  if (row < 0 || row >= rows) throw Failure(FailureKind::Index, "there is no such row");
+  if (row < 0 || row >= frmPropertiesButton::Rows) throw Failure(FailureKind::Index, "there is no such row");
   return labels[static_cast<std::size_t>(row)];
 }
 
 }  // namespace
 
-frmPropertiesButton::frmPropertiesButton() : Form("frmPropertiesButton") {
-  for (std::int32_t row = 0; row < rows; ++row) {
-    labNumberDescription.emplace_back(*this, "labNumberDescription", row);
-    labHardwareNumber.emplace_back(*this, "labHardwareNumber", row);
-  }
-  Design();
-}
-
-void frmPropertiesButton::Design() {
-  constexpr float clientWidth = 5265, clientHeight = 5805, margin = 90, inset = 180;
-  constexpr float stripWidth = clientWidth - 2 * margin, contentWidth = stripWidth - 2 * inset;
-  constexpr float picture = 480, firstRow = 885, rowPitch = 525, rowHeight = 435, descriptionWidth = 3300;
-  Caption("@2500");
-  Width(clientWidth + FrameWidth);
-  Height(clientHeight + FrameHeight);
-
-  SSTab1.Place(margin, margin, stripWidth, clientHeight - 2 * margin);
-  SSTab1.TabCaption(0, "@2505");
-  imgProperty.Place(inset, 120, picture, picture);
-  imgProperty.Stretch(true);
-  labTitel.Place(inset + picture + inset, 180, contentWidth - picture - inset, 420);
-  labTitel.Look(LabelLook::Title);
-  fraDummy.Place(inset, 720, contentWidth, 30);
-  for (std::int32_t row = 0; row < rows; ++row) {
-    const float top = firstRow + rowPitch * static_cast<float>(row);
-    Label& description = At(labNumberDescription, row);
-    description.Caption("@2503");
-    description.Place(inset, top, descriptionWidth, rowHeight);
-    Label& number = At(labHardwareNumber, row);
-    number.Place(inset + descriptionWidth, top, contentWidth - descriptionWidth, rowHeight);
-    number.Alignment(TextAlignment::Right);
-  }
-  for (Control* control : Controls()) {
-    if (control != &SSTab1 && control != &ilsImageList) control->OnPage(SSTab1, 0);
-  }
-  ilsImageList.Add("BUTTON", "button");
-  ilsImageList.Add("KEYSWITCH", "keyswitch");
-  ilsImageList.Add("LED", "led");
-}
-
 void frmPropertiesButton::OnLoad() {
   EndQuietly([this] {
     TranslateForm(*this, "@");
     Caption(Caption() + " " + GetText(2501));
-    for (std::int32_t row = 0; row < rows; ++row) {
+    for (std::int32_t row = 0; row < Rows; ++row) {
       At(labHardwareNumber, row).Visible(false);
       At(labNumberDescription, row).Visible(false);
     }
@@ -111,7 +71,7 @@ void frmPropertiesButton::ShowKind(const std::string& picture, std::int32_t titl
 
 void frmPropertiesButton::ShowKeyNumbers() {
   std::int32_t row = 0;
-  for (std::int32_t candidate = 0; candidate < rows; ++candidate) {
+  for (std::int32_t candidate = 0; candidate < Rows; ++candidate) {
     const std::int32_t number = CurrentElement().HardwareNumberKeyAt(candidate);
     if (number == noKey) continue;
     ShowPropertyRow(row++, GetText(keyNumbers.at(static_cast<std::size_t>(candidate))), number);

@@ -11,6 +11,8 @@ namespace plexel {
 /// The read-only dialog of an element's hardware numbers. It has no buttons and changes nothing.
 class frmPropertiesButton : public Form {
  public:
+  static constexpr std::int32_t Rows = 8;
+
   frmPropertiesButton();
 
   /// Ends quietly at the first step that fails, with what was filled up to then.

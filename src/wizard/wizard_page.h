@@ -23,6 +23,7 @@ class WizardPage : public Form {
   static constexpr float Margin = 150;
   static constexpr float ContentLeft = 1875, ContentWidth = PageWidth - Margin - ContentLeft;
   static constexpr float DescriptionTop = 585;
+  static constexpr float TitlePictureTrim = 30;
   static constexpr float RuleTop = 4500, RuleHeight = 30;
   static constexpr float ButtonTop = 4665, ButtonWidth = 1275, ButtonHeight = 375, ButtonGap = 90;
 

@@ -1,4 +1,5 @@
 #include "forms/hand.h"
+
 #include "test_form.h"
 
 namespace plexel {

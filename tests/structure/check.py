@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Holds the tree against its own rules: includes run downward only, no file-level cycle, src/ needs the standard library alone,
-every public header compiles by itself."""
+every public header compiles by itself, every form keeps its design apart from its behaviour."""
 
 import os
 import re
@@ -76,6 +76,23 @@ def check_headers_alone(compiler, problems):
     return len(headers)
 
 
+def check_forms(problems):
+    """A form's constructor and whatever else makes its design state stand in NAME_design.cpp, its behaviour in NAME.cpp."""
+    forms = [name[:-len(".h")] for name in sources("src", (".h",)) if os.path.basename(name).startswith("frm")]
+    for form in forms:
+        maker = "%s::%s(" % ((os.path.basename(form),) * 2)
+        for ending, makes in ((".cpp", False), ("_design.cpp", True)):
+            path = os.path.join(ROOT, "src", form + ending)
+            if not os.path.exists(path):
+                problems.append("src/%s%s is missing" % (form, ending))
+                continue
+            with open(path, encoding="utf-8") as file:
+                if (maker in file.read()) != makes:
+                    problems.append("src/%s_design.cpp and no other source makes the form" % form)
+    if not forms:
+        problems.append("no form was found")
+
+
 def check_words(problems):
     """The tree's own texts speak of the system, not of how it came about."""
     forbidden = re.compile(r"\bTODO\b|\bFIXME\b|\bXXX\b|GTEST_SKIP|DISABLED_|QSKIP")
@@ -92,6 +109,7 @@ def main():
     graph = check_includes(problems)
     check_cycles(graph, problems)
     headers = check_headers_alone(sys.argv[1], problems)
+    check_forms(problems)
     check_words(problems)
     print("\n".join(problems))
     print("%d files, %d headers, %d problems" % (len(graph), headers, len(problems)))

@@ -1,6 +1,8 @@
 // Plays random key streams into the component's capture and prints, for each, the text and a checksum of all code
 // buffers. check.py plays the same streams into the second telling and compares.
 
+#include "scancodes/capture.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -12,7 +14,6 @@
 #include "headless/headless_platform.h"
 #include "headless/headless_surroundings.h"
 #include "headless/recording_host.h"
-#include "scancodes/capture.h"
 #include "scancodes/dialog_access.h"
 #include "services/module_state.h"
 

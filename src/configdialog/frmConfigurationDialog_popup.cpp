@@ -1,7 +1,8 @@
+#include "configdialog/frmConfigurationDialog.h"
+
 #include <cstddef>
 #include <string>
 
-#include "configdialog/frmConfigurationDialog.h"
 #include "forms/form_directory.h"
 #include "scancodes/code_buffer.h"
 #include "scancodes/definition_text.h"

@@ -1,7 +1,8 @@
+#include "configdialog/frmConfigurationDialog.h"
+
 #include <cstddef>
 #include <string>
 
-#include "configdialog/frmConfigurationDialog.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "scancodes/definition_text.h"
 #include "services/conversion.h"

@@ -1,6 +1,7 @@
+#include "configdialog/frmConfigurationDialog.h"
+
 #include <array>
 
-#include "configdialog/frmConfigurationDialog.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/list_keys.h"
 #include "services/failure_styles.h"

@@ -1,4 +1,5 @@
 #include "configdialog/frmConfigurationDialog.h"
+
 #include "platform/platform.h"
 #include "scancodes/capture.h"
 #include "scancodes/code_buffer.h"

@@ -1,0 +1,15 @@
+#include "specialdialogs/frmSpecialIPCKey.h"
+
+namespace plexel {
+
+frmSpecialIPCKey::frmSpecialIPCKey()
+    : ListDialog({.form = "frmSpecialIPCKey",
+                  .caption = "@2009",
+                  .title = "labTitel",
+                  .titleCaption = "@2013",
+                  .list = "cmbSpecialFunction",
+                  .helpTopic = HelpTopic}) {
+  PlacePicture(imgSpecialFunction, "special-function");
+}
+
+}  // namespace plexel
