@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <limits>
 
-#include "editor/panel_painter.h"
 #include "qt/input_events.h"
+#include "qt/panel_painter.h"
 #include "qt/units.h"
 
 namespace plexel {

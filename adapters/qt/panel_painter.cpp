@@ -1,4 +1,4 @@
-#include "editor/panel_painter.h"
+#include "qt/panel_painter.h"
 
 #include <QLinearGradient>
 #include <QPainterPath>
