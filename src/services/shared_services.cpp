@@ -39,11 +39,10 @@ static_assert(std::is_sorted(ledNames.begin(), ledNames.end(),
 
 SettingsService& Settings() { return Surroundings::Current().Settings(); }
 
-/// The number of a text that is the prefix and digits and nothing else, -1 for any other.
+/// The number behind the prefix at the beginning of a text, -1 without one.
 std::int32_t MarkedNumber(std::string_view text, std::string_view prefix) {
   if (!text.starts_with(prefix)) return -1;
   text.remove_prefix(prefix.size());
-  if (text.empty() || text.find_first_not_of("0123456789") != std::string_view::npos) return -1;
   std::int32_t number = -1;
   std::from_chars(text.data(), text.data() + text.size(), number);
   return number;

@@ -14,8 +14,8 @@ class Form;
 
 /// Language text of a number, from the current language service. Failures of the service pass to the caller.
 std::string GetText(std::int32_t number);
-/// Replaces every caption and text of the form and its controls that is the prefix and a number by the language text of
-/// that number. A number without a text leaves its marker.
+/// Replaces every caption and text of the form and its controls that begins with the prefix and a number by the
+/// language text of that number; what follows the number goes with it. A number without a text leaves all as it stands.
 void TranslateForm(Form& form, std::string_view prefix);
 
 /// Settings of the host. Failures of the service pass to the caller.

@@ -71,9 +71,22 @@ TEST_F(SharedServices, AMarkerWithoutATextStays) {
   EXPECT_EQ(form.cmdOK.Caption(), "@2");
 }
 
-TEST_F(SharedServices, OnlyThePrefixAndANumberIsAMarker) {
+TEST_F(SharedServices, TextBehindTheNumberIsReplacedWithTheMarker) {
   surroundings.Language().Set(1, "one");
-  for (const std::string caption : {"", "@", "1", "@1a", "@a1", "@ 1", "@-1", " @1", "@1 ", "@99999999999", "#1"}) {
+  surroundings.Language().Set(10, "ten");
+  for (const std::string rest : {"", " ", "a", " more", "@2", "-2"}) {
+    SampleForm form;
+    form.Caption("@10" + rest);
+    form.cmdOK.Caption("@1" + rest);
+    TranslateForm(form, "@");
+    EXPECT_EQ(form.Caption(), "ten") << rest;
+    EXPECT_EQ(form.cmdOK.Caption(), "one") << rest;
+  }
+}
+
+TEST_F(SharedServices, ATextThatDoesNotBeginWithThePrefixAndANumberStays) {
+  surroundings.Language().Set(1, "one");
+  for (const std::string caption : {"", "@", "1", "@a1", "@ 1", "@-1", " @1", "@99999999999", "#1"}) {
     SampleForm form;
     form.cmdOK.Caption(caption);
     TranslateForm(form, "@");
