@@ -72,5 +72,5 @@ endif()
 
 if(plexel_missing)
   list(JOIN plexel_missing "\n  " plexel_words)
-  message(FATAL_ERROR "missing:\n  ${plexel_words}")
+  message(FATAL_ERROR "not found here:\n  ${plexel_words}")
 endif()

@@ -1,32 +1,66 @@
-# Shared by ./run and ./test, with the repository as the current directory.
+# Shared by ./run, ./test and bench/run, with the repository as the current directory.
 
-# Installs the Debian packages that are missing, those of a section too when it is named.
+# Installs the Debian packages that are missing, those of a section too when it is named. Other systems have packages of
+# their own, there CMake names what it does not find.
 install_packages() {
   local wanted missing root=""
+  if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then return 0; fi
   wanted=$(awk -v section="[${1:-}]" '/^#/ { next } /^\[/ { other = ($0 != section); next } !other' packages)
   missing=$(for package in $wanted; do
     dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || echo "$package"
   done | xargs)
   [ -n "$missing" ] || return 0
-  echo "installing: $missing"
   if [ "$(id -u)" -ne 0 ]; then
-    if ! command -v sudo >/dev/null; then
-      echo "these packages are missing, and only root can install them: $missing" >&2
+    if ! may_become_root; then
+      echo "packages are missing, and only root can install them: apt-get install --no-install-recommends $missing" >&2
       return 1
     fi
     root=sudo
   fi
+  echo "installing: $missing"
   $root apt-get update -qq
   # shellcheck disable=SC2086
   $root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
-# Configures and builds a preset. What the tools say is kept in a file and shown when they fail.
+# Whether sudo lets the user in. It asks for a password at a terminal only.
+may_become_root() {
+  command -v sudo >/dev/null || return 1
+  if [ -t 0 ]; then sudo -v; else sudo -n true 2>/dev/null; fi
+}
+
+# Names the programs that are missing ahead of CMake, which ends at the first of them.
+require_programs() {
+  local missing="" compiler
+  command -v cmake >/dev/null || missing="$missing cmake"
+  command -v ninja >/dev/null || command -v ninja-build >/dev/null || missing="$missing ninja"
+  # shellcheck disable=SC2086
+  compiler=$(command -v ${CXX:-c++ g++ clang++} | head -n 1 || true)
+  [ -n "$compiler" ] || missing="$missing ${CXX:-c++}"
+  [ -n "$missing" ] || return 0
+  echo "programs are missing:$missing" >&2
+  return 1
+}
+
+# Configures and builds a preset, with the compiler that CXX names. What the tools say is kept in a file and shown when they
+# fail.
 build() {
-  local log="build/$1.log"
+  local folder="build/$1" log="build/$1.log" new="" fresh="" before
+  require_programs || return 1
+  [ -d "$folder" ] || new=yes
+  if [ -n "${CXX:-}" ] && [ -f "$folder/CMakeCache.txt" ]; then
+    before=$(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' "$folder/CMakeCache.txt")
+    [ "$before" = "$(command -v "$CXX")" ] || fresh=--fresh
+  fi
   mkdir -p build
   export CCACHE_DIR="${CCACHE_DIR:-$PWD/build/ccache}"
-  if ! { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1; then
+  if ! cmake --preset "$1" $fresh >"$log" 2>&1; then
+    if grep -q '^CMake Error' "$log"; then sed -n '/^CMake Error/,$p' "$log" >&2; else tail -n 60 "$log" >&2; fi
+    if [ -n "$new" ]; then rm -rf "$folder"; fi
+    echo "CMake cannot build this here; all that it says is in $log" >&2
+    return 1
+  fi
+  if ! cmake --build --preset "$1" >>"$log" 2>&1; then
     tail -n 60 "$log" >&2
     echo "the build has failed; all of it is in $log" >&2
     return 1
