@@ -1,7 +1,7 @@
 #pragma once
 
 #include "headless/faults.h"
-#include "headless/hook_table.h"
+#include "keyboard/hook_table.h"
 
 namespace plexel {
 

@@ -5,10 +5,10 @@
 #include <functional>
 #include <memory>
 
-#include "headless/hook_table.h"
+#include "keyboard/hook_table.h"
+#include "keyboard/win_keys.h"
+#include "keyboard/xkb_layout.h"
 #include "platform/keyboard.h"
-#include "x11/win_keys.h"
-#include "x11/xkb_layout.h"
 
 namespace plexel {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "headless/hook_table.h"
+#include "keyboard/hook_table.h"
 #include "platform/platform.h"
 #include "qt/keyboard.h"
 #include "qt/qt_message_boxes.h"

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "headless/key_road.h"
+#include "keyboard/typed_character.h"
 #include "platform/failure.h"
 #include "qt/form_view.h"
 

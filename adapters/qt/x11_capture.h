@@ -9,7 +9,7 @@
 
 #include "qt/keyboard.h"
 #include "qt/qt_modal_loop.h"
-#include "x11/server/server_keyboard.h"
+#include "x11/server_keyboard.h"
 
 namespace plexel {
 

@@ -16,7 +16,7 @@
 #include "headless/headless_surroundings.h"
 #include "headless/host_window.h"
 #include "headless/key_road.h"
-#include "x11/xkb_layout.h"
+#include "keyboard/xkb_layout.h"
 
 namespace plexel {
 

@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "component/component.h"
+#include "editor/editor_host.h"
 #include "editor/help_window.h"
 #include "editor/main_window.h"
 #include "editor/panel_view.h"
@@ -17,7 +18,6 @@
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
 #include "forms/form_directory.h"
-#include "headless/recording_host.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
 #include "qt/qt_platform.h"
@@ -195,9 +195,8 @@ class PictureMaker {
   std::string project_;
   QString suffix_;
   QTemporaryDir configuration_;
-  Faults faults_;
   HelpWindow help_;
-  RecordingHost host_{faults_};
+  EditorHost host_;
   FileSurroundings surroundings_;
   QtPlatform platform_;
   Platform::Use usePlatform_;

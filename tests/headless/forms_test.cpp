@@ -113,20 +113,5 @@ TEST_F(Shown, TheHooksSeeTheKeyAheadOfTheForm) {
   EXPECT_EQ(form.downs.size(), 1U);
 }
 
-TEST(TypedCharacter, FollowsKeyAndModifiers) {
-  EXPECT_EQ(TypedCharacter(0x41, 0, U'a'), U'a');
-  EXPECT_EQ(TypedCharacter(0x41, 1, U'a'), U'A');
-  EXPECT_EQ(TypedCharacter(0xDE, 1, U'\u00E4'), U'\u00C4');
-  EXPECT_EQ(TypedCharacter(0x31, 1, U'1'), U'1');
-  EXPECT_EQ(TypedCharacter(0x56, 2, U'v'), 22U);
-  EXPECT_EQ(TypedCharacter(0x31, 2, U'1'), 0U);
-  EXPECT_EQ(TypedCharacter(0x41, 4, U'a'), 0U);
-  EXPECT_EQ(TypedCharacter(0x09, 0, U'\t'), 0U);
-  EXPECT_EQ(TypedCharacter(0x08, 0, U'\b'), 8U);
-  EXPECT_EQ(TypedCharacter(0x0D, 0, U'\r'), 13U);
-  EXPECT_EQ(TypedCharacter(0x1B, 0, 0), 27U);
-  EXPECT_EQ(TypedCharacter(0x70, 0, 0), 0U);
-}
-
 }  // namespace
 }  // namespace plexel

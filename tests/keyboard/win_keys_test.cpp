@@ -1,10 +1,10 @@
-#include "x11/win_keys.h"
+#include "keyboard/win_keys.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-#include "x11/key_table.h"
+#include "keyboard/key_table.h"
 
 namespace plexel {
 namespace {

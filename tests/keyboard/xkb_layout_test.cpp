@@ -1,9 +1,9 @@
-#include "x11/xkb_layout.h"
+#include "keyboard/xkb_layout.h"
 
 #include <gtest/gtest.h>
 
+#include "keyboard/key_table.h"
 #include "platform/failure.h"
-#include "x11/key_table.h"
 
 namespace plexel {
 namespace {

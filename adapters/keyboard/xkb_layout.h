@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "keyboard/win_keys.h"
 #include "platform/keyboard.h"
-#include "x11/win_keys.h"
 
 struct xkb_context;
 struct xkb_keymap;

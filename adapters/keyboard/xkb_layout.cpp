@@ -1,13 +1,13 @@
-#include "x11/xkb_layout.h"
+#include "keyboard/xkb_layout.h"
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 #include <xkbcommon/xkbcommon.h>
 
 #include <array>
 
+#include "keyboard/key_table.h"
 #include "platform/failure.h"
 #include "services/code_page.h"
-#include "x11/key_table.h"
 
 namespace plexel {
 

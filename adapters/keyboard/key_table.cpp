@@ -1,4 +1,4 @@
-#include "x11/key_table.h"
+#include "keyboard/key_table.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "headless/hook_table.h"
+#include "keyboard/hook_table.h"
 
 #include <gtest/gtest.h>
 

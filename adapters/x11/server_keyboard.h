@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "x11/win_keys.h"
-#include "x11/xkb_layout.h"
+#include "keyboard/win_keys.h"
+#include "keyboard/xkb_layout.h"
 
 namespace plexel {
 

@@ -1,6 +1,6 @@
-#include "x11/win_keys.h"
+#include "keyboard/win_keys.h"
 
-#include "x11/key_table.h"
+#include "keyboard/key_table.h"
 
 namespace plexel {
 

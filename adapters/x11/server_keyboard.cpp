@@ -1,4 +1,4 @@
-#include "x11/server/server_keyboard.h"
+#include "x11/server_keyboard.h"
 
 #include <xkbcommon/xkbcommon-x11.h>
 #include <xkbcommon/xkbcommon.h>
