@@ -5,6 +5,8 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <algorithm>
+#include <cstdlib>
 #include <numeric>
 
 #include "qt/input_events.h"

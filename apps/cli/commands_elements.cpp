@@ -121,7 +121,8 @@ Json OwnerOf(const Element& element) {
   return owner == nullptr || owner->AsForm() == nullptr ? Json() : Json(owner->AsForm()->WindowName());
 }
 
-const PropertyRow& RowOf(const std::string& name) {
+const PropertyRow& TakeProperty(Arguments& arguments) {
+  const std::string name = arguments.Text();
   const PropertyRow* row = FindProperty(name);
   if (row == nullptr) throw CommandError("an element has no property " + Excerpt(name));
   return *row;
@@ -129,7 +130,7 @@ const PropertyRow& RowOf(const std::string& name) {
 
 void GetProperty(Workbench& bench, Arguments& arguments, Json& answer) {
   const Workbench::Element element = bench.Selected();
-  const PropertyRow& row = RowOf(arguments.Text());
+  const PropertyRow& row = TakeProperty(arguments);
   if (row.type == PropertyType::Object) {
     answer["value"] = OwnerOf(*element);
   } else if (row.type == PropertyType::Record) {
@@ -166,7 +167,7 @@ void SetOwner(Workbench& bench, Element& element, const std::string& value) {
 
 void SetProperty(Workbench& bench, Arguments& arguments, Json&) {
   const Workbench::Element element = bench.Selected();
-  const PropertyRow& row = RowOf(arguments.Text());
+  const PropertyRow& row = TakeProperty(arguments);
   if (row.type == PropertyType::Object) {
     SetOwner(bench, *element, arguments.Text());
   } else if (row.type == PropertyType::Record) {

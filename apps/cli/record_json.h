@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "cli/json.h"
 #include "scancodes/key_translation.h"
 #include "services/element_types.h"

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <cstdlib>
 #include <limits>
 
 #include "qt/input_events.h"

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <chrono>
+#include <system_error>
 #include <utility>
 #include <vector>
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "configdialog/dialog_fixture.h"
 
 namespace plexel {

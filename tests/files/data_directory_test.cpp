@@ -4,6 +4,7 @@
 #include <stdlib.h>
 
 #include <optional>
+#include <string>
 
 namespace plexel {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <memory>
+
 #include "file_error_of.h"
 #include "files/text_lines.h"
 #include "platform/failure.h"

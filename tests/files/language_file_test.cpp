@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <regex>
 #include <set>
+#include <vector>
 
 #include "file_error_of.h"
 #include "files/data_directory.h"

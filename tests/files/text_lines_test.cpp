@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <vector>
 
 #include "file_error_of.h"
 #include "files/system_files.h"
