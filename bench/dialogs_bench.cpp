@@ -26,7 +26,7 @@
 #include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
-#include "qt/qt_platform.h"
+#include "qt/qt_ports.h"
 #include "services/module_state.h"
 #include "world.h"
 
@@ -47,7 +47,7 @@ struct Desktop {
   QTemporaryDir configuration;
   HelpWindow help;
   FileSurroundings surroundings;
-  QtPlatform platform;
+  OpenQtPlatform platform;
   Platform::Use usePlatform;
   Surroundings::Use useSurroundings;
   bench::SilentHost host;

@@ -1,9 +1,13 @@
 #include "files/parameter_file.h"
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
+#include <vector>
 
 #include "files/file_error.h"
+#include "files/number_table.h"
+#include "files/parameter_syntax.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
 
@@ -22,6 +26,38 @@ std::string ReadLeniently(const std::filesystem::path& file) {
 }
 
 }  // namespace
+
+/// The sections of one file, found by a hash of their names.
+class FileParameterReader::Index {
+ public:
+  explicit Index(const std::filesystem::path& file);
+  /// The value of a key, or nothing.
+  std::optional<std::string> Find(std::string_view section, std::string_view name) const;
+
+ private:
+  /// Places in the text, which is shorter than ParameterFileLimit.
+  struct Section {
+    std::uint32_t name = 0, nameEnd = 0, body = 0, bodyEnd = 0;
+  };
+  std::string_view Piece(std::uint32_t start, std::uint32_t end) const {
+    return text_.Text().substr(start, end - start);
+  }
+  /// Whether the section of a number has the name.
+  auto IsNamed(std::string_view name) const {
+    return [this, name](std::uint32_t number) {
+      const Section& section = sections_[number - 1];
+      return SameName(Piece(section.name, section.nameEnd), name);
+    };
+  }
+  Section* Enter(std::string_view name);
+
+  ParameterText text_;
+  std::vector<Section> sections_;
+  NumberTable numbers_;  ///< of the sections, from 1
+};
+
+FileParameterReader::FileParameterReader() = default;
+FileParameterReader::~FileParameterReader() = default;
 
 FileParameterReader::Index::Index(const std::filesystem::path& file) : text_(ReadLeniently(file)) {
   const std::string_view text = text_.Text();
@@ -82,7 +118,10 @@ void FileParameterReader::ReadEntry(std::string_view file, std::string_view sect
                                     std::string& value, std::int32_t, std::int32_t& status) {
   if (!verified_ || file != fileName_) {
     Stamp stamp = StampOf(file);
-    if (!index_ || stamp != stamp_) index_.emplace(stamp.file);
+    if (!index_ || stamp != stamp_) {
+      index_.reset();  // never two texts in memory
+      index_ = std::make_unique<const Index>(stamp.file);
+    }
     stamp_ = std::move(stamp);
     fileName_ = file;
     verified_ = true;

@@ -1,6 +1,7 @@
 #include "files/project_file.h"
 
 #include "files/system_files.h"
+#include "files/text_lines.h"
 #include "platform/failure.h"
 
 namespace plexel {

@@ -7,10 +7,11 @@
 #include <vector>
 
 #include "files/flat_bag.h"
-#include "files/text_lines.h"
 #include "services/element_types.h"
 
 namespace plexel {
+
+class TextFile;
 
 /// One code buffer of an element's record. The buffers are numbered press before release, layer by layer, from 0 to 7.
 struct SavedCodes {

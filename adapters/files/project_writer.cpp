@@ -5,6 +5,7 @@
 
 #include "files/project_syntax.h"
 #include "files/project_text.h"
+#include "files/text_lines.h"
 #include "platform/failure.h"
 
 namespace plexel {

@@ -1,7 +1,9 @@
 #include "qt/qt_platform.h"
 
 #include <QCoreApplication>
+#include <utility>
 
+#include "qt/qt_ports.h"
 #include "qt/units.h"
 #include "qt/x11_capture.h"
 
@@ -22,16 +24,38 @@ void QtEventPump::DoEvents() {
   desk_.SyncAll();
 }
 
-QtPlatform::QtPlatform(Registry& registry, HelpViewer& help)
-    : registry_(registry),
-      help_(help),
-      keys_(hooks_),
-      modal_(keys_),
-      events_(modal_),
-      capture_(X11Capture::OnThisDesktop(hooks_, keys_, modal_)) {
-  modal_.Watch(capture_.get());
+QtPlatform::Ports::Ports(Registry& userRegistry, HelpViewer& helpViewer)
+    : registry(userRegistry),
+      help(helpViewer),
+      keys(hooks),
+      modal(keys),
+      events(modal),
+      capture(X11Capture::OnThisDesktop(hooks, keys, modal)) {
+  modal.Watch(capture.get());
 }
 
-QtPlatform::~QtPlatform() { modal_.Watch(nullptr); }
+QtPlatform::Ports::~Ports() { modal.Watch(nullptr); }
+
+QtPlatform::QtPlatform(Registry& registry, HelpViewer& help) : ports_(std::make_unique<Ports>(registry, help)) {}
+QtPlatform::~QtPlatform() = default;
+
+KeyboardHooks& QtPlatform::Hooks() { return ports_->hooks; }
+KeyState& QtPlatform::Keys() { return ports_->keys; }
+KeyboardLayout& QtPlatform::Layout() { return ports_->keys.Layout(); }
+Registry& QtPlatform::UserRegistry() { return ports_->registry; }
+Screen& QtPlatform::TheScreen() { return ports_->screen; }
+OsVersion& QtPlatform::Version() { return ports_->version; }
+HelpViewer& QtPlatform::Help() { return ports_->help; }
+ModalLoop& QtPlatform::Modal() { return ports_->modal; }
+MessageBoxes& QtPlatform::Messages() { return ports_->messages; }
+EventPump& QtPlatform::Events() { return ports_->events; }
+
+void QtPlatform::Register(const Window& window, QWidget& widget) { ports_->modal.Register(window, widget); }
+void QtPlatform::Report(const std::string& what) { ports_->modal.Report(what); }
+void QtPlatform::OnFailure(std::function<void(const std::string&)> show) { ports_->modal.onFailure = std::move(show); }
+void QtPlatform::ButtonTexts(std::function<QString(MessageAnswer)> text) {
+  ports_->messages.buttonText = std::move(text);
+}
+bool QtPlatform::HasFullCapture() const { return ports_->capture != nullptr; }
 
 }  // namespace plexel

@@ -1,74 +1,52 @@
 #pragma once
 
+#include <QString>
+#include <functional>
 #include <memory>
+#include <string>
 
-#include "keyboard/hook_table.h"
 #include "platform/platform.h"
-#include "qt/keyboard.h"
-#include "qt/qt_message_boxes.h"
-#include "qt/qt_modal_loop.h"
+
+class QWidget;
 
 namespace plexel {
 
-class X11Capture;
-
-/// 15 twips to the logical pixel, 96 logical pixels to the inch: the toolkit scales to the real screen.
-class LogicalScreen : public Screen {
- public:
-  float TwipsPerPixelX() override;
-  float TwipsPerPixelY() override;
-  std::intptr_t CreateInformationContext() override { return 1; }
-  std::int32_t DeviceCapability(std::intptr_t context, std::int32_t index) override;
-  void DeleteContext(std::intptr_t) override {}
-};
-
-/// A system whose keys have names of their own on both sides.
-class DesktopVersion : public OsVersion {
- public:
-  void Get(OsVersionRecord& record) override;
-};
-
-class QtEventPump : public EventPump {
- public:
-  explicit QtEventPump(FormDesk& desk) : desk_(desk) {}
-  /// Handles what waits, apart from what the user has done, which keeps its place in the order of events.
-  void DoEvents() override;
-
- private:
-  FormDesk& desk_;
-};
-
-/// The desktop as the component sees it. The application object must exist before and outlive it.
+/// The desktop as the component sees it: dialogs are native windows, and the keys are those of the X server, or where
+/// there is none those that the desktop passes on. The application object must exist before and outlive it.
 class QtPlatform : public Platform {
  public:
+  /// Where positions are stored and who shows help; both must outlive the platform.
   QtPlatform(Registry& registry, HelpViewer& help);
   ~QtPlatform() override;
 
-  HookTable& Hooks() override { return hooks_; }
-  Keyboard& Keys() override { return keys_; }
-  XkbLayout& Layout() override { return keys_.Layout(); }
-  Registry& UserRegistry() override { return registry_; }
-  LogicalScreen& TheScreen() override { return screen_; }
-  DesktopVersion& Version() override { return version_; }
-  HelpViewer& Help() override { return help_; }
-  QtModalLoop& Modal() override { return modal_; }
-  QtMessageBoxes& Messages() override { return messages_; }
-  QtEventPump& Events() override { return events_; }
+  KeyboardHooks& Hooks() override;
+  KeyState& Keys() override;
+  KeyboardLayout& Layout() override;
+  Registry& UserRegistry() override;
+  Screen& TheScreen() override;
+  OsVersion& Version() override;
+  HelpViewer& Help() override;
+  ModalLoop& Modal() override;
+  MessageBoxes& Messages() override;
+  EventPump& Events() override;
 
+  /// Tells which widget stands for a window of the host, so that dialogs open over it.
+  void Register(const Window& window, QWidget& widget);
+  /// Tells the user, and the log, of a failure that came out of one of his acts.
+  void Report(const std::string& what);
+  /// Shows the text of such a failure; without it the log alone tells.
+  void OnFailure(std::function<void(const std::string& what)> show);
+  /// Gives the buttons of message boxes their texts in the user's language; without it they have the toolkit's.
+  void ButtonTexts(std::function<QString(MessageAnswer)> text);
   /// Whether capture works as on an X server: every key arrives, and the desktop's task keys can be held back.
-  bool HasFullCapture() const { return capture_ != nullptr; }
+  bool HasFullCapture() const;
+
+ protected:
+  struct Ports;
+  Ports& Inside() { return *ports_; }
 
  private:
-  Registry& registry_;
-  HelpViewer& help_;
-  HookTable hooks_;
-  Keyboard keys_;
-  LogicalScreen screen_;
-  DesktopVersion version_;
-  QtModalLoop modal_;
-  QtMessageBoxes messages_;
-  QtEventPump events_;
-  std::unique_ptr<X11Capture> capture_;
+  std::unique_ptr<Ports> ports_;
 };
 
 }  // namespace plexel

@@ -25,13 +25,13 @@ MainWindow::MainWindow(FileSurroundings& surroundings, QtPlatform& platform, Hel
   MakeContent();
   MakeActions();
   ConnectElements();
-  platform_.Modal().Register(*windowObject_, *this);
-  platform_.Modal().onFailure = [this](const std::string& what) { Tell(Text::Failed, ToQt(what)); };
-  platform_.Messages().buttonText = [](MessageAnswer answer) {
+  platform_.Register(*windowObject_, *this);
+  platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
+  platform_.ButtonTexts([](MessageAnswer answer) {
     if (answer == MessageAnswer::Yes) return Say(Text::Yes);
     if (answer == MessageAnswer::No) return Say(Text::No);
     return Say(answer == MessageAnswer::Cancel ? Text::Cancel : Text::OK);
-  };
+  });
   Retranslate();
   constexpr QSize FirstSize(1100, 940);
   constexpr int Decoration = 60;
@@ -41,8 +41,8 @@ MainWindow::MainWindow(FileSurroundings& surroundings, QtPlatform& platform, Hel
 MainWindow::~MainWindow() {
   view_->Show(nullptr);
   document_.reset();
-  platform_.Modal().onFailure = nullptr;
-  platform_.Messages().buttonText = nullptr;
+  platform_.OnFailure(nullptr);
+  platform_.ButtonTexts(nullptr);
 }
 
 void MainWindow::MakeContent() {

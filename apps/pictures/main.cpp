@@ -20,7 +20,7 @@
 #include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
-#include "qt/qt_platform.h"
+#include "qt/qt_ports.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -198,7 +198,7 @@ class PictureMaker {
   HelpWindow help_;
   EditorHost host_;
   FileSurroundings surroundings_;
-  QtPlatform platform_;
+  OpenQtPlatform platform_;
   Platform::Use usePlatform_;
   Surroundings::Use useSurroundings_;
   QObject context_;

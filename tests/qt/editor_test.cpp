@@ -23,6 +23,7 @@
 #include "forms/form_directory.h"
 #include "gtest/gtest.h"
 #include "qt/form_view.h"
+#include "qt/qt_ports.h"
 #include "services/module_state.h"
 
 namespace plexel::testing {
@@ -75,7 +76,7 @@ class Editor : public ::testing::Test {
   FileSurroundings surroundings{DataDirectory(), files.path().toStdString()};
   Surroundings::Use useSurroundings{surroundings};
   HelpWindow help;
-  QtPlatform platform{surroundings.UserRegistry(), help};
+  OpenQtPlatform platform{surroundings.UserRegistry(), help};
   Platform::Use usePlatform{platform};
   MainWindow window{surroundings, platform, help};
   QObject context;

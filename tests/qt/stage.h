@@ -12,7 +12,7 @@
 #include "headless/headless_system.h"
 #include "headless/memory_registry.h"
 #include "qt/form_view.h"
-#include "qt/qt_platform.h"
+#include "qt/qt_ports.h"
 #include "qt/units.h"
 #include "qt_sample_form.h"
 
@@ -68,7 +68,7 @@ class Stage : public ::testing::Test {
   Faults faults;
   MemoryRegistry registry{faults, "SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS"};
   HeadlessHelp help{faults};
-  QtPlatform platform{registry, help};
+  OpenQtPlatform platform{registry, help};
   Platform::Use use{platform};
   SampleForm form;
   QObject context;
