@@ -10,6 +10,7 @@
 #include "files/project_reader.h"
 #include "files/project_writer.h"
 #include "files/system_files.h"
+#include "files/text_lines.h"
 #include "world.h"
 
 namespace {

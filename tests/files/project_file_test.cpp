@@ -4,6 +4,7 @@
 
 #include "element/ctlPlexelBaseElement.h"
 #include "file_error_of.h"
+#include "files/text_lines.h"
 #include "headless/headless_platform.h"
 #include "headless/recording_host.h"
 #include "platform/failure.h"
