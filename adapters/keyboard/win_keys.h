@@ -13,6 +13,7 @@ struct RawKey {
   int evdev = 0;  ///< X11 keycode less 8
   bool down = true;
   std::uint32_t time = 0;  ///< milliseconds
+  bool operator==(const RawKey&) const = default;
 };
 
 /// What a layout says about keys, apart from their characters.

@@ -3,9 +3,10 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "qt/desktop_capture.h"
 #include "qt/qt_ports.h"
 #include "qt/units.h"
-#include "qt/x11_capture.h"
+#include "qt/x_connection.h"
 
 namespace plexel {
 
@@ -24,19 +25,18 @@ void QtEventPump::DoEvents() {
   desk_.SyncAll();
 }
 
-QtPlatform::Ports::Ports(Registry& userRegistry, HelpViewer& helpViewer)
-    : registry(userRegistry),
-      help(helpViewer),
-      keys(hooks),
-      modal(keys),
-      events(modal),
-      capture(X11Capture::OnThisDesktop(hooks, keys, modal)) {
+QtPlatform::Ports::Ports(Registry& userRegistry, HelpViewer& helpViewer, std::unique_ptr<DesktopKeyboard> keyboard)
+    : registry(userRegistry), help(helpViewer), keys(hooks), modal(keys), events(modal) {
+  if (keyboard) capture = std::make_unique<DesktopCapture>(std::move(keyboard), hooks, keys, modal);
   modal.Watch(capture.get());
 }
 
 QtPlatform::Ports::~Ports() { modal.Watch(nullptr); }
 
-QtPlatform::QtPlatform(Registry& registry, HelpViewer& help) : ports_(std::make_unique<Ports>(registry, help)) {}
+QtPlatform::QtPlatform(Registry& registry, HelpViewer& help)
+    : QtPlatform(registry, help, KeyboardOfXServer(XConnection())) {}
+QtPlatform::QtPlatform(Registry& registry, HelpViewer& help, std::unique_ptr<DesktopKeyboard> keyboard)
+    : ports_(std::make_unique<Ports>(registry, help, std::move(keyboard))) {}
 QtPlatform::~QtPlatform() = default;
 
 KeyboardHooks& QtPlatform::Hooks() { return ports_->hooks; }

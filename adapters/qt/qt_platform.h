@@ -11,6 +11,8 @@ class QWidget;
 
 namespace plexel {
 
+class DesktopKeyboard;
+
 /// The desktop as the component sees it: dialogs are native windows, and the keys are those of the X server, or where
 /// there is none those that the desktop passes on. The application object must exist before and outlive it.
 class QtPlatform : public Platform {
@@ -42,6 +44,8 @@ class QtPlatform : public Platform {
   bool HasFullCapture() const;
 
  protected:
+  /// The same with another keyboard of the desktop; with null keys come as the toolkit tells them.
+  QtPlatform(Registry& registry, HelpViewer& help, std::unique_ptr<DesktopKeyboard> keyboard);
   struct Ports;
   Ports& Inside() { return *ports_; }
 

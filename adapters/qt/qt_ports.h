@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
+#include "keyboard/desktop_keyboard.h"
 #include "keyboard/hook_table.h"
 #include "qt/keyboard.h"
 #include "qt/qt_message_boxes.h"
@@ -10,7 +12,7 @@
 
 namespace plexel {
 
-class X11Capture;
+class DesktopCapture;
 
 /// 15 twips to the logical pixel, 96 logical pixels to the inch: the toolkit scales to the real screen.
 class LogicalScreen : public Screen {
@@ -40,7 +42,7 @@ class QtEventPump : public EventPump {
 
 /// The ports of a QtPlatform.
 struct QtPlatform::Ports {
-  Ports(Registry& userRegistry, HelpViewer& helpViewer);
+  Ports(Registry& userRegistry, HelpViewer& helpViewer, std::unique_ptr<DesktopKeyboard> keyboard);
   ~Ports();
 
   Registry& registry;
@@ -52,13 +54,15 @@ struct QtPlatform::Ports {
   QtModalLoop modal;
   QtMessageBoxes messages;
   QtEventPump events;
-  std::unique_ptr<X11Capture> capture;
+  std::unique_ptr<DesktopCapture> capture;
 };
 
 /// The platform with its ports as the classes that they are, for those who look into open dialogs.
 class OpenQtPlatform : public QtPlatform {
  public:
   using QtPlatform::QtPlatform;
+  OpenQtPlatform(Registry& registry, HelpViewer& help, std::unique_ptr<DesktopKeyboard> keyboard)
+      : QtPlatform(registry, help, std::move(keyboard)) {}
   HookTable& Hooks() override { return Inside().hooks; }
   Keyboard& Keys() override { return Inside().keys; }
   XkbLayout& Layout() override { return Inside().keys.Layout(); }

@@ -1,5 +1,4 @@
-#include "x11/server_keyboard.h"
-
+#include <xcb/xcb.h>
 #include <xkbcommon/xkbcommon-x11.h>
 #include <xkbcommon/xkbcommon.h>
 
@@ -10,6 +9,7 @@
 #include <vector>
 
 #include "platform/failure.h"
+#include "x11/server_events.h"
 
 namespace plexel {
 
@@ -60,7 +60,40 @@ std::string GroupName(xcb_connection_t* connection, std::uint32_t group) {
   return layouts[group] + "(" + variants[group] + ")";
 }
 
-}  // namespace
+/// The first event number of the keyboard extension, 0 for a server without it.
+std::uint8_t KeyboardEventOf(xcb_connection_t* connection) {
+  constexpr std::string_view Name = "XKEYBOARD";
+  const Owned<xcb_query_extension_reply_t> reply(
+      xcb_query_extension_reply(connection, xcb_query_extension(connection, Name.size(), Name.data()), nullptr));
+  return reply && reply->present ? reply->first_event : std::uint8_t{0};
+}
+
+class ServerKeyboard : public DesktopKeyboard {
+ public:
+  explicit ServerKeyboard(xcb_connection_t* connection)
+      : connection_(connection), keyboardEvent_(KeyboardEventOf(connection)) {}
+  ~ServerKeyboard() override { LetGo(); }
+  ServerKeyboard(const ServerKeyboard&) = delete;
+  ServerKeyboard& operator=(const ServerKeyboard&) = delete;
+
+  DesktopEvent Read(std::string_view kind, const void* message) const override;
+  std::unique_ptr<XkbLayout> ReadLayout() const override;
+  WinKeys::KeySet ReadKeys() const override;
+  bool Grab(std::uintptr_t window) override;
+  void Ungrab() override { LetGo(); }
+
+ private:
+  void LetGo();
+
+  xcb_connection_t* connection_;
+  std::uint8_t keyboardEvent_;
+  bool grabbed_ = false;
+};
+
+DesktopEvent ServerKeyboard::Read(std::string_view kind, const void* message) const {
+  if (kind != "xcb_generic_event_t") return {};
+  return ReadServerEvent(*static_cast<const xcb_generic_event_t*>(message), keyboardEvent_);
+}
 
 std::unique_ptr<XkbLayout> ServerKeyboard::ReadLayout() const {
   const Owned<xkb_context> context(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES));
@@ -87,19 +120,27 @@ WinKeys::KeySet ServerKeyboard::ReadKeys() const {
   return keys;
 }
 
-bool ServerKeyboard::Grab(xcb_window_t window) {
-  const Owned<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(
-      connection_,
-      xcb_grab_keyboard(connection_, 1, window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC), nullptr));
+bool ServerKeyboard::Grab(std::uintptr_t window) {
+  const Owned<xcb_grab_keyboard_reply_t> reply(
+      xcb_grab_keyboard_reply(connection_,
+                              xcb_grab_keyboard(connection_, 1, static_cast<xcb_window_t>(window), XCB_CURRENT_TIME,
+                                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                              nullptr));
   grabbed_ = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
   return grabbed_;
 }
 
-void ServerKeyboard::Ungrab() {
+void ServerKeyboard::LetGo() {
   if (!grabbed_) return;
   xcb_ungrab_keyboard(connection_, XCB_CURRENT_TIME);
   xcb_flush(connection_);
   grabbed_ = false;
+}
+
+}  // namespace
+
+std::unique_ptr<DesktopKeyboard> KeyboardOfXServer(xcb_connection_t* connection) {
+  return connection == nullptr ? nullptr : std::make_unique<ServerKeyboard>(connection);
 }
 
 }  // namespace plexel

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -21,7 +23,6 @@
 #include "files/file_error.h"
 #include "files/language_file.h"
 #include "forms/form_directory.h"
-#include "gtest/gtest.h"
 #include "qt/form_view.h"
 #include "qt/qt_ports.h"
 #include "services/module_state.h"

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,8 @@ namespace plexel::testing {
 /// A desktop for one test. Forms are shown as in the program; the test acts while one is open.
 class Stage : public ::testing::Test {
  protected:
-  Stage() {
+  /// The keyboard of the desktop, null for that of the toolkit alone.
+  explicit Stage(std::unique_ptr<DesktopKeyboard> keyboard = nullptr) : platform(registry, help, std::move(keyboard)) {
     platform.Modal().onFailure = [this](const std::string& what) { failures.push_back(what); };
   }
 
@@ -68,7 +70,7 @@ class Stage : public ::testing::Test {
   Faults faults;
   MemoryRegistry registry{faults, "SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS"};
   HeadlessHelp help{faults};
-  OpenQtPlatform platform{registry, help};
+  OpenQtPlatform platform;
   Platform::Use use{platform};
   SampleForm form;
   QObject context;

@@ -1,119 +1,239 @@
 #!/usr/bin/env python3
-"""Holds the tree against its own rules: includes run downward only, no file-level cycle, src/ needs the standard library alone,
-every public header compiles by itself, every form keeps its design apart from its behaviour."""
+"""Holds a tree against the rules of docs/architecture.md: includes run downward only and never in a circle, shipped code never
+includes tests, a room takes from outside only what it is made for, every header compiles by itself.
 
+usage: check.py ROOT BUILD: the tree and a build of it, whose compile_commands.json tells how each room is compiled"""
+
+import json
 import os
 import re
+import shlex
 import subprocess
 import sys
 import tempfile
+from collections import namedtuple
+from multiprocessing.pool import ThreadPool
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
-ROOMS = [["platform"], ["forms"], ["services"], ["element"], ["scancodes"],
-         ["configdialog", "wizard", "specialdialogs"], ["component"]]
-LEVEL = {room: level for level, rooms in enumerate(ROOMS) for room in rooms}
+# One row a room. A room knows itself and those of a lower level. `foreign`: what it may include in angle brackets apart from the
+# standard library. `known_by`: the only shipped rooms that may include it, None for any above.
+Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
+XKB, XCB, QT, POSIX = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h", r"fcntl\.h|poll\.h|unistd\.h|sys/stat\.h"
+ROOMS = [
+    Room("src", "platform", 0),
+    Room("src", "forms", 1),
+    Room("src", "services", 2),
+    Room("src", "element", 3),
+    Room("src", "scancodes", 4),
+    Room("src", "configdialog", 5),
+    Room("src", "wizard", 5),
+    Room("src", "specialdialogs", 5),
+    Room("src", "component", 6),
+    Room("adapters", "keyboard", 7, XKB),
+    Room("adapters", "files", 8, POSIX),
+    Room("adapters", "headless", 9, "", ("cli",)),
+    Room("adapters", "x11", 9, XKB + "|" + XCB),
+    Room("adapters", "qt", 9, QT),
+    Room("apps", "cli", 10, r"nlohmann/json\.hpp|" + POSIX),
+    Room("apps", "editor", 10, QT),
+    Room("apps", "pictures", 11, QT),
+]
+BY_NAME = {room.name: room for room in ROOMS}
+SHIPPED = ("src", "adapters", "apps")
+PROOF = ("tests", "bench", "fuzz")
+APART = ("tests/consumer",)  # built from the installed package, not from the tree
+
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 STANDARD = re.compile(r"^[a-z_]+$")
+UNFINISHED = re.compile(r"\bTODO\b|\bFIXME\b|\bXXX\b|GTEST_SKIP|DISABLED_|QSKIP")
 
 
-def sources(folder, endings=(".h", ".cpp")):
-    for path, _, names in os.walk(os.path.join(ROOT, folder)):
-        for name in sorted(names):
-            if name.endswith(endings):
-                yield os.path.relpath(os.path.join(path, name), os.path.join(ROOT, folder))
+class Tree:
+    """The sources of a tree, by their path from its root, with their texts."""
+
+    def __init__(self, root):
+        self.root = root
+        self.texts = {}
+        for folder in SHIPPED + PROOF:
+            for path, _, names in os.walk(os.path.join(root, folder)):
+                for name in names:
+                    file = os.path.relpath(os.path.join(path, name), root)
+                    if name.endswith((".h", ".cpp")) and not file.startswith(APART):
+                        with open(os.path.join(root, file), encoding="utf-8") as source:
+                            self.texts[file] = source.read()
+
+    def shipped(self):
+        return sorted(file for file in self.texts if file.split("/")[0] in SHIPPED)
+
+    def proof(self):
+        return sorted(file for file in self.texts if file.split("/")[0] in PROOF)
+
+    def includes(self, file):
+        return INCLUDE.findall(self.texts[file])
+
+    def find(self, target, folders):
+        """The file that a quoted include means, or None."""
+        for folder in folders:
+            file = os.path.normpath(os.path.join(folder, target))
+            if file in self.texts:
+                return file
+        return None
 
 
-def check_includes(problems):
+def room_of(file):
+    """The row of a shipped file; None for one that stands in no room of the list."""
+    parts = file.split("/")
+    room = BY_NAME.get(parts[1]) if len(parts) > 2 else None
+    return room if room and room.folder == parts[0] else None
+
+
+def check_foreign(file, room, target, problems):
+    if not STANDARD.match(target) and not re.fullmatch(room.foreign, target):
+        problems.append("%s includes <%s>, which %s/%s is not made for" % (file, target, room.folder, room.name))
+
+
+def check_shipped(tree, problems):
+    """Returns the graph of includes among shipped files."""
     graph = {}
-    for name in sources("src"):
-        room = name.split(os.sep)[0]
-        with open(os.path.join(ROOT, "src", name), encoding="utf-8") as file:
-            text = file.read()
-        graph[name] = []
-        for kind, target in INCLUDE.findall(text):
+    for file in tree.shipped():
+        graph[file] = []
+        room = room_of(file)
+        if room is None:
+            problems.append("%s stands in no room of the list" % file)
+            continue
+        for kind, target in tree.includes(file):
             if kind == "<":
-                if not STANDARD.match(target):
-                    problems.append("src/%s includes <%s>, which is not of the standard library" % (name, target))
+                check_foreign(file, room, target, problems)
                 continue
-            graph[name].append(target)
-            other = target.split("/")[0]
-            if other not in LEVEL:
-                problems.append('src/%s includes "%s", which is no room of src/' % (name, target))
-            elif LEVEL[other] > LEVEL[room] or (LEVEL[other] == LEVEL[room] and other != room):
-                problems.append('src/%s includes "%s": includes run downward only' % (name, target))
+            found = tree.find(target, SHIPPED)
+            other = found and room_of(found)
+            if other is None:
+                problems.append('%s includes "%s", which is no file of shipped code' % (file, target))
+                continue
+            graph[file].append(found)
+            if other is not room and other.level >= room.level:
+                problems.append('%s includes "%s": includes run downward only' % (file, target))
+            if other.known_by is not None and room is not other and room.name not in other.known_by:
+                problems.append('%s includes "%s": %s/%s is for %s and tests alone'
+                                % (file, target, other.folder, other.name, ", ".join(other.known_by)))
+    return graph
+
+
+def test_level(file):
+    """Helpers of a test room are known to rooms above. What belongs to no room is for all of them."""
+    parts = file.split("/")
+    room = BY_NAME.get(parts[1]) if len(parts) > 2 else None
+    return room.level if room else -1
+
+
+def check_proof(tree, problems):
+    """Tests include shipped code, helpers of their own room and helpers of rooms below. Returns their graph of includes."""
+    graph = {}
+    for file in tree.proof():
+        graph[file] = []
+        for kind, target in tree.includes(file):
+            if kind == "<":
+                continue
+            found = tree.find(target, (os.path.dirname(file), "tests") + SHIPPED)
+            if found is None:
+                problems.append('%s includes "%s", which is no file of the tree' % (file, target))
+                continue
+            graph[file].append(found)
+            beside = os.path.dirname(found) == os.path.dirname(file)
+            if file.startswith("tests/") and found in tree.proof() and not beside and test_level(found) >= test_level(file):
+                if test_level(found) >= 0:
+                    problems.append('%s includes "%s": helpers of tests are known to rooms above alone' % (file, target))
     return graph
 
 
 def check_cycles(graph, problems):
     state = {}
 
-    def visit(name, road):
-        if state.get(name) == "done" or name not in graph:
+    def visit(file, road):
+        if state.get(file) == "done":
             return
-        if state.get(name) == "open":
-            problems.append("a cycle of includes: " + " -> ".join(road[road.index(name):] + [name]))
+        if state.get(file) == "open":
+            problems.append("a circle of includes: " + " -> ".join(road[road.index(file):] + [file]))
             return
-        state[name] = "open"
-        for target in graph[name]:
-            visit(target, road + [name])
-        state[name] = "done"
+        state[file] = "open"
+        for target in graph.get(file, ()):
+            visit(target, road + [file])
+        state[file] = "done"
 
-    for name in graph:
-        visit(name, [])
+    for file in sorted(graph):
+        visit(file, [])
 
 
-def check_headers_alone(compiler, problems):
-    headers = [name for name in sources("src", (".h",))]
-    with tempfile.TemporaryDirectory() as folder:
-        for header in headers:
-            unit = os.path.join(folder, "unit.cpp")
-            with open(unit, "w", encoding="utf-8") as file:
-                file.write('#include "%s"\n' % header)
-            result = subprocess.run([compiler, "-std=c++20", "-fsyntax-only", "-I", os.path.join(ROOT, "src"), unit],
-                                    capture_output=True, text=True, check=False)
-            if result.returncode != 0:
-                problems.append("src/%s does not compile alone:\n%s" % (header, result.stderr))
+def flags_of(command):
+    """Of a compiler's command: itself, the language, include paths and definitions. A precompiled header is left out, as it would
+    hide what a header lacks."""
+    words = shlex.split(command)
+    while os.path.basename(words[0]) == "ccache":
+        words = words[1:]
+    flags = words[:1]
+    for place, word in enumerate(words):
+        if word.startswith(("-std=", "-D")) or (word.startswith("-I") and "/CMakeFiles/" not in word) or word == "-fPIC":
+            flags.append(word)
+        if word == "-isystem":
+            flags += words[place:place + 2]
+    return flags
+
+
+def flags_by_room(root, build):
+    with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
+        commands = json.load(file)
+    flags = {}
+    for entry in commands:
+        room = room_of(os.path.relpath(os.path.join(entry["directory"], entry["file"]), root))
+        if room is not None:
+            flags.setdefault(room.name, flags_of(entry["command"]))
+    return flags
+
+
+def check_headers_alone(tree, build, problems):
+    """Returns the number of headers that were compiled. Rooms that the build leaves out are left out."""
+    flags = flags_by_room(tree.root, build)
+    headers = [file for file in tree.shipped() if file.endswith(".h") and room_of(file) and room_of(file).name in flags]
+
+    def compile_alone(folder, header):
+        unit = os.path.join(folder, header.replace("/", "_") + ".cpp")
+        with open(unit, "w", encoding="utf-8") as file:
+            file.write('#include "%s"\n' % header.split("/", 1)[1])
+        return subprocess.run(flags[room_of(header).name] + ["-fsyntax-only", unit], capture_output=True, text=True,
+                              check=False)
+
+    with tempfile.TemporaryDirectory() as folder, ThreadPool(os.cpu_count()) as pool:
+        results = pool.map(lambda header: compile_alone(folder, header), headers)
+    for header, result in zip(headers, results):
+        if result.returncode != 0:
+            problems.append("%s does not compile alone:\n%s" % (header, result.stderr))
     return len(headers)
 
 
-def check_forms(problems):
-    """A form's constructor and whatever else makes its design state stand in NAME_design.cpp, its behaviour in NAME.cpp."""
-    forms = [name[:-len(".h")] for name in sources("src", (".h",)) if os.path.basename(name).startswith("frm")]
-    for form in forms:
-        maker = "%s::%s(" % ((os.path.basename(form),) * 2)
-        for ending, makes in ((".cpp", False), ("_design.cpp", True)):
-            path = os.path.join(ROOT, "src", form + ending)
-            if not os.path.exists(path):
-                problems.append("src/%s%s is missing" % (form, ending))
-                continue
-            with open(path, encoding="utf-8") as file:
-                if (maker in file.read()) != makes:
-                    problems.append("src/%s_design.cpp and no other source makes the form" % form)
-    if not forms:
-        problems.append("no form was found")
+def check_unfinished(tree, problems):
+    for file in tree.shipped():
+        for number, line in enumerate(tree.texts[file].splitlines(), 1):
+            if UNFINISHED.search(line):
+                problems.append("%s:%d: %s" % (file, number, line.strip()))
 
 
-def check_words(problems):
-    """The tree's own texts speak of the system, not of how it came about."""
-    forbidden = re.compile(r"\bTODO\b|\bFIXME\b|\bXXX\b|GTEST_SKIP|DISABLED_|QSKIP")
-    for folder in ("src", "adapters", "apps"):
-        for name in sources(folder):
-            with open(os.path.join(ROOT, folder, name), encoding="utf-8") as file:
-                for number, line in enumerate(file, 1):
-                    if forbidden.search(line):
-                        problems.append("%s/%s:%d: %s" % (folder, name, number, line.strip()))
+def check_text(root):
+    """All that the texts of a tree tell, without a compiler."""
+    tree = Tree(root)
+    problems = []
+    graph = check_shipped(tree, problems)
+    graph.update(check_proof(tree, problems))
+    check_cycles(graph, problems)
+    check_unfinished(tree, problems)
+    return tree, problems
 
 
 def main():
-    problems = []
-    graph = check_includes(problems)
-    check_cycles(graph, problems)
-    headers = check_headers_alone(sys.argv[1], problems)
-    check_forms(problems)
-    check_words(problems)
+    root, build = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
+    tree, problems = check_text(root)
+    headers = check_headers_alone(tree, build, problems)
     print("\n".join(problems))
-    print("%d files, %d headers, %d problems" % (len(graph), headers, len(problems)))
-    return 1 if problems or not graph else 0
+    print("%d files, %d headers alone, %d problems" % (len(tree.texts), headers, len(problems)))
+    return 1 if problems or not tree.shipped() or not headers else 0
 
 
 if __name__ == "__main__":

@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+"""Shows that check.py finds what it looks for, on small trees made up for it.
+
+usage: check_test.py COMPILER"""
+
+import json
+import os
+import sys
+import tempfile
+import unittest
+
+import check
+
+COMPILER = "c++"
+
+
+class Trees(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.root = self.folder.name
+
+    def write(self, file, text=""):
+        path = os.path.join(self.root, file)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w", encoding="utf-8") as made:
+            made.write(text)
+
+    def include(self, file, *targets):
+        """A file with these includes; each one that stands in quotes is made when it is missing."""
+        self.write(file, "".join("#include %s\n" % (t if t[0] == "<" else '"%s"' % t.split("/", 1)[1]) for t in targets))
+        for target in targets:
+            if target[0] != "<" and not os.path.exists(os.path.join(self.root, target)):
+                self.write(target)
+
+    def problems(self):
+        return check.check_text(self.root)[1]
+
+    def assert_fails(self, words):
+        problems = self.problems()
+        self.assertEqual(len(problems), 1, problems)
+        self.assertIn(words, problems[0])
+
+
+class Includes(Trees):
+    def test_downward_ones_are_taken(self):
+        self.include("src/element/a.cpp", "src/element/a.h", "src/platform/p.h", "<string>")
+        self.include("adapters/headless/h.h", "adapters/keyboard/k.h", "adapters/files/f.h", "src/component/c.h")
+        self.include("adapters/files/g.cpp", "adapters/keyboard/k.h", "<unistd.h>")
+        self.include("apps/cli/c.cpp", "adapters/headless/h.h", "<nlohmann/json.hpp>")
+        self.include("apps/pictures/p.cpp", "apps/editor/e.h", "adapters/qt/q.h", "<QWidget>")
+        self.assertEqual(self.problems(), [])
+
+    def test_upward_in_the_component_fails(self):
+        self.include("src/forms/a.cpp", "src/element/e.h")
+        self.assert_fails('src/forms/a.cpp includes "element/e.h": includes run downward only')
+
+    def test_between_dialog_rooms_fails(self):
+        self.include("src/wizard/a.cpp", "src/configdialog/c.h")
+        self.assert_fails("includes run downward only")
+
+    def test_from_the_component_to_an_adapter_fails(self):
+        self.include("src/component/a.cpp", "adapters/keyboard/k.h")
+        self.assert_fails("includes run downward only")
+
+    def test_from_the_renderer_to_the_doubles_fails(self):
+        self.include("adapters/qt/a.h", "adapters/headless/h.h")
+        problems = self.problems()
+        self.assertIn('adapters/qt/a.h includes "headless/h.h": includes run downward only', problems)
+
+    def test_from_the_renderer_to_the_x_server_fails(self):
+        self.include("adapters/qt/a.cpp", "adapters/x11/x.h")
+        self.assert_fails("includes run downward only")
+
+    def test_from_the_keyboard_to_files_fails(self):
+        self.include("adapters/keyboard/a.cpp", "adapters/files/f.h")
+        self.assert_fails("includes run downward only")
+
+    def test_from_an_adapter_to_a_program_fails(self):
+        self.include("adapters/files/a.cpp", "apps/cli/c.h")
+        self.assert_fails("includes run downward only")
+
+    def test_from_one_program_to_another_fails(self):
+        self.include("apps/editor/a.cpp", "apps/cli/c.h")
+        self.assert_fails("includes run downward only")
+
+    def test_from_the_editor_to_the_doubles_fails(self):
+        self.include("apps/editor/a.cpp", "adapters/headless/h.h")
+        self.assert_fails("adapters/headless is for cli and tests alone")
+
+    def test_from_shipped_code_to_tests_fails(self):
+        self.include("apps/cli/a.cpp", "tests/forms/t.h")
+        self.assert_fails('apps/cli/a.cpp includes "forms/t.h", which is no file of shipped code')
+
+    def test_of_a_foreign_library_in_the_component_fails(self):
+        self.include("src/forms/a.h", "<QString>")
+        self.assert_fails("src/forms/a.h includes <QString>, which src/forms is not made for")
+
+    def test_of_the_x_server_in_the_renderer_fails(self):
+        self.include("adapters/qt/a.h", "<xcb/xcb.h>")
+        self.assert_fails("which adapters/qt is not made for")
+
+    def test_of_a_file_outside_every_room_fails(self):
+        self.include("adapters/fresh/a.h")
+        self.assert_fails("adapters/fresh/a.h stands in no room of the list")
+
+    def test_of_a_file_that_is_missing_fails(self):
+        self.write("src/forms/a.h", '#include "forms/b.h"\n')
+        self.assert_fails('src/forms/a.h includes "forms/b.h", which is no file of shipped code')
+
+
+class Circles(Trees):
+    def test_of_two_headers_fail(self):
+        self.include("adapters/qt/a.h", "adapters/qt/b.h")
+        self.include("adapters/qt/b.h", "adapters/qt/a.h")
+        self.assert_fails("a circle of includes: adapters/qt/a.h -> adapters/qt/b.h -> adapters/qt/a.h")
+
+    def test_of_three_headers_of_tests_fail(self):
+        self.include("tests/qt/a.h", "tests/qt/b.h")
+        self.include("tests/qt/b.h", "tests/qt/c.h")
+        self.include("tests/qt/c.h", "tests/qt/a.h")
+        self.assert_fails("a circle of includes")
+
+
+class Tests(Trees):
+    def test_may_include_shipped_code_their_own_helpers_and_those_below(self):
+        self.include("tests/wizard/t.cpp", "adapters/headless/h.h", "tests/wizard/s.h", "tests/scancodes/s.h", "tests/world/w.h")
+        self.assertEqual(self.problems(), [])
+
+    def test_may_not_include_helpers_of_rooms_above(self):
+        self.include("tests/forms/t.cpp", "tests/scancodes/s.h")
+        self.assert_fails("helpers of tests are known to rooms above alone")
+
+    def test_may_not_include_what_is_missing(self):
+        self.write("tests/forms/t.cpp", '#include "helper.h"\n')
+        self.assert_fails("which is no file of the tree")
+
+
+class Texts(Trees):
+    def test_with_work_left_over_fail(self):
+        self.write("src/forms/a.cpp", "int a;\n// TO" "DO: the rest\n")
+        self.assert_fails("src/forms/a.cpp:2:")
+
+
+class HeadersAlone(Trees):
+    def build(self, room_source, flags):
+        command = "%s %s -I%s/src -I%s/adapters -include %s/src/all.h -c x.cpp" % (COMPILER, flags, self.root, self.root,
+                                                                                  self.root)
+        with open(os.path.join(self.root, "compile_commands.json"), "w", encoding="utf-8") as file:
+            json.dump([{"directory": self.root, "file": os.path.join(self.root, room_source), "command": command}], file)
+
+    def compiled(self):
+        problems = []
+        count = check.check_headers_alone(check.Tree(self.root), self.root, problems)
+        return count, problems
+
+    def test_that_are_whole_pass(self):
+        self.write("adapters/files/a.h", "#pragma once\n#include <string>\nstd::string Name();\n")
+        self.build("adapters/files/a.cpp", "-std=c++20")
+        self.assertEqual(self.compiled(), (1, []))
+
+    def test_that_lack_an_include_fail_although_a_precompiled_header_has_it(self):
+        self.write("src/all.h", "#include <string>\n")
+        self.write("adapters/files/a.h", "#pragma once\nstd::string Name();\n")
+        self.build("adapters/files/a.cpp", "-std=c++20")
+        count, problems = self.compiled()
+        self.assertEqual((count, len(problems)), (1, 1))
+        self.assertIn("adapters/files/a.h does not compile alone", problems[0])
+
+    def test_are_compiled_with_the_definitions_of_their_room(self):
+        self.write("adapters/files/a.h", '#pragma once\n#ifndef PLACE\n#error "no place"\n#endif\n')
+        self.build("adapters/files/a.cpp", "-std=c++20 -DPLACE=1")
+        self.assertEqual(self.compiled(), (1, []))
+
+
+if __name__ == "__main__":
+    COMPILER = sys.argv.pop(1)
+    unittest.main()
