@@ -45,6 +45,10 @@ void QtModalLoop::Popup(Form& form, MenuItem& menu, bool placed, float x, float 
   view->OpenMenu(menu, placed, x, y);
 }
 
+void QtModalLoop::Forget(const Window& window) {
+  std::erase_if(hostWindows_, [&window](const auto& known) { return known.first == &window; });
+}
+
 FormView* QtModalLoop::ViewOf(const Form& form) const {
   for (const Open& one : open_) {
     if (&one.view->Model() == &form) return one.view.get();
@@ -57,7 +61,7 @@ QWidget* QtModalLoop::WidgetOf(const Window* window) const {
     if (static_cast<const Window*>(&one.view->Model()) == window) return &one.view->Window();
   }
   for (const auto& [known, widget] : hostWindows_) {
-    if (known == window) return widget;
+    if (known == window) return widget ? widget->window() : nullptr;
   }
   return nullptr;
 }

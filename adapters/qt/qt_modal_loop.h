@@ -40,8 +40,9 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   void Deactivated(FormView& view) override;
   void Report(const std::string& what) override;
 
-  /// Tells which widget stands for a window of the host.
+  /// Tells which widget stands for a window of the host; dialogs belong to the widget's window as it is then.
   void Register(const Window& window, QWidget& widget) { hostWindows_.emplace_back(&window, &widget); }
+  void Forget(const Window& window);
   void Watch(KeyWatcher* watcher) { watcher_ = watcher; }
   /// The view of the topmost form, null when none is open.
   FormView* Topmost() const;

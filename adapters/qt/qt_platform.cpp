@@ -51,6 +51,7 @@ MessageBoxes& QtPlatform::Messages() { return ports_->messages; }
 EventPump& QtPlatform::Events() { return ports_->events; }
 
 void QtPlatform::Register(const Window& window, QWidget& widget) { ports_->modal.Register(window, widget); }
+void QtPlatform::Forget(const Window& window) { ports_->modal.Forget(window); }
 void QtPlatform::Report(const std::string& what) { ports_->modal.Report(what); }
 void QtPlatform::OnFailure(std::function<void(const std::string&)> show) { ports_->modal.onFailure = std::move(show); }
 void QtPlatform::ButtonTexts(std::function<QString(MessageAnswer)> text) {

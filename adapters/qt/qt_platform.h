@@ -32,8 +32,9 @@ class QtPlatform : public Platform {
   MessageBoxes& Messages() override;
   EventPump& Events() override;
 
-  /// Tells which widget stands for a window of the host, so that dialogs open over it.
+  /// Tells which widget stands for a window of the host, so that dialogs open over the widget's window.
   void Register(const Window& window, QWidget& widget);
+  void Forget(const Window& window);
   /// Tells the user, and the log, of a failure that came out of one of his acts.
   void Report(const std::string& what);
   /// Shows the text of such a failure; without it the log alone tells.

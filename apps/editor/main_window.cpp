@@ -27,6 +27,7 @@ MainWindow::MainWindow(FileSurroundings& surroundings, QtPlatform& platform, Hel
   ConnectElements();
   platform_.Register(*windowObject_, *this);
   platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
+  help_.title = [] { return Say(Text::HelpTitle); };
   platform_.ButtonTexts([](MessageAnswer answer) {
     if (answer == MessageAnswer::Yes) return Say(Text::Yes);
     if (answer == MessageAnswer::No) return Say(Text::No);

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "editor/editor_host.h"
-#include "editor/help_window.h"
 #include "editor/panel_document.h"
 #include "editor/texts.h"
 #include "files/file_surroundings.h"
+#include "qt/help_window.h"
 #include "qt/qt_platform.h"
 
 class QLabel;

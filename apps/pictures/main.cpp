@@ -10,7 +10,6 @@
 
 #include "component/component.h"
 #include "editor/editor_host.h"
-#include "editor/help_window.h"
 #include "editor/main_window.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
@@ -20,6 +19,7 @@
 #include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
+#include "qt/help_window.h"
 #include "qt/qt_ports.h"
 #include "services/shared_services.h"
 

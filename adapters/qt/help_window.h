@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QPointer>
+#include <QString>
+#include <functional>
 
 #include "platform/system.h"
 
@@ -8,7 +10,7 @@ class QDialog;
 
 namespace plexel {
 
-/// The editor's help: a window with one topic at a time. A help file stands for the directory of its name without the
+/// Help in a window with one topic at a time. A help file stands for the directory of its name without the
 /// extension, which holds the topics as "NUMBER.html".
 class HelpWindow : public HelpViewer {
  public:
@@ -23,6 +25,9 @@ class HelpWindow : public HelpViewer {
   /// The topic of the table of contents.
   static constexpr std::int32_t Contents = 1;
   const QPointer<QDialog>& Window() const { return window_; }
+
+  /// The title of the window; without it that of the topic.
+  std::function<QString()> title;
 
  private:
   QPointer<QDialog> window_;

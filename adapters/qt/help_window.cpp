@@ -1,4 +1,4 @@
-#include "editor/help_window.h"
+#include "qt/help_window.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -7,7 +7,6 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "editor/texts.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -42,8 +41,9 @@ void HelpWindow::Show(std::intptr_t, std::string_view helpFile, std::int32_t com
     browser->document()->setDocumentMargin(16);
     layout->addWidget(browser);
   }
-  window_->setWindowTitle(Say(Text::HelpTitle));
-  window_->findChild<QTextBrowser*>()->setSource(QUrl::fromLocalFile(file));
+  auto* const browser = window_->findChild<QTextBrowser*>();
+  browser->setSource(QUrl::fromLocalFile(file));
+  window_->setWindowTitle(title ? title() : browser->documentTitle());
   window_->show();
   window_->activateWindow();
 }
