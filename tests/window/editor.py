@@ -178,7 +178,9 @@ class Editor:
             (self.configuration / "settings.ini").write_text("[SETTINGS]\n" + "\n".join(lines) + "\n", encoding="utf-8")
         self.log = desktop.folder / "plexel-editor.log"
         self.log.touch()
-        environment = {"QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": str(scale), "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+        # The desktop has no message bus, and with that no portal. Qt that asks for one in vain leaks the question.
+        environment = {"QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": str(scale), "DBUS_SESSION_BUS_ADDRESS": "disabled:",
+                       "QT_NO_XDG_DESKTOP_PORTAL": "1"}
         command = [tools_path(tools.editor)] + ([str(project)] if project else [])
         self.process = desktop.start(command, environment)
         self.window = desktop.window(MAIN)
