@@ -17,6 +17,13 @@ GridWidget& GridOf(const FormView& view, const Grid& grid) {
 
 QMenu* MenuOf(const FormView& view) { return view.Window().findChild<QMenu*>(); }
 
+/// Moves the pointer there, as a hand does ahead of a press. A popup menu takes the press of a pointer that has not
+/// moved for a part of the click that opened it.
+void PointAt(const QWidget& widget, QPoint place) {
+  QCursor::setPos(widget.mapToGlobal(place));
+  QCoreApplication::processEvents();
+}
+
 TEST_F(QtLists, AComboBoxShowsATextThatIsNoEntry) {
   WhileShown([&](FormView& view) {
     auto& box = WidgetOf<QComboBox>(view, form.combo);
@@ -228,10 +235,13 @@ TEST_F(QtLists, TheRightButtonOpensThePopupMenuOfTheForm) {
 
 TEST_F(QtLists, AnEntryOfThePopupMenuIsHandedOver) {
   WhileShown([&](FormView& view) {
+    PointAt(MouseWidgetOf(view, form.grid), CellPlace(1, 1));
     Click(view, form.grid, Qt::RightButton, CellPlace(1, 1));
     QMenu* const menu = MenuOf(view);
     ASSERT_NE(menu, nullptr);
-    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(menu->actions()[0]).center());
+    const QPoint entry = menu->actionGeometry(menu->actions()[0]).center();
+    PointAt(*menu, entry);
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, entry);
     QCoreApplication::processEvents();
     EXPECT_EQ(form.notes, std::vector<std::string>{"copy"});
     EXPECT_EQ(form.OpenPopup(), nullptr);
