@@ -6,7 +6,8 @@ namespace plexel {
 
 /// The directory of the data that belong to the program: languages, capability tables, panels, pictures, named
 /// sequences and help. The first that applies: the environment variable PLEXEL_DATA when it is set and not empty;
-/// "../share/plexel" beside the running program's directory when it exists; the data of the source tree.
+/// "../share/plexel" beside the running program's directory when it exists; the data of the installation from which
+/// this library was loaded, wherever that was moved to, when they exist; those of the place it was built for.
 std::filesystem::path DataDirectory();
 
 /// The directory of the user's own files: "plexel" under $XDG_CONFIG_HOME when that is an absolute path, else under
