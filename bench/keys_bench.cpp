@@ -8,6 +8,7 @@
 #include "scancodes/capture.h"
 #include "scancodes/dialog_access.h"
 #include "scancodes/key_translation.h"
+#include "scancodes/keyboard_hook.h"
 #include "services/module_state.h"
 #include "world.h"
 

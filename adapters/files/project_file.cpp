@@ -1,5 +1,7 @@
 #include "files/project_file.h"
 
+#include "files/project_reader.h"
+#include "files/project_writer.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
 #include "platform/failure.h"
@@ -39,6 +41,20 @@ void PutCodes(const std::vector<SavedCodes>& codes, udtTactisBaseElement_ScanCod
   for (const SavedCodes& saved : codes) {
     if (saved.buffer >= 0 && saved.buffer < BufferCount) BufferOf(record, saved.buffer) = saved.codes;
   }
+}
+
+std::string FormatProject(const Project& project) {
+  ProjectWriter writer(project.panel, project.elements.size());
+  for (const ProjectElement& element : project.elements) writer.Add(element);
+  return writer.Finish();
+}
+
+Project ParseProject(const TextFile& file) {
+  ProjectReader reader(file);
+  Project project;
+  project.panel = reader.Panel();
+  for (ProjectElement element; reader.Next(element);) project.elements.push_back(std::move(element));
+  return project;
 }
 
 Project ReadProject(const std::filesystem::path& file) { return ParseProject(TextFile(file, ProjectLimit)); }

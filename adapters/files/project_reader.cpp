@@ -232,12 +232,4 @@ void ProjectReader::RefuseCount(std::string_view how) const {
   Refuse("the header tells of " + std::to_string(*count_) + " elements, but there are " + std::string(how));
 }
 
-Project ParseProject(const TextFile& file) {
-  ProjectReader reader(file);
-  Project project;
-  project.panel = reader.Panel();
-  for (ProjectElement element; reader.Next(element);) project.elements.push_back(std::move(element));
-  return project;
-}
-
 }  // namespace plexel

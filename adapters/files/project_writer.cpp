@@ -131,10 +131,4 @@ void ProjectWriter::AppendCodes(const udtTactisBaseElement_TACTIS_SCANCODE& code
   out_.append(text.data(), put);
 }
 
-std::string FormatProject(const Project& project) {
-  ProjectWriter writer(project.panel, project.elements.size());
-  for (const ProjectElement& element : project.elements) writer.Add(element);
-  return writer.Finish();
-}
-
 }  // namespace plexel

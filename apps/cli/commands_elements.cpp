@@ -7,6 +7,7 @@
 #include "cli/call.h"
 #include "cli/command_error.h"
 #include "cli/record_json.h"
+#include "cli/state_json.h"
 #include "cli/values_json.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "element/property_table.h"

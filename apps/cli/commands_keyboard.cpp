@@ -3,7 +3,7 @@
 #include <array>
 
 #include "cli/values_json.h"
-#include "scancodes/capture.h"
+#include "scancodes/keyboard_hook.h"
 
 namespace plexel {
 

@@ -5,7 +5,11 @@
 #include "cli/record_json.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
+#include "scancodes/element_codes.h"
 #include "scancodes/key_translation.h"
+#include "scancodes/special_functions.h"
+#include "scancodes/windows_shortcuts.h"
 
 namespace plexel {
 

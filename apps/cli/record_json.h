@@ -8,6 +8,9 @@
 
 namespace plexel {
 
+/// The fields of a record by their names.
+Json ToJson(const udtTactisBaseElement_ScanCodeInfo& record);
+
 /// Takes the members of an object into the fields of the same names. CommandError for an unknown field or a value that
 /// does not fit; the record may then be changed in part.
 void ChangeFields(udtTactisBaseElement_ScanCodeInfo& record, const Json& fields);

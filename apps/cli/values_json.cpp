@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "element/ctlPlexelBaseElement.h"
-
 namespace plexel {
 
 namespace {
@@ -94,18 +92,6 @@ Json ToJson(const BagValue& value) {
 constexpr std::array<const char*, std::variant_size_v<BagValue>> bagTypes = {"int16",   "int32", "uint8",
                                                                              "boolean", "float", "string"};
 
-Json ToJson(const LowLevelKey& key) {
-  return Json::array({key.virtualKey, key.scanCode, key.flags, key.time, key.extraInfo});
-}
-
-Json PressedKeysToJson(const ModuleState& state) {
-  Json rows = Json::array();
-  for (std::int32_t slot = 0; slot <= state.lngPressedKeyCount; ++slot) {
-    rows.push_back(state.lngPressedKeys.at(static_cast<std::size_t>(slot)));
-  }
-  return rows;
-}
-
 }  // namespace
 
 Json NumberToJson(double value) {
@@ -163,37 +149,6 @@ Json ToJson(const udtTactisBaseElement_TACTIS_SCANCODE& code) {
   Json json;
   json["Value"] = BytesToText(code.Value.data(), code.Value.size());
   json["NextValue"] = code.NextValue;
-  return json;
-}
-
-Json ToJson(const ModuleState& state) {
-  Json clipboard;
-  clipboard["Valid"] = state.udtScanCodeClipboard.Valid;
-  clipboard["scanCode"] = ToJson(state.udtScanCodeClipboard.scanCode);
-  clipboard["VisibleString"] = state.udtScanCodeClipboard.VisibleString;
-
-  Json json;
-  json["ctlCurrentElement"] = state.ctlCurrentElement ? Json(state.ctlCurrentElement->Name()) : Json();
-  json["lngMaxScanCodes"] = state.lngMaxScanCodes;
-  json["lngDialogLeft"] = state.lngDialogLeft;
-  json["lngDialogTop"] = state.lngDialogTop;
-  json["bDirectInputActive"] = state.bDirectInputActive;
-  json["intAsciiResult"] = state.intAsciiResult;
-  json["lngOsFamily"] = state.lngOsFamily;
-  json["bWizardPageChanging"] = state.bWizardPageChanging;
-  json["udtSavedScanCodeInfo"] = ToJson(state.udtSavedScanCodeInfo);
-  json["udtScanCodeClipboard"] = std::move(clipboard);
-  json["lngInputTarget"] = state.lngInputTarget;
-  json["lngKeyboardHook"] = state.lngKeyboardHook;
-  json["lngLowLevelHook"] = state.lngLowLevelHook;
-  json["lngPressedKeys"] = PressedKeysToJson(state);
-  json["lngPressedKeyCount"] = state.lngPressedKeyCount;
-  json["udtLowLevelKey"] = ToJson(state.udtLowLevelKey);
-  json["bShiftDown"] = state.bShiftDown;
-  json["bNumLockDown"] = state.bNumLockDown;
-  json["bAltDown"] = state.bAltDown;
-  json["bCtrlDown"] = state.bCtrlDown;
-  json["HelpFile"] = state.HelpFile;
   return json;
 }
 

@@ -13,7 +13,6 @@
 #include "headless/memory_bag.h"
 #include "scancodes/key_translation.h"
 #include "services/element_types.h"
-#include "services/module_state.h"
 
 namespace plexel {
 
@@ -32,8 +31,6 @@ Json ToJson(const Description& description);
 Json ToJson(const MemoryBag& bag);
 Json ToJson(const Surface& surface);
 Json ToJson(const udtTactisBaseElement_TACTIS_SCANCODE& code);
-Json ToJson(const udtTactisBaseElement_ScanCodeInfo& record);
-Json ToJson(const ModuleState& state);
 
 /// Puts a sequence and its length beside it into an answer, without the zeros at its end.
 void AddSequence(Json& answer, const std::string& name, const CodeArray& sequence, std::int32_t length);

@@ -4,8 +4,9 @@
 #include <string>
 
 #include "element/ctlPlexelBaseElement.h"
-#include "scancodes/code_buffer.h"
 #include "scancodes/definition_text.h"
+#include "scancodes/dialog_access.h"
+#include "scancodes/dialog_result.h"
 #include "services/conversion.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"

@@ -2,8 +2,9 @@
 
 #include "platform/platform.h"
 #include "scancodes/capture.h"
-#include "scancodes/code_buffer.h"
 #include "scancodes/definition_text.h"
+#include "scancodes/dialog_access.h"
+#include "scancodes/element_codes.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"

@@ -4,8 +4,12 @@
 #include <string>
 
 #include "forms/form_directory.h"
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/definition_text.h"
+#include "scancodes/dialog_access.h"
+#include "scancodes/element_codes.h"
+#include "scancodes/key_translation.h"
+#include "scancodes/keypad_codes.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "element/property_table.h"
+#include "element/property_row.h"
 
 namespace plexel::property_access {
 

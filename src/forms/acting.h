@@ -26,11 +26,4 @@ void CheckUsable(const Control& control);
 /// Makes a cell current and brings it into view.
 void MoveTo(Grid& grid, int row, int col);
 
-/// Carries out a key's own action on the control with the focus, as Hand tells them; nothing for a key without one.
-void ActOnKey(Control& control, std::int16_t keyCode, std::int16_t shift);
-
-/// Enters a character at the caret of a text box, or deletes the one ahead of it (Backspace). Characters that a box
-/// does not take, or has no room for, change nothing.
-void EnterCharacter(TextBox& box, char32_t character);
-
 }  // namespace plexel

@@ -2,6 +2,8 @@
 
 #include "forms/acting.h"
 #include "forms/characters.h"
+#include "forms/own_keys.h"
+#include "forms/text_editing.h"
 
 namespace plexel {
 

@@ -1,3 +1,5 @@
+#include "forms/own_keys.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>

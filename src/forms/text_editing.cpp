@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/acting.h"
 #include "forms/characters.h"
 
 namespace plexel {

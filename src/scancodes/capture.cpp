@@ -2,8 +2,9 @@
 
 #include "element/ctlPlexelBaseElement.h"
 #include "platform/platform.h"
-#include "scancodes/code_buffer.h"
-#include "scancodes/dialog_access.h"
+#include "scancodes/input_focus.h"
+#include "scancodes/key_table.h"
+#include "scancodes/keyboard_hook.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
@@ -13,31 +14,6 @@ namespace plexel {
 namespace {
 
 constexpr std::int32_t optionLockTaskKeys = 9;
-
-void TakeFocus(CommandButton& focusCatcher) {
-  focusCatcher.TabStop(true);
-  focusCatcher.SetFocus();
-}
-
-void CatchFocus(std::int32_t target) {
-  if (target == TargetConfigurationDialog) {
-    TakeFocus(OpenConfigurationDialogAccess().FocusCatcher());
-  } else if (target == TargetWizard) {
-    TakeFocus(OpenWizardPageAccess().FocusCatcher());
-  }
-}
-
-void ReturnFocus(std::int32_t target) {
-  if (target == TargetConfigurationDialog) {
-    ConfigurationDialogAccess& dialog = OpenConfigurationDialogAccess();
-    dialog.FocusCatcher().TabStop(false);
-    dialog.ScanCodeGrid().SetFocus();
-  } else if (target == TargetWizard) {
-    WizardPageAccess& page = OpenWizardPageAccess();
-    page.FocusCatcher().TabStop(false);
-    page.Page().Focus(nullptr);
-  }
-}
 
 void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
   ModuleState& state = Module();
@@ -84,10 +60,6 @@ std::int32_t SetDirectInput(Boolean bActive, std::int32_t lngTarget) {
     if (bActive == True && !on) StartCapture(result, bActive, lngTarget);
     if (bActive == False && on) StopCapture(result, bActive, lngTarget);
   });
-}
-
-void ParkInputFocus() {
-  EndQuietly([] { CatchFocus(Module().lngInputTarget); });
 }
 
 }  // namespace plexel

@@ -5,6 +5,8 @@
 #include <string>
 
 #include "platform/failure.h"
+#include "scancodes/code_type.h"
+#include "scancodes/key_translation.h"
 
 namespace plexel {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/dialog_access.h"
 #include "services/code_page.h"
 #include "services/failure_styles.h"

@@ -6,8 +6,7 @@
 
 namespace plexel {
 
-/// Operations on the definition text, on the grid that shows it, and the transfer of a finished dialog into the
-/// element.
+/// Operations on the definition text and on the grid that shows it.
 
 std::string RemoveFirstDefinitionText(std::string_view strText);
 std::string RemoveLastDefinitionText(std::string_view strText);
@@ -25,16 +24,5 @@ void AppendSpecialDefinition(std::string_view strText);
 void UpdateGridRowMarks();
 /// Paints all data cells of the grid white.
 void ResetGridCellColours();
-
-void ApplyDialogResult(std::int32_t lngTarget);
-void ApplyConfigurationDialog();
-/// The grid and combo readers have no guard.
-void ReadGridIntoElement();
-void ReadLedCombosIntoElement();
-void ApplyWizardPages();
-void ApplyWizardNormalKey();
-void ApplyWizardTipKey();
-void ApplyWizardIPCFunction();
-void ApplyWizardWindowsShortCut();
 
 }  // namespace plexel

@@ -6,6 +6,10 @@
 
 namespace plexel {
 
+/// The dialogs that codes and capture go to.
+inline constexpr std::int32_t TargetConfigurationDialog = 0;
+inline constexpr std::int32_t TargetWizard = 2;
+
 /// What the scan code procedures touch of the open configuration dialog. The dialog implements it.
 class ConfigurationDialogAccess {
  public:

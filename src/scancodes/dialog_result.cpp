@@ -1,8 +1,10 @@
+#include "scancodes/dialog_result.h"
+
 #include <string>
 
 #include "element/ctlPlexelBaseElement.h"
 #include "element/defined_marker.h"
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/definition_text.h"
 #include "scancodes/dialog_access.h"
 #include "services/failure_styles.h"

@@ -1,7 +1,11 @@
+#include "scancodes/element_codes.h"
+
 #include "element/ctlPlexelBaseElement.h"
 #include "platform/failure.h"
 #include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/dialog_access.h"
+#include "scancodes/key_translation.h"
 #include "services/module_state.h"
 
 namespace plexel {
@@ -72,12 +76,6 @@ void ChangeGridCellBuffer(Change change) {
 }
 
 }  // namespace
-
-std::int32_t GetSelectedCodeType() {
-  ConfigurationDialogAccess& dialog = OpenConfigurationDialogAccess();
-  if (dialog.CodeTypeOption(MakeAndBreak).Value()) return MakeAndBreak;
-  return dialog.CodeTypeOption(MakeOnly).Value() ? MakeOnly : BreakOnly;
-}
 
 bool HasRoomForCodes(std::int32_t lngLayer, const Info& udtBuffer, std::int32_t lngNewCodes) {
   const Buffer* press = PressBuffer(udtBuffer, lngLayer);

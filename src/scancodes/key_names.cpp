@@ -1,10 +1,11 @@
+#include "scancodes/key_names.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 
 #include "platform/platform.h"
-#include "scancodes/key_translation.h"
 #include "services/code_page.h"
 #include "services/failure_styles.h"
 

@@ -1,4 +1,5 @@
-#include "scancodes/capture.h"
+#include "scancodes/key_table.h"
+
 #include "services/module_state.h"
 
 namespace plexel {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 
 namespace plexel {
 
@@ -20,9 +19,5 @@ void SampleModifierKeys();
 void TranslateScanCode(std::int32_t varScanCode, std::int32_t varVirtualKey, std::int32_t lngExtended,
                        CodeArray& lngMake, std::int32_t& varMakeLength, CodeArray& lngBreak,
                        std::int32_t& varBreakLength);
-
-/// The visible name of a key. `lngFamily` is lngOsFamily. "UnknownKey" after any failure.
-std::string GetKeyName(std::int32_t lngVirtualKey, std::int32_t lngScanCode, std::int32_t lngExtended,
-                       std::int32_t lngFamily);
 
 }  // namespace plexel

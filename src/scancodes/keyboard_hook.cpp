@@ -1,11 +1,16 @@
+#include "scancodes/keyboard_hook.h"
+
 #include <cstring>
 #include <string>
 
 #include "platform/platform.h"
-#include "scancodes/capture.h"
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/definition_text.h"
 #include "scancodes/dialog_access.h"
+#include "scancodes/element_codes.h"
+#include "scancodes/input_focus.h"
+#include "scancodes/key_names.h"
+#include "scancodes/key_table.h"
 #include "scancodes/key_translation.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "scancodes/key_translation.h"
 #include "services/conversion.h"
 #include "services/shared_services.h"
 #include "services/surroundings.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "scancodes/code_buffer.h"
+#include "scancodes/key_translation.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -64,12 +64,6 @@ void GetSpecialFunctionCode(CodeArray& lngMake, std::int32_t& lngMakeLength, Cod
   if (lngIndex < 0 || lngIndex >= NoSpecialFunction) return;
   lngMake[0] = functions[static_cast<std::size_t>(lngIndex)].code;
   lngMakeLength = 1;
-}
-
-std::int32_t DigitToKeypadCode(std::string_view strDigit) {
-  constexpr std::array<std::uint8_t, 10> codes = {0x70, 0x69, 0x72, 0x7A, 0x6B, 0x73, 0x74, 0x6C, 0x75, 0x7D};
-  if (strDigit.size() != 1 || strDigit[0] < '0' || strDigit[0] > '9') return 0;
-  return codes[static_cast<std::size_t>(strDigit[0] - '0')];
 }
 
 }  // namespace plexel

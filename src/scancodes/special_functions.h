@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "element/ctlPlexelBaseElement.h"
+#include "scancodes/key_translation.h"
 #include "services/element_types.h"
 #include "services/surroundings.h"
 
@@ -28,5 +29,9 @@ bool IsOffered(const SpecialFunction& function, const ctlPlexelBaseElement& elem
 /// The function of a list text. Texts are compared in a fixed order, the first equal one wins; NoSpecialFunction for a
 /// text that is none.
 enumSpecialKeyFunctions SpecialFunctionOfText(std::string_view text);
+
+/// The one code of a panel function; for any other index only the break length is set, to 0 as always.
+void GetSpecialFunctionCode(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& lngBreak,
+                            std::int32_t& lngBreakLength, std::int32_t lngIndex);
 
 }  // namespace plexel

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "platform/failure.h"
-#include "scancodes/code_buffer.h"
+#include "scancodes/key_translation.h"
 
 namespace plexel {
 

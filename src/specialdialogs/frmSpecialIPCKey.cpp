@@ -3,9 +3,11 @@
 #include <iterator>
 #include <string>
 
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/definition_text.h"
 #include "scancodes/dialog_access.h"
+#include "scancodes/element_codes.h"
+#include "scancodes/key_translation.h"
 #include "scancodes/special_functions.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"

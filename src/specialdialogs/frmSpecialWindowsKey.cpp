@@ -4,8 +4,11 @@
 #include <string>
 #include <utility>
 
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
 #include "scancodes/definition_text.h"
+#include "scancodes/dialog_access.h"
+#include "scancodes/element_codes.h"
+#include "scancodes/key_translation.h"
 #include "scancodes/windows_shortcuts.h"
 #include "services/failure_styles.h"
 #include "services/shared_services.h"

@@ -5,8 +5,11 @@
 
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
-#include "scancodes/code_buffer.h"
-#include "scancodes/definition_text.h"
+#include "scancodes/code_type.h"
+#include "scancodes/dialog_access.h"
+#include "scancodes/dialog_result.h"
+#include "scancodes/element_codes.h"
+#include "scancodes/key_translation.h"
 #include "scancodes/special_functions.h"
 #include "scancodes/windows_shortcuts.h"
 #include "services/conversion.h"

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/failure.h"
+#include "scancodes/input_focus.h"
+#include "scancodes/key_table.h"
 #include "scancodes/scancode_session.h"
 #include "services/shared_services.h"
 

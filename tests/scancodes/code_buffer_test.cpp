@@ -5,6 +5,9 @@
 #include <limits>
 
 #include "platform/failure.h"
+#include "scancodes/code_type.h"
+#include "scancodes/element_codes.h"
+#include "scancodes/key_translation.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {

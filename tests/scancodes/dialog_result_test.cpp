@@ -1,7 +1,8 @@
+#include "scancodes/dialog_result.h"
+
 #include <gtest/gtest.h>
 
 #include "platform/failure.h"
-#include "scancodes/definition_text.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {

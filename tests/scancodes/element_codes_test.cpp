@@ -1,9 +1,12 @@
+#include "scancodes/element_codes.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "platform/failure.h"
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
+#include "scancodes/key_translation.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/failure.h"
-#include "scancodes/code_buffer.h"
+#include "scancodes/key_translation.h"
+#include "scancodes/keypad_codes.h"
 #include "scancodes/scancode_session.h"
 #include "scancodes/special_functions.h"
 #include "scancodes/windows_shortcuts.h"

@@ -1,3 +1,5 @@
+#include "scancodes/key_names.h"
+
 #include <gtest/gtest.h>
 
 #include "scancodes/scancode_session.h"

@@ -1,8 +1,9 @@
+#include "scancodes/key_table.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "scancodes/capture.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {

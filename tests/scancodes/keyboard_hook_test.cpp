@@ -1,3 +1,5 @@
+#include "scancodes/keyboard_hook.h"
+
 #include <gtest/gtest.h>
 
 #include "scancodes/capture.h"

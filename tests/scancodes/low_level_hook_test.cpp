@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "scancodes/capture.h"
+#include "scancodes/keyboard_hook.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {

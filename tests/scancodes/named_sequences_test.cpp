@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/failure.h"
+#include "scancodes/key_translation.h"
 #include "scancodes/memory_parameter_file.h"
 #include "scancodes/scancode_session.h"
 

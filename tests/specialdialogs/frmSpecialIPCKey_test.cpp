@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
+#include "scancodes/element_codes.h"
 #include "specialdialogs/special_dialog_session.h"
 
 namespace plexel {

@@ -1,5 +1,8 @@
 #include "headless/key_road.h"
 #include "scancodes/code_buffer.h"
+#include "scancodes/code_type.h"
+#include "scancodes/key_translation.h"
+#include "scancodes/windows_shortcuts.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {

@@ -15,6 +15,7 @@
 #include "headless/headless_surroundings.h"
 #include "headless/recording_host.h"
 #include "scancodes/dialog_access.h"
+#include "scancodes/keyboard_hook.h"
 #include "services/module_state.h"
 
 namespace {

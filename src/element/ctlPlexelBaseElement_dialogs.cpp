@@ -1,8 +1,9 @@
+#include "element/ctlPlexelBaseElement.h"
+
 #include <array>
 #include <memory>
 #include <string>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"

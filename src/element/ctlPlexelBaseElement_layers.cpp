@@ -1,3 +1,5 @@
+#include "element/ctlPlexelBaseElement.h"
+
 #include "element/property_access.h"
 #include "platform/failure.h"
 

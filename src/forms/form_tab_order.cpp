@@ -1,6 +1,6 @@
-#include <algorithm>
-
 #include "forms/form.h"
+
+#include <algorithm>
 
 namespace plexel {
 

@@ -1,7 +1,8 @@
+#include "forms/controls.h"
+
 #include <algorithm>
 
 #include "forms/characters.h"
-#include "forms/controls.h"
 #include "platform/failure.h"
 
 namespace plexel {

@@ -1,7 +1,8 @@
+#include "element/ctlPlexelBaseElement.h"
+
 #include <array>
 #include <string>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "element/defined_marker.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"

@@ -1,7 +1,8 @@
+#include "element/ctlPlexelBaseElement.h"
+
 #include <array>
 #include <cmath>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "element/property_rows.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+namespace plexel {
+
+/// The focus of a dialog while it captures keys.
+
+/// Makes the focus catcher of a target reachable and gives it the focus. Nothing for a target that is none. No guard.
+void CatchFocus(std::int32_t lngTarget);
+/// Takes the focus catcher out of the tab order again and gives the focus back. No guard.
+void ReturnFocus(std::int32_t lngTarget);
+/// Gives the focus to the focus catcher of the input target. No guard.
+void ParkInputFocus();
+
+}  // namespace plexel
