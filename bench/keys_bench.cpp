@@ -25,14 +25,13 @@ constexpr std::size_t KeyCount = sizeof keys / sizeof keys[0];
 
 void TranslateOneScanCode(benchmark::State& state) {
   bench::TheWorld();
-  CodeArray make{}, release{};
-  std::int32_t makeLength = 0, breakLength = 0;
+  KeyCodes codes;
   std::size_t i = 0;
   const std::int64_t before = bench::Allocations();
   for (auto _ : state) {
     const Key& key = keys[i++ % KeyCount];
-    TranslateScanCode(key.scanCode, key.virtualKey, key.extended, make, makeLength, release, breakLength);
-    benchmark::DoNotOptimize(make[0]);
+    TranslateScanCode(key.scanCode, key.virtualKey, key.extended, codes);
+    benchmark::DoNotOptimize(codes.make.codes[0]);
   }
   state.counters["allocations"] = static_cast<double>(bench::Allocations() - before);
 }
@@ -41,11 +40,10 @@ BENCHMARK(TranslateOneScanCode);
 /// A key of the cursor block, for which the state of four keys is asked through the platform's port.
 void TranslateOneCursorKey(benchmark::State& state) {
   bench::TheWorld();
-  CodeArray make{}, release{};
-  std::int32_t makeLength = 0, breakLength = 0;
+  KeyCodes codes;
   for (auto _ : state) {
-    TranslateScanCode(0x4D, 0x27, 1, make, makeLength, release, breakLength);
-    benchmark::DoNotOptimize(make[0]);
+    TranslateScanCode(0x4D, 0x27, 1, codes);
+    benchmark::DoNotOptimize(codes.make.codes[0]);
   }
 }
 BENCHMARK(TranslateOneCursorKey);

@@ -10,6 +10,7 @@
 
 #include "files/parameter_check.h"
 #include "files/parameter_syntax.h"
+#include "scancodes/named_sequences.h"
 
 namespace plexel {
 
@@ -19,8 +20,10 @@ struct SequenceKeyRow {
   std::string_view name;
   std::string_view language;  ///< whose list shows the name; empty for codes
 };
-inline constexpr std::array<SequenceKeyRow, 4> SequenceKeys = {
-    {{"REMARK001", "English"}, {"REMARK049", "German"}, {"MAKECODE", ""}, {"BREAKCODE", ""}}};
+inline constexpr std::array<SequenceKeyRow, 4> SequenceKeys = {{{NamedSequences::EnglishNameKey, "English"},
+                                                                {NamedSequences::GermanNameKey, "German"},
+                                                                {NamedSequences::MakeKey, ""},
+                                                                {NamedSequences::BreakKey, ""}}};
 
 struct SequenceValue {
   std::size_t line = 0;

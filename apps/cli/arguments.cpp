@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "cli/command_error.h"
+#include "cli/record_json.h"
 #include "files/text_lines.h"
 
 namespace plexel {
@@ -98,6 +99,16 @@ const Json& Arguments::Object() {
   const Word& word = Take();
   if (!word.json || !word.json->is_object()) Refuse(word, "JSON object");
   return *word.json;
+}
+
+KeyCodes Arguments::Codes() {
+  KeyCodes codes;
+  for (CodeSequence* sequence : {&codes.make, &codes.breaking}) {
+    if (!More()) break;
+    const Word& word = Take();
+    *sequence = SequenceOf(word.json ? *word.json : Json(word.text));
+  }
+  return codes;
 }
 
 bool Arguments::Choice(const char* first, const char* second) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/words.h"
+#include "scancodes/code_sequence.h"
 
 namespace plexel {
 
@@ -30,6 +31,8 @@ class Arguments {
   float Single();
   /// A JSON object.
   const Json& Object();
+  /// Make and break codes, each if it is there: a row of bytes or an object with a length of its own.
+  KeyCodes Codes();
   /// One of two words: true for the first.
   bool Choice(const char* first, const char* second);
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "cli/record_json.h"
+#include "cli/values_json.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "scancodes/code_buffer.h"
 #include "scancodes/code_type.h"
@@ -15,12 +16,6 @@ namespace plexel {
 
 namespace {
 
-/// The row of bytes or the object of an argument.
-Sequence TakeSequence(Arguments& arguments) {
-  const Word& word = arguments.Take();
-  return SequenceOf(word.json ? *word.json : Json(word.text));
-}
-
 udtTactisBaseElement_TACTIS_SCANCODE TakeCode(Arguments& arguments) {
   udtTactisBaseElement_TACTIS_SCANCODE code;
   ChangeFields(code, arguments.Object());
@@ -31,43 +26,28 @@ udtTactisBaseElement_ScanCodeInfo RecordOf(Workbench& bench) {
   return bench.Selected()->TactisBaseElementScanCodeBuffer();
 }
 
-/// Make and break as the caller's arrays and lengths hold them, and the answer that shows them.
-struct MakeAndBreak {
-  Sequence make, brk;
-
-  explicit MakeAndBreak(Arguments& arguments) {
-    if (arguments.More()) make = TakeSequence(arguments);
-    if (arguments.More()) brk = TakeSequence(arguments);
-  }
-  void Show(Json& answer) const {
-    AddSequence(answer, "make", make.codes, make.length);
-    AddSequence(answer, "break", brk.codes, brk.length);
-  }
-};
-
 void Translate(Workbench&, Arguments& arguments, Json& answer) {
   const std::int32_t scanCode = arguments.Int32();
   const std::int32_t virtualKey = arguments.Int32();
   const std::int32_t extended = arguments.Int32();
-  MakeAndBreak codes(arguments);
-  TranslateScanCode(scanCode, virtualKey, extended, codes.make.codes, codes.make.length, codes.brk.codes,
-                    codes.brk.length);
-  codes.Show(answer);
+  KeyCodes codes = arguments.Codes();
+  TranslateScanCode(scanCode, virtualKey, extended, codes);
+  AddCodes(answer, codes);
 }
 
 /// The sequences that a procedure gives for an index.
 template <auto procedure>
 void OfIndex(Workbench&, Arguments& arguments, Json& answer) {
   const std::int32_t index = arguments.Int32();
-  MakeAndBreak codes(arguments);
-  procedure(codes.make.codes, codes.make.length, codes.brk.codes, codes.brk.length, index);
-  codes.Show(answer);
+  KeyCodes codes = arguments.Codes();
+  procedure(codes, index);
+  AddCodes(answer, codes);
 }
 
 void Append(Workbench&, Arguments& arguments, Json& answer) {
   udtTactisBaseElement_TACTIS_SCANCODE code = TakeCode(arguments);
-  const MakeAndBreak codes(arguments);
-  AppendCodeGroup(code, codes.make.codes, codes.make.length, codes.brk.codes, codes.brk.length, arguments.Int32(), 0);
+  const KeyCodes codes = arguments.Codes();
+  AppendCodeGroup(code, codes, arguments.Int32(), 0);
   answer["code"] = ToJson(code);
 }
 
@@ -85,10 +65,9 @@ void RemoveLast(Workbench&, Arguments& arguments, Json& answer) {
 }
 
 void Store(Workbench&, Arguments& arguments, Json& answer) {
-  const MakeAndBreak codes(arguments);
+  const KeyCodes codes = arguments.Codes();
   const std::int32_t type = arguments.Int32();
-  answer["result"] = StoreScanCodes(codes.make.codes, codes.make.length, codes.brk.codes, codes.brk.length, type, 0,
-                                    arguments.Int32());
+  answer["result"] = StoreScanCodes(codes, type, 0, arguments.Int32());
 }
 
 void CountEnds(Workbench& bench, Arguments& arguments, Json& answer) {

@@ -107,14 +107,8 @@ void ListText(Workbench& bench, Arguments& arguments, Json& answer) {
 }
 
 void StoreInAllLayers(Workbench& bench, Arguments& arguments, Json& answer) {
-  Sequence make, brk;
-  for (Sequence* sequence : {&make, &brk}) {
-    if (!arguments.More()) break;
-    const Word& word = arguments.Take();
-    *sequence = SequenceOf(word.json ? *word.json : Json(word.text));
-  }
-  answer["result"] =
-      OpenOrOwn<frmSpecialIPCKey>(bench)->StoreInAllLayers(make.codes, make.length, brk.codes, brk.length);
+  const KeyCodes codes = arguments.Codes();
+  answer["result"] = OpenOrOwn<frmSpecialIPCKey>(bench)->StoreInAllLayers(codes);
 }
 
 /// A procedure of the configuration dialog that gives its result through its argument.

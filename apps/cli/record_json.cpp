@@ -152,7 +152,7 @@ std::vector<std::uint8_t> TextToBytes(std::string_view text, std::size_t most) {
   return bytes;
 }
 
-Sequence SequenceOf(const Json& value) {
+CodeSequence SequenceOf(const Json& value) {
   Json bytes = value, length;
   if (value.is_object()) {
     bytes = "";
@@ -161,8 +161,8 @@ Sequence SequenceOf(const Json& value) {
       (name == "bytes" ? bytes : length) = member;
     }
   }
-  const std::vector<std::uint8_t> row = TextToBytes(ToText("bytes", bytes), SequenceSize);
-  Sequence sequence;
+  const std::vector<std::uint8_t> row = TextToBytes(ToText("bytes", bytes), CodeSequence::Size);
+  CodeSequence sequence;
   std::copy(row.begin(), row.end(), sequence.codes.begin());
   sequence.length = length.is_null() ? static_cast<std::int32_t>(row.size()) : ToInt32("length", length);
   return sequence;

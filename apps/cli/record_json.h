@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "cli/json.h"
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 #include "services/element_types.h"
 
 namespace plexel {
@@ -21,13 +21,7 @@ void ChangeFields(udtTactisBaseElement_TACTIS_SCANCODE& code, const Json& fields
 /// A row of two-digit hexadecimal numbers with blanks between them; CommandError when it is none or longer than `most`.
 std::vector<std::uint8_t> TextToBytes(std::string_view text, std::size_t most);
 
-/// A sequence as a caller holds it.
-struct Sequence {
-  CodeArray codes{};
-  std::int32_t length = 0;
-};
-
 /// A row of bytes, or {"bytes":"...","length":N} with a length of its own.
-Sequence SequenceOf(const Json& value);
+CodeSequence SequenceOf(const Json& value);
 
 }  // namespace plexel

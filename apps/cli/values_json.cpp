@@ -92,6 +92,15 @@ Json ToJson(const BagValue& value) {
 constexpr std::array<const char*, std::variant_size_v<BagValue>> bagTypes = {"int16",   "int32", "uint8",
                                                                              "boolean", "float", "string"};
 
+void AddSequence(Json& answer, const std::string& name, const CodeSequence& sequence) {
+  std::size_t count = sequence.codes.size();
+  while (count > 0 && sequence.codes[count - 1] == 0) --count;
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) AppendHex(text, static_cast<std::uint32_t>(sequence.codes[i]));
+  answer[name] = text;
+  answer[name + "Length"] = sequence.length;
+}
+
 }  // namespace
 
 Json NumberToJson(double value) {
@@ -152,13 +161,9 @@ Json ToJson(const udtTactisBaseElement_TACTIS_SCANCODE& code) {
   return json;
 }
 
-void AddSequence(Json& answer, const std::string& name, const CodeArray& sequence, std::int32_t length) {
-  std::size_t count = sequence.size();
-  while (count > 0 && sequence[count - 1] == 0) --count;
-  std::string text;
-  for (std::size_t i = 0; i < count; ++i) AppendHex(text, static_cast<std::uint32_t>(sequence[i]));
-  answer[name] = text;
-  answer[name + "Length"] = length;
+void AddCodes(Json& answer, const KeyCodes& codes) {
+  AddSequence(answer, "make", codes.make);
+  AddSequence(answer, "break", codes.breaking);
 }
 
 }  // namespace plexel

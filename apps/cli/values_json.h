@@ -11,7 +11,7 @@
 #include "forms/property_value.h"
 #include "headless/event_host.h"
 #include "headless/memory_bag.h"
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 #include "services/element_types.h"
 
 namespace plexel {
@@ -32,7 +32,7 @@ Json ToJson(const MemoryBag& bag);
 Json ToJson(const Surface& surface);
 Json ToJson(const udtTactisBaseElement_TACTIS_SCANCODE& code);
 
-/// Puts a sequence and its length beside it into an answer, without the zeros at its end.
-void AddSequence(Json& answer, const std::string& name, const CodeArray& sequence, std::int32_t length);
+/// Puts both sequences of codes with their lengths beside them into an answer, without the zeros at their ends.
+void AddCodes(Json& answer, const KeyCodes& codes);
 
 }  // namespace plexel

@@ -20,16 +20,9 @@ namespace {
 constexpr std::uint16_t noCharacter = 65535;
 constexpr std::int32_t leftAlt = 0x11, breakPrefix = 0xF0;
 
-/// Codes of set 2 with their number, as they are put one behind another.
-struct Sequence {
-  CodeArray codes{};
-  std::int32_t length = 0;
-  void Append(std::int32_t code) { codes[static_cast<std::size_t>(length++)] = code; }
-};
-
 /// Left Alt held while the digits are typed on the number pad.
-Sequence KeypadEntry(const std::string& digits) {
-  Sequence sequence;
+CodeSequence KeypadEntry(const std::string& digits) {
+  CodeSequence sequence;
   sequence.Append(leftAlt);
   for (const char digit : digits) {
     const std::int32_t code = DigitToKeypadCode(std::string_view(&digit, 1));
@@ -50,9 +43,7 @@ void frmConfigurationDialog::MNU_POPUP_ASCII_Click() {
     const std::uint16_t character = Module().intAsciiResult;
     if (character == noCharacter) return;
     const std::string digits = std::to_string(character);
-    const Sequence make = KeypadEntry(digits);
-    const CodeArray noBreak{};
-    if (StoreScanCodes(make.codes, make.length, noBreak, 0, MakeOnly, 0, TargetConfigurationDialog) != 0) return;
+    if (StoreScanCodes({KeypadEntry(digits), {}}, MakeOnly, 0, TargetConfigurationDialog) != 0) return;
     msgScanCodes.Text(msgScanCodes.Text() + DefinitionGroup("ASCII:" + digits, MakeAndBreak));
   });
 }

@@ -32,24 +32,24 @@ void AppendByte(Buffer& code, std::int32_t value) {
   byte = static_cast<std::uint8_t>(value);
 }
 
-void AppendMakeCodes(Buffer& code, const CodeArray& make, std::int32_t length) {
-  for (std::int32_t index = 0; index < length; ++index) {
-    const std::int32_t value = At(make, index);
+void AppendMakeCodes(Buffer& code, const CodeSequence& make) {
+  for (std::int32_t index = 0; index < make.length; ++index) {
+    const std::int32_t value = At(make.codes, index);
     if (value != Buffer::EndMark) AppendByte(code, value);
   }
 }
 
 /// Appends the elements from first to last, both included.
-void AppendRange(Buffer& code, const CodeArray& codes, std::int32_t first, std::int32_t last) {
-  for (std::int32_t index = first; index <= last; ++index) AppendByte(code, At(codes, index));
+void AppendRange(Buffer& code, const CodeSequence& from, std::int32_t first, std::int32_t last) {
+  for (std::int32_t index = first; index <= last; ++index) AppendByte(code, At(from.codes, index));
 }
 
 /// Sub-sequences go in reverse order. Each range takes the element behind it along, and the end mark then overwrites
 /// the very last one.
-void AppendBreakCodes(Buffer& code, const CodeArray& breaking, std::int32_t length) {
-  std::int32_t last = length;
-  for (std::int32_t index = std::max(length, 0); index-- > 0;) {
-    if (At(breaking, index) != Buffer::EndMark) continue;
+void AppendBreakCodes(Buffer& code, const CodeSequence& breaking) {
+  std::int32_t last = breaking.length;
+  for (std::int32_t index = std::max(last, 0); index-- > 0;) {
+    if (At(breaking.codes, index) != Buffer::EndMark) continue;
     AppendRange(code, breaking, index, last);
     last = index;
   }
@@ -74,20 +74,19 @@ std::int32_t CountGroupEnds(std::int32_t lngLayer, const udtTactisBaseElement_Sc
   return CountEndMarks(*press) + CountEndMarks(*release);
 }
 
-void AppendCodeGroup(Buffer& udtCode, const CodeArray& lngMake, std::int32_t lngMakeLength, const CodeArray& lngBreak,
-                     std::int32_t lngBreakLength, std::int32_t lngCodeType, std::int32_t /*lngUnused*/) {
+void AppendCodeGroup(Buffer& udtCode, const KeyCodes& codes, std::int32_t lngCodeType, std::int32_t /*lngUnused*/) {
   if (lngCodeType == FromDialog) lngCodeType = GetSelectedCodeType();
   switch (lngCodeType) {
     case MakeAndBreak:
-      AppendMakeCodes(udtCode, lngMake, lngMakeLength);
-      AppendBreakCodes(udtCode, lngBreak, lngBreakLength);
+      AppendMakeCodes(udtCode, codes.make);
+      AppendBreakCodes(udtCode, codes.breaking);
       break;
     case MakeOnly:
-      AppendMakeCodes(udtCode, lngMake, lngMakeLength);
+      AppendMakeCodes(udtCode, codes.make);
       AppendByte(udtCode, Buffer::EndMark);
       break;
     case BreakOnly:
-      AppendBreakCodes(udtCode, lngBreak, lngBreakLength);
+      AppendBreakCodes(udtCode, codes.breaking);
       break;
     default:
       break;

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 #include "services/element_types.h"
 
 namespace plexel {
@@ -14,9 +14,8 @@ std::int32_t CountGroupEnds(std::int32_t lngLayer, const udtTactisBaseElement_Sc
 /// Appends one group; a code type that is none appends nothing. Failure (Index) when a byte would land above the last
 /// index or a length reaches beyond its sequence, Failure (Overflow) for a code that is no byte; what was written
 /// stays.
-void AppendCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode, const CodeArray& lngMake,
-                     std::int32_t lngMakeLength, const CodeArray& lngBreak, std::int32_t lngBreakLength,
-                     std::int32_t lngCodeType, std::int32_t lngUnused);
+void AppendCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode, const KeyCodes& codes, std::int32_t lngCodeType,
+                     std::int32_t lngUnused);
 
 /// Takes one group out of a buffer; false when there was none. Failure (Index) for a NextValue outside the buffer.
 bool RemoveFirstCodeGroup(udtTactisBaseElement_TACTIS_SCANCODE& udtCode);

@@ -5,7 +5,6 @@
 #include "scancodes/code_buffer.h"
 #include "scancodes/code_type.h"
 #include "scancodes/dialog_access.h"
-#include "scancodes/key_translation.h"
 #include "services/module_state.h"
 
 namespace plexel {
@@ -26,40 +25,29 @@ constexpr WizardGroups wizardGroups[] = {{NormalKey, MakeAndBreak, WizardGroups:
                                          {IPCFunction, MakeAndBreak, WizardGroups::Empty},
                                          {WindowsShortCut, MakeOnly, BreakOnly}};
 
-/// A group on its way into the element.
-struct Group {
-  const CodeArray& make;
-  std::int32_t makeLength;
-  const CodeArray& breaking;
-  std::int32_t breakLength;
-  std::int32_t unused;
-
-  std::int32_t Length() const {
-    const std::int64_t sum = std::int64_t{makeLength} + breakLength;
-    if (sum != static_cast<std::int32_t>(sum)) throw Failure(FailureKind::Overflow, "the lengths have no sum");
-    return static_cast<std::int32_t>(sum);
-  }
-  void AppendTo(Buffer& code, std::int32_t codeType) const {
-    AppendCodeGroup(code, make, makeLength, breaking, breakLength, codeType, unused);
-  }
-};
+std::int32_t LengthOf(const KeyCodes& codes) {
+  const std::int64_t sum = std::int64_t{codes.make.length} + codes.breaking.length;
+  if (sum != static_cast<std::int32_t>(sum)) throw Failure(FailureKind::Overflow, "the lengths have no sum");
+  return static_cast<std::int32_t>(sum);
+}
 
 /// False when the layer lacks room.
-bool StoreInGridCell(Info& info, const Group& group, std::int32_t codeType) {
+bool StoreInGridCell(Info& info, const KeyCodes& codes, std::int32_t codeType, std::int32_t unused) {
   const Grid& grid = OpenConfigurationDialogAccess().ScanCodeGrid();
-  if (!HasRoomForCodes(grid.Row(), info, group.Length())) return false;
-  if (Buffer* code = CellBuffer(info, grid.Row(), grid.Col())) group.AppendTo(*code, codeType);
+  if (!HasRoomForCodes(grid.Row(), info, LengthOf(codes))) return false;
+  if (Buffer* code = CellBuffer(info, grid.Row(), grid.Col())) AppendCodeGroup(*code, codes, codeType, unused);
   return true;
 }
 
-void StoreInAllLayers(Info& info, const Group& group) {
+void StoreInAllLayers(Info& info, const KeyCodes& codes, std::int32_t unused) {
   ZeroAllBuffers(info);
   WizardPageAccess& page = OpenWizardPageAccess();
   for (const WizardGroups& groups : wizardGroups) {
     if (!page.KeyTypeOption(groups.keyType).Value()) continue;
     for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-      group.AppendTo(*PressBuffer(info, layer), groups.press);
-      if (groups.release != WizardGroups::Empty) group.AppendTo(*ReleaseBuffer(info, layer), groups.release);
+      AppendCodeGroup(*PressBuffer(info, layer), codes, groups.press, unused);
+      if (groups.release == WizardGroups::Empty) continue;
+      AppendCodeGroup(*ReleaseBuffer(info, layer), codes, groups.release, unused);
     }
     return;
   }
@@ -86,16 +74,14 @@ bool HasRoomForCodes(std::int32_t lngLayer, const Info& udtBuffer, std::int32_t 
   return total < Module().lngMaxScanCodes;
 }
 
-std::int32_t StoreScanCodes(const CodeArray& lngMake, std::int32_t lngMakeLength, const CodeArray& lngBreak,
-                            std::int32_t lngBreakLength, std::int32_t lngCodeType, std::int32_t lngUnused,
+std::int32_t StoreScanCodes(const KeyCodes& codes, std::int32_t lngCodeType, std::int32_t lngUnused,
                             std::int32_t lngTarget) {
-  const Group group{lngMake, lngMakeLength, lngBreak, lngBreakLength, lngUnused};
   Info info = CurrentElement().TactisBaseElementScanCodeBuffer();
   bool stored = true;
   if (lngTarget == TargetConfigurationDialog) {
-    stored = StoreInGridCell(info, group, lngCodeType);
+    stored = StoreInGridCell(info, codes, lngCodeType, lngUnused);
   } else if (lngTarget == TargetWizard) {
-    StoreInAllLayers(info, group);
+    StoreInAllLayers(info, codes, lngUnused);
   }
   CurrentElement().TactisBaseElementScanCodeBuffer(info);
   return stored ? 0 : 1;

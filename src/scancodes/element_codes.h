@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 #include "services/element_types.h"
 
 namespace plexel {
@@ -14,8 +14,7 @@ bool HasRoomForCodes(std::int32_t lngLayer, const udtTactisBaseElement_ScanCodeI
                      std::int32_t lngNewCodes);
 
 /// Brings one group into the current element: 0 stored, 1 no room. No guard.
-std::int32_t StoreScanCodes(const CodeArray& lngMake, std::int32_t lngMakeLength, const CodeArray& lngBreak,
-                            std::int32_t lngBreakLength, std::int32_t lngCodeType, std::int32_t lngUnused,
+std::int32_t StoreScanCodes(const KeyCodes& codes, std::int32_t lngCodeType, std::int32_t lngUnused,
                             std::int32_t lngTarget);
 
 /// Takes one group out of the buffer of the grid's current cell, inside the current element. No guard.

@@ -14,10 +14,7 @@ namespace plexel {
 namespace {
 
 void StoreSequence(const NamedSequences& sequences, std::int32_t number, const std::string& name) {
-  CodeArray make{}, breaking{};
-  const std::int32_t makeLength = sequences.ReadCodes(number, NamedSequences::MakeKey, make);
-  const std::int32_t breakLength = sequences.ReadCodes(number, NamedSequences::BreakKey, breaking);
-  if (StoreScanCodes(make, makeLength, breaking, breakLength, FromDialog, 1, TargetConfigurationDialog) == 0) {
+  if (StoreScanCodes(sequences.ReadCodes(number), FromDialog, 1, TargetConfigurationDialog) == 0) {
     AppendSpecialDefinition(name);
   }
 }

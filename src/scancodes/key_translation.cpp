@@ -13,7 +13,6 @@ using scan_code_table::Form;
 using scan_code_table::KeySequences;
 using scan_code_table::Row;
 using scan_code_table::Rule;
-using scan_code_table::Sequence;
 namespace variant = scan_code_table::variant;
 
 constexpr std::int32_t virtualKeyShift = 0x10, virtualKeyControl = 0x11, virtualKeyMenu = 0x12, virtualKeyDivide = 0x6F,
@@ -64,19 +63,9 @@ std::size_t SelectByModifiers(const Row& row, std::int32_t virtualKey) {
 
 constexpr std::int32_t extendedPrefix = 0xE0, breakPrefix = 0xF0;
 
-/// Where the caller wants one direction of a key.
-struct Target {
-  CodeArray& codes;
-  std::int32_t& length;
-
-  void Write(const Sequence& sequence) const {
-    for (std::size_t place = 0; place < sequence.count; ++place) codes[place] = sequence.codes[place];
-    if (sequence.length != Sequence::Untouched) length = sequence.length;
-  }
-};
-
-inline void Write(const KeySequences& key, Target make, Target breaking) {
+inline void Write(const KeySequences& key, KeyCodes& codes) {
   const std::int32_t code = key.code;
+  CodeSequence &make = codes.make, &breaking = codes.breaking;
   switch (key.form) {
     case Form::Plain:
       make.codes[0] = code;
@@ -95,15 +84,15 @@ inline void Write(const KeySequences& key, Target make, Target breaking) {
       breaking.length = 3;
       break;
     case Form::Listed:
-      make.Write(key.make);
-      breaking.Write(key.breaking);
+      key.make.WriteTo(make);
+      key.breaking.WriteTo(breaking);
       break;
   }
 }
 
 /// Apart from the keys that need no question, so that these cost nothing for it.
-[[gnu::noinline]] void TranslateByModifiers(const Row& row, std::int32_t virtualKey, Target make, Target breaking) {
-  Write(row.variants[SelectByModifiers(row, virtualKey)], make, breaking);
+[[gnu::noinline]] void TranslateByModifiers(const Row& row, std::int32_t virtualKey, KeyCodes& codes) {
+  Write(row.variants[SelectByModifiers(row, virtualKey)], codes);
 }
 
 }  // namespace
@@ -120,20 +109,16 @@ void SampleModifierKeys() {
 }
 
 void TranslateScanCode(std::int32_t varScanCode, std::int32_t varVirtualKey, std::int32_t lngExtended,
-                       CodeArray& lngMake, std::int32_t& varMakeLength, CodeArray& lngBreak,
-                       std::int32_t& varBreakLength) {
+                       KeyCodes& codes) {
   const auto& table = scan_code_table::table;
   if (varScanCode < 0 || static_cast<std::size_t>(varScanCode) >= table.size()) return;
   const Row& row = table[static_cast<std::size_t>(varScanCode)];
-  const Target make{lngMake, varMakeLength}, breaking{lngBreak, varBreakLength};
-  if (row.rule == Rule::Fixed) return Write(row.variants[variant::Only], make, breaking);
-  if (row.rule == Rule::Sided) {
-    return Write(row.variants[lngExtended != 0 ? variant::Right : variant::Left], make, breaking);
-  }
+  if (row.rule == Rule::Fixed) return Write(row.variants[variant::Only], codes);
+  if (row.rule == Rule::Sided) return Write(row.variants[lngExtended != 0 ? variant::Right : variant::Left], codes);
   if (row.rule == Rule::Cursor && varVirtualKey != row.navigationKey) {
-    return Write(row.variants[variant::CursorPad], make, breaking);
+    return Write(row.variants[variant::CursorPad], codes);
   }
-  if (row.rule != Rule::None) TranslateByModifiers(row, varVirtualKey, make, breaking);
+  if (row.rule != Rule::None) TranslateByModifiers(row, varVirtualKey, codes);
 }
 
 }  // namespace plexel

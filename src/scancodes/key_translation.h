@@ -1,13 +1,10 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
-namespace plexel {
+#include "scancodes/code_sequence.h"
 
-/// A sequence of codes on its way: indices 0 to 100, one byte value each, with a length of its own.
-inline constexpr std::int32_t SequenceSize = 101;
-using CodeArray = std::array<std::int32_t, SequenceSize>;
+namespace plexel {
 
 /// modPlexelGlobalScancodeFunctions.
 
@@ -16,8 +13,6 @@ void SampleModifierKeys();
 
 /// Turns one key into its make and break sequence of scan code set 2. `varScanCode` is of set 1; a `lngExtended` that
 /// is not 0 is extended. What is not written stays as the caller left it, lengths included. No allocation.
-void TranslateScanCode(std::int32_t varScanCode, std::int32_t varVirtualKey, std::int32_t lngExtended,
-                       CodeArray& lngMake, std::int32_t& varMakeLength, CodeArray& lngBreak,
-                       std::int32_t& varBreakLength);
+void TranslateScanCode(std::int32_t varScanCode, std::int32_t varVirtualKey, std::int32_t lngExtended, KeyCodes& codes);
 
 }  // namespace plexel

@@ -19,20 +19,7 @@ namespace plexel {
 
 namespace {
 
-/// What one combination sends in one direction.
-struct Codes {
-  CodeArray values{};
-  std::int32_t length = 0;
-
-  void Append(const Codes& more) {
-    for (std::int32_t index = 0; index < more.length; ++index) {
-      values[static_cast<std::size_t>(length + index)] = more.values[static_cast<std::size_t>(index)];
-    }
-    length += more.length;
-  }
-};
-constexpr std::int32_t longestSequence = 8;
-static_assert(MaxPressedKeys * longestSequence <= SequenceSize, "no combination leaves its buffer");
+static_assert(MaxPressedKeys * FixedCodes::Most <= CodeSequence::Size, "no combination leaves its sequence");
 
 std::string NamesOfPressedKeys() {
   std::string names;
@@ -48,22 +35,22 @@ std::string NamesOfPressedKeys() {
 }
 
 /// Keys come up in the opposite order of going down.
-void TranslatePressedKeys(Codes& make, Codes& breaking) {
-  Codes keyMake, keyBreak;  // one pair for all keys: a key without a translation repeats the one before it
+KeyCodes CodesOfPressedKeys() {
+  KeyCodes codes, ofKey;  // one pair for all keys: a key without a translation repeats the one before it
   const auto translate = [&](std::int32_t place) {
     const auto& slot = Module().lngPressedKeys[static_cast<std::size_t>(place)];
-    TranslateScanCode(slot[key_field::ScanCode], slot[key_field::VirtualKey], slot[key_field::Extended], keyMake.values,
-                      keyMake.length, keyBreak.values, keyBreak.length);
+    TranslateScanCode(slot[key_field::ScanCode], slot[key_field::VirtualKey], slot[key_field::Extended], ofKey);
   };
   const std::int32_t count = Module().lngPressedKeyCount;
   for (std::int32_t place = 0; place < count; ++place) {
     translate(place);
-    make.Append(keyMake);
+    codes.make.Append(ofKey.make);
   }
   for (std::int32_t place = count; place-- > 0;) {
     translate(place);
-    breaking.Append(keyBreak);
+    codes.breaking.Append(ofKey.breaking);
   }
+  return codes;
 }
 
 /// The code type whose option is set, or one that is none.
@@ -90,17 +77,13 @@ void ShowInConfigurationDialog(const std::string& names) {
 void FinishCombination() {
   RemoveAltGrControl();
   const std::string names = NamesOfPressedKeys();
-  Codes make, breaking;
-  TranslatePressedKeys(make, breaking);
+  const KeyCodes codes = CodesOfPressedKeys();
   Module().lngPressedKeys = {};
   Module().lngPressedKeyCount = 0;
 
   // A failing store is passed over like every statement here and reports no lack of room, so that the text goes on.
   std::int32_t refused = 0;
-  PassOver([&] {
-    refused = StoreScanCodes(make.values, make.length, breaking.values, breaking.length, FromDialog, 0,
-                             Module().lngInputTarget);
-  });
+  PassOver([&] { refused = StoreScanCodes(codes, FromDialog, 0, Module().lngInputTarget); });
   if (refused != 0) return;
 
   if (Module().lngInputTarget == TargetConfigurationDialog) ShowInConfigurationDialog(names);

@@ -11,8 +11,7 @@ namespace plexel {
 
 namespace {
 
-constexpr std::string_view fileName = "NonStandardScancodes.cfg", germanNameKey = "REMARK049",
-                           otherNameKey = "REMARK001";
+constexpr std::string_view fileName = "NonStandardScancodes.cfg";
 
 std::string UpperCase(std::string text) {
   std::ranges::transform(text, text.begin(), [](char character) {
@@ -54,7 +53,7 @@ std::int64_t ConvertHex(std::string_view H) {
 
 NamedSequences::NamedSequences()
     : file_(GetBasePath() + "\\" + std::string(fileName)),
-      nameKey_(UpperCase(GetLanguageName()) == "GERMAN" ? germanNameKey : otherNameKey) {
+      nameKey_(UpperCase(GetLanguageName()) == "GERMAN" ? GermanNameKey : EnglishNameKey) {
   Surroundings::Current().ParameterFiles().SetDelimiter(":");
 }
 
@@ -73,18 +72,21 @@ std::optional<std::int32_t> NamedSequences::NumberOf(std::string_view name) cons
   return found ? std::optional(number) : std::nullopt;
 }
 
-std::int32_t NamedSequences::ReadCodes(std::int32_t number, std::string_view key, CodeArray& codes) const {
+KeyCodes NamedSequences::ReadCodes(std::int32_t number) const {
+  return {ReadSequence(number, MakeKey), ReadSequence(number, BreakKey)};
+}
+
+CodeSequence NamedSequences::ReadSequence(std::int32_t number, std::string_view key) const {
   std::string value;
   std::int32_t status = 0;
   Surroundings::Current().ParameterFiles().ReadEntry(file_, SectionOf(number), key, value, 0, status);
-  std::int32_t length = 0;
-  for (std::int32_t& code : codes) {
-    const std::string item = ItemOf(value, length + 1);
+  CodeSequence sequence;
+  while (sequence.length < CodeSequence::Size) {
+    const std::string item = ItemOf(value, sequence.length + 1);
     if (item.empty()) break;
-    code = RoundToInt32(static_cast<double>(ConvertHex(item)));
-    ++length;
+    sequence.Append(RoundToInt32(static_cast<double>(ConvertHex(item))));
   }
-  return length;
+  return sequence;
 }
 
 }  // namespace plexel

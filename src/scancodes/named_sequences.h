@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 
 namespace plexel {
 
@@ -17,7 +17,8 @@ std::int64_t ConvertHex(std::string_view H);
 /// services pass to the caller.
 class NamedSequences {
  public:
-  static constexpr std::string_view MakeKey = "MAKECODE", BreakKey = "BREAKCODE";
+  static constexpr std::string_view EnglishNameKey = "REMARK001", GermanNameKey = "REMARK049", MakeKey = "MAKECODE",
+                                    BreakKey = "BREAKCODE";
 
   /// Finds the file and the language of its names, and prepares the reader.
   NamedSequences();
@@ -26,10 +27,12 @@ class NamedSequences {
   std::optional<std::string> NameOf(std::int32_t number) const;
   /// The number of the first entry of a name; 0 for the empty name, nothing when no entry has it.
   std::optional<std::int32_t> NumberOf(std::string_view name) const;
-  /// Takes the codes of an entry up to the first empty item, 101 at most, and gives their number.
-  std::int32_t ReadCodes(std::int32_t number, std::string_view key, CodeArray& codes) const;
+  /// The codes of an entry, of each direction those up to the first empty item, 101 at most.
+  KeyCodes ReadCodes(std::int32_t number) const;
 
  private:
+  CodeSequence ReadSequence(std::int32_t number, std::string_view key) const;
+
   std::string file_;
   std::string_view nameKey_;
 };

@@ -3,18 +3,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
+
+#include "scancodes/code_sequence.h"
 
 /// The set 2 sequences of every key of set 1, with the deviations from the published set that the panels expect.
 namespace plexel::scan_code_table {
-
-/// Codes of one direction. `length` may differ from the number of codes: the caller's length is told apart from them.
-struct Sequence {
-  static constexpr std::int8_t Untouched = -1;  ///< the caller's length stays
-  std::array<std::uint8_t, 8> codes{};
-  std::uint8_t count = 0;
-  std::int8_t length = 0;
-};
 
 /// Most keys send one of two forms, made of one code; the others are listed.
 enum class Form : std::uint8_t {
@@ -25,8 +18,8 @@ enum class Form : std::uint8_t {
 
 struct KeySequences {
   Form form = Form::Listed;
-  std::uint8_t code = 0;    ///< of the first two forms
-  Sequence make, breaking;  ///< of a listed key
+  std::uint8_t code = 0;      ///< of the first two forms
+  FixedCodes make, breaking;  ///< of a listed key
 };
 
 /// What decides between the variants of a key.
@@ -56,35 +49,19 @@ struct Row {
   std::array<KeySequences, 4> variants{};
 };
 
-using Codes = std::initializer_list<std::uint8_t>;
-
-constexpr Sequence Of(Codes codes) {
-  Sequence sequence;
-  for (const std::uint8_t code : codes) sequence.codes[sequence.count++] = code;
-  sequence.length = static_cast<std::int8_t>(sequence.count);
-  return sequence;
-}
-
-constexpr Sequence OfLength(Codes codes, std::int8_t length) {
-  Sequence sequence = Of(codes);
-  sequence.length = length;
-  return sequence;
-}
-
 constexpr KeySequences Simple(std::uint8_t code) { return {Form::Plain, code, {}, {}}; }
 constexpr KeySequences Extended(std::uint8_t code) { return {Form::Extended, code, {}, {}}; }
-constexpr KeySequences Listed(const Sequence& make, const Sequence& breaking) {
+constexpr KeySequences Listed(const FixedCodes& make, const FixedCodes& breaking) {
   return {Form::Listed, 0, make, breaking};
 }
 
 constexpr Row FixedRow(const KeySequences& sequences) { return {Rule::Fixed, 0, {sequences}}; }
 constexpr Row SidedRow(std::uint8_t code) { return {Rule::Sided, 0, {Simple(code), Extended(code)}}; }
 constexpr Row CursorRow(std::uint8_t code, std::uint8_t navigationKey) {
-  return {
-      Rule::Cursor,
-      navigationKey,
-      {Listed(Of({0xE0, 0xF0, 0x12, 0xE0, code}), Of({0xE0, 0xF0, code, 0xE0, 0x12})),
-       Listed(Of({0xE0, 0x12, 0xE0, code}), Of({0xE0, 0xF0, code, 0xE0, 0xF0, 0x12})), Extended(code), Simple(code)}};
+  return {Rule::Cursor,
+          navigationKey,
+          {Listed({0xE0, 0xF0, 0x12, 0xE0, code}, {0xE0, 0xF0, code, 0xE0, 0x12}),
+           Listed({0xE0, 0x12, 0xE0, code}, {0xE0, 0xF0, code, 0xE0, 0xF0, 0x12}), Extended(code), Simple(code)}};
 }
 
 struct ScanCodePair {
@@ -125,22 +102,22 @@ constexpr Table BuildTable() {
   for (const CursorKey& key : cursorKeys) table[key.scanCode] = CursorRow(key.code, key.navigationKey);
 
   // Four cells of the cursor block leave the scheme.
-  table[0x4B].variants[CursorNumLock].make.length = Sequence::Untouched;
-  table[0x4F].variants[CursorShift].make = Of({0xE0, 0xF0, 0x12, 0x12, 0xE0, 0x69});
+  table[0x4B].variants[CursorNumLock].make.length = FixedCodes::Untouched;
+  table[0x4F].variants[CursorShift].make = {0xE0, 0xF0, 0x12, 0x12, 0xE0, 0x69};
   table[0x50].variants[CursorNumLock].breaking.codes[3] = 0x40;
-  table[0x52].variants[CursorNumLock].make = Of({0xE0, 0x12, 0x70});
+  table[0x52].variants[CursorNumLock].make = {0xE0, 0x12, 0x70};
 
-  table[0x35] = {Rule::Divide,
-                 0,
-                 {Listed(Of({0xE0, 0xF0, 0x12, 0x4A}), Of({0xE0, 0x12, 0xF0, 0x4A})), Extended(0x4A), Simple(0x4A)}};
+  table[0x35] = {
+      Rule::Divide, 0, {Listed({0xE0, 0xF0, 0x12, 0x4A}, {0xE0, 0x12, 0xF0, 0x4A}), Extended(0x4A), Simple(0x4A)}};
   table[0x00] = {
       Rule::Print,
       0,
-      {Extended(0x7C), Simple(0x84), Listed(Of({0xE0, 0x12, 0xE0, 0x7C}), Of({0xE0, 0xF0, 0x7C, 0xE0, 0xF0, 0x12}))}};
-  table[0x45] = {Rule::NumLock,
-                 0,
-                 {Simple(0x77), Listed(OfLength({0xE0, 0x7E, 0xE0, 0xF0, 0x7E}, 4), OfLength({0x00}, 1)),
-                  Listed(Of({0xE1, 0x14, 0x77, 0xE1, 0xF0, 0x14, 0xF0, 0x77}), OfLength({0x00}, 0))}};
+      {Extended(0x7C), Simple(0x84), Listed({0xE0, 0x12, 0xE0, 0x7C}, {0xE0, 0xF0, 0x7C, 0xE0, 0xF0, 0x12})}};
+  table[0x45] = {
+      Rule::NumLock,
+      0,
+      {Simple(0x77), Listed(FixedCodes{0xE0, 0x7E, 0xE0, 0xF0, 0x7E}.OfLength(4), FixedCodes{0x00}.OfLength(1)),
+       Listed({0xE1, 0x14, 0x77, 0xE1, 0xF0, 0x14, 0xF0, 0x77}, FixedCodes{0x00}.OfLength(0))}};
   return table;
 }
 

@@ -58,12 +58,11 @@ enumSpecialKeyFunctions SpecialFunctionOfText(std::string_view text) {
   return NoSpecialFunction;
 }
 
-void GetSpecialFunctionCode(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& /*lngBreak*/,
-                            std::int32_t& lngBreakLength, std::int32_t lngIndex) {
-  lngBreakLength = 0;
-  if (lngIndex < 0 || lngIndex >= NoSpecialFunction) return;
-  lngMake[0] = functions[static_cast<std::size_t>(lngIndex)].code;
-  lngMakeLength = 1;
+void GetSpecialFunctionCode(KeyCodes& codes, std::int32_t lngIndex) {
+  codes.breaking.length = 0;
+  if (lngIndex < 0 || static_cast<std::size_t>(lngIndex) >= functions.size()) return;
+  codes.make.codes[0] = functions[static_cast<std::size_t>(lngIndex)].code;
+  codes.make.length = 1;
 }
 
 }  // namespace plexel

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "element/ctlPlexelBaseElement.h"
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 #include "services/element_types.h"
 #include "services/surroundings.h"
 
@@ -31,7 +31,6 @@ bool IsOffered(const SpecialFunction& function, const ctlPlexelBaseElement& elem
 enumSpecialKeyFunctions SpecialFunctionOfText(std::string_view text);
 
 /// The one code of a panel function; for any other index only the break length is set, to 0 as always.
-void GetSpecialFunctionCode(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& lngBreak,
-                            std::int32_t& lngBreakLength, std::int32_t lngIndex);
+void GetSpecialFunctionCode(KeyCodes& codes, std::int32_t lngIndex);
 
 }  // namespace plexel

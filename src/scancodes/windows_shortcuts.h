@@ -1,19 +1,22 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 
 namespace plexel {
 
-/// The shortcuts of the operating system that a key can send, by the index of GetWindowsShortCutCodes.
-inline constexpr std::int32_t WindowsShortCutCount = 19;
+/// A shortcut of the operating system that a key can send.
+struct WindowsShortCut {
+  std::int32_t textId;  ///< number of the language text that names it in a list
+  FixedCodes make, breaking;
+};
 
-/// The number of the language text that names a shortcut in a list; Failure (Index) outside 0 to 18.
-std::int32_t WindowsShortCutTextId(std::int32_t index);
+/// The shortcuts in the order of the list, by the index of GetWindowsShortCutCodes.
+std::span<const WindowsShortCut> WindowsShortCuts();
 
 /// Sequences of a Windows shortcut, 0 to 18; any other index changes nothing.
-void GetWindowsShortCutCodes(CodeArray& lngMake, std::int32_t& lngMakeLength, CodeArray& lngBreak,
-                             std::int32_t& lngBreakLength, std::int32_t lngIndex);
+void GetWindowsShortCutCodes(KeyCodes& codes, std::int32_t lngIndex);
 
 }  // namespace plexel

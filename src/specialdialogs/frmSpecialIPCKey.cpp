@@ -25,10 +25,9 @@ static_assert(std::size(listOrder) == NoSpecialFunction);
 void AppendToCell(Grid& grid, std::string_view body) { grid.Text(grid.Text() + DefinitionGroup(body, MakeAndBreak)); }
 
 void StoreFunction(const std::string& text) {
-  CodeArray make{}, breaking{};
-  std::int32_t makeLength = 0, breakLength = 0;
-  GetSpecialFunctionCode(make, makeLength, breaking, breakLength, SpecialFunctionOfText(text));
-  if (StoreScanCodes(make, makeLength, breaking, breakLength, MakeAndBreak, 1, TargetConfigurationDialog) == 0) {
+  KeyCodes codes;
+  GetSpecialFunctionCode(codes, SpecialFunctionOfText(text));
+  if (StoreScanCodes(codes, MakeAndBreak, 1, TargetConfigurationDialog) == 0) {
     AppendToCell(OpenConfigurationDialogAccess().ScanCodeGrid(), text);
   }
 }
@@ -71,8 +70,7 @@ void frmSpecialIPCKey::AddToAllLayers(std::string_view strText) {
   grid.Enabled(true);
 }
 
-std::int32_t frmSpecialIPCKey::StoreInAllLayers(const CodeArray& lngMake, std::int32_t lngMakeLength,
-                                                const CodeArray& lngBreak, std::int32_t lngBreakLength) {
+std::int32_t frmSpecialIPCKey::StoreInAllLayers(const KeyCodes& codes) {
   Grid& grid = OpenConfigurationDialogAccess().ScanCodeGrid();
   grid.Enabled(false);
   const int currentRow = grid.Row();
@@ -80,8 +78,7 @@ std::int32_t frmSpecialIPCKey::StoreInAllLayers(const CodeArray& lngMake, std::i
   bool refused = false;
   for (int row = 1; row <= LayerCount; ++row) {
     grid.Row(row);
-    if (StoreScanCodes(lngMake, lngMakeLength, lngBreak, lngBreakLength, FromDialog, 1, TargetConfigurationDialog) ==
-        0) {
+    if (StoreScanCodes(codes, FromDialog, 1, TargetConfigurationDialog) == 0) {
       ++rowsToUndo;
     } else {
       refused = true;

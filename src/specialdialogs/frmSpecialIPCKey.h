@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "scancodes/key_translation.h"
+#include "scancodes/code_sequence.h"
 #include "scancodes/list_dialog.h"
 
 namespace plexel {
@@ -24,8 +24,7 @@ class frmSpecialIPCKey : public ListDialog {
   void AddToAllLayers(std::string_view strText);
   /// Stores codes in the cells of all layers in the grid's current column: 0, or 1 when a layer refused, and then as
   /// many rows from the first on have lost their last group as had taken the codes, and one more. No guard.
-  std::int32_t StoreInAllLayers(const CodeArray& lngMake, std::int32_t lngMakeLength, const CodeArray& lngBreak,
-                                std::int32_t lngBreakLength);
+  std::int32_t StoreInAllLayers(const KeyCodes& codes);
 
   Label& labTitel = title;
   PictureBox imgSpecialFunction{*this, "imgSpecialFunction"};

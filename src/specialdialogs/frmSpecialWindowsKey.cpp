@@ -19,20 +19,18 @@ namespace {
 
 /// Texts are compared in the order of the list but for its second and third entry; the first equal one wins.
 std::optional<std::int32_t> IndexOfText(const std::string& text) {
-  for (std::int32_t place = 0; place < WindowsShortCutCount; ++place) {
-    std::int32_t index = place;
-    if (place == 1) index = 2;
-    if (place == 2) index = 1;
-    if (GetText(WindowsShortCutTextId(index)) == text) return index;
+  const auto shortCuts = WindowsShortCuts();
+  for (std::size_t place = 0; place < shortCuts.size(); ++place) {
+    const std::size_t index = place == 1 ? 2 : place == 2 ? 1 : place;
+    if (GetText(shortCuts[index].textId) == text) return static_cast<std::int32_t>(index);
   }
   return std::nullopt;
 }
 
 void StoreShortCut(std::int32_t index, const std::string& text) {
-  CodeArray make{}, breaking{};
-  std::int32_t makeLength = 0, breakLength = 0;
-  GetWindowsShortCutCodes(make, makeLength, breaking, breakLength, index);
-  if (StoreScanCodes(make, makeLength, breaking, breakLength, FromDialog, 1, TargetConfigurationDialog) == 0) {
+  KeyCodes codes;
+  GetWindowsShortCutCodes(codes, index);
+  if (StoreScanCodes(codes, FromDialog, 1, TargetConfigurationDialog) == 0) {
     AppendSpecialDefinition(text);
   }
 }
@@ -49,9 +47,7 @@ void frmSpecialWindowsKey::OnLoad() {
 
 void frmSpecialWindowsKey::FillShortCutList() {
   EndQuietly([this] {
-    for (std::int32_t index = 0; index < WindowsShortCutCount; ++index) {
-      list.AddItem(GetText(WindowsShortCutTextId(index)));
-    }
+    for (const WindowsShortCut& shortCut : WindowsShortCuts()) list.AddItem(GetText(shortCut.textId));
   });
 }
 

@@ -122,9 +122,7 @@ void frmButtonWizardPage1::FillIPCFunctionList() {
 
 void frmButtonWizardPage1::FillWindowsShortCutList() {
   EndQuietly([this] {
-    for (std::int32_t index = 0; index < WindowsShortCutCount; ++index) {
-      cmbWindowsShortCuts.AddItem(GetText(WindowsShortCutTextId(index)));
-    }
+    for (const auto& shortCut : WindowsShortCuts()) cmbWindowsShortCuts.AddItem(GetText(shortCut.textId));
     cmbWindowsShortCuts.Text(cmbWindowsShortCuts.List(0));
   });
 }

@@ -23,21 +23,16 @@ namespace {
 /// The index of the chosen text. The last two are compared the other way round from the list, and the first equal text
 /// wins; none for a text that the current language lacks.
 std::optional<std::int32_t> ShortCutOfText(std::string_view text) {
-  constexpr std::int32_t last = WindowsShortCutCount - 1;
+  const auto shortCuts = WindowsShortCuts();
+  const auto last = static_cast<std::int32_t>(shortCuts.size()) - 1;
   for (std::int32_t place = 0; place <= last; ++place) {
     const std::int32_t index = place == last - 1 ? last : place == last ? last - 1 : place;
-    if (GetText(WindowsShortCutTextId(index)) == text) return index;
+    if (GetText(shortCuts[static_cast<std::size_t>(index)].textId) == text) return index;
   }
   return std::nullopt;
 }
 
-/// A pair of sequences on its way into the element.
-struct Sequences {
-  CodeArray make{}, breakCodes{};
-  std::int32_t makeLength = 0, breakLength = 0;
-
-  void Store() const { StoreScanCodes(make, makeLength, breakCodes, breakLength, FromDialog, 1, TargetWizard); }
-};
+void Store(const KeyCodes& codes) { StoreScanCodes(codes, FromDialog, 1, TargetWizard); }
 
 }  // namespace
 
@@ -80,21 +75,17 @@ void frmButtonWizardPage1::StoreChoice() {
 
 void frmButtonWizardPage1::StorePanelFunction() {
   CurrentElement().WizardOptions(IPCFunction);
-  Sequences codes;
+  KeyCodes codes;
   const enumSpecialKeyFunctions function = SpecialFunctionOfText(cmdSpecialIPCFunction.Text());
-  if (function != NoSpecialFunction) {
-    GetSpecialFunctionCode(codes.make, codes.makeLength, codes.breakCodes, codes.breakLength, function);
-  }
-  codes.Store();
+  if (function != NoSpecialFunction) GetSpecialFunctionCode(codes, function);
+  Store(codes);
 }
 
 void frmButtonWizardPage1::StoreShortCut() {
   CurrentElement().WizardOptions(WindowsShortCut);
-  Sequences codes;
-  if (const auto index = ShortCutOfText(cmbWindowsShortCuts.Text())) {
-    GetWindowsShortCutCodes(codes.make, codes.makeLength, codes.breakCodes, codes.breakLength, *index);
-  }
-  codes.Store();
+  KeyCodes codes;
+  if (const auto index = ShortCutOfText(cmbWindowsShortCuts.Text())) GetWindowsShortCutCodes(codes, *index);
+  Store(codes);
 }
 
 }  // namespace plexel

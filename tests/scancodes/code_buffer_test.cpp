@@ -7,7 +7,6 @@
 #include "platform/failure.h"
 #include "scancodes/code_type.h"
 #include "scancodes/element_codes.h"
-#include "scancodes/key_translation.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {
@@ -17,8 +16,14 @@ using Buffer = udtTactisBaseElement_TACTIS_SCANCODE;
 using Info = udtTactisBaseElement_ScanCodeInfo;
 
 void Append(Buffer& buffer, const std::vector<int>& make, const std::vector<int>& breaking, std::int32_t codeType) {
-  AppendCodeGroup(buffer, Sequence(make), static_cast<std::int32_t>(make.size()), Sequence(breaking),
-                  static_cast<std::int32_t>(breaking.size()), codeType, 0);
+  AppendCodeGroup(buffer, {Sequence(make), Sequence(breaking)}, codeType, 0);
+}
+
+/// Codes with a length that is not their number.
+CodeSequence OfLength(std::int32_t length, const std::vector<int>& codes) {
+  CodeSequence sequence = Sequence(codes);
+  sequence.length = length;
+  return sequence;
 }
 
 Buffer With(const std::vector<int>& make, const std::vector<int>& breaking, std::int32_t codeType) {
@@ -65,19 +70,19 @@ TEST(CodeBuffer, ASeparatorIsDroppedFromMakeCodes) {
 
 TEST(CodeBuffer, SeparatedBreakCodesComeInReverseOrderWithTheElementPastTheLength) {
   Buffer buffer = InitialBuffer();
-  AppendCodeGroup(buffer, {}, 0, Sequence({0xB0, 0xFF, 0xB1, 0x77}), 3, BreakOnly, 0);
+  AppendCodeGroup(buffer, {{}, OfLength(3, {0xB0, 0xFF, 0xB1, 0x77})}, BreakOnly, 0);
   EXPECT_EQ(Used(buffer), "FF FF B1 77 B0 FF");
 }
 
 TEST(CodeBuffer, TwoSeparatorsReverseThreeSubSequences) {
   Buffer buffer = InitialBuffer();
-  AppendCodeGroup(buffer, {}, 0, Sequence({0xA0, 0xFF, 0xB0, 0xFF, 0xC0, 0x77}), 5, BreakOnly, 0);
+  AppendCodeGroup(buffer, {{}, OfLength(5, {0xA0, 0xFF, 0xB0, 0xFF, 0xC0, 0x77})}, BreakOnly, 0);
   EXPECT_EQ(Used(buffer), "FF FF C0 77 FF B0 FF A0 FF");
 }
 
 TEST(CodeBuffer, ASeparatorAtTheEndTakesTheElementPastTheLengthAlong) {
   Buffer buffer = InitialBuffer();
-  AppendCodeGroup(buffer, {}, 0, Sequence({0xB0, 0xFF, 0x77}), 2, BreakOnly, 0);
+  AppendCodeGroup(buffer, {{}, OfLength(2, {0xB0, 0xFF, 0x77})}, BreakOnly, 0);
   EXPECT_EQ(Used(buffer), "FF FF 77 B0 FF");
 }
 
@@ -116,33 +121,38 @@ TEST(CodeBuffer, ACodeThatIsNoByteFails) {
 }
 
 TEST(CodeBuffer, LengthsBeyondTheSequenceFail) {
-  CodeArray codes{};
-  codes.fill(0xFF);
   Buffer buffer = InitialBuffer();
-  EXPECT_EQ(KindOf([&] { AppendCodeGroup(buffer, codes, 102, codes, 0, MakeOnly, 0); }), FailureKind::Index);
-  EXPECT_EQ(KindOf([&] { AppendCodeGroup(buffer, codes, 0, codes, 102, BreakOnly, 0); }), FailureKind::Index);
-  EXPECT_EQ(KindOf([&] { AppendCodeGroup(buffer, codes, 0, codes, 101, BreakOnly, 0); }), FailureKind::Index);
+  EXPECT_EQ(KindOf([&] {
+              AppendCodeGroup(buffer, {Filled(0xFF, 102), Filled(0xFF, 0)}, MakeOnly, 0);
+            }),
+            FailureKind::Index);
+  EXPECT_EQ(KindOf([&] {
+              AppendCodeGroup(buffer, {Filled(0xFF, 0), Filled(0xFF, 102)}, BreakOnly, 0);
+            }),
+            FailureKind::Index);
+  EXPECT_EQ(KindOf([&] {
+              AppendCodeGroup(buffer, {Filled(0xFF, 0), Filled(0xFF, 101)}, BreakOnly, 0);
+            }),
+            FailureKind::Index);
 }
 
 TEST(CodeBuffer, MakeCodesMayFillTheWholeSequence) {
-  CodeArray codes{};
-  codes.fill(0xFF);
   Buffer buffer = InitialBuffer();
-  AppendCodeGroup(buffer, codes, 101, codes, 0, MakeOnly, 0);
+  AppendCodeGroup(buffer, {Filled(0xFF, 101), Filled(0xFF, 0)}, MakeOnly, 0);
   EXPECT_EQ(Used(buffer), "FF FF");
 }
 
 TEST(CodeBuffer, ANegativeBreakLengthOverwritesTheLastByteInUse) {
   for (const std::int32_t length : {-1, std::numeric_limits<std::int32_t>::min()}) {
     Buffer buffer = InitialBuffer();
-    AppendCodeGroup(buffer, Sequence({0x1C, 0x32}), 2, Sequence({0xF0}), length, MakeAndBreak, 0);
+    AppendCodeGroup(buffer, {Sequence({0x1C, 0x32}), OfLength(length, {0xF0})}, MakeAndBreak, 0);
     EXPECT_EQ(Used(buffer), "FF 1C FF");
   }
 }
 
 TEST(CodeBuffer, ANegativeMakeLengthAppendsTheMarkAlone) {
   Buffer buffer = InitialBuffer();
-  AppendCodeGroup(buffer, Sequence({0x1C}), std::numeric_limits<std::int32_t>::min(), {}, 0, MakeOnly, 0);
+  AppendCodeGroup(buffer, {OfLength(std::numeric_limits<std::int32_t>::min(), {0x1C}), {}}, MakeOnly, 0);
   EXPECT_EQ(Used(buffer), "FF FF");
 }
 

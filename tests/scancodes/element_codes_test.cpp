@@ -6,7 +6,6 @@
 
 #include "platform/failure.h"
 #include "scancodes/code_type.h"
-#include "scancodes/key_translation.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {
@@ -16,13 +15,11 @@ using Info = udtTactisBaseElement_ScanCodeInfo;
 
 /// Stores the key A.
 std::int32_t StoreA(std::int32_t codeType, std::int32_t target) {
-  return StoreScanCodes(Sequence({0x1C}), 1, Sequence({0xF0, 0x1C}), 2, codeType, 0, target);
+  return StoreScanCodes({Sequence({0x1C}), Sequence({0xF0, 0x1C})}, codeType, 0, target);
 }
 
 std::int32_t StoreMany(std::int32_t makeLength, std::int32_t codeType) {
-  CodeArray make{};
-  make.fill(0x32);
-  return StoreScanCodes(make, makeLength, {}, 0, codeType, 0, 0);
+  return StoreScanCodes({Filled(0x32, makeLength), {}}, codeType, 0, 0);
 }
 
 TEST(StoringCodes, TheCurrentCellOfTheGridSelectsTheBuffer) {
@@ -87,10 +84,8 @@ TEST(StoringCodes, AGroupThatReachesTheLimitIsRefusedAndChangesNothing) {
 TEST(StoringCodes, BothLengthsCountAgainstTheLimitWhateverTheCodeType) {
   ScanCodeSession session;
   session.InConfigurationDialog([&](StandInConfigurationDialog&) {
-    CodeArray codes{};
-    codes.fill(0x32);
-    EXPECT_EQ(StoreScanCodes(codes, 20, codes, 25, MakeOnly, 0, 0), 1);
-    EXPECT_EQ(StoreScanCodes(codes, 20, codes, 24, MakeOnly, 0, 0), 0);
+    EXPECT_EQ(StoreScanCodes({Filled(0x32, 20), Filled(0x32, 25)}, MakeOnly, 0, 0), 1);
+    EXPECT_EQ(StoreScanCodes({Filled(0x32, 20), Filled(0x32, 24)}, MakeOnly, 0, 0), 0);
   });
 }
 
@@ -98,7 +93,7 @@ TEST(StoringCodes, LengthsWithoutASumFail) {
   ScanCodeSession session;
   session.InConfigurationDialog([&](StandInConfigurationDialog&) {
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    EXPECT_THROW(StoreScanCodes({}, most, {}, most, MakeOnly, 0, 0), Failure);
+    EXPECT_THROW(StoreScanCodes({Filled(0, most), Filled(0, most)}, MakeOnly, 0, 0), Failure);
   });
 }
 
@@ -161,9 +156,7 @@ TEST(StoringCodes, TheWizardKeepsTextsAndKnowsNoLimit) {
   session.element->PressKeyDefLayer3("kept");
   session.InWizard([&](StandInWizardPage& page) {
     page.optKeyType[0].Value(true);
-    CodeArray codes{};
-    codes.fill(0x32);
-    EXPECT_EQ(StoreScanCodes(codes, 44, codes, 43, 0, 0, 2), 0);
+    EXPECT_EQ(StoreScanCodes({Filled(0x32, 44), Filled(0x32, 43)}, 0, 0, 2), 0);
   });
   EXPECT_EQ(session.Record().strLayer1PressScanCode.NextValue, 88);
   EXPECT_EQ(session.element->PressKeyDefLayer3(), "kept");
@@ -174,9 +167,7 @@ TEST(StoringCodes, ABufferThatOverflowsLeavesTheElementAsItWas) {
   const Info before = session.Record();
   session.InWizard([&](StandInWizardPage& page) {
     page.optKeyType[0].Value(true);
-    CodeArray codes{};
-    codes.fill(0x32);
-    EXPECT_THROW(StoreScanCodes(codes, 44, codes, 44, 0, 0, 2), Failure);
+    EXPECT_THROW(StoreScanCodes({Filled(0x32, 44), Filled(0x32, 44)}, 0, 0, 2), Failure);
   });
   EXPECT_EQ(session.Record(), before);
 }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/failure.h"
-#include "scancodes/key_translation.h"
+#include <numeric>
+
 #include "scancodes/keypad_codes.h"
 #include "scancodes/scancode_session.h"
 #include "scancodes/special_functions.h"
@@ -11,11 +11,10 @@ namespace plexel {
 namespace {
 
 std::string ShortCut(std::int32_t index) {
-  CodeArray make{}, breaking{};
-  std::int32_t makeLength = -1, breakLength = -1;
-  GetWindowsShortCutCodes(make, makeLength, breaking, breakLength, index);
-  if (makeLength < 0 || breakLength < 0) return "untouched";
-  return Counted(make, makeLength) + " / " + Counted(breaking, breakLength);
+  KeyCodes codes{Filled(5, -1), Filled(6, -1)};
+  GetWindowsShortCutCodes(codes, index);
+  if (codes.make.length < 0 || codes.breaking.length < 0) return "untouched";
+  return Counted(codes.make) + " / " + Counted(codes.breaking);
 }
 
 TEST(FixedSequences, ShortCutsStandInTheTable) {
@@ -40,7 +39,7 @@ TEST(FixedSequences, ShortCutsStandInTheTable) {
                                   "11 0C / F0 0C F0 11"};
   std::int32_t index = 0;
   for (const char* const codes : expected) EXPECT_EQ(ShortCut(index++), codes);
-  EXPECT_EQ(index, WindowsShortCutCount);
+  EXPECT_EQ(index, std::ssize(WindowsShortCuts()));
 }
 
 TEST(FixedSequences, AShortCutOutsideTheTableChangesNothing) {
@@ -49,46 +48,40 @@ TEST(FixedSequences, AShortCutOutsideTheTableChangesNothing) {
 }
 
 TEST(FixedSequences, AShortCutLeavesTheElementsBehindItsLengths) {
-  CodeArray make{}, breaking{};
-  make.fill(5);
-  breaking.fill(6);
-  std::int32_t makeLength = 0, breakLength = 0;
-  GetWindowsShortCutCodes(make, makeLength, breaking, breakLength, 5);
-  EXPECT_EQ(make[1], 5);
-  EXPECT_EQ(breaking[2], 6);
+  KeyCodes codes{Filled(5, 0), Filled(6, 0)};
+  GetWindowsShortCutCodes(codes, 5);
+  EXPECT_EQ(codes.make.codes[1], 5);
+  EXPECT_EQ(codes.breaking.codes[2], 6);
 }
 
 TEST(FixedSequences, TextsOfShortCutsRunOnFrom2610ButForTheLastTwo) {
-  for (std::int32_t index = 0; index < 17; ++index) EXPECT_EQ(WindowsShortCutTextId(index), 2610 + index);
-  EXPECT_EQ(WindowsShortCutTextId(17), 10928);
-  EXPECT_EQ(WindowsShortCutTextId(18), 10929);
-  EXPECT_THROW(WindowsShortCutTextId(19), Failure);
-  EXPECT_THROW(WindowsShortCutTextId(-1), Failure);
+  std::vector<std::int32_t> texts;
+  for (const WindowsShortCut& shortCut : WindowsShortCuts()) texts.push_back(shortCut.textId);
+  std::vector<std::int32_t> expected(17);
+  std::iota(expected.begin(), expected.end(), 2610);
+  expected.insert(expected.end(), {10928, 10929});
+  EXPECT_EQ(texts, expected);
 }
 
 TEST(FixedSequences, EachPanelFunctionIsOneCode) {
   constexpr int expected[] = {0xFE, 0xF9, 0xFB, 0xF4, 0xF6, 0xF1, 0xF2, 0xF3, 0xF5};
   for (std::int32_t index = 0; index < NoSpecialFunction; ++index) {
-    CodeArray make{}, breaking{};
-    breaking.fill(6);
-    std::int32_t makeLength = 9, breakLength = 9;
-    GetSpecialFunctionCode(make, makeLength, breaking, breakLength, index);
-    EXPECT_EQ(make[0], expected[index]);
-    EXPECT_EQ(makeLength, 1);
-    EXPECT_EQ(breakLength, 0);
-    EXPECT_EQ(breaking[0], 6);
+    KeyCodes codes{Filled(5, 9), Filled(6, 9)};
+    GetSpecialFunctionCode(codes, index);
+    EXPECT_EQ(codes.make.codes[0], expected[index]);
+    EXPECT_EQ(codes.make.length, 1);
+    EXPECT_EQ(codes.breaking.length, 0);
+    EXPECT_EQ(codes.breaking.codes[0], 6);
   }
 }
 
 TEST(FixedSequences, NoSpecialFunctionSetsTheBreakLengthAndNothingElse) {
   for (const std::int32_t index : {9, -1, 1000}) {
-    CodeArray make{}, breaking{};
-    make.fill(5);
-    std::int32_t makeLength = 9, breakLength = 9;
-    GetSpecialFunctionCode(make, makeLength, breaking, breakLength, index);
-    EXPECT_EQ(make[0], 5);
-    EXPECT_EQ(makeLength, 9);
-    EXPECT_EQ(breakLength, 0);
+    KeyCodes codes{Filled(5, 9), Filled(6, 9)};
+    GetSpecialFunctionCode(codes, index);
+    EXPECT_EQ(codes.make.codes[0], 5);
+    EXPECT_EQ(codes.make.length, 9);
+    EXPECT_EQ(codes.breaking.length, 0);
   }
 }
 

@@ -16,22 +16,19 @@ constexpr std::int32_t untouchedCode = -7, untouchedLength = 77;
 /// What one translation wrote, with arrays and lengths that told nothing before it.
 struct Translation {
   Translation(std::int32_t scanCode, std::int32_t virtualKey, std::int32_t extended) {
-    make.fill(untouchedCode);
-    breaking.fill(untouchedCode);
-    TranslateScanCode(scanCode, virtualKey, extended, make, makeLength, breaking, breakLength);
+    TranslateScanCode(scanCode, virtualKey, extended, codes);
   }
-  std::string Make() const { return Written(make) + " (" + std::to_string(makeLength) + ")"; }
-  std::string Break() const { return Written(breaking) + " (" + std::to_string(breakLength) + ")"; }
+  std::string Make() const { return Written(codes.make); }
+  std::string Break() const { return Written(codes.breaking); }
   std::string Both() const { return Make() + " / " + Break(); }
 
-  CodeArray make, breaking;
-  std::int32_t makeLength = untouchedLength, breakLength = untouchedLength;
+  KeyCodes codes{Filled(untouchedCode, untouchedLength), Filled(untouchedCode, untouchedLength)};
 
  private:
-  static std::string Written(const CodeArray& codes) {
+  static std::string Written(const CodeSequence& sequence) {
     std::int32_t count = 0;
-    while (codes[static_cast<std::size_t>(count)] != untouchedCode) ++count;
-    return Counted(codes, count);
+    while (sequence.codes[static_cast<std::size_t>(count)] != untouchedCode) ++count;
+    return First(count, sequence) + " (" + std::to_string(sequence.length) + ")";
   }
 };
 
@@ -212,11 +209,10 @@ TEST(KeyTranslation, CtrlAndAltPlayNoPartInTheCursorBlock) {
 TEST(KeyTranslation, CursorLeftWithNumLockKeepsAMakeLengthOfZero) {
   ScanCodeSession session;
   session.platform.Keys().Hold(NumLock);
-  CodeArray make{}, breaking{};
-  std::int32_t makeLength = 0, breakLength = 0;
-  TranslateScanCode(0x4B, 0x25, 1, make, makeLength, breaking, breakLength);
-  EXPECT_EQ(makeLength, 0);
-  EXPECT_EQ(Counted(make, 5), "E0 12 E0 6B 00");
+  KeyCodes codes;
+  TranslateScanCode(0x4B, 0x25, 1, codes);
+  EXPECT_EQ(codes.make.length, 0);
+  EXPECT_EQ(First(5, codes.make), "E0 12 E0 6B 00");
 }
 
 TEST(KeyTranslation, DivideOfThePadTakesShiftIntoAccount) {

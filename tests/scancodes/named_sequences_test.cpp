@@ -90,11 +90,11 @@ TEST(NamedSequences, CodesEndAtTheFirstEmptyItem) {
   NamedSession session;
   session.file.SetEntry(1, "a", "E0:&H1f::22", "");
   const NamedSequences sequences;
-  CodeArray codes{};
-  EXPECT_EQ(sequences.ReadCodes(1, NamedSequences::MakeKey, codes), 2);
-  EXPECT_EQ(Counted(codes, 3), "E0 1F 00");
-  EXPECT_EQ(sequences.ReadCodes(1, NamedSequences::BreakKey, codes), 0);
-  EXPECT_EQ(sequences.ReadCodes(2, NamedSequences::MakeKey, codes), 0);
+  const KeyCodes codes = sequences.ReadCodes(1);
+  EXPECT_EQ(codes.make.length, 2);
+  EXPECT_EQ(First(3, codes.make), "E0 1F 00");
+  EXPECT_EQ(codes.breaking.length, 0);
+  EXPECT_EQ(sequences.ReadCodes(2).make.length, 0);
 }
 
 TEST(NamedSequences, AtMost101CodesAreTaken) {
@@ -102,20 +102,22 @@ TEST(NamedSequences, AtMost101CodesAreTaken) {
   std::string items = "1";
   for (int item = 2; item <= 150; ++item) items += ":1";
   session.file.SetEntry(1, "a", items, "");
-  CodeArray codes{};
-  EXPECT_EQ(NamedSequences().ReadCodes(1, NamedSequences::MakeKey, codes), 101);
-  EXPECT_EQ(codes.back(), 1);
-  EXPECT_EQ(session.file.itemsAsked, 101);
+  const CodeSequence make = NamedSequences().ReadCodes(1).make;
+  EXPECT_EQ(make.length, 101);
+  EXPECT_EQ(make.codes.back(), 1);
+  EXPECT_EQ(session.file.itemsAsked, 101 + 1) << "and the empty one of the break codes";
 }
 
 TEST(NamedSequences, ACodeBeyond32BitsFails) {
   NamedSession session;
-  session.file.SetEntry(1, "a", "7FFFFFFF", "80000000");
+  session.file.SetEntry(1, "a", "7FFFFFFF", "7FFFFFFF");
+  session.file.SetEntry(2, "b", "80000000", "");
+  session.file.SetEntry(3, "c", "", "80000000");
   const NamedSequences sequences;
-  CodeArray codes{};
-  EXPECT_EQ(sequences.ReadCodes(1, NamedSequences::MakeKey, codes), 1);
-  EXPECT_EQ(codes[0], 0x7FFFFFFF);
-  EXPECT_THROW(sequences.ReadCodes(1, NamedSequences::BreakKey, codes), Failure);
+  EXPECT_EQ(sequences.ReadCodes(1).make.codes[0], 0x7FFFFFFF);
+  EXPECT_EQ(sequences.ReadCodes(1).breaking.codes[0], 0x7FFFFFFF);
+  EXPECT_THROW(sequences.ReadCodes(2), Failure);
+  EXPECT_THROW(sequences.ReadCodes(3), Failure);
 }
 
 }  // namespace

@@ -101,15 +101,26 @@ inline std::string Used(const udtTactisBaseElement_TACTIS_SCANCODE& buffer) {
   return Hex({buffer.Value.begin(), buffer.Value.begin() + buffer.NextValue + 1});
 }
 
-/// The first elements of a sequence.
-inline std::string Counted(const CodeArray& codes, std::int32_t length) {
-  return Hex({codes.begin(), codes.begin() + length});
+/// The first codes of a sequence, whatever its length.
+inline std::string First(std::int32_t count, const CodeSequence& sequence) {
+  return Hex({sequence.codes.begin(), sequence.codes.begin() + count});
 }
 
-inline CodeArray Sequence(const std::vector<int>& codes) {
-  CodeArray array{};
-  std::copy(codes.begin(), codes.end(), array.begin());
-  return array;
+/// The codes that count.
+inline std::string Counted(const CodeSequence& sequence) { return First(sequence.length, sequence); }
+
+inline CodeSequence Sequence(const std::vector<int>& codes) {
+  CodeSequence sequence;
+  for (const int code : codes) sequence.Append(code);
+  return sequence;
+}
+
+/// A sequence that tells nothing by its codes, all the same.
+inline CodeSequence Filled(std::int32_t code, std::int32_t length) {
+  CodeSequence sequence;
+  sequence.codes.fill(code);
+  sequence.length = length;
+  return sequence;
 }
 
 /// A buffer in the state of a new element.

@@ -217,7 +217,7 @@ TEST(SpecialIPCKey, StoringInAllLayersStoresTheGroupFourTimes) {
   session.InConfigurationDialog([&](StandInConfigurationDialog& dialog) {
     frmSpecialIPCKey special;
     dialog.msgScanCodes.Current(2, 1);
-    EXPECT_EQ(special.StoreInAllLayers(Sequence({0xF1}), 1, {}, 0), 0);
+    EXPECT_EQ(special.StoreInAllLayers({Sequence({0xF1}), {}}), 0);
     EXPECT_EQ(dialog.msgScanCodes.Row(), 2);
     EXPECT_TRUE(dialog.msgScanCodes.Enabled());
   });
@@ -232,12 +232,12 @@ TEST(SpecialIPCKey, ARefusalTakesTheLastGroupFromOneRowMoreThanSucceeded) {
     Module().lngMaxScanCodes = 3;
     const auto store = [&](int row, const std::vector<int>& codes) {
       dialog.msgScanCodes.Current(row, 1);
-      EXPECT_EQ(StoreScanCodes(Sequence(codes), static_cast<std::int32_t>(codes.size()), {}, 0, MakeOnly, 0, 0), 0);
+      EXPECT_EQ(StoreScanCodes({Sequence(codes), {}}, MakeOnly, 0, 0), 0);
     };
     store(1, {0x21, 0x21, 0x21, 0x21});
     for (int row = 2; row <= 4; ++row) store(row, {0x22});
     frmSpecialIPCKey special;
-    EXPECT_EQ(special.StoreInAllLayers(Sequence({0xF1}), 1, {}, 0), 1);
+    EXPECT_EQ(special.StoreInAllLayers({Sequence({0xF1}), {}}), 1);
   });
   // Three rows succeeded, so four lose their last group: the first its old one.
   auto info = session.Record();
@@ -248,12 +248,12 @@ TEST(SpecialIPCKey, ARefusalTakesTheLastGroupFromOneRowMoreThanSucceeded) {
 TEST(SpecialIPCKey, ARefusalOfAllRowsTakesAGroupFromTheFirst) {
   Session session;
   session.InConfigurationDialog([&](StandInConfigurationDialog& dialog) {
-    EXPECT_EQ(StoreScanCodes(Sequence({0x21}), 1, {}, 0, MakeOnly, 0, 0), 0);
+    EXPECT_EQ(StoreScanCodes({Sequence({0x21}), {}}, MakeOnly, 0, 0), 0);
     dialog.msgScanCodes.Current(2, 1);
-    EXPECT_EQ(StoreScanCodes(Sequence({0x22}), 1, {}, 0, MakeOnly, 0, 0), 0);
+    EXPECT_EQ(StoreScanCodes({Sequence({0x22}), {}}, MakeOnly, 0, 0), 0);
     Module().lngMaxScanCodes = -1;
     frmSpecialIPCKey special;
-    EXPECT_EQ(special.StoreInAllLayers(Sequence({0xF1}), 1, {}, 0), 1);
+    EXPECT_EQ(special.StoreInAllLayers({Sequence({0xF1}), {}}), 1);
     EXPECT_EQ(dialog.msgScanCodes.Row(), 2);
   });
   auto info = session.Record();

@@ -1,7 +1,6 @@
 #include "headless/key_road.h"
 #include "scancodes/code_buffer.h"
 #include "scancodes/code_type.h"
-#include "scancodes/key_translation.h"
 #include "scancodes/windows_shortcuts.h"
 #include "wizard/wizard_session.h"
 
@@ -94,12 +93,11 @@ TEST(WizardForward, TheFirstEqualPanelFunctionInTheComparingOrderWins) {
 TEST(WizardForward, EachShortcutSendsTheCodesOfItsIndex) {
   for (std::int32_t index = 0; index < 19; ++index) {
     const std::int32_t text = index < 17 ? 2610 + index : 10928 + index - 17;
-    CodeArray make{}, breakCodes{};
-    std::int32_t makeLength = 0, breakLength = 0;
-    GetWindowsShortCutCodes(make, makeLength, breakCodes, breakLength, index);
+    KeyCodes codes;
+    GetWindowsShortCutCodes(codes, index);
     udtTactisBaseElement_TACTIS_SCANCODE press, release;
-    AppendCodeGroup(press, make, makeLength, breakCodes, breakLength, MakeOnly, 0);
-    AppendCodeGroup(release, make, makeLength, breakCodes, breakLength, BreakOnly, 0);
+    AppendCodeGroup(press, codes, MakeOnly, 0);
+    AppendCodeGroup(release, codes, BreakOnly, 0);
 
     WizardSession session(Oval);
     session.Click("optKeyType(3)").Select("cmbWindowsShortCuts", Text(text));
