@@ -12,6 +12,7 @@
 #include "files/language_file.h"
 #include "files/text_lines.h"
 #include "forms/form_directory.h"
+#include "services/module_state.h"
 
 namespace plexel {
 

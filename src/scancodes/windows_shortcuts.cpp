@@ -7,7 +7,7 @@ namespace plexel {
 
 namespace {
 
-constexpr WindowsShortCut shortCuts[] = {
+constexpr ShortCut shortCuts[] = {
     {2610, {0x14, 0x11, 0xE0, 0x71}, {0xE0, 0xF0, 0x71, 0xF0, 0x11, 0xF0, 0x14}},  // Ctrl, Alt, Delete
     {2611, {0x11, 0x0D}, {0xF0, 0x0D, 0xF0, 0x11}},                                // Alt, Tab
     {2612, {0x11, 0x76}, {0xF0, 0x76, 0xF0, 0x11}},                                // Alt, Esc
@@ -31,11 +31,11 @@ constexpr WindowsShortCut shortCuts[] = {
 
 }  // namespace
 
-std::span<const WindowsShortCut> WindowsShortCuts() { return shortCuts; }
+std::span<const ShortCut> WindowsShortCuts() { return shortCuts; }
 
 void GetWindowsShortCutCodes(KeyCodes& codes, std::int32_t lngIndex) {
   if (lngIndex < 0 || static_cast<std::size_t>(lngIndex) >= std::size(shortCuts)) return;
-  const WindowsShortCut& shortCut = shortCuts[lngIndex];
+  const ShortCut& shortCut = shortCuts[lngIndex];
   shortCut.make.WriteTo(codes.make);
   shortCut.breaking.WriteTo(codes.breaking);
 }

@@ -47,7 +47,7 @@ void frmSpecialWindowsKey::OnLoad() {
 
 void frmSpecialWindowsKey::FillShortCutList() {
   EndQuietly([this] {
-    for (const WindowsShortCut& shortCut : WindowsShortCuts()) list.AddItem(GetText(shortCut.textId));
+    for (const ShortCut& shortCut : WindowsShortCuts()) list.AddItem(GetText(shortCut.textId));
   });
 }
 

@@ -56,7 +56,7 @@ TEST(FixedSequences, AShortCutLeavesTheElementsBehindItsLengths) {
 
 TEST(FixedSequences, TextsOfShortCutsRunOnFrom2610ButForTheLastTwo) {
   std::vector<std::int32_t> texts;
-  for (const WindowsShortCut& shortCut : WindowsShortCuts()) texts.push_back(shortCut.textId);
+  for (const auto& shortCut : WindowsShortCuts()) texts.push_back(shortCut.textId);
   std::vector<std::int32_t> expected(17);
   std::iota(expected.begin(), expected.end(), 2610);
   expected.insert(expected.end(), {10928, 10929});
