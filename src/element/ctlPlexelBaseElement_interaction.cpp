@@ -1,4 +1,5 @@
 #include "element/ctlPlexelBaseElement.h"
+
 #include "element/defined_marker.h"
 #include "services/conversion.h"
 #include "services/failure_styles.h"

@@ -1,4 +1,5 @@
 #include "element/ctlPlexelBaseElement.h"
+
 #include "platform/platform.h"
 #include "services/conversion.h"
 

@@ -1,4 +1,5 @@
 #include "element/ctlPlexelBaseElement.h"
+
 #include "element/defined_marker.h"
 #include "element/property_rows.h"
 #include "platform/failure.h"
