@@ -58,7 +58,7 @@ void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, b
   const auto element = ctlPlexelBaseElement::Create("F1", desktop.host);
   element->ElementType(type);
   element->TargetSystem("Standard");
-  element->WizardOn(ToBoolean(wizard));
+  element->WizardOn(wizard);
   std::int64_t pixels = 0;
   // A page handles waiting events while it loads, ahead of being shown.
   std::function<void()> drawAndClose = [&] {

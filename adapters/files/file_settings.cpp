@@ -91,7 +91,7 @@ void FileSettings::GetLanguageName(std::string& text) { text = language_; }
 
 void FileSettings::GetOption(std::int32_t number, Boolean& value) {
   const SettingRow* row = RowOf(true, number);
-  value = ToBoolean(row != nullptr && Value(*row) != 0);
+  value = row != nullptr && Value(*row) != 0;
 }
 
 void FileSettings::GetParameter(std::int32_t number, std::string& text) {

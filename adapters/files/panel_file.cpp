@@ -97,7 +97,7 @@ constexpr std::array<PanelKey, 6> panelKeys = {
      {"DeviceType",
       [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.deviceType = values.Integer(line); }},
      {"VantaEnabled", [](Panel& panel, const PanelValues& values, const IniLine& line) {
-        panel.vantaEnabled = ToBoolean(values.Switch(line));
+        panel.vantaEnabled = values.Switch(line);
       }}}};
 
 template <typename Target, std::size_t count>

@@ -187,7 +187,7 @@ void ProjectReader::ReadValue(ProjectElement& element) {
   } else if (type == Int16) {
     Store(element, Number<std::int16_t>(text));
   } else if (type == BooleanType) {
-    Store(element, BagBoolean{Number<Boolean>(text)});
+    Store(element, Boolean::Raw(Number<std::int16_t>(text)));
   } else if (type == UInt8) {
     Store(element, Number<std::uint8_t>(text));
   } else if (type == Double) {

@@ -95,7 +95,7 @@ void ProjectWriter::AppendTyped(std::string_view type, Number number) {
 void ProjectWriter::AppendValue(std::int16_t value) { AppendTyped(Int16, value); }
 void ProjectWriter::AppendValue(std::int32_t value) { AppendTyped(Int32, value); }
 void ProjectWriter::AppendValue(std::uint8_t value) { AppendTyped(UInt8, static_cast<unsigned>(value)); }
-void ProjectWriter::AppendValue(BagBoolean value) { AppendTyped(BooleanType, value.value); }
+void ProjectWriter::AppendValue(Boolean value) { AppendTyped(BooleanType, value.Value()); }
 void ProjectWriter::AppendValue(double value) { AppendTyped(Double, value); }
 void ProjectWriter::AppendValue(const std::string& value) {
   Append(Text);

@@ -29,7 +29,7 @@ class ProjectWriter {
   void AppendValue(std::int16_t value);
   void AppendValue(std::int32_t value);
   void AppendValue(std::uint8_t value);
-  void AppendValue(BagBoolean value);
+  void AppendValue(Boolean value);
   void AppendValue(double value);
   void AppendValue(const std::string& value);
   void AppendCodes(const udtTactisBaseElement_TACTIS_SCANCODE& codes);

@@ -20,7 +20,7 @@ Boolean EventHost::CheckIfLedIsAlreadyDefined(std::int32_t& LEDType, std::int32_
 
 void EventHost::DirectInputStatusChanged(ctlPlexelBaseElement& element, Boolean& bDirectInputStatus) {
   Handle(Fault::HandlerDirectInputStatusChanged,
-         {element.Name(), "DirectInputStatusChanged", {std::int32_t{bDirectInputStatus}}});
+         {element.Name(), "DirectInputStatusChanged", {std::int32_t{bDirectInputStatus.Value()}}});
 }
 
 void EventHost::SendKeyDefinition(ctlPlexelBaseElement& element, KeyDefinition& definition) {

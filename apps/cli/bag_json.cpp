@@ -22,7 +22,7 @@ ScriptBag::ScriptBag(const Json& values) {
     if (value.is_number()) {
       bag_.Store(key, NumberOf(value));
     } else if (value.is_boolean()) {
-      bag_.Store(key, BagBoolean{ToBoolean(value.get<bool>())});
+      bag_.Store(key, Boolean(value.get<bool>()));
     } else if (value.is_string()) {
       bag_.Store(key, value.get<std::string>());
     } else {

@@ -25,6 +25,8 @@ Type Take(Arguments& arguments) {
     return arguments.Text();
   } else if constexpr (std::is_floating_point_v<Type>) {
     return arguments.Single();
+  } else if constexpr (std::is_same_v<Type, Boolean>) {
+    return Boolean::Raw(arguments.Int16());
   } else if constexpr (sizeof(Type) == sizeof(std::int16_t)) {
     return static_cast<Type>(arguments.Int16());
   } else {
@@ -34,7 +36,7 @@ Type Take(Arguments& arguments) {
 
 template <typename Result>
 Json ResultToJson(const Result& result) {
-  if constexpr (std::is_same_v<Result, bool>) {
+  if constexpr (std::is_same_v<Result, bool> || std::is_same_v<Result, Boolean>) {
     return BooleanToJson(result);
   } else if constexpr (std::is_floating_point_v<Result>) {
     return NumberToJson(result);

@@ -26,7 +26,7 @@ Fault FaultNamed(const std::string& name) {
 
 void SetOption(Workbench& bench, Arguments& arguments, Json&) {
   const std::int32_t number = arguments.Int32();
-  bench.surroundings.Settings().Option(number, arguments.Int16());
+  bench.surroundings.Settings().Option(number, Boolean::Raw(arguments.Int16()));
 }
 
 void SetParameter(Workbench& bench, Arguments& arguments, Json&) {
@@ -65,7 +65,7 @@ void SetLed(Workbench& bench, Arguments& arguments, Json&) {
   }
   const std::int32_t type = arguments.Int32();
   const std::int32_t layer = arguments.Int32();
-  bench.host.LedDefined(type, layer, arguments.Int16());
+  bench.host.LedDefined(type, layer, Boolean::Raw(arguments.Int16()));
 }
 
 void SetScreen(Workbench& bench, Arguments& arguments, Json&) {

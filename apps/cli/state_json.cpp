@@ -24,7 +24,7 @@ Json PressedKeysToJson(const ModuleState& state) {
 
 Json ToJson(const ModuleState& state) {
   Json clipboard;
-  clipboard["Valid"] = state.udtScanCodeClipboard.Valid;
+  clipboard["Valid"] = BooleanToJson(state.udtScanCodeClipboard.Valid);
   clipboard["scanCode"] = ToJson(state.udtScanCodeClipboard.scanCode);
   clipboard["VisibleString"] = state.udtScanCodeClipboard.VisibleString;
 
@@ -33,10 +33,10 @@ Json ToJson(const ModuleState& state) {
   json["lngMaxScanCodes"] = state.lngMaxScanCodes;
   json["lngDialogLeft"] = state.lngDialogLeft;
   json["lngDialogTop"] = state.lngDialogTop;
-  json["bDirectInputActive"] = state.bDirectInputActive;
+  json["bDirectInputActive"] = BooleanToJson(state.bDirectInputActive);
   json["intAsciiResult"] = state.intAsciiResult;
   json["lngOsFamily"] = state.lngOsFamily;
-  json["bWizardPageChanging"] = state.bWizardPageChanging;
+  json["bWizardPageChanging"] = BooleanToJson(state.bWizardPageChanging);
   json["udtSavedScanCodeInfo"] = ToJson(state.udtSavedScanCodeInfo);
   json["udtScanCodeClipboard"] = std::move(clipboard);
   json["lngInputTarget"] = state.lngInputTarget;
@@ -45,10 +45,10 @@ Json ToJson(const ModuleState& state) {
   json["lngPressedKeys"] = PressedKeysToJson(state);
   json["lngPressedKeyCount"] = state.lngPressedKeyCount;
   json["udtLowLevelKey"] = ToJson(state.udtLowLevelKey);
-  json["bShiftDown"] = state.bShiftDown;
-  json["bNumLockDown"] = state.bNumLockDown;
-  json["bAltDown"] = state.bAltDown;
-  json["bCtrlDown"] = state.bCtrlDown;
+  json["bShiftDown"] = BooleanToJson(state.bShiftDown);
+  json["bNumLockDown"] = BooleanToJson(state.bNumLockDown);
+  json["bAltDown"] = BooleanToJson(state.bAltDown);
+  json["bCtrlDown"] = BooleanToJson(state.bCtrlDown);
   json["HelpFile"] = state.HelpFile;
   return json;
 }

@@ -83,7 +83,7 @@ Json ToJson(const SurfaceLine& line) {
 
 Json ToJson(const BagValue& value) {
   return std::visit(
-      Match{[](const BagBoolean& held) { return Json(held.value); }, [](double held) { return NumberToJson(held); },
+      Match{[](Boolean held) { return BooleanToJson(held); }, [](double held) { return NumberToJson(held); },
             [](const std::string& held) { return Json(held); }, [](auto held) { return Json(std::int32_t{held}); }},
       value);
 }

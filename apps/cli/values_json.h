@@ -21,7 +21,7 @@ static_assert(std::is_same_v<HostEvent::Value, PropertyData>);
 /// How the values of the system stand in answers. Booleans are its own 16-bit values; whole numbers have no fraction.
 
 Json NumberToJson(double value);
-inline Json BooleanToJson(bool value) { return Json(std::int32_t{ToBoolean(value)}); }
+inline Json BooleanToJson(Boolean value) { return Json(value.Value()); }
 /// Two-digit upper-case hexadecimal numbers with blanks between them.
 std::string BytesToText(const std::uint8_t* bytes, std::size_t count);
 

@@ -22,11 +22,11 @@ void EditorHost::PropertyChanged(ctlPlexelBaseElement& element, const Notice&) {
 }
 
 Boolean EditorHost::CheckIfLedIsAlreadyDefined(std::int32_t& LEDType, std::int32_t& Layer) {
-  return ToBoolean(ledIsDefined && ledIsDefined(LEDType, Layer));
+  return ledIsDefined && ledIsDefined(LEDType, Layer);
 }
 
 void EditorHost::DirectInputStatusChanged(ctlPlexelBaseElement& element, Boolean& bDirectInputStatus) {
-  Tell(element, "DirectInputStatusChanged", QString::number(bDirectInputStatus));
+  Tell(element, "DirectInputStatusChanged", QString::number(bDirectInputStatus.Value()));
 }
 
 void EditorHost::SendKeyDefinition(ctlPlexelBaseElement& element, KeyDefinition& definition) {

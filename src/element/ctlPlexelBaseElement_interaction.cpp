@@ -71,7 +71,7 @@ void ctlPlexelBaseElement::ShowDefinedObject(Boolean bVisible) {
 Boolean ctlPlexelBaseElement::CheckIfLedIsAlreadyDefined(enumLedType LEDType, std::int32_t Layer) {
   if (host_ == nullptr) throw Failure(FailureKind::ObjectNotSet, "the element has no container");
   std::int32_t type = LEDType;
-  return ToBoolean(host_->CheckIfLedIsAlreadyDefined(type, Layer) != False);
+  return host_->CheckIfLedIsAlreadyDefined(type, Layer) != False;
 }
 
 bool ctlPlexelBaseElement::IsDefinitionEmpty() const {

@@ -39,7 +39,7 @@ constexpr auto writeRows = RowsBy<writeCount, &Storage::writeOrder>();
 /// equals a default of 1.
 bool EqualsDefault(const BagValue& value, std::int32_t writeDefault) {
   if (const auto* text = std::get_if<std::string>(&value)) return text->empty();
-  if (const auto* boolean = std::get_if<BagBoolean>(&value)) return ToBoolean(boolean->value != False) == writeDefault;
+  if (const auto* boolean = std::get_if<Boolean>(&value)) return Boolean(*boolean != False).Value() == writeDefault;
   return BagToInt32(value) == writeDefault;
 }
 

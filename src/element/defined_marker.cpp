@@ -35,7 +35,7 @@ bool IsDefined(const ctlPlexelBaseElement& element) {
 void UpdateDefinedMarker() {
   EndQuietly([] {
     ctlPlexelBaseElement& element = CurrentElement();
-    element.ShowDefinedObject(static_cast<Boolean>(element.ShowDefined() & ToBoolean(IsDefined(element))));
+    element.ShowDefinedObject(IsDefined(element) ? element.ShowDefined() : False);
   });
 }
 

@@ -19,6 +19,7 @@ struct Notice {
 
   static Notice Of(std::string_view value) { return {Kind::Text, value, 0}; }
   static Notice Of(std::int32_t value) { return {Kind::Integer, {}, value}; }
+  static Notice Of(Boolean value) { return Of(std::int32_t{value.Value()}); }
 };
 
 /// The arguments of SendKeyDefinition.

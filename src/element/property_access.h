@@ -55,6 +55,8 @@ template <PropertyType type, typename T, Getter<T> get>
 PropertyData GetData(const Element& element) {
   if constexpr (type == PropertyType::Double || type == PropertyType::String) {
     return PropertyData((element.*get)());
+  } else if constexpr (type == PropertyType::Bool) {
+    return PropertyData(std::int32_t{(element.*get)().Value()});
   } else {
     return PropertyData(static_cast<std::int32_t>((element.*get)()));
   }
@@ -67,6 +69,9 @@ void SetData(Element& element, const PropertyData& value, std::string_view name)
   } else if constexpr (type == PropertyType::String) {
     const auto* text = std::get_if<std::string>(&value);
     (element.*set)(text != nullptr ? *text : ToText(value));
+  } else if constexpr (type == PropertyType::Bool) {
+    using Range = std::numeric_limits<std::int16_t>;
+    (element.*set)(Boolean::Raw(static_cast<std::int16_t>(ToInteger(value, name, Range::min(), Range::max()))));
   } else {
     using Range = std::numeric_limits<Native<type>>;
     (element.*set)(static_cast<T>(ToInteger(value, name, Range::min(), Range::max())));
@@ -92,9 +97,7 @@ void LoadData(Element& element, const BagValue& value) {
 
 template <PropertyType type, typename T, Getter<T> get>
 BagValue SaveData(const Element& element) {
-  if constexpr (type == PropertyType::Bool) {
-    return BagBoolean{(element.*get)()};
-  } else if constexpr (type == PropertyType::Int32) {
+  if constexpr (type == PropertyType::Int32) {
     return static_cast<std::int32_t>((element.*get)());
   } else {
     return (element.*get)();

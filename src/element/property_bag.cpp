@@ -19,8 +19,8 @@ double ToNumber(const BagValue& value) {
         using Held = std::remove_cvref_t<decltype(held)>;
         if constexpr (std::is_same_v<Held, std::string>) {
           return TextToNumber(held);
-        } else if constexpr (std::is_same_v<Held, BagBoolean>) {
-          return held.value;
+        } else if constexpr (std::is_same_v<Held, Boolean>) {
+          return held.Value();
         } else {
           return held;
         }
@@ -51,12 +51,12 @@ std::uint8_t BagToUInt8(const BagValue& value) {
 }
 
 Boolean BagToBoolean(const BagValue& value) {
-  if (const auto* same = std::get_if<BagBoolean>(&value)) return same->value;
+  if (const auto* same = std::get_if<Boolean>(&value)) return *same;
   if (const auto* text = std::get_if<std::string>(&value)) {
     if (EqualsWord(*text, "true")) return True;
     if (EqualsWord(*text, "false")) return False;
   }
-  return ToBoolean(ToNumber(value) != 0);
+  return ToNumber(value) != 0;
 }
 
 std::string BagToString(const BagValue& value) {

@@ -10,15 +10,9 @@
 
 namespace plexel {
 
-/// A stored boolean, apart from the 16-bit integers.
-struct BagBoolean {
-  Boolean value = False;
-  bool operator==(const BagBoolean&) const = default;
-};
-
 /// A value in a property bag, of the type in which it was written: int16, int32, uint8, boolean, string, or a float
 /// that only a foreign writer stores.
-using BagValue = std::variant<std::int16_t, std::int32_t, std::uint8_t, BagBoolean, double, std::string>;
+using BagValue = std::variant<std::int16_t, std::int32_t, std::uint8_t, Boolean, double, std::string>;
 
 /// The container's store of one element's values. Its serial form is the container's.
 class PropertyBag {

@@ -19,7 +19,7 @@ constexpr std::int32_t virtualKeyShift = 0x10, virtualKeyControl = 0x11, virtual
                        virtualKeyNumLock = 0x90;
 
 Boolean IsPhysicallyDown(KeyState& keys, std::int32_t virtualKey) {
-  return ToBoolean((keys.Asynchronous(virtualKey) & 0x8000) != 0);
+  return (keys.Asynchronous(virtualKey) & 0x8000) != 0;
 }
 
 /// The module state with the modifiers of this moment.

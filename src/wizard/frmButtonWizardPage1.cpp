@@ -138,7 +138,7 @@ void frmButtonWizardPage1::EndDirectInput() {
 }
 
 void frmButtonWizardPage1::ToggleDirectInput() {
-  Module().bDirectInputActive = static_cast<Boolean>(~Module().bDirectInputActive);
+  Module().bDirectInputActive = Boolean::Raw(static_cast<std::int16_t>(~Module().bDirectInputActive.Value()));
   SetDirectInput(Module().bDirectInputActive, TargetWizard);
   udtTactisBaseElement_ScanCodeInfo info = CurrentElement().TactisBaseElementScanCodeBuffer();
   if (IsTrue(Module().bDirectInputActive)) {

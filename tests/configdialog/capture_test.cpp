@@ -115,12 +115,12 @@ TEST_F(CaptureMode, ShiftAndControlEndCaptureAndStoreNothing) {
 TEST_F(CaptureMode, ACaptureStateThatIsNeitherOnNorOffHandlesNoKeyAndTogglesNothing) {
   element->PressKeyDefLayer1("[a" + Both + "]");
   Open([this](frmConfigurationDialog& dialog, Hand&) {
-    Module().bDirectInputActive = 1;
+    Module().bDirectInputActive = Boolean::Raw(1);
     dialog.Form_KeyDown(key::Delete, 0);
     dialog.Form_KeyDown(key::Control, key::ShiftBit | key::ControlBit);
     dialog.ToggleKeyCapture();
     EXPECT_EQ(dialog.msgScanCodes.Text(), "[a" + Both + "]");
-    EXPECT_EQ(Module().bDirectInputActive, 1);
+    EXPECT_EQ(Module().bDirectInputActive, Boolean::Raw(1));
     EXPECT_FALSE(Hooked());
   });
 }

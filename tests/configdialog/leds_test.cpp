@@ -52,7 +52,7 @@ TEST_F(LedPage, OneLayerOffersFourFunctionsAndDisablesTheOtherBoxes) {
 
 TEST_F(LedPage, ADeviceInterfaceFlagOf1CountsAsFalse) {
   TargetHasAll();
-  element->VantaEnabled(1);
+  element->VantaEnabled(Boolean::Raw(1));
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
     EXPECT_FALSE(dialog.cmbLEDTypes[1].Enabled());
     EXPECT_EQ(dialog.cmbLEDTypes[0].Items(), Numbers({10400, 10401, 10402, 10403}));

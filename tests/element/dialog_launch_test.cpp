@@ -67,7 +67,7 @@ TEST_F(DialogLaunch, ALayerTakes43CodesAndWithVanta22) {
 }
 
 TEST_F(DialogLaunch, AVantaFlagOfOneIsNotTrue) {
-  element->VantaEnabled(1);
+  element->VantaEnabled(Boolean::Raw(1));
   element->OpenConfigurationDialog();
   EXPECT_EQ(Module().lngMaxScanCodes, 43);
 }
@@ -109,7 +109,7 @@ TEST_F(DialogLaunch, TheWizardOfAnLedBeginsWithItsSecondPage) {
 }
 
 TEST_F(DialogLaunch, AnyWizardFlagButZeroWantsTheWizard) {
-  element->WizardOn(1);
+  element->WizardOn(Boolean::Raw(1));
   element->OpenConfigurationDialog();
   EXPECT_EQ(shown, Names{"frmButtonWizardPage1"});
 }
@@ -291,7 +291,7 @@ TEST_F(DialogLaunch, ReturnOnAFocusedElementOpensItsDialog) {
 
 TEST_F(DialogLaunch, ReturnWithoutAVisibleFocusDoesNothingButTheHostStillOpensTheDialog) {
   element->UserControl_KeyPress(13);
-  element->FocusVisible(1);
+  element->FocusVisible(Boolean::Raw(1));
   element->UserControl_KeyPress(13);
   EXPECT_TRUE(shown.empty());
   element->OpenConfigurationDialog();

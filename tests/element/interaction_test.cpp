@@ -178,7 +178,7 @@ TEST_F(ElementInteraction, TheContainerIsAskedForAnLedFunction) {
 }
 
 TEST_F(ElementInteraction, AnyAnswerOfTheContainerButZeroBecomesTrue) {
-  host.LedDefined(RunLed, 1, 1);
+  host.LedDefined(RunLed, 1, Boolean::Raw(1));
   EXPECT_EQ(element->CheckIfLedIsAlreadyDefined(RunLed, 1), True);
 }
 

@@ -116,20 +116,20 @@ TEST_F(Element, AfterTerminatingItIsNotDefined) {
 }
 
 TEST_F(Element, ABooleanKeepsTheValueOne) {
-  element->ShowX(1);
-  EXPECT_EQ(element->ShowX(), 1);
+  element->ShowX(Boolean::Raw(1));
+  EXPECT_EQ(element->ShowX(), Boolean::Raw(1));
 }
 
 TEST_F(Element, ABooleanOfOneIsNotTrueButNotFalseEither) {
   element->ElementType(Rect);
   element->FocusVisible(True);
-  element->ShowX(1);
+  element->ShowX(Boolean::Raw(1));
   element->UpdateFocus();
   EXPECT_FALSE(Shown().linX1.Visible);
 
   element->ShowXPermanent(True);
-  element->ShowX(0);
-  element->FocusVisible(1);
+  element->ShowX(False);
+  element->FocusVisible(Boolean::Raw(1));
   element->UserControl_LostFocus();
   EXPECT_TRUE(Shown().linX1.Visible);
 }

@@ -167,7 +167,7 @@ TEST_F(ElementStorage, AnElementAtTheWriteDefaultsStoresOnlyTheTwoBooleans) {
   element->FocusColor(255);
   element->FocusWidth(1);
   element->XElementSize(XSizeMedium);
-  const MemoryBag::Entries expected = {{"WizardOn", BagBoolean{False}}, {"FocusVisible", BagBoolean{False}}};
+  const MemoryBag::Entries expected = {{"WizardOn", False}, {"FocusVisible", False}};
   EXPECT_EQ(Written().All(), expected);
 }
 
@@ -189,25 +189,25 @@ TEST_F(ElementStorage, ValuesAreWrittenInTheirTypes) {
   EXPECT_EQ(*bag.Find("FocusWidth"), BagValue(std::uint8_t{2}));
   EXPECT_EQ(*bag.Find("ElementType"), BagValue(std::int32_t{4}));
   EXPECT_EQ(*bag.Find("LedType1"), BagValue(std::int32_t{14}));
-  EXPECT_EQ(*bag.Find("WizardOn"), BagValue(BagBoolean{True}));
+  EXPECT_EQ(*bag.Find("WizardOn"), BagValue(True));
   EXPECT_EQ(*bag.Find("PressKeyDefLayer1"), BagValue(string("[a]")));
 }
 
 TEST_F(ElementStorage, WizardOnAndFocusVisibleAreAlwaysWritten) {
-  for (const Boolean value : {False, True, Boolean{1}}) {
+  for (const Boolean value : {False, True, Boolean::Raw(1)}) {
     element->WizardOn(value);
     element->FocusVisible(value);
     const MemoryBag bag = Written();
     ASSERT_NE(bag.Find("WizardOn"), nullptr) << value;
-    EXPECT_EQ(*bag.Find("WizardOn"), BagValue(BagBoolean{value}));
+    EXPECT_EQ(*bag.Find("WizardOn"), BagValue(value));
     ASSERT_NE(bag.Find("FocusVisible"), nullptr) << value;
-    EXPECT_EQ(*bag.Find("FocusVisible"), BagValue(BagBoolean{value}));
+    EXPECT_EQ(*bag.Find("FocusVisible"), BagValue(value));
   }
 }
 
 TEST_F(ElementStorage, OtherBooleansAreLeftOutWhenFalse) {
   EXPECT_EQ(Written().Find("ShowX"), nullptr);
-  element->ShowX(1);
+  element->ShowX(Boolean::Raw(1));
   EXPECT_NE(Written().Find("ShowX"), nullptr);
 }
 
@@ -301,12 +301,12 @@ TEST_F(ElementStorage, LoadingMakesTheElementCurrent) {
 
 TEST_F(ElementStorage, LoadingShowsTheTickOfADefinedElement) {
   const MemoryBag::Entries defined = {
-      {"ElementType", std::int32_t{4}}, {"PressKeyDefLayer4", string("[a]")}, {"ShowDefined", BagBoolean{True}}};
+      {"ElementType", std::int32_t{4}}, {"PressKeyDefLayer4", string("[a]")}, {"ShowDefined", True}};
   EXPECT_TRUE(Load(defined)->SurfaceObjects().linOK1.Visible);
 }
 
 TEST_F(ElementStorage, LoadingShowsAPermanentXBeforeAnyFocus) {
-  const auto loaded = Load({{"ShowXPermanent", BagBoolean{True}}});
+  const auto loaded = Load({{"ShowXPermanent", True}});
   EXPECT_TRUE(loaded->SurfaceObjects().linX1.Visible);
   EXPECT_TRUE(loaded->SurfaceObjects().linX2.Visible);
 }
@@ -342,7 +342,7 @@ TEST_F(ElementStorage, StoredNumbersConvertToTheTypeOfTheKey) {
   EXPECT_EQ(loaded->ShowX(), True);
 }
 
-TEST_F(ElementStorage, AStoredBooleanKeepsItsValue) { EXPECT_EQ(Load({{"WizardOn", BagBoolean{1}}})->WizardOn(), 1); }
+TEST_F(ElementStorage, AStoredBooleanKeepsItsValue) { EXPECT_EQ(Load({{"WizardOn", Boolean::Raw(1)}})->WizardOn(), Boolean::Raw(1)); }
 
 TEST_F(ElementStorage, TheFirstValueThatDoesNotConvertEndsReadingQuietly) {
   const auto loaded = Load({{"SizeX", std::int16_t{9}},
@@ -358,7 +358,7 @@ TEST_F(ElementStorage, TheFirstValueThatDoesNotConvertEndsReadingQuietly) {
 }
 
 TEST_F(ElementStorage, AValueOutsideItsTypeEndsReadingQuietly) {
-  const auto loaded = Load({{"FocusWidth", std::int32_t{256}}, {"WizardOn", BagBoolean{True}}});
+  const auto loaded = Load({{"FocusWidth", std::int32_t{256}}, {"WizardOn", True}});
   EXPECT_EQ(loaded->FocusWidth(), 0);
   EXPECT_EQ(loaded->WizardOn(), False);
 }
@@ -386,9 +386,9 @@ TEST_F(ElementStorage, ABagThatFailsEndsWritingQuietly) {
 }
 
 TEST(BagValues, BooleansKeepTheir16BitValueAsNumbers) {
-  EXPECT_EQ(BagToInt32(BagBoolean{True}), -1);
-  EXPECT_EQ(BagToInt16(BagBoolean{1}), 1);
-  EXPECT_EQ(KindOf([] { BagToUInt8(BagBoolean{True}); }), FailureKind::Overflow);
+  EXPECT_EQ(BagToInt32(True), -1);
+  EXPECT_EQ(BagToInt16(Boolean::Raw(1)), 1);
+  EXPECT_EQ(KindOf([] { BagToUInt8(True); }), FailureKind::Overflow);
 }
 
 TEST(BagValues, AnyNumberButZeroIsTrue) {
@@ -399,7 +399,7 @@ TEST(BagValues, AnyNumberButZeroIsTrue) {
   EXPECT_EQ(BagToBoolean(string("True")), True);
   EXPECT_EQ(BagToBoolean(string("FALSE")), False);
   EXPECT_EQ(KindOf([] { BagToBoolean(string("Truely")); }), FailureKind::Conversion);
-  EXPECT_EQ(BagToBoolean(BagBoolean{2}), 2);
+  EXPECT_EQ(BagToBoolean(Boolean::Raw(2)), Boolean::Raw(2));
 }
 
 TEST(BagValues, NumbersOutsideTheTypeAreOverflows) {

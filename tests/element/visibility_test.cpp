@@ -53,7 +53,7 @@ TEST_F(ElementVisibility, OtherKindsShowTheX) {
 
 TEST_F(ElementVisibility, WithoutFocusVisibleUpdatingHidesBothShapes) {
   Focus(Rect);
-  element->FocusVisible(1);
+  element->FocusVisible(Boolean::Raw(1));
   EXPECT_TRUE(Shown().shpRect.Visible);
   element->UpdateFocus();
   EXPECT_FALSE(Shown().shpRect.Visible);
@@ -112,7 +112,7 @@ TEST_F(ElementVisibility, APermanentXGoesWithTheFocusWhenFocusVisibleIsFalse) {
 
 TEST_F(ElementVisibility, LosingTheFocusTakesAnyNonZeroFlagsAsSet) {
   element->ShowXPermanent(True);
-  element->FocusVisible(1);
+  element->FocusVisible(Boolean::Raw(1));
   element->UserControl_LostFocus();
   EXPECT_TRUE(CrossShown());
 }
@@ -121,9 +121,9 @@ TEST_F(ElementVisibility, LosingTheFocusKeepsTheXWhenTheFlagsShareNoBit) {
   element->ElementType(Rect);
   element->ShowX(True);
   element->FocusVisible(True);
-  element->ShowXPermanent(1);
+  element->ShowXPermanent(Boolean::Raw(1));
   element->UpdateFocus();
-  element->FocusVisible(2);
+  element->FocusVisible(Boolean::Raw(2));
   element->UserControl_LostFocus();
   EXPECT_TRUE(CrossShown());
 }
@@ -147,7 +147,7 @@ TEST_F(ElementVisibility, FocusVisibleFalseKeepsAnXWhosePermanenceIsNonZero) {
   element->ElementType(Rect);
   element->FocusVisible(True);
   element->ShowX(True);
-  element->ShowXPermanent(1);
+  element->ShowXPermanent(Boolean::Raw(1));
   element->UpdateFocus();
   element->FocusVisible(False);
   EXPECT_TRUE(CrossShown());
@@ -156,17 +156,17 @@ TEST_F(ElementVisibility, FocusVisibleFalseKeepsAnXWhosePermanenceIsNonZero) {
 TEST_F(ElementVisibility, AnyOtherFocusVisibleChangesNothing) {
   element->ElementType(Rect);
   element->FocusVisible(True);
-  element->FocusVisible(1);
+  element->FocusVisible(Boolean::Raw(1));
   EXPECT_FALSE(Shown().shpRect.Visible);
   Focus(Rect);
-  element->FocusVisible(1);
+  element->FocusVisible(Boolean::Raw(1));
   EXPECT_TRUE(Shown().shpRect.Visible);
 }
 
 TEST_F(ElementVisibility, APermanentXIsShownAtOnceAndOnlyForTrue) {
   element->ShowXPermanent(True);
   EXPECT_TRUE(CrossShown());
-  element->ShowXPermanent(1);
+  element->ShowXPermanent(Boolean::Raw(1));
   EXPECT_FALSE(CrossShown());
   element->ShowXPermanent(True);
   element->ShowXPermanent(False);
@@ -186,7 +186,7 @@ TEST_F(ElementVisibility, AnUnwantedTickThatIsShownStaysWhenItIsToBeShown) {
   element->ShowDefinedObject(True);
   element->ElementType(Rect);
   element->PressKeyDefLayer1("[a]");
-  element->ShowDefined(1);
+  element->ShowDefined(Boolean::Raw(1));
   EXPECT_FALSE(TickShown()) << "1 and true is not true";
   element->ShowDefined(True);
   EXPECT_TRUE(TickShown());
@@ -194,7 +194,7 @@ TEST_F(ElementVisibility, AnUnwantedTickThatIsShownStaysWhenItIsToBeShown) {
 
 TEST_F(ElementVisibility, WhatIsNotTrueHidesTheTick) {
   element->ShowDefined(True);
-  for (const Boolean value : {False, Boolean{1}}) {
+  for (const Boolean value : {False, Boolean::Raw(1)}) {
     element->ShowDefinedObject(True);
     element->ShowDefinedObject(value);
     EXPECT_FALSE(TickShown()) << value;

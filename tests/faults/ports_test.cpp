@@ -134,7 +134,7 @@ const std::vector<Road>& Roads() {
 }
 
 void Play(Scene& scene, const Road& road) {
-  scene.element->WizardOn(ToBoolean(road.wizard));
+  scene.element->WizardOn(road.wizard);
   scene.Play(road.acts);
 }
 

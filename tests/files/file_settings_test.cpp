@@ -37,7 +37,7 @@ class SettingsFiles : public testing::Test {
     return text;
   }
   static Boolean Option(FileSettings settings, std::int32_t number) {
-    Boolean value = 77;
+    Boolean value = Boolean::Raw(77);
     settings.GetOption(number, value);
     return value;
   }

@@ -18,8 +18,8 @@ inline Project SampleProject() {
   first.bag.Store("SizeX", std::numeric_limits<std::int16_t>::min());
   first.bag.Store("ZoomFactor", std::numeric_limits<std::int16_t>::max());
   first.bag.Store("FocusWidth", std::uint8_t{255});
-  first.bag.Store("WizardOn", BagBoolean{True});
-  first.bag.Store("FocusVisible", BagBoolean{1});
+  first.bag.Store("WizardOn", True);
+  first.bag.Store("FocusVisible", Boolean::Raw(1));
   first.bag.Store("PressKeyDefLayer1", std::string("[Ctrl Left+a\u2039\u203A][\u00E4\u2039]"));
   first.bag.Store("ReleaseKeyDefLayer1", std::string());
   first.bag.Store("ButtonNotes", std::string("line 1\r\nline 2\n = ; # \\ \u03A9 \x01\t"));

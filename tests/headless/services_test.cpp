@@ -48,7 +48,7 @@ TEST_F(HeadlessServices, AnUnsetOptionIsFalse) {
 }
 
 TEST_F(HeadlessServices, AnOptionKeepsAnyValue) {
-  surroundings.Settings().Option(1, 7);
+  surroundings.Settings().Option(1, Boolean::Raw(7));
   Boolean value = False;
   surroundings.Settings().GetOption(1, value);
   EXPECT_EQ(value, 7);

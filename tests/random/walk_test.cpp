@@ -83,9 +83,9 @@ class Walker {
   /// Opens a dialog on some element and acts until it has closed.
   void Visit() {
     ctlPlexelBaseElement& element = *elements_[Below(static_cast<std::uint32_t>(elements_.size()))];
-    surroundings_.Settings().Option(9, ToBoolean(Below(2) == 0));
-    element.WizardOn(ToBoolean(Below(2) == 0));
-    element.VantaEnabled(ToBoolean(Below(2) == 0));
+    surroundings_.Settings().Option(9, Below(2) == 0);
+    element.WizardOn(Below(2) == 0);
+    element.VantaEnabled(Below(2) == 0);
     opened_ = element.TactisBaseElementScanCodeBuffer();
     undone_ = false;
     okClicks_ = 0;

@@ -136,7 +136,7 @@ TEST(GridRowMarks, EveryRowHasItsOwnMarkAndTheCurrentCellStays) {
 }
 
 TEST(GridRowMarks, WithoutTheOptionNothingIsMarked) {
-  for (const Boolean option : {False, Boolean{1}}) {
+  for (const Boolean option : {False, Boolean::Raw(1)}) {
     ScanCodeSession session;
     session.surroundings.Settings().Option(1, option);
     session.InConfigurationDialog(

@@ -35,10 +35,34 @@ TEST(ElementTypes, EnumeratorsHaveTheirValues) {
 }
 
 TEST(ElementTypes, ABooleanIsTrueOnlyAsMinusOne) {
-  EXPECT_TRUE(IsTrue(-1));
-  EXPECT_FALSE(IsTrue(1));
-  EXPECT_FALSE(IsTrue(0));
-  EXPECT_EQ(ToBoolean(true), -1);
+  EXPECT_TRUE(IsTrue(Boolean::Raw(-1)));
+  EXPECT_FALSE(IsTrue(Boolean::Raw(1)));
+  EXPECT_FALSE(IsTrue(Boolean::Raw(0)));
+}
+
+TEST(ElementTypes, ATrueOfTheLanguageIsTrue) {
+  const Boolean yes = true, no = false;
+  EXPECT_TRUE(IsTrue(yes));
+  EXPECT_EQ(yes.Value(), -1);
+  EXPECT_EQ(yes, True);
+  EXPECT_EQ(no.Value(), 0);
+  EXPECT_EQ(no, False);
+}
+
+TEST(ElementTypes, NoNumberAndNoPointerBecomesABoolean) {
+  static_assert(std::is_convertible_v<bool, Boolean>);
+  static_assert(!std::is_constructible_v<Boolean, int>);
+  static_assert(!std::is_constructible_v<Boolean, std::int16_t>);
+  static_assert(!std::is_constructible_v<Boolean, const char*>);
+  static_assert(!std::is_convertible_v<Boolean, int>);
+  static_assert(sizeof(Boolean) == 2 && std::is_trivially_copyable_v<Boolean>);
+}
+
+TEST(ElementTypes, ARawBooleanKeepsItsBits) {
+  EXPECT_EQ(Boolean::Raw(1).Value(), 1);
+  EXPECT_EQ(Boolean::Raw(0x7FFF).Value(), 0x7FFF);
+  EXPECT_NE(Boolean::Raw(1), True);
+  EXPECT_NE(Boolean::Raw(1), False);
 }
 
 TEST(ElementTypes, ACellOfTheGridIsItsBuffer) {

@@ -114,12 +114,12 @@ TEST_F(SharedServices, AFailureWhileTranslatingReachesTheCallerAndKeepsWhatWasDo
 }
 
 TEST_F(SharedServices, SettingsComeFromTheSettingsService) {
-  surroundings.Settings().Option(3, 1);
+  surroundings.Settings().Option(3, Boolean::Raw(1));
   surroundings.Settings().Parameter(2, "4711");
   surroundings.Settings().Position(1, "600");
   surroundings.Settings().BasePath("base");
   surroundings.Settings().LanguageName("German");
-  EXPECT_EQ(GetOption(3), 1);
+  EXPECT_EQ(GetOption(3), Boolean::Raw(1));
   EXPECT_EQ(GetParameter(2), "4711");
   EXPECT_EQ(GetWindowPosition(1), "600");
   EXPECT_EQ(GetBasePath(), "base");

@@ -43,7 +43,7 @@ void ExpectList(WizardSession& session, bool list) {
 }  // namespace
 
 TEST(WizardLedPage, WithoutVantaFourFunctionsAreOnOffer) {
-  for (const Boolean vanta : {False, Boolean{1}}) {
+  for (const Boolean vanta : {False, Boolean::Raw(1)}) {
     WizardSession session(Led);
     GrantAll(session);
     session.element->VantaEnabled(vanta);
