@@ -20,14 +20,12 @@
 
 #include "component/component.h"
 #include "editor/help_window.h"
-#include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
 #include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
 #include "qt/qt_ports.h"
-#include "services/module_state.h"
 #include "world.h"
 
 namespace {
@@ -39,23 +37,18 @@ struct Desktop {
   explicit Desktop(const std::filesystem::path& data = DataDirectory())
       : surroundings(data, configuration.path().toStdString()),
         platform(surroundings.UserRegistry(), help),
-        usePlatform(platform),
-        useSurroundings(surroundings) {
-    FormDirectory::Instance() = FormDirectory();
-    RegisterForms(FormDirectory::Instance());
-  }
+        component(platform, surroundings) {}
   QTemporaryDir configuration;
   HelpWindow help;
   FileSurroundings surroundings;
   OpenQtPlatform platform;
-  Platform::Use usePlatform;
-  Surroundings::Use useSurroundings;
+  Component component;
   bench::SilentHost host;
 };
 
 void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, bool wizard) {
   Desktop desktop;
-  const auto element = ctlPlexelBaseElement::Create("F1", desktop.host);
+  const auto element = desktop.component.Create("F1", desktop.host);
   element->ElementType(type);
   element->TargetSystem("Standard");
   element->WizardOn(wizard);
@@ -72,7 +65,6 @@ void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, b
     element->OpenConfigurationDialog();
   }
   if (pixels == 0) state.SkipWithError("nothing was drawn");
-  Module().ctlCurrentElement.reset();
 }
 
 void ConfigurationDialogToPixels(benchmark::State& state) { OpenDrawAndClose(state, RectLed, false); }

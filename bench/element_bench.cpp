@@ -12,7 +12,7 @@ namespace {
 using namespace plexel;
 
 void TypedPropertySetWithNotice(benchmark::State& state) {
-  const auto element = ctlPlexelBaseElement::Create("F1", bench::TheWorld().host);
+  const auto element = bench::TheWorld().component.Create("F1", bench::TheWorld().host);
   std::int32_t value = 0;
   for (auto _ : state) element->OriginalPosX(++value);
   if (element->OriginalPosX() != value) state.SkipWithError("the value is not there");
@@ -20,7 +20,7 @@ void TypedPropertySetWithNotice(benchmark::State& state) {
 BENCHMARK(TypedPropertySetWithNotice);
 
 void PropertySetByName(benchmark::State& state) {
-  const auto element = ctlPlexelBaseElement::Create("F1", bench::TheWorld().host);
+  const auto element = bench::TheWorld().component.Create("F1", bench::TheWorld().host);
   std::int32_t value = 0;
   for (auto _ : state) {
     const PropertyRow* row = FindProperty("OriginalPosX");
@@ -40,7 +40,7 @@ BENCHMARK(PeerQtDynamicProperty);
 
 void MakeAnEmptyElement(benchmark::State& state) {
   bench::World& world = bench::TheWorld();
-  for (auto _ : state) benchmark::DoNotOptimize(ctlPlexelBaseElement::Create("F1", world.host));
+  for (auto _ : state) benchmark::DoNotOptimize(world.component.Create("F1", world.host));
   state.counters["bytes"] = static_cast<double>(sizeof(ctlPlexelBaseElement));
 }
 BENCHMARK(MakeAnEmptyElement);

@@ -20,9 +20,10 @@ using Elements = std::vector<std::shared_ptr<ctlPlexelBaseElement>>;
 
 /// Keys as an engineer leaves them: each with a definition in layer 1, every third in all layers, some with a note.
 Elements MakeElements(std::int64_t count) {
+  bench::World& world = bench::TheWorld();
   Elements elements;
   for (std::int64_t number = 0; number < count; ++number) {
-    const auto element = ctlPlexelBaseElement::Create("P" + std::to_string(number), bench::TheWorld().host);
+    const auto element = world.component.Create("P" + std::to_string(number), world.host);
     element->ElementType(RectLed);
     element->ZoomFactor(100);
     element->SizeX(40);
@@ -73,7 +74,7 @@ Elements Load(const std::filesystem::path& file) {
   Elements elements;
   elements.reserve(reader.Count());
   for (ProjectElement saved; reader.Next(saved);) {
-    const auto element = ctlPlexelBaseElement::Read(saved.place, bench::TheWorld().host, saved.bag);
+    const auto element = bench::TheWorld().component.Read(saved.place, bench::TheWorld().host, saved.bag);
     if (!saved.codes.empty()) {
       udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
       PutCodes(saved.codes, record);

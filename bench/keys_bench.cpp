@@ -77,7 +77,7 @@ BENCHMARK(LowLevelHookOfOneKey);
 /// too.
 void OneCombinationFromHookToCell(benchmark::State& state) {
   bench::World& world = bench::TheWorld();
-  const auto element = ctlPlexelBaseElement::Create("F1", world.host);
+  const auto element = world.component.Create("F1", world.host);
   element->ElementType(Oval);
   const udtTactisBaseElement_ScanCodeInfo fresh = element->TactisBaseElementScanCodeBuffer();
   KeyRoad road(world.platform);
@@ -103,7 +103,7 @@ BENCHMARK(OneCombinationFromHookToCell);
 
 void OpenAndCloseTheConfigurationDialog(benchmark::State& state) {
   bench::World& world = bench::TheWorld();
-  const auto element = ctlPlexelBaseElement::Create("F1", world.host);
+  const auto element = world.component.Create("F1", world.host);
   element->ElementType(OvalLed);
   world.surroundings.Language().Source([] { return ReadLanguageFile(DataDirectory() / "languages" / "English.lang"); });
   std::size_t entries = 0;

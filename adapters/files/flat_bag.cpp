@@ -99,6 +99,20 @@ void FlatBag::Clear() {
   other_.clear();
 }
 
+void FlatBag::Remove(std::string_view key) {
+  const std::size_t number = BagKeyNumber(key);
+  if (number == BagKeyCount) {
+    std::erase_if(other_, [key](const auto& entry) { return entry.first == key; });
+    return;
+  }
+  const std::uint8_t removed = std::exchange(places_.at(number), std::uint8_t{0});
+  if (removed == 0) return;
+  known_.erase(known_.begin() + (removed - 1));
+  for (std::uint8_t& place : places_) {
+    if (place > removed) --place;
+  }
+}
+
 void FlatBag::Store(std::string_view key, BagValue value) {
   const std::size_t number = BagKeyNumber(key);
   const BagValue* const stored = number < BagKeyCount ? FindOwn(number, key) : FindOther(key);

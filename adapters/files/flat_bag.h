@@ -25,6 +25,7 @@ class FlatBag : public PropertyBag {
   const BagValue* Find(std::string_view key) const override;
   const BagValue* FindOwn(std::size_t place, std::string_view key) const override;
   void Store(std::string_view key, BagValue value) override;
+  void Remove(std::string_view key) override;
 
   /// Stores under the number of a key, or under another key; false when the bag holds that key already.
   bool StoreNew(std::size_t number, BagValue&& value);

@@ -96,9 +96,8 @@ constexpr std::array<PanelKey, 6> panelKeys = {
       [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.targetSystem = values.Text(line); }},
      {"DeviceType",
       [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.deviceType = values.Integer(line); }},
-     {"VantaEnabled", [](Panel& panel, const PanelValues& values, const IniLine& line) {
-        panel.vantaEnabled = values.Switch(line);
-      }}}};
+     {"VantaEnabled",
+      [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.vantaEnabled = values.Switch(line); }}}};
 
 template <typename Target, std::size_t count>
 bool Apply(const std::array<KeyRow<Target>, count>& rows, Target& target, const PanelValues& values,

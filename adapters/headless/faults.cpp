@@ -31,7 +31,9 @@ void Faults::Arm(std::string_view name, std::int64_t call) { Arm(Known(name), ca
 bool Faults::Trips(Fault fault) {
   State& state = At(fault);
   ++state.calls;
-  return state.on || state.calls == state.failingCall;
+  const bool fails = state.on || state.calls == state.failingCall;
+  if (fails && thrower_) thrower_();
+  return fails;
 }
 
 void Faults::Check(Fault fault) {

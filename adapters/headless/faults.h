@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace plexel {
 
@@ -72,6 +74,9 @@ class Faults {
   void Turn(std::string_view name, bool on);
   void Arm(std::string_view name, std::int64_t call);
 
+  /// What a call that is to fail throws in place of its own way to fail; an empty function gives that back.
+  void Thrown(std::function<void()> thrower) { thrower_ = std::move(thrower); }
+
   /// Counts a call and tells whether it is to fail.
   bool Trips(Fault fault);
   /// The same; a call that is to fail throws Failure (Platform).
@@ -79,7 +84,10 @@ class Faults {
   /// Calls counted so far.
   std::int64_t Calls(Fault fault) const { return states_[static_cast<std::size_t>(fault)].calls; }
   /// Nothing fails any more; the counts start anew.
-  void Reset() { states_ = {}; }
+  void Reset() {
+    states_ = {};
+    thrower_ = nullptr;
+  }
 
  private:
   struct State {
@@ -89,6 +97,7 @@ class Faults {
   };
   State& At(Fault fault) { return states_[static_cast<std::size_t>(fault)]; }
   std::array<State, Count> states_{};
+  std::function<void()> thrower_;
 };
 
 }  // namespace plexel

@@ -28,6 +28,9 @@ class MemoryBag : public PropertyBag {
       found->second = std::move(value);
     }
   }
+  void Remove(std::string_view key) override {
+    std::erase_if(entries_, [key](const auto& e) { return e.first == key; });
+  }
   const Entries& All() const { return entries_; }
 
  private:

@@ -88,12 +88,13 @@ bool DesktopCapture::KeyArrives(const DesktopKey& arrived) {
 void DesktopCapture::Send(const DesktopKey& arrived) {
   FormView* const view = forms_.Topmost();
   if (view == nullptr) return;
-  keys_.Feed(arrived.key, arrived.numLock, [this, view](const KeyEvent& event, bool leads) {
+  const auto toForm = [this, view](const KeyEvent& event, bool leads) {
     if (!leads) return view->TakeKey(event, 0);
     char16_t plain = 0;
     keys_.Layout().ToUnicode(event.virtualKey, event.scanCode, &plain, 1, keys_.Layout().Current());
     view->TakeKey(event, TypedCharacter(event.virtualKey, keys_.ShiftState(), plain));
-  });
+  };
+  view->Contain([&] { keys_.Feed(arrived.key, arrived.numLock, toForm); });
 }
 
 void DesktopCapture::RepeatGapIsOver() {
@@ -124,7 +125,8 @@ void DesktopCapture::ReadLayout() {
 }
 
 void DesktopCapture::FormActivated(FormView& view) {
-  keys_.ReleaseLost(desktop_->ReadKeys(), [&view](const KeyEvent& event, bool) { view.TakeKey(event, 0); });
+  const auto toForm = [&view](const KeyEvent& event, bool) { view.TakeKey(event, 0); };
+  view.Contain([&] { keys_.ReleaseLost(desktop_->ReadKeys(), toForm); });
   UpdateGrab();
 }
 

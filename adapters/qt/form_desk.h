@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <string>
 
 namespace plexel {
@@ -19,6 +20,8 @@ class FormDesk {
   virtual void Deactivated(FormView& view) = 0;
   /// Tells the user, and the log, of a failure that came out of one of his acts.
   virtual void Report(const std::string& what) = 0;
+  /// Ends the form in front, whose showing then throws what came out of one of the user's acts.
+  virtual void Abandon(std::exception_ptr thrown) = 0;
 };
 
 }  // namespace plexel

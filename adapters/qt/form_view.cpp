@@ -159,12 +159,18 @@ void FormView::OpenMenu(MenuItem& menu, bool placed, float x, float y) {
   shown->popup(placed ? window_->mapToGlobal(QPoint(ToPixels(x), ToPixels(y))) : QCursor::pos());
 }
 
-void FormView::Guarded(const std::function<void()>& act) {
+void FormView::Contain(const std::function<void()>& act) {
   try {
     act();
-  } catch (const std::exception& failure) {
+  } catch (const Failure& failure) {
     desk_.Report(failure.what());
+  } catch (...) {
+    desk_.Abandon(std::current_exception());
   }
+}
+
+void FormView::Guarded(const std::function<void()>& act) {
+  Contain(act);
   desk_.SyncAll();
 }
 

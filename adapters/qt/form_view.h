@@ -39,12 +39,16 @@ class FormView : public QObject, public UserActs {
   void Carry(const Control& control, const Act& act) override;
   /// The form's part of the road of a key. `character` is what the key types, 0 for nothing.
   void TakeKey(const KeyEvent& event, char32_t character);
+  /// Runs a part of an event so that nothing is thrown through the toolkit's event loop: a Failure is told to the user,
+  /// and anything else ends the form and goes on to whoever has shown it.
+  void Contain(const std::function<void()>& act);
 
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
   /// An act that is not on one control.
   void CarryOnForm(const Act& act);
+  /// The same for an act of the user's, behind which all forms show what their models say.
   void Guarded(const std::function<void()>& act);
   void MakeViews();
   void MakeViewOf(Control& control);

@@ -39,8 +39,10 @@ bool FormView::KeyArrives(QObject* receiver, QKeyEvent& event) {
   leftToEditor_ = false;
   const RawKey raw{EvdevOf(event), down, static_cast<std::uint32_t>(event.timestamp())};
   if (raw.evdev != 0) {
-    desk_.Keys().Feed(raw, NumLockOn(event),
-                      [this, character](const KeyEvent& one, bool leads) { TakeKey(one, leads ? character : 0); });
+    Contain([&] {
+      desk_.Keys().Feed(raw, NumLockOn(event),
+                        [this, character](const KeyEvent& one, bool leads) { TakeKey(one, leads ? character : 0); });
+    });
   } else if (down && character != 0) {
     TakeKey({PacketKey, 0, false, true, raw.time}, character);
   }

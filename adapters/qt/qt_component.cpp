@@ -4,10 +4,8 @@
 #include <stdexcept>
 
 #include "component/component.h"
-#include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
-#include "forms/form_directory.h"
 #include "qt/help_window.h"
 #include "qt/qt_platform.h"
 
@@ -31,15 +29,12 @@ struct QtComponent::Parts {
   explicit Parts(std::unique_ptr<FileSurroundings> files) : Parts(*files, files->UserRegistry()) {
     own = std::move(files);
   }
-  Parts(Surroundings& surroundings, Registry& registry) : platform(registry, help), useSurroundings(surroundings) {
-    RegisterForms(FormDirectory::Instance());
-  }
+  Parts(Surroundings& surroundings, Registry& registry) : platform(registry, help), component(platform, surroundings) {}
 
   std::unique_ptr<FileSurroundings> own;
   HelpWindow help;
   QtPlatform platform;
-  Platform::Use usePlatform{platform};
-  Surroundings::Use useSurroundings;
+  Component component;
 };
 
 QtComponent::QtComponent() : QtComponent(DataDirectory(), ConfigurationDirectory()) {}
@@ -70,7 +65,7 @@ QtPlatform& QtComponent::Desktop() { return parts_->platform; }
 HelpWindow& QtComponent::Help() { return parts_->help; }
 
 std::shared_ptr<ctlPlexelBaseElement> QtComponent::Create(std::string name, ElementHost& container) {
-  return ctlPlexelBaseElement::Create(std::move(name), container);
+  return parts_->component.Create(std::move(name), container);
 }
 
 }  // namespace plexel

@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "platform/clean_up.h"
 #include "platform/failure.h"
 #include "qt/form_view.h"
 #include "qt/keyboard.h"
@@ -21,11 +22,18 @@ void QtModalLoop::Prepare(Form&) {
 
 void QtModalLoop::Run(Form& form, Window* owner) {
   QEventLoop loop;
-  open_.push_back({std::make_unique<FormView>(form, WidgetOf(owner), *this), &loop});
-  open_.back().view->Show();
-  if (form.IsShown()) loop.exec();
-  const std::unique_ptr<FormView> view = std::move(open_.back().view);
-  open_.pop_back();
+  std::exception_ptr thrown;
+  open_.push_back({std::make_unique<FormView>(form, WidgetOf(owner), *this), &loop, &thrown});
+  std::unique_ptr<FormView> view;
+  {
+    const AtEnd taken([&] {
+      view = std::move(open_.back().view);
+      open_.pop_back();
+    });
+    open_.back().view->Show();
+    if (form.IsShown() && !thrown) loop.exec();
+  }
+  if (thrown) std::rethrow_exception(thrown);
   if (form.IsShown()) form.Unload(UnloadMode::CloseBox);
   // Where nested dialogs close at once, a window manager may leave the focus with none of the windows below.
   if (QWidget* const below = WidgetOf(owner)) below->activateWindow();
@@ -96,12 +104,18 @@ void QtModalLoop::Activated(FormView& view) {
   if (watcher_ != nullptr) {
     watcher_->FormActivated(view);
   } else {
-    keys_.ReleaseLost({}, [&view](const KeyEvent& event, bool) { view.TakeKey(event, 0); });
+    view.Contain([&] { keys_.ReleaseLost({}, [&view](const KeyEvent& event, bool) { view.TakeKey(event, 0); }); });
   }
 }
 
 void QtModalLoop::Deactivated(FormView& view) {
   if (watcher_ != nullptr) watcher_->FormDeactivated(view);
+}
+
+void QtModalLoop::Abandon(std::exception_ptr thrown) {
+  if (open_.empty()) return Report("an act failed behind the end of its form");
+  if (!*open_.back().thrown) *open_.back().thrown = std::move(thrown);
+  open_.back().loop->quit();
 }
 
 void QtModalLoop::Report(const std::string& what) {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -39,6 +40,7 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   void Activated(FormView& view) override;
   void Deactivated(FormView& view) override;
   void Report(const std::string& what) override;
+  void Abandon(std::exception_ptr thrown) override;
 
   /// Tells which widget stands for a window of the host; dialogs belong to the widget's window as it is then.
   void Register(const Window& window, QWidget& widget) { hostWindows_.emplace_back(&window, &widget); }
@@ -56,6 +58,7 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   struct Open {
     std::unique_ptr<FormView> view;
     QEventLoop* loop;
+    std::exception_ptr* thrown;  ///< what the showing throws when its loop has ended
   };
   FormView* ViewOf(const Form& form) const;
   QWidget* WidgetOf(const Window* window) const;

@@ -40,4 +40,9 @@ const BagValue* ScriptBag::Find(std::string_view key) const {
 
 void ScriptBag::Store(std::string_view key, BagValue value) { bag_.Store(key, std::move(value)); }
 
+void ScriptBag::Remove(std::string_view key) {
+  std::erase(unreadable_, key);
+  bag_.Remove(key);
+}
+
 }  // namespace plexel

@@ -16,6 +16,7 @@ class ScriptBag : public PropertyBag {
   explicit ScriptBag(const Json& values);
   const BagValue* Find(std::string_view key) const override;
   void Store(std::string_view key, BagValue value) override;
+  void Remove(std::string_view key) override;
 
  private:
   MemoryBag bag_;

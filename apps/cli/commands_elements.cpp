@@ -9,7 +9,7 @@
 #include "cli/record_json.h"
 #include "cli/state_json.h"
 #include "cli/values_json.h"
-#include "element/ctlPlexelBaseElement.h"
+#include "element/element_access.h"
 #include "element/property_table.h"
 #include "files/text_lines.h"
 #include "services/module_state.h"
@@ -47,17 +47,26 @@ void ReadPropertiesFrom(Element& element, Arguments& arguments, Json&) {
   element.UserControl_ReadProperties(ScriptBag(arguments.Object()));
 }
 
-constexpr std::array<Member, 10> methods = {
-    {Row<&Element::OpenPropertiesDialog>("OpenPropertiesDialog"),
-     Row<&Element::OpenConfigurationDialog>("OpenConfigurationDialog"),
-     Row<&Element::UpdateFocus>("UpdateFocus"),
-     Row<&Element::Refresh>("Refresh"),
-     Row<&Element::ShowDefinedObject>("ShowDefinedObject"),
-     {"SetTactisBaseElementDefinition", 1, DefineFrom},
-     Row<&Element::CheckIfLedIsAlreadyDefined>("CheckIfLedIsAlreadyDefined"),
-     Row<&Element::RaiseProjectModified>("RaiseProjectModified"),
-     Row<&Element::RaiseDirectInputStatusChanged>("RaiseDirectInputStatusChanged"),
-     Row<&Element::IsDefinitionEmpty>("IsDefinitionEmpty")}};
+void RaiseProjectModified(Element& element, Arguments&, Json&) { ElementAccess::RaiseProjectModified(element); }
+
+void RaiseDirectInputStatusChanged(Element& element, Arguments& arguments, Json&) {
+  ElementAccess::RaiseDirectInputStatusChanged(element, Boolean::Raw(arguments.Int16()));
+}
+
+void AskDefinitionEmpty(Element& element, Arguments&, Json& answer) {
+  answer["result"] = BooleanToJson(ElementAccess::IsDefinitionEmpty(element));
+}
+
+constexpr std::array<Member, 10> methods = {{Row<&Element::OpenPropertiesDialog>("OpenPropertiesDialog"),
+                                             Row<&Element::OpenConfigurationDialog>("OpenConfigurationDialog"),
+                                             Row<&Element::UpdateFocus>("UpdateFocus"),
+                                             Row<&Element::Refresh>("Refresh"),
+                                             Row<&Element::ShowDefinedObject>("ShowDefinedObject"),
+                                             {"SetTactisBaseElementDefinition", 1, DefineFrom},
+                                             Row<&Element::CheckIfLedIsAlreadyDefined>("CheckIfLedIsAlreadyDefined"),
+                                             {"RaiseProjectModified", 0, RaiseProjectModified},
+                                             {"RaiseDirectInputStatusChanged", 1, RaiseDirectInputStatusChanged},
+                                             {"IsDefinitionEmpty", 0, AskDefinitionEmpty}}};
 
 constexpr std::array<Member, 7> events = {{Row<&Element::UserControl_GotFocus>("UserControl_GotFocus"),
                                            Row<&Element::UserControl_LostFocus>("UserControl_LostFocus"),
@@ -91,13 +100,13 @@ void RaiseEvent(Workbench& bench, Arguments& arguments, Json& answer) {
 void NewElement(Workbench& bench, Arguments& arguments, Json&) {
   const std::string name = arguments.Text();
   bench.RequireNewName(name);
-  bench.Add(Element::Create(name, bench.host));
+  bench.Add(bench.component.Create(name, bench.host));
 }
 
 void ReadElement(Workbench& bench, Arguments& arguments, Json&) {
   const std::string name = arguments.Text();
   bench.RequireNewName(name);
-  bench.Add(Element::Read(name, bench.host, ScriptBag(arguments.Object())));
+  bench.Add(bench.component.Read(name, bench.host, ScriptBag(arguments.Object())));
 }
 
 void UseElement(Workbench& bench, Arguments& arguments, Json&) { bench.Select(arguments.Text()); }

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "element/defined_marker.h"
+#include "element/element_access.h"
 #include "scancodes/capture.h"
 #include "scancodes/code_type.h"
 #include "scancodes/definition_text.h"
@@ -22,7 +22,7 @@ namespace plexel {
 namespace {
 
 void AskDefinitionEmpty(Workbench& bench, Arguments&, Json& answer) {
-  answer["result"] = BooleanToJson(bench.Selected()->IsDefinitionEmpty());
+  answer["result"] = BooleanToJson(ElementAccess::IsDefinitionEmpty(*bench.Selected()));
 }
 
 constexpr std::array procedures = {

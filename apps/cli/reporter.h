@@ -14,8 +14,12 @@ class Reporter {
  public:
   explicit Reporter(std::FILE* output) : output_(output) {}
 
-  /// Something that happened while the current command was being carried out.
-  void Report(Json report) { Write(std::move(report)); }
+  /// Something that happened while the current command was being carried out. Nothing is told once the reports have
+  /// ended: what the end of the script itself brings about is no act of its.
+  void Report(Json report) {
+    if (!ended_) Write(std::move(report));
+  }
+  void EndReports() { ended_ = true; }
   void Succeed(Json fields);
   void Fail(const std::string& error);
   /// Keeps the success of the current command back, and all that follows behind it, until Settle tells what became of
@@ -52,7 +56,7 @@ class Reporter {
 
   std::FILE* output_;
   std::size_t line_ = 0;
-  bool anyFailed_ = false;
+  bool anyFailed_ = false, ended_ = false;
   std::optional<Deferred> deferred_;
 };
 

@@ -69,6 +69,7 @@ void Script::Succeed(Json answer, const Open& open) {
 }
 
 Script::Ended Script::End() {
+  reporter_.EndReports();
   const std::string shown = bench_.FrontName();
   return Ended{shown.empty() ? std::string() : "the script ended while " + shown + " was shown"};
 }

@@ -5,14 +5,10 @@
 #include <system_error>
 
 #include "cli/values_json.h"
-#include "component/component.h"
-#include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 #include "files/file_error.h"
 #include "files/language_file.h"
 #include "files/text_lines.h"
-#include "forms/form_directory.h"
-#include "services/module_state.h"
 
 namespace plexel {
 
@@ -50,7 +46,6 @@ const char* HookName(HookKind kind) { return kind == HookKind::Keyboard ? "keybo
 }  // namespace
 
 Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), reporter_(reporter) {
-  RegisterForms(FormDirectory::Instance());
   surroundings.Settings().BasePath(DataDirectory().string());
   surroundings.Settings().LanguageName(InitialLanguage);
   surroundings.Language().Source(InitialTexts);
@@ -59,11 +54,6 @@ Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), repo
   platform.Layout().Use(layout_.get());
   ReportForms();
   ReportSystem();
-}
-
-Workbench::~Workbench() {
-  for (const auto& [name, element] : elements_) element->Detach();
-  Module() = {};
 }
 
 void Workbench::UseLanguage(const std::string& name) {

@@ -10,6 +10,7 @@
 #include "cli/command_error.h"
 #include "cli/message_box.h"
 #include "cli/script_host.h"
+#include "component/component.h"
 #include "files/parameter_file.h"
 #include "forms/form.h"
 #include "headless/headless_platform.h"
@@ -20,19 +21,17 @@
 
 namespace plexel {
 
-class ctlPlexelBaseElement;
-
 /// All that the commands of a script work on: the platform and the surroundings, the elements by name, and what is
-/// shown. One at a time; it is in force for its life and leaves the module state as a new process has it.
+/// shown. One at a time.
 class Workbench {
  public:
   using Element = std::shared_ptr<ctlPlexelBaseElement>;
 
   explicit Workbench(Reporter& reporter);
-  ~Workbench();
 
   HeadlessPlatform platform;
   HeadlessSurroundings surroundings{platform};
+  Component component{platform, surroundings};
   ScriptHost host;
   KeyRoad keys{platform};
   std::shared_ptr<HostForm> hostForm = std::make_shared<HostForm>();
@@ -72,8 +71,6 @@ class Workbench {
   MessageAnswer ShowMessage(const std::string& prompt, std::int32_t style, const std::string& title);
 
   Reporter& reporter_;
-  Platform::Use usePlatform_{platform};
-  Surroundings::Use useSurroundings_{surroundings};
   FileParameterReader parameterFiles_;
   std::unique_ptr<XkbLayout> layout_;
   std::map<std::string, Element, std::less<>> elements_;

@@ -9,7 +9,6 @@
 #include "editor/main_window.h"
 #include "editor/version.h"
 #include "files/data_directory.h"
-#include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/pictures.h"
 #include "qt/units.h"
@@ -43,13 +42,11 @@ void TellProblems(const FileSurroundings& surroundings, const FileRegistry& regi
 
 int Run(const QStringList& arguments) {
   FileSurroundings surroundings(DataDirectory(), ConfigurationDirectory());
-  const Surroundings::Use useSurroundings(surroundings);
   HelpWindow help;
   QtPlatform platform(surroundings.UserRegistry(), help);
-  const Platform::Use usePlatform(platform);
-  RegisterForms(FormDirectory::Instance());
+  Component component(platform, surroundings);
 
-  MainWindow window(surroundings, platform, help);
+  MainWindow window(component, surroundings, platform, help);
   window.show();
   TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
   const bool opened = !arguments.isEmpty() && window.OpenProject(arguments.front().toStdString());

@@ -20,8 +20,8 @@
 
 namespace plexel {
 
-MainWindow::MainWindow(FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help)
-    : surroundings_(surroundings), platform_(platform), help_(help) {
+MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help)
+    : component_(component), surroundings_(surroundings), platform_(platform), help_(help) {
   MakeContent();
   MakeActions();
   ConnectElements();
@@ -97,7 +97,7 @@ void MainWindow::ConnectElements() {
   view_->onZoom = [this](int steps) { steps > 0 ? ZoomIn() : ZoomOut(); };
 }
 
-PanelDocument::Site MainWindow::Site() { return {host_, windowObject_, DataDirectory() / "panels"}; }
+PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject_, DataDirectory() / "panels"}; }
 
 void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   view_->Show(nullptr);

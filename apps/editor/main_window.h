@@ -26,7 +26,7 @@ class PanelView;
 /// The editor's window: one project, its panel, and everything that the user does with them.
 class MainWindow : public QMainWindow {
  public:
-  MainWindow(FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help);
+  MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help);
   ~MainWindow() override;
 
   /// A new project on the first panel; false when there is none that can be read.
@@ -88,6 +88,7 @@ class MainWindow : public QMainWindow {
   void Tell(Text what, const QString& reason);
   QString ProjectName() const;
 
+  Component& component_;
   FileSurroundings& surroundings_;
   QtPlatform& platform_;
   HelpWindow& help_;

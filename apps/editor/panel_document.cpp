@@ -67,7 +67,7 @@ PanelDocument::~PanelDocument() {
 
 void PanelDocument::AddNew(const PanelPart& part, const Site& site) {
   const PanelElement& described = *part.element;
-  const auto element = ctlPlexelBaseElement::Create(described.id, site.host);
+  const auto element = site.component.Create(described.id, site.host);
   element->ZoomFactor(static_cast<std::int16_t>(zoom_));
   element->SizeX(described.sizeX);
   element->OriginalPosX(part.box.left);
@@ -82,7 +82,7 @@ void PanelDocument::AddNew(const PanelPart& part, const Site& site) {
 }
 
 void PanelDocument::AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site) {
-  const auto element = ctlPlexelBaseElement::Read(saved.place, site.host, saved.bag);
+  const auto element = site.component.Read(saved.place, site.host, saved.bag);
   udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
   PutCodes(saved.codes, record);
   element->TactisBaseElementScanCodeBuffer(record);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "element/ctlPlexelBaseElement.h"
+#include "component/component.h"
 #include "files/panel_file.h"
 #include "files/project_file.h"
 
@@ -16,6 +16,7 @@ class PanelDocument {
  public:
   /// What elements need of their surroundings.
   struct Site {
+    Component& component;
     ElementHost& host;
     std::shared_ptr<HostObject> window;
     std::filesystem::path panelDirectory;

@@ -35,12 +35,9 @@ class PictureMaker {
         project_(std::move(project)),
         surroundings_(DataDirectory(), configuration_.path().toStdString()),
         platform_(surroundings_.UserRegistry(), help_),
-        usePlatform_(platform_),
-        useSurroundings_(surroundings_) {
+        component_(platform_, surroundings_) {
     surroundings_.ChooseLanguage(language.toStdString());
     suffix_ = "-" + language.left(2).toLower() + ".png";
-    FormDirectory::Instance() = FormDirectory();
-    RegisterForms(FormDirectory::Instance());
   }
 
   void TakeAll() {
@@ -53,7 +50,7 @@ class PictureMaker {
 
  private:
   std::shared_ptr<ctlPlexelBaseElement> Element(enumTactisBaseElementType type) {
-    auto element = ctlPlexelBaseElement::Create("F1", host_);
+    auto element = component_.Create("F1", host_);
     element->ElementType(type);
     element->TargetSystem("Standard");
     element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
@@ -130,7 +127,7 @@ class PictureMaker {
   }
 
   void TakeEditor() {
-    MainWindow window(surroundings_, platform_, help_);
+    MainWindow window(component_, surroundings_, platform_, help_);
     if (project_.empty()) {
       FillSamplePanel(window);
     } else if (!window.OpenProject(project_)) {
@@ -199,8 +196,7 @@ class PictureMaker {
   EditorHost host_;
   FileSurroundings surroundings_;
   OpenQtPlatform platform_;
-  Platform::Use usePlatform_;
-  Surroundings::Use useSurroundings_;
+  Component component_;
   QObject context_;
 };
 

@@ -3,7 +3,8 @@
 #include <cstddef>
 #include <string>
 
-#include "element/ctlPlexelBaseElement.h"
+#include "element/element_access.h"
+#include "scancodes/capture.h"
 #include "scancodes/definition_text.h"
 #include "scancodes/dialog_access.h"
 #include "scancodes/dialog_result.h"
@@ -89,6 +90,8 @@ void frmConfigurationDialog::OnQueryUnload(UnloadMode mode) {
 
 void frmConfigurationDialog::OnUnload() { SaveDialogPosition(); }
 
+void frmConfigurationDialog::OnAbandoned() { AbandonCapture(); }
+
 void frmConfigurationDialog::RestoreDefinition() {
   EndQuietly([this] {
     EndKeyCapture();
@@ -107,13 +110,11 @@ void frmConfigurationDialog::LoadDialogPosition() {
 
 void frmConfigurationDialog::SaveDialogPosition() {
   EndQuietly([this] {
-    const std::intptr_t positions = OpenPositions();
-    StorePosition(positions, SavedColumn0Width, std::to_string(msgScanCodes.ColWidth(0)));
-    StorePosition(positions, SavedColumn1Width, std::to_string(msgScanCodes.ColWidth(1)));
-    StorePosition(positions, SavedColumn2Width, std::to_string(msgScanCodes.ColWidth(2)));
-    StorePosition(positions, SavedTop, SingleToText(Top()));
-    StorePosition(positions, SavedLeft, SingleToText(Left()));
-    ClosePositions(positions);
+    StorePositions({{SavedColumn0Width, std::to_string(msgScanCodes.ColWidth(0))},
+                    {SavedColumn1Width, std::to_string(msgScanCodes.ColWidth(1))},
+                    {SavedColumn2Width, std::to_string(msgScanCodes.ColWidth(2))},
+                    {SavedTop, SingleToText(Top())},
+                    {SavedLeft, SingleToText(Left())}});
   });
 }
 
@@ -122,7 +123,7 @@ void frmConfigurationDialog::cmdOK_Click() {
     EndKeyCapture();
     ApplyDialogResult(TargetConfigurationDialog);
     CurrentElement().WizardOptions(ManuallyDefined);
-    CurrentElement().RaiseProjectModified();
+    ElementAccess::RaiseProjectModified(CurrentElement());
     Unload();
   });
 }

@@ -91,6 +91,7 @@ class frmConfigurationDialog : public Form, public ConfigurationDialogAccess {
   void OnLoad() override;
   void OnQueryUnload(UnloadMode mode) override;
   void OnUnload() override;
+  void OnAbandoned() override;
   void OnKeyDown(std::int16_t& keyCode, std::int16_t shift) override;
 
   Grid& ScanCodeGrid() override { return msgScanCodes; }

@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "element/element_host.h"
-#include "element/packed_codes.h"
 #include "element/property_bag.h"
 #include "element/surface.h"
 #include "platform/window.h"
@@ -19,15 +19,10 @@ namespace plexel {
 ///
 /// A property is a pair of overloads. A setter stores, then notifies the container, then acts. Sizes are pixels at zoom
 /// 100, ZoomFactor is percent, colours are 0x00BBGGRR, layers count from 1 to 4. Everything runs on the user-interface
-/// thread. Elements are held by shared pointers, since the module state keeps the last one that a dialog worked for.
+/// thread. A Component makes the elements. They are held by shared pointers, since the module state keeps the last one
+/// that a dialog worked for.
 class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseElement> {
  public:
-  /// A new element with UserControl_Initialize and UserControl_InitProperties done. `host` must outlive the element or
-  /// be taken away with Detach.
-  static std::shared_ptr<ctlPlexelBaseElement> Create(std::string name, ElementHost& host);
-  /// An element read from a bag, with UserControl_Initialize and UserControl_ReadProperties done.
-  static std::shared_ptr<ctlPlexelBaseElement> Read(std::string name, ElementHost& host, const PropertyBag& bag);
-
   ctlPlexelBaseElement(const ctlPlexelBaseElement&) = delete;
   ctlPlexelBaseElement& operator=(const ctlPlexelBaseElement&) = delete;
 
@@ -151,12 +146,6 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   std::int32_t HardwareNumberKeyAt(std::int32_t index) const;
   void HardwareNumberKeyAt(std::int32_t index, std::int32_t value);
 
-  // For the component's own forms and procedures. Failures of the host's handlers reach the caller.
-  void RaiseProjectModified();
-  void RaiseDirectInputStatusChanged(Boolean bDirectInputStatus);
-  /// Whether all eight definition texts are empty.
-  bool IsDefinitionEmpty() const;
-
   // Events of the surface and of the container.
   void UserControl_GotFocus();
   void UserControl_LostFocus();
@@ -172,10 +161,28 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   const Surface& SurfaceObjects() const { return surface_; }
 
  private:
+  friend class Component;
+  friend class ElementAccess;
+
   ctlPlexelBaseElement(std::string name, ElementHost& host);
+  /// A new element with UserControl_Initialize and UserControl_InitProperties done.
+  static std::shared_ptr<ctlPlexelBaseElement> Create(std::string name, ElementHost& host);
+  /// An element read from a bag, with UserControl_Initialize and UserControl_ReadProperties done.
+  static std::shared_ptr<ctlPlexelBaseElement> Read(std::string name, ElementHost& host, const PropertyBag& bag);
   static std::shared_ptr<ctlPlexelBaseElement> Make(std::string name, ElementHost& host);
   void UserControl_Initialize();
   void UserControl_InitProperties();
+
+  bool ComponentLives() const;
+  /// The host; null when it was taken away, and when the element's component has ended.
+  ElementHost* Host() const;
+  /// Makes this the element that dialogs and procedures work for. False, and nothing else, when its component has
+  /// ended.
+  bool BecomeCurrent();
+  void RaiseProjectModified();
+  void RaiseDirectInputStatusChanged(Boolean bDirectInputStatus);
+  /// Whether all eight definition texts are empty.
+  bool IsDefinitionEmpty() const;
 
   void Notify(const Notice& notice);
   /// Stores a value and announces it as the row of the property table says.
@@ -207,7 +214,8 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   std::string name_;
   ElementHost* host_ = nullptr;
   Surface surface_;
-  PackedCodes codes_;
+  std::uint32_t life_ = 0;           ///< of the component that made the element
+  std::vector<std::uint8_t> codes_;  ///< the eight code buffers, packed
   std::array<std::string, LayerCount> pressKeyDefs_, releaseKeyDefs_;
   std::array<enumLedType, LayerCount> ledTypes_{};
   std::array<std::int32_t, 8> hardwareNumberKeys_{};

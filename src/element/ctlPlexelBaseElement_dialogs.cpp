@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/form_directory.h"
+#include "platform/clean_up.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
@@ -56,8 +57,8 @@ void ctlPlexelBaseElement::ShowForm(std::string_view form) {
 
 void ctlPlexelBaseElement::ShowDialog(std::string_view form) {
   mbDialogOpen_ = True;
+  const AtEnd closed([this] { mbDialogOpen_ = False; });
   PassOver([&] { ShowForm(form); });
-  mbDialogOpen_ = False;
 }
 
 void ctlPlexelBaseElement::ShowWizard() {
@@ -80,9 +81,10 @@ void ctlPlexelBaseElement::ShowChosenDialog() {
 void ctlPlexelBaseElement::OpenConfigurationDialog() {
   const auto self = shared_from_this();  // the host may let the element go while the dialog is open
   if (IsTrue(mbDialogOpen_)) return;
+  if (!ComponentLives()) throw Failure(FailureKind::ObjectNotSet, "the element's component has ended");
   Module().udtSavedScanCodeInfo = TactisBaseElementScanCodeBuffer();
   if (ElementType() == Key) return;
-  Module().ctlCurrentElement = self;
+  BecomeCurrent();
   Module().lngMaxScanCodes = IsTrue(CurrentElement().VantaEnabled()) ? maxScanCodesOfVanta : maxScanCodes;
   ShowChosenDialog();
   PassOver([&] { SendKeyDefinition(); });
@@ -91,8 +93,7 @@ void ctlPlexelBaseElement::OpenConfigurationDialog() {
 void ctlPlexelBaseElement::OpenPropertiesDialog() {
   EndQuietly([&] {
     const auto self = shared_from_this();
-    Module().ctlCurrentElement = self;
-    ShowForm("frmPropertiesButton");
+    if (BecomeCurrent()) ShowForm("frmPropertiesButton");
   });
 }
 

@@ -1,11 +1,23 @@
 #include "element/ctlPlexelBaseElement.h"
 
 #include "element/defined_marker.h"
+#include "services/component_life.h"
 #include "services/conversion.h"
 #include "services/failure_styles.h"
+#include "services/module_state.h"
 #include "services/surroundings.h"
 
 namespace plexel {
+
+bool ctlPlexelBaseElement::ComponentLives() const { return life_ == ComponentLife::Current(); }
+
+ElementHost* ctlPlexelBaseElement::Host() const { return ComponentLives() ? host_ : nullptr; }
+
+bool ctlPlexelBaseElement::BecomeCurrent() {
+  if (!ComponentLives()) return false;
+  Module().ctlCurrentElement = shared_from_this();
+  return true;
+}
 
 void ctlPlexelBaseElement::ShowFocusShapes(bool oval, bool rectangle) {
   surface_.shpOval.Visible = oval;
@@ -69,9 +81,10 @@ void ctlPlexelBaseElement::ShowDefinedObject(Boolean bVisible) {
 }
 
 Boolean ctlPlexelBaseElement::CheckIfLedIsAlreadyDefined(enumLedType LEDType, std::int32_t Layer) {
-  if (host_ == nullptr) throw Failure(FailureKind::ObjectNotSet, "the element has no container");
+  ElementHost* const host = Host();
+  if (host == nullptr) throw Failure(FailureKind::ObjectNotSet, "the element has no container");
   std::int32_t type = LEDType;
-  return host_->CheckIfLedIsAlreadyDefined(type, Layer) != False;
+  return host->CheckIfLedIsAlreadyDefined(type, Layer) != False;
 }
 
 bool ctlPlexelBaseElement::IsDefinitionEmpty() const {
@@ -84,19 +97,20 @@ bool ctlPlexelBaseElement::IsDefinitionEmpty() const {
 }
 
 void ctlPlexelBaseElement::RaiseProjectModified() {
-  if (host_ != nullptr) host_->ProjectModified(*this);
+  if (ElementHost* const host = Host()) host->ProjectModified(*this);
 }
 
 void ctlPlexelBaseElement::RaiseDirectInputStatusChanged(Boolean bDirectInputStatus) {
-  if (host_ != nullptr) host_->DirectInputStatusChanged(*this, bDirectInputStatus);
+  if (ElementHost* const host = Host()) host->DirectInputStatusChanged(*this, bDirectInputStatus);
 }
 
 void ctlPlexelBaseElement::SendKeyDefinition() {
-  if (host_ == nullptr) return;
+  ElementHost* const host = Host();
+  if (host == nullptr) return;
   KeyDefinition definition{PressKeyDefLayer1(), ReleaseKeyDefLayer1(), PressKeyDefLayer2(), ReleaseKeyDefLayer2(),
                            PressKeyDefLayer3(), ReleaseKeyDefLayer3(), PressKeyDefLayer4(), ReleaseKeyDefLayer4(),
                            LEDTypeLayer1(),     LEDTypeLayer2(),       LEDTypeLayer3(),     LEDTypeLayer4()};
-  host_->SendKeyDefinition(*this, definition);
+  host->SendKeyDefinition(*this, definition);
 }
 
 // No guard in the focus and key events: what fails inside them reaches the caller.
@@ -119,13 +133,13 @@ void ctlPlexelBaseElement::UserControl_KeyPress(std::int16_t KeyAscii) {
 
 void ctlPlexelBaseElement::UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float x, float Y) {
   EndQuietly([&] {
-    if (host_ != nullptr) host_->MouseClicked(*this, Button, Shift, x, Y);
+    if (ElementHost* const host = Host()) host->MouseClicked(*this, Button, Shift, x, Y);
   });
 }
 
 void ctlPlexelBaseElement::UserControl_DblClick() {
   EndQuietly([&] {
-    if (host_ != nullptr) host_->MouseDblClicked(*this);
+    if (ElementHost* const host = Host()) host->MouseDblClicked(*this);
   });
 }
 

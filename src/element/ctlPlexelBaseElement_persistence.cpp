@@ -5,6 +5,7 @@
 
 #include "element/property_rows.h"
 #include "platform/platform.h"
+#include "services/component_life.h"
 #include "services/failure_styles.h"
 
 namespace plexel {
@@ -66,10 +67,10 @@ float Finite(double value) {
 
 }  // namespace
 
-static_assert(sizeof(ctlPlexelBaseElement) <= 4096);
+static_assert(sizeof(ctlPlexelBaseElement) <= 696);
 
 ctlPlexelBaseElement::ctlPlexelBaseElement(std::string name, ElementHost& host)
-    : name_(std::move(name)), host_(&host) {}
+    : name_(std::move(name)), host_(&host), life_(ComponentLife::Current()) {}
 
 /// One block of memory for the element and its counts.
 std::shared_ptr<ctlPlexelBaseElement> ctlPlexelBaseElement::Make(std::string name, ElementHost& host) {
@@ -126,7 +127,11 @@ void ctlPlexelBaseElement::UserControl_WriteProperties(PropertyBag& bag) const {
     for (const std::size_t place : writeRows) {
       const PropertyRow& row = propertyRows[place];
       BagValue value = row.save(*this);
-      if (!EqualsDefault(value, row.storage.writeDefault)) bag.Store(row.storage.key, std::move(value));
+      if (EqualsDefault(value, row.storage.writeDefault)) {
+        bag.Remove(row.storage.key);
+      } else {
+        bag.Store(row.storage.key, std::move(value));
+      }
     }
   });
 }

@@ -3,14 +3,13 @@
 #include "element/defined_marker.h"
 #include "element/property_rows.h"
 #include "platform/failure.h"
-#include "services/module_state.h"
 
 namespace plexel {
 
 using E = ctlPlexelBaseElement;
 
 void E::Notify(const Notice& notice) {
-  if (host_ != nullptr) host_->PropertyChanged(*this, notice);
+  if (ElementHost* const host = Host()) host->PropertyChanged(*this, notice);
 }
 
 template <std::size_t row, typename Field>
@@ -136,8 +135,7 @@ void E::HardwareNumberButton(std::int32_t value) { Store<RowOf("HardwareNumberBu
 Boolean E::ShowDefined() const { return showDefined_; }
 void E::ShowDefined(Boolean value) {
   Store<RowOf("ShowDefined")>(showDefined_, value);
-  Module().ctlCurrentElement = shared_from_this();
-  UpdateDefinedMarker();
+  if (BecomeCurrent()) UpdateDefinedMarker();
 }
 std::int32_t E::KeyDefinedColor() const { return keyDefinedColor_; }
 void E::KeyDefinedColor(std::int32_t value) {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "element/defined_marker.h"
+#include "element/packed_codes.h"
 #include "services/failure_styles.h"
-#include "services/module_state.h"
 
 namespace plexel {
 
@@ -46,7 +46,7 @@ Info ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer() const {
   ForEach(releaseStrings, [&](std::int32_t layer, auto member) { info.*member = ReleaseKeyDefLayer(layer); });
   info.strBaseElementNotes = ButtonNotes();
   info.enumBaseElementType = ElementType();
-  codes_.PutInto(info);
+  UnpackCodes(codes_, info);
   return info;
 }
 
@@ -64,7 +64,7 @@ void ctlPlexelBaseElement::PassOnRest(const Info& info) {
 }
 
 void ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer(const Info& value) {
-  codes_.Keep(value);
+  PackCodes(value, codes_);
   EndQuietly([&] {
     PassOnHead(value);
     ForEach(furtherKeyNumbers, [&](std::int32_t index, auto member) { HardwareNumberKeyAt(index, value.*member); });
@@ -73,13 +73,12 @@ void ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer(const Info& value) {
 }
 
 void ctlPlexelBaseElement::SetTactisBaseElementDefinition(const Info& udtTactisBaseElementInfo) {
-  codes_.Keep(udtTactisBaseElementInfo);
+  PackCodes(udtTactisBaseElementInfo, codes_);
   EndQuietly([&] {
     PassOnHead(udtTactisBaseElementInfo);
     PassOnRest(udtTactisBaseElementInfo);
     ButtonNotes(udtTactisBaseElementInfo.strBaseElementNotes);
-    Module().ctlCurrentElement = shared_from_this();
-    UpdateDefinedMarker();
+    if (BecomeCurrent()) UpdateDefinedMarker();
   });
 }
 

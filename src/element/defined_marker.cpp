@@ -1,6 +1,6 @@
 #include "element/defined_marker.h"
 
-#include "element/ctlPlexelBaseElement.h"
+#include "element/element_access.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 
@@ -21,10 +21,10 @@ bool IsDefined(const ctlPlexelBaseElement& element) {
       return HasLedFunction(element);
     case Oval:
     case Rect:
-      return !element.IsDefinitionEmpty();
+      return !ElementAccess::IsDefinitionEmpty(element);
     case OvalLed:
     case RectLed:
-      return HasLedFunction(element) || !element.IsDefinitionEmpty();
+      return HasLedFunction(element) || !ElementAccess::IsDefinitionEmpty(element);
     default:
       return false;
   }

@@ -29,25 +29,32 @@ struct KeyDefinition {
   std::int32_t LEDTypeLayer1 = 0, LEDTypeLayer2 = 0, LEDTypeLayer3 = 0, LEDTypeLayer4 = 0;
 };
 
-/// The host of an element: its container and the listener to its events. Handlers may throw Failure. A host keeps the
-/// element at least until a notice to it has returned; in the handlers of events it may let the element go.
+/// The host of an element: its container and the listener to its events. One question a host must answer; of the notice
+/// and the events it overrides those that it wants to hear, and the others do nothing.
+///
+/// Handlers may throw. A Failure is cleared where the system's procedures clear failures; anything else reaches the
+/// caller, and nothing stays half done behind it. A host keeps the element at least until a notice to it has returned;
+/// in the handlers of events it may let the element go. What a handler writes to its arguments is lost.
 class ElementHost {
  public:
   virtual ~ElementHost() = default;
 
-  virtual void PropertyChanged(ctlPlexelBaseElement& element, const Notice& notice) = 0;
-  /// Whether any element of the panel has the LED function in the layer, as a 16-bit boolean. A container that lacks
-  /// the member throws Failure (NoSuchMember).
+  /// Whether any element of the panel has the LED function in the layer; any value that is not 0 counts as yes. A
+  /// container that lacks the member throws Failure (NoSuchMember).
   virtual Boolean CheckIfLedIsAlreadyDefined(std::int32_t& LEDType, std::int32_t& Layer) = 0;
 
-  virtual void DirectInputStatusChanged(ctlPlexelBaseElement& element, Boolean& bDirectInputStatus) = 0;
-  /// The arguments are copies of the element's state; what a handler writes to them is lost.
-  virtual void SendKeyDefinition(ctlPlexelBaseElement& element, KeyDefinition& definition) = 0;
-  /// Coordinates in twips of the element's surface.
-  virtual void MouseClicked(ctlPlexelBaseElement& element, std::int16_t& Button, std::int16_t& Shift, float& x,
-                            float& Y) = 0;
-  virtual void MouseDblClicked(ctlPlexelBaseElement& element) = 0;
-  virtual void ProjectModified(ctlPlexelBaseElement& element) = 0;
+  /// A property was set: the notice to the container.
+  virtual void PropertyChanged(ctlPlexelBaseElement& /*element*/, const Notice& /*notice*/) {}
+  /// Keyboard capture has begun (true) or ended (false).
+  virtual void DirectInputStatusChanged(ctlPlexelBaseElement& /*element*/, Boolean& /*bDirectInputStatus*/) {}
+  /// The definition of the element, after its configuration dialog has closed and when it gets the focus.
+  virtual void SendKeyDefinition(ctlPlexelBaseElement& /*element*/, KeyDefinition& /*definition*/) {}
+  /// The mouse was released over the element. Coordinates in twips of the element's surface.
+  virtual void MouseClicked(ctlPlexelBaseElement& /*element*/, std::int16_t& /*Button*/, std::int16_t& /*Shift*/,
+                            float& /*x*/, float& /*Y*/) {}
+  virtual void MouseDblClicked(ctlPlexelBaseElement& /*element*/) {}
+  /// A dialog has stored something new in the element.
+  virtual void ProjectModified(ctlPlexelBaseElement& /*element*/) {}
 };
 
 }  // namespace plexel

@@ -40,29 +40,29 @@ std::size_t LengthOf(const Buffer& buffer) {
 
 }  // namespace
 
-void PackedCodes::Keep(const Info& record) {
-  std::array<std::uint8_t, mostBytes> packed;
+void PackCodes(const Info& record, std::vector<std::uint8_t>& packed) {
+  std::array<std::uint8_t, mostBytes> bytes;
   std::size_t size = 0;
   bool anyTouched = false;
   ForEachBuffer(record, [&](const Buffer& buffer) {
     if (buffer == initialCodes) {
-      packed[size++] = untouched;
+      bytes[size++] = untouched;
       return;
     }
     anyTouched = true;
     const std::size_t length = LengthOf(buffer);
-    packed[size++] = static_cast<std::uint8_t>(length);
-    std::memcpy(&packed[size], &buffer.NextValue, sizeof(buffer.NextValue));
-    std::memcpy(&packed[size] + sizeof(buffer.NextValue), buffer.Value.data(), length);
+    bytes[size++] = static_cast<std::uint8_t>(length);
+    std::memcpy(&bytes[size], &buffer.NextValue, sizeof(buffer.NextValue));
+    std::memcpy(&bytes[size] + sizeof(buffer.NextValue), buffer.Value.data(), length);
     size += sizeof(buffer.NextValue) + length;
   });
-  packed_.assign(packed.data(), packed.data() + (anyTouched ? size : 0));
+  packed.assign(bytes.data(), bytes.data() + (anyTouched ? size : 0));
 }
 
-void PackedCodes::PutInto(Info& record) const {
-  const std::uint8_t* from = packed_.data();
+void UnpackCodes(const std::vector<std::uint8_t>& packed, Info& record) {
+  const std::uint8_t* from = packed.data();
   ForEachBuffer(record, [&](Buffer& buffer) {
-    const std::uint8_t length = packed_.empty() ? untouched : *from++;
+    const std::uint8_t length = packed.empty() ? untouched : *from++;
     if (length == untouched) {
       buffer = initialCodes;
       return;

@@ -25,6 +25,9 @@ class PropertyBag {
   virtual const BagValue* FindOwn(std::size_t /*place*/, std::string_view key) const { return Find(key); }
   /// Stores a value under a key.
   virtual void Store(std::string_view key, BagValue value) = 0;
+  /// Takes the value of a key away; nothing happens when there is none. An element that is written takes away what it
+  /// leaves out, so that a bag that is written again holds the values that a new one would.
+  virtual void Remove(std::string_view key) = 0;
 };
 
 /// Conversions of a stored value, as the element reads it. Failure (Conversion) or (Overflow) for a value that does not

@@ -2,26 +2,10 @@
 
 #include <algorithm>
 
+#include "platform/clean_up.h"
 #include "platform/platform.h"
 
 namespace plexel {
-
-namespace {
-
-/// Runs an action at the end of a scope, on a failure too.
-template <typename Action>
-class AtEnd {
- public:
-  explicit AtEnd(Action action) : action_(std::move(action)) {}
-  ~AtEnd() { action_(); }
-  AtEnd(const AtEnd&) = delete;
-  AtEnd& operator=(const AtEnd&) = delete;
-
- private:
-  Action action_;
-};
-
-}  // namespace
 
 Form::Form(std::string_view name) : name_(name) {}
 
@@ -55,7 +39,15 @@ void Form::ShowModal(Window* owner) {
   if (loaded_) throw Failure(FailureKind::InvalidCall, name_ + " is shown already");
   ModalLoop& loop = Platform::Current().Modal();
   loop.Prepare(*this);
-  const AtEnd forget([this] { Forget(); });
+  const auto abandon = [this] {
+    Forget();
+    OnAbandoned();
+  };
+  OrUndo([&] { LoadAndRun(loop, owner); }, abandon);
+  Forget();
+}
+
+void Form::LoadAndRun(ModalLoop& loop, Window* owner) {
   loaded_ = true;
   OnLoad();
   if (loaded_ && (focus_ == nullptr || !focus_->CanTakeFocus())) {
@@ -75,6 +67,10 @@ void Form::Unload(UnloadMode mode) {
     OnQueryUnload(mode);
     OnUnload();
   }
+  End();
+}
+
+void Form::End() {
   const bool wasShown = shown_;
   Forget();
   if (wasShown) Platform::Current().Modal().Closed(*this);
@@ -93,12 +89,7 @@ void Form::PopupMenu(MenuItem& menu, float x, float y) { Popup(menu, true, x, y)
 void Form::Popup(MenuItem& menu, bool placed, float x, float y) {
   ModalLoop& loop = Platform::Current().Modal();
   openPopup_ = &menu;
-  try {
-    loop.Popup(*this, menu, placed, x, y);
-  } catch (const Failure&) {
-    openPopup_ = nullptr;
-    throw;
-  }
+  OrUndo([&] { loop.Popup(*this, menu, placed, x, y); }, [this] { openPopup_ = nullptr; });
 }
 
 Description Form::Describe() const {

@@ -12,6 +12,8 @@
 
 namespace plexel {
 
+class ModalLoop;
+
 /// Why a form unloads.
 enum class UnloadMode : std::int32_t { CloseBox = 0, Code = 1 };
 
@@ -84,6 +86,8 @@ class Form : public Window {
   /// Closes the form: QueryUnload, Unload. With a form that is not loaded, or is unloading, nothing happens. A failure
   /// of the two events passes on and the form stays.
   void Unload(UnloadMode mode = UnloadMode::Code);
+  /// The same without the events: the form is no longer shown, whatever had become of it. For the end of the program.
+  void End();
 
   /// Opens a popup menu at the mouse, or at a place of the client area in twips.
   void PopupMenu(MenuItem& menu);
@@ -103,6 +107,9 @@ class Form : public Window {
   virtual void OnLoad() {}
   virtual void OnQueryUnload(UnloadMode) {}
   virtual void OnUnload() {}
+  /// An exception has ended the showing, without the two events above; the form is no longer shown. What the form has
+  /// set going outside itself ends here.
+  virtual void OnAbandoned() {}
   virtual void OnKeyDown(std::int16_t& keyCode, std::int16_t shift);
   virtual void OnKeyPress(std::int16_t& keyAscii);
 
@@ -113,6 +120,7 @@ class Form : public Window {
   /// The controls of TabOrder, with `preferred` standing for the option buttons of its container.
   std::vector<Control*> ReachableByTab(const Control* preferred) const;
   void Popup(MenuItem& menu, bool placed, float x, float y);
+  void LoadAndRun(ModalLoop& loop, Window* owner);
   /// Ends the state of being loaded, whatever had become of it.
   void Forget();
 

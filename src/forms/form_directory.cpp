@@ -13,7 +13,8 @@ void FormDirectory::Add(std::string name, Maker maker) { entries_[std::move(name
 
 void FormDirectory::ShowModal(std::string_view name, Window* owner) {
   const auto found = entries_.find(name);
-  if (found == entries_.end()) throw Failure(FailureKind::NoSuchMember, "no form named " + std::string(name));
+  if (found == entries_.end() || !found->second.maker)
+    throw Failure(FailureKind::NoSuchMember, "no form named " + std::string(name));
   Entry& entry = found->second;
   if (entry.open) throw Failure(FailureKind::InvalidCall, std::string(name) + " is shown already");
 
@@ -24,6 +25,15 @@ void FormDirectory::ShowModal(std::string_view name, Window* owner) {
   const Closing closing{entry};
   entry.open = entry.maker();
   entry.open->ShowModal(owner);
+}
+
+std::vector<Form*> FormDirectory::Clear() {
+  std::vector<Form*> open;
+  for (auto& [name, entry] : entries_) {
+    entry.maker = nullptr;
+    if (entry.open) open.push_back(entry.open.get());
+  }
+  return open;
 }
 
 Form* FormDirectory::Open(std::string_view name) const {

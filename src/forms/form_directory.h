@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/form.h"
 
@@ -20,6 +21,8 @@ class FormDirectory {
   /// Shows the form of this name modal and returns when it has closed. Failure (NoSuchMember) for an unknown name,
   /// Failure (InvalidCall) when the form is shown already.
   void ShowModal(std::string_view name, Window* owner);
+  /// Takes all makers away. The forms that are open stay so; it gives them.
+  std::vector<Form*> Clear();
   /// The instance that is open, or null.
   Form* Open(std::string_view name) const;
 

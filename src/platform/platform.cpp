@@ -2,16 +2,11 @@
 
 namespace plexel {
 
-namespace {
-Platform* current = nullptr;
-}
+Platform* Platform::current_ = nullptr;
 
 Platform& Platform::Current() {
-  if (current == nullptr) throw Failure(FailureKind::ObjectNotSet, "no platform is in force");
-  return *current;
+  if (current_ == nullptr) throw Failure(FailureKind::ObjectNotSet, "no platform is in force");
+  return *current_;
 }
-
-Platform::Use::Use(Platform& platform) : previous_(current) { current = &platform; }
-Platform::Use::~Use() { current = previous_; }
 
 }  // namespace plexel

@@ -26,17 +26,9 @@ class Platform {
   /// The platform in force; Failure (ObjectNotSet) when there is none.
   static Platform& Current();
 
-  /// Makes a platform current for the life of this object; the platform must outlive it.
-  class Use {
-   public:
-    explicit Use(Platform& platform);
-    ~Use();
-    Use(const Use&) = delete;
-    Use& operator=(const Use&) = delete;
-
-   private:
-    Platform* previous_;
-  };
+ private:
+  friend class PlatformInForce;
+  static Platform* current_;
 };
 
 }  // namespace plexel

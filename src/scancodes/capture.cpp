@@ -1,6 +1,9 @@
 #include "scancodes/capture.h"
 
-#include "element/ctlPlexelBaseElement.h"
+#include <utility>
+
+#include "element/element_access.h"
+#include "platform/clean_up.h"
 #include "platform/platform.h"
 #include "scancodes/input_focus.h"
 #include "scancodes/key_table.h"
@@ -26,7 +29,7 @@ void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
 
   state.HelpFile.clear();
   CatchFocus(target);
-  CurrentElement().RaiseDirectInputStatusChanged(bActive);
+  ElementAccess::RaiseDirectInputStatusChanged(CurrentElement(), bActive);
   // The release of the key that switched capture on must not end a combination: no key is up before one has gone down.
   state.lngPressedKeys[0][key_field::Down] = 1;
   state.lngInputTarget = target;
@@ -42,7 +45,7 @@ void StopCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
 
   state.lngKeyboardHook = 0;
   state.lngLowLevelHook = 0;
-  CurrentElement().RaiseDirectInputStatusChanged(bActive);
+  ElementAccess::RaiseDirectInputStatusChanged(CurrentElement(), bActive);
   state.HelpFile = HelpFileName();
   ReturnFocus(target);
   // The extended flag stays: it is written before it is read.
@@ -55,11 +58,33 @@ void StopCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
 }  // namespace
 
 std::int32_t SetDirectInput(Boolean bActive, std::int32_t lngTarget) {
-  return EndQuietlyWith(std::int32_t{0}, [&](std::int32_t& result) {
-    const bool on = Module().lngKeyboardHook != 0;
-    if (bActive == True && !on) StartCapture(result, bActive, lngTarget);
-    if (bActive == False && on) StopCapture(result, bActive, lngTarget);
-  });
+  const auto setUnlessItFails = [&] {
+    return EndQuietlyWith(std::int32_t{0}, [&](std::int32_t& result) {
+      const bool on = Module().lngKeyboardHook != 0;
+      if (bActive == True && !on) StartCapture(result, bActive, lngTarget);
+      if (bActive == False && on) StopCapture(result, bActive, lngTarget);
+    });
+  };
+  return OrUndo(setUnlessItFails, AbandonCapture);
+}
+
+void DropCapture() {
+  ModuleState& state = Module();
+  const std::int32_t lowLevelHook = std::exchange(state.lngLowLevelHook, 0);
+  const std::int32_t keyboardHook = std::exchange(state.lngKeyboardHook, 0);
+  state.bDirectInputActive = False;
+  state.lngPressedKeys = {};
+  state.lngPressedKeyCount = 0;
+  const auto remove = [](std::int32_t hook) {
+    if (hook != 0) Platform::Current().Hooks().Remove(hook);
+  };
+  AndThen([&] { remove(lowLevelHook); }, [&] { remove(keyboardHook); });
+}
+
+void AbandonCapture() {
+  const bool captured = Module().lngKeyboardHook != 0;
+  DropCapture();
+  if (captured) EndQuietly([] { ElementAccess::RaiseDirectInputStatusChanged(CurrentElement(), False); });
 }
 
 }  // namespace plexel

@@ -5,9 +5,9 @@
 
 namespace plexel {
 
-/// The system's boolean: 16 bits, of which true is -1 and false is 0. It is made of a `bool` and of nothing else, so that
-/// no number becomes one by accident. Tests for true compare with exactly -1: any other value that is not 0 is neither
-/// true nor false, and is stored all the same.
+/// The system's boolean: 16 bits, of which true is -1 and false is 0. It is made of a `bool` and of nothing else, so
+/// that no number becomes one by accident. Tests for true compare with exactly -1: any other value that is not 0 is
+/// neither true nor false, and is stored all the same.
 class Boolean {
  public:
   constexpr Boolean() = default;

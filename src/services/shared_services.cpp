@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "forms/form.h"
+#include "platform/clean_up.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
@@ -55,22 +56,6 @@ void Translate(std::string_view text, std::string_view prefix, Assign&& assign) 
   std::string translated = GetText(number);
   if (!translated.empty()) assign(std::move(translated));
 }
-
-/// An information context of the screen, given back at the end of its life.
-class InformationContext {
- public:
-  explicit InformationContext(Screen& screen) : screen_(screen), handle_(screen.CreateInformationContext()) {}
-  ~InformationContext() {
-    PassOver([&] { screen_.DeleteContext(handle_); });
-  }
-  InformationContext(const InformationContext&) = delete;
-  InformationContext& operator=(const InformationContext&) = delete;
-  std::intptr_t Handle() const { return handle_; }
-
- private:
-  Screen& screen_;
-  std::intptr_t handle_;
-};
 
 }  // namespace
 
@@ -130,8 +115,11 @@ void DetermineOsFamily() {
 
 std::int32_t GetScreenLogPixels() {
   Screen& screen = Platform::Current().TheScreen();
-  const InformationContext context(screen);
-  return screen.DeviceCapability(context.Handle(), Screen::LogicalPixelsX);
+  const std::intptr_t context = screen.CreateInformationContext();
+  std::int32_t pixels = 0;
+  AndThen([&] { pixels = screen.DeviceCapability(context, Screen::LogicalPixelsX); },
+          [&] { PassOver([&] { screen.DeleteContext(context); }); });
+  return pixels;
 }
 
 double GetDpiScaleFactor() {
@@ -162,17 +150,17 @@ std::string LedTypeToText(std::int32_t type) {
   return found == ledNames.end() ? std::string() : GetText(found->number);
 }
 
-std::intptr_t OpenPositions() {
+void StorePositions(std::initializer_list<StoredPosition> positions) {
+  const auto registry = []() -> Registry& { return Platform::Current().UserRegistry(); };
   std::intptr_t key = 0;
-  Platform::Current().UserRegistry().OpenKey(Registry::CurrentUser, PositionKey, 0, Registry::AccessSetValue, key);
-  return key;
+  registry().OpenKey(Registry::CurrentUser, PositionKey, 0, Registry::AccessSetValue, key);
+  const auto store = [&] {
+    for (const auto& [position, text] : positions) {
+      const auto length = static_cast<std::int32_t>(text.size());
+      registry().SetValue(key, PositionName(position), 0, Registry::TypeText, text, length);
+    }
+  };
+  AndThen(store, [&] { registry().CloseKey(key); });
 }
-
-void StorePosition(std::intptr_t key, SavedPosition position, std::string_view text) {
-  const auto length = static_cast<std::int32_t>(text.size());
-  Platform::Current().UserRegistry().SetValue(key, PositionName(position), 0, Registry::TypeText, text, length);
-}
-
-void ClosePositions(std::intptr_t key) { Platform::Current().UserRegistry().CloseKey(key); }
 
 }  // namespace plexel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -45,11 +46,13 @@ enumLedType LedTextToType(std::string_view text);
 /// The text of an enumLedType; empty outside 0 to 14.
 std::string LedTypeToText(std::int32_t type);
 
-/// Stores one value of a dialog's position under the component's registry key; the handle comes from OpenPositions.
-/// Results of the registry are not looked at.
 inline constexpr std::string_view PositionKey = "SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS";
-std::intptr_t OpenPositions();
-void StorePosition(std::intptr_t key, SavedPosition position, std::string_view text);
-void ClosePositions(std::intptr_t key);
+struct StoredPosition {
+  SavedPosition position;
+  std::string text;
+};
+/// Stores values of a dialog's position under the component's registry key, in their order, and closes the key in any
+/// case. Results of the registry are not looked at.
+void StorePositions(std::initializer_list<StoredPosition> positions);
 
 }  // namespace plexel

@@ -8,8 +8,6 @@ namespace plexel {
 
 namespace {
 
-Surroundings* current = nullptr;
-
 constexpr std::array<std::string_view, CapabilityCount> capabilityNames = {"HasBackgroundLightDarker",
                                                                            "HasBackgroundLightLighter",
                                                                            "HasContrastLower",
@@ -39,12 +37,11 @@ static_assert(static_cast<int>(Capability::HasUserLed) == CapabilityCount - 1);
 
 std::string_view CapabilityName(Capability query) { return capabilityNames.at(static_cast<std::size_t>(query)); }
 
-Surroundings& Surroundings::Current() {
-  if (current == nullptr) throw Failure(FailureKind::ObjectNotSet, "no surroundings are in force");
-  return *current;
-}
+Surroundings* Surroundings::current_ = nullptr;
 
-Surroundings::Use::Use(Surroundings& surroundings) : previous_(current) { current = &surroundings; }
-Surroundings::Use::~Use() { current = previous_; }
+Surroundings& Surroundings::Current() {
+  if (current_ == nullptr) throw Failure(FailureKind::ObjectNotSet, "no surroundings are in force");
+  return *current_;
+}
 
 }  // namespace plexel

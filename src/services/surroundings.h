@@ -91,17 +91,9 @@ class Surroundings {
   /// The surroundings in force; Failure (ObjectNotSet) when there are none.
   static Surroundings& Current();
 
-  /// Makes surroundings current for the life of this object; they must outlive it.
-  class Use {
-   public:
-    explicit Use(Surroundings& surroundings);
-    ~Use();
-    Use(const Use&) = delete;
-    Use& operator=(const Use&) = delete;
-
-   private:
-    Surroundings* previous_;
-  };
+ private:
+  friend class SurroundingsInForce;
+  static Surroundings* current_;
 };
 
 }  // namespace plexel

@@ -101,6 +101,11 @@ void frmButtonWizardPage1::OnQueryUnload(UnloadMode mode) {
   });
 }
 
+void frmButtonWizardPage1::OnAbandoned() {
+  WizardPage::OnAbandoned();
+  AbandonCapture();
+}
+
 void frmButtonWizardPage1::OnKeyPress(std::int16_t& keyAscii) {
   if (keyAscii == key::Escape) cmdCancel_Click();
 }

@@ -17,6 +17,7 @@ class frmButtonWizardPage1 : public WizardPage, public WizardPageAccess {
   /// Passes over each step of loading that fails.
   void OnLoad() override;
   void OnQueryUnload(UnloadMode mode) override;
+  void OnAbandoned() override;
   void OnKeyPress(std::int16_t& keyAscii) override;
 
   TextBox& ScanCodeBox() override { return txtScanCodes; }

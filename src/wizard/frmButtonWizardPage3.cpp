@@ -1,6 +1,6 @@
 #include "wizard/frmButtonWizardPage3.h"
 
-#include "element/ctlPlexelBaseElement.h"
+#include "element/element_access.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
@@ -29,7 +29,7 @@ void frmButtonWizardPage3::LeaveWizard() {
 
 void frmButtonWizardPage3::cmdOK_Click() {
   cmdOK.Enabled(false);
-  CurrentElement().RaiseProjectModified();
+  ElementAccess::RaiseProjectModified(CurrentElement());
   Module().bWizardPageChanging = False;
   SaveDialogPosition();
   Unload();

@@ -14,13 +14,10 @@ constexpr std::int32_t helpTopic = 1002;
 }  // namespace
 
 void WizardPage::SaveDialogPosition() {
-  EndQuietly([this] {
-    const std::intptr_t key = OpenPositions();
-    StorePosition(key, SavedTop, SingleToText(Top()));
-    StorePosition(key, SavedLeft, SingleToText(Left()));
-    ClosePositions(key);
-  });
+  EndQuietly([this] { StorePositions({{SavedTop, SingleToText(Top())}, {SavedLeft, SingleToText(Left())}}); });
 }
+
+void WizardPage::OnAbandoned() { Module().bWizardPageChanging = False; }
 
 void WizardPage::ScaleTitlePicture() {
   EndQuietly([this] {

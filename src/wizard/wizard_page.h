@@ -17,6 +17,7 @@ class WizardPage : public Form {
   /// Fits the title picture to the screen, once. Ends quietly on a failure.
   void ScaleTitlePicture();
   void labLimitations_Click();
+  void OnAbandoned() override;
 
  protected:
   static constexpr float PageWidth = 7425, PageHeight = 5220;  ///< client area, in twips

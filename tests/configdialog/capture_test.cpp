@@ -141,8 +141,8 @@ TEST_F(CaptureMode, ARefusedHookShowsMessage5822AndCaptureStaysOff) {
   Open([this](frmConfigurationDialog& dialog, Hand& hand) {
     hand.DblClick(dialog.msgScanCodes, 1, 1);
     ASSERT_EQ(platform.Messages().Shown().size(), 1U);
-    EXPECT_EQ(platform.Messages().Shown()[0].prompt, "T5822");
-    EXPECT_EQ(platform.Messages().Shown()[0].title, "T6001");
+    EXPECT_EQ(platform.Messages().Shown()[0].prompt, Text(5822));
+    EXPECT_EQ(platform.Messages().Shown()[0].title, Text(6001));
     EXPECT_EQ(platform.Messages().Shown()[0].style, 16);
     EXPECT_FALSE(Capturing());
     EXPECT_TRUE(dialog.cmdCancel.Cancel());
@@ -156,8 +156,8 @@ TEST_F(CaptureMode, AHookThatCannotBeRemovedShowsMessage5823AndCaptureStaysOn) {
     platform.faults.Turn(Fault::Unhook, true);
     hand.DblClick(dialog.msgScanCodes, 1, 1);
     ASSERT_EQ(platform.Messages().Shown().size(), 1U);
-    EXPECT_EQ(platform.Messages().Shown()[0].prompt, "T5823");
-    EXPECT_EQ(platform.Messages().Shown()[0].title, "T6001");
+    EXPECT_EQ(platform.Messages().Shown()[0].prompt, Text(5823));
+    EXPECT_EQ(platform.Messages().Shown()[0].title, Text(6001));
     EXPECT_TRUE(Capturing());
     EXPECT_FALSE(dialog.cmdCancel.Cancel());
     EXPECT_EQ(dialog.msgScanCodes.CellAt(1, 1).backColor, CaptureColour);

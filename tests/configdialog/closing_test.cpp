@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "configdialog/dialog_fixture.h"
+#include "element/element_access.h"
 
 namespace plexel {
 
@@ -16,7 +17,7 @@ TEST_F(ConfigurationDialogClosing, OkOfALedElementEmptiesAllEightDefinitions) {
     element->ReleaseKeyDefLayer(layer, "[b" + Both + "]");
   }
   OpenFor(Led, [](frmConfigurationDialog& dialog, Hand& hand) { hand.Click(dialog.cmdOK); });
-  EXPECT_TRUE(element->IsDefinitionEmpty());
+  EXPECT_TRUE(ElementAccess::IsDefinitionEmpty(*element));
 }
 
 TEST_F(ConfigurationDialogClosing, OkWithoutAChangeMakesTheElementManuallyDefinedAndRaisesProjectModified) {
@@ -28,7 +29,7 @@ TEST_F(ConfigurationDialogClosing, OkWithoutAChangeMakesTheElementManuallyDefine
 TEST_F(ConfigurationDialogClosing, OkStoresNoteLedFunctionsAndTexts) {
   Open([](frmConfigurationDialog& dialog, Hand& hand) {
     dialog.txtButtonNotes.Text("note");
-    dialog.cmbLEDTypes[2].Text("T10403");
+    dialog.cmbLEDTypes[2].Text(Text(10403));
     dialog.msgScanCodes.Current(4, 2);
     dialog.msgScanCodes.Text("[b" + Both + "]");
     hand.Click(dialog.cmdOK);

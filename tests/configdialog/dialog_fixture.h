@@ -10,16 +10,11 @@
 #include <vector>
 
 #include "configdialog/frmConfigurationDialog.h"
-#include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
 #include "forms/hand.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
-#include "headless/host_window.h"
 #include "headless/key_road.h"
-#include "headless/recording_host.h"
 #include "services/code_page.h"
-#include "services/module_state.h"
+#include "world/world.h"
 
 namespace plexel {
 
@@ -49,15 +44,13 @@ inline std::vector<int> Bytes(const udtTactisBaseElement_TACTIS_SCANCODE& buffer
   return {buffer.Value.begin(), buffer.Value.begin() + buffer.NextValue + 1};
 }
 
-/// Opens the configuration dialog of an element and acts in it. Language texts are "T" and their number.
-class ConfigurationDialog : public ::testing::Test {
+/// Opens the configuration dialog of an element and acts in it.
+class ConfigurationDialog : public ::testing::Test, protected World {
  protected:
   using Act = std::function<void(frmConfigurationDialog& dialog, Hand& hand)>;
 
   ConfigurationDialog() {
-    Module() = ModuleState{};
-    surroundings.Language().Source(&ConfigurationDialog::Texts);
-    FormDirectory::Instance().Add("frmConfigurationDialog", [] { return std::make_unique<frmConfigurationDialog>(); });
+    Speak();
     platform.Modal().onRun = [this](Form& form) { Run(form); };
     platform.Modal().onShown = [this](Form& form, Window* owner) {
       shown.push_back(form.Name());
@@ -67,7 +60,6 @@ class ConfigurationDialog : public ::testing::Test {
     element->ParentWindow(std::make_shared<HostForm>());
     host.Forget();
   }
-  ~ConfigurationDialog() override { Module() = ModuleState{}; }
 
   /// Opens the dialog on the element, acts, and closes it by its close box when the act left it open.
   void Open(Act act) {
@@ -112,26 +104,12 @@ class ConfigurationDialog : public ::testing::Test {
   bool Hooked() { return platform.Hooks().Installed(HookKind::Keyboard); }
   static bool Capturing() { return Module().bDirectInputActive == True; }
 
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-  Platform::Use usePlatform{platform};
-  Surroundings::Use useSurroundings{surroundings};
-  RecordingHost host{platform.faults};
-  std::shared_ptr<ctlPlexelBaseElement> element = ctlPlexelBaseElement::Create("A", host);
+  std::shared_ptr<ctlPlexelBaseElement> element = component.Create("A", host);
   std::vector<std::string> shown, owners;
   /// Runs for a form that is not the configuration dialog.
   std::function<void(Form& form)> onChild;
 
  private:
-  static HeadlessLanguage::Texts Texts() {
-    HeadlessLanguage::Texts texts;
-    for (const auto& [first, last] : std::initializer_list<std::pair<int, int>>{
-             {100, 199}, {2000, 2999}, {5822, 5823}, {6001, 6002}, {10400, 10413}, {10814, 10814}, {10956, 10961}}) {
-      for (int number = first; number <= last; ++number) texts[number] = "T" + std::to_string(number);
-    }
-    return texts;
-  }
-
   void Send(std::int32_t virtualKey, std::int32_t scanCode, bool down) {
     KeyRoad(platform).Send({virtualKey, scanCode, false, down, 0});
   }

@@ -16,7 +16,7 @@ TEST_F(ScanCodeGrid, HeadersStandCentredInRowZero) {
     EXPECT_EQ(dialog.msgScanCodes.Rows(), 5);
     EXPECT_EQ(dialog.msgScanCodes.Cols(), 3);
     for (int col = 0; col < 3; ++col) {
-      EXPECT_EQ(dialog.msgScanCodes.CellAt(0, col).text, "T" + std::to_string(2002 + col));
+      EXPECT_EQ(dialog.msgScanCodes.CellAt(0, col).text, Text(2002 + col));
       EXPECT_TRUE(dialog.msgScanCodes.CellAt(0, col).centred);
     }
   });
@@ -43,7 +43,7 @@ TEST_F(ScanCodeGrid, AWidthThatIsNoNumberEndsTheShapingAndLoadingGoesOn) {
     EXPECT_EQ(dialog.msgScanCodes.ColWidth(0), 700);
     EXPECT_EQ(dialog.msgScanCodes.CellAt(0, 0).text, "");
     EXPECT_EQ(dialog.msgScanCodes.CellAt(1, 1).text, "[a" + Both + "]");
-    EXPECT_EQ(dialog.Caption(), "T2005");
+    EXPECT_EQ(dialog.Caption(), Text(2005));
   });
 }
 

@@ -24,7 +24,7 @@ class LedPage : public ConfigurationDialog {
 
 std::vector<std::string> Numbers(std::initializer_list<int> numbers) {
   std::vector<std::string> texts;
-  for (const int number : numbers) texts.push_back("T" + std::to_string(number));
+  for (const int number : numbers) texts.push_back(Text(number));
   return texts;
 }
 
@@ -107,7 +107,7 @@ TEST_F(LedPage, EntriesStandInTheOrderOfTheirTextsAndNotOfTesting) {
   surroundings.Language().Set(10400, "zebra");
   surroundings.Language().Set(10402, "alpha");
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Items(), (std::vector<std::string>{"alpha", "T10401", "T10403", "zebra"}));
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Items(), (std::vector<std::string>{"alpha", Text(10401), Text(10403), "zebra"}));
   });
 }
 
@@ -118,7 +118,7 @@ TEST_F(LedPage, AFunctionOfAnotherElementIsMissingOnThatLayerOnly) {
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
     const auto offers = [&](int index) {
       const auto& items = dialog.LedTypeBox(index).Items();
-      return std::find(items.begin(), items.end(), "T10403") != items.end();
+      return std::find(items.begin(), items.end(), Text(10403)) != items.end();
     };
     EXPECT_TRUE(offers(0));
     EXPECT_FALSE(offers(1));
@@ -133,8 +133,8 @@ TEST_F(LedPage, TheElementsOwnFunctionIsOfferedThoughAnotherElementHoldsIt) {
   host.LedDefined(PowerLed, 2, True);
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
     const auto& items = dialog.cmbLEDTypes[1].Items();
-    EXPECT_NE(std::find(items.begin(), items.end(), "T10403"), items.end());
-    EXPECT_EQ(dialog.cmbLEDTypes[1].Text(), "T10403");
+    EXPECT_NE(std::find(items.begin(), items.end(), Text(10403)), items.end());
+    EXPECT_EQ(dialog.cmbLEDTypes[1].Text(), Text(10403));
   });
 }
 
@@ -142,16 +142,16 @@ TEST_F(LedPage, ATargetWithoutFunctionsLeavesTheListsEmptyAndClearingWorks) {
   element->LEDTypeLayer1(PowerLed);
   OpenLed([](frmConfigurationDialog& dialog, Hand& hand) {
     EXPECT_EQ(dialog.cmbLEDTypes[0].ListCount(), 0);
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10403");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10403));
     hand.Click(dialog.cmdDeleteLED[0]);
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10413");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10413));
   });
 }
 
 TEST_F(LedPage, NoFunctionShowsItsTextThoughTheListLacksIt) {
   TargetHasAll();
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10413");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10413));
     EXPECT_EQ(dialog.cmbLEDTypes[0].ListIndex(), -1);
   });
 }
@@ -160,10 +160,10 @@ TEST_F(LedPage, ADisabledBoxShowsTheStoredFunctionAndItsButtonStillClearsIt) {
   TargetHasAll();
   element->LEDTypeLayer2(AlarmLed);
   OpenLed([](frmConfigurationDialog& dialog, Hand& hand) {
-    EXPECT_EQ(dialog.cmbLEDTypes[1].Text(), "T10412");
+    EXPECT_EQ(dialog.cmbLEDTypes[1].Text(), Text(10412));
     EXPECT_FALSE(dialog.cmbLEDTypes[1].Usable());
     hand.Click(dialog.cmdDeleteLED[1]);
-    EXPECT_EQ(dialog.cmbLEDTypes[1].Text(), "T10413");
+    EXPECT_EQ(dialog.cmbLEDTypes[1].Text(), Text(10413));
   });
 }
 
@@ -215,7 +215,7 @@ TEST_F(LedPage, ATypedLetterChangesNothing) {
     hand.Focus(dialog.cmbLEDTypes[0]);
     EXPECT_EQ(hand.KeyDown('T', 0), 0);
     EXPECT_EQ(hand.KeyPress('T'), 0);
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10413");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10413));
   });
 }
 
@@ -224,11 +224,11 @@ TEST_F(LedPage, UpAndDownMoveThroughTheList) {
   OpenLed([](frmConfigurationDialog& dialog, Hand& hand) {
     hand.Focus(dialog.cmbLEDTypes[0]);
     EXPECT_EQ(hand.KeyDown(key::Down, 0), key::Down);
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10400");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10400));
     hand.KeyDown(key::Down, 0);
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10401");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10401));
     EXPECT_EQ(hand.KeyDown(key::Up, 0), key::Up);
-    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), "T10400");
+    EXPECT_EQ(dialog.cmbLEDTypes[0].Text(), Text(10400));
   });
 }
 
@@ -262,9 +262,9 @@ TEST_F(LedPage, TextOfAnEntryIsEmptyForNoFunctionAndAbove14) {
   frmConfigurationDialog dialog;
   std::string text;
   dialog.LedTypeToListText(RunLed, text);
-  EXPECT_EQ(text, "T10961");
+  EXPECT_EQ(text, Text(10961));
   dialog.LedTypeToListText(HarddiskLed, text);
-  EXPECT_EQ(text, "T10401");
+  EXPECT_EQ(text, Text(10401));
   dialog.LedTypeToListText(LedNotEnabled, text);
   EXPECT_EQ(text, "");
   text = "before";
@@ -277,7 +277,7 @@ TEST_F(LedPage, AnyLedIsDefinedWhenOneBoxShowsAFunction) {
     EXPECT_FALSE(dialog.AnyLEDDefined());
     dialog.cmbLEDTypes[3].Text("unknown");
     EXPECT_FALSE(dialog.AnyLEDDefined());
-    dialog.cmbLEDTypes[0].Text("T10400");
+    dialog.cmbLEDTypes[0].Text(Text(10400));
     EXPECT_TRUE(dialog.AnyLEDDefined());
   });
 }
@@ -287,7 +287,7 @@ TEST_F(LedPage, AContainerWithoutTheMemberLeavesTheListsEmptyAndLoadingGoesOn) {
   host.TakeMemberAway();
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
     EXPECT_EQ(dialog.cmbLEDTypes[0].ListCount(), 0);
-    EXPECT_EQ(dialog.Caption(), "T2006");
+    EXPECT_EQ(dialog.Caption(), Text(2006));
   });
 }
 
@@ -296,7 +296,7 @@ TEST_F(LedPage, AFailingCapabilityServiceEndsTheFillingWithWhatItOffered) {
   platform.faults.Arm(Fault::Capability, 3);
   OpenLed([](frmConfigurationDialog& dialog, Hand&) {
     EXPECT_EQ(dialog.cmbLEDTypes[0].Items(), Numbers({10400, 10402}));
-    EXPECT_EQ(dialog.Caption(), "T2006");
+    EXPECT_EQ(dialog.Caption(), Text(2006));
   });
 }
 

@@ -29,11 +29,11 @@ TEST_P(ConfigurationDialogOfType, ShowsItsPages) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ConfigurationDialogOfType,
-                         ::testing::Values(TypeCase{Led, "T2006", false, true, 1},
-                                           TypeCase{Oval, "T2005", true, false, 0},
-                                           TypeCase{OvalLed, "T2005", true, true, 0},
-                                           TypeCase{Rect, "T2005", true, false, 0},
-                                           TypeCase{RectLed, "T2005", true, true, 0},
+                         ::testing::Values(TypeCase{Led, Text(2006), false, true, 1},
+                                           TypeCase{Oval, Text(2005), true, false, 0},
+                                           TypeCase{OvalLed, Text(2005), true, true, 0},
+                                           TypeCase{Rect, Text(2005), true, false, 0},
+                                           TypeCase{RectLed, Text(2005), true, true, 0},
                                            TypeCase{enumTactisBaseElementType{}, "", true, true, 0},
                                            TypeCase{static_cast<enumTactisBaseElementType>(7), "", true, true, 0}));
 
@@ -84,27 +84,27 @@ TEST_F(ConfigurationDialogLoading, HelpFileIsThatOfTheLanguage) {
 
 TEST_F(ConfigurationDialogLoading, StatusTextOfTheFamilyThatIsNotZeroIs2017) {
   platform.Version().PlatformId(2);
-  Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_EQ(dialog.stbStatusBar.SimpleText(), "T2017"); });
+  Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_EQ(dialog.stbStatusBar.SimpleText(), Text(2017)); });
 }
 
 TEST_F(ConfigurationDialogLoading, StatusTextOfFamilyZeroIs2018) {
   platform.Version().PlatformId(1);
-  Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_EQ(dialog.stbStatusBar.SimpleText(), "T2018"); });
+  Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_EQ(dialog.stbStatusBar.SimpleText(), Text(2018)); });
 }
 
 TEST_F(ConfigurationDialogLoading, CaptionMarkersBecomeLanguageTexts) {
   Open([](frmConfigurationDialog& dialog, Hand&) {
-    EXPECT_EQ(dialog.cmdOK.Caption(), "T153");
-    EXPECT_EQ(dialog.optCodeType[2].Caption(), "T2702");
-    EXPECT_EQ(dialog.sstScanCode.TabCaption(1), "T2014");
-    EXPECT_EQ(dialog.MNU_POPUP_NONSTANDARDCODE.Caption(), "T10814");
+    EXPECT_EQ(dialog.cmdOK.Caption(), Text(153));
+    EXPECT_EQ(dialog.optCodeType[2].Caption(), Text(2702));
+    EXPECT_EQ(dialog.sstScanCode.TabCaption(1), Text(2014));
+    EXPECT_EQ(dialog.MNU_POPUP_NONSTANDARDCODE.Caption(), Text(10814));
     EXPECT_EQ(dialog.Label2.Caption(), "Layer 1:");
     EXPECT_EQ(dialog.MNU_DUMMY.Caption(), "-");
   });
 }
 
 TEST_F(ConfigurationDialogLoading, GridHasTheToolTip10956) {
-  Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_EQ(dialog.msgScanCodes.ToolTipText(), "T10956"); });
+  Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_EQ(dialog.msgScanCodes.ToolTipText(), Text(10956)); });
 }
 
 TEST_F(ConfigurationDialogLoading, FirstDataCellIsCurrentAfterLoading) {
@@ -145,7 +145,7 @@ TEST_F(ConfigurationDialogLoading, ATopThatIsNoNumberLeavesTopAndLeftAndLoadingG
   surroundings.Settings().Position(1, "300");
   Open([](frmConfigurationDialog& dialog, Hand&) {
     EXPECT_EQ(dialog.Left(), 0.0F);
-    EXPECT_EQ(dialog.Caption(), "T2005");
+    EXPECT_EQ(dialog.Caption(), Text(2005));
   });
 }
 
@@ -172,8 +172,8 @@ TEST_F(ConfigurationDialogLoading, AFailingLanguageServiceEndsTheLoadingAtTheSta
 TEST_F(ConfigurationDialogLoading, WithoutACurrentElementTheLoadingEndsAtTheNote) {
   Module().ctlCurrentElement = nullptr;
   ShowDirectly([](frmConfigurationDialog& dialog, Hand&) {
-    EXPECT_EQ(dialog.cmdOK.Caption(), "T153");
-    EXPECT_EQ(dialog.msgScanCodes.ToolTipText(), "T10956");
+    EXPECT_EQ(dialog.cmdOK.Caption(), Text(153));
+    EXPECT_EQ(dialog.msgScanCodes.ToolTipText(), Text(10956));
     EXPECT_EQ(dialog.Caption(), "");
     EXPECT_EQ(dialog.Height(), 3810.0F);
     EXPECT_EQ(dialog.CancelButton(), nullptr);
@@ -210,7 +210,7 @@ TEST_F(ConfigurationDialogLoading, NoteAndCharactersLeftShowAfterLoading) {
 TEST_F(ConfigurationDialogLoading, ANoteOfExactly1000CharactersLeavesZero) {
   Open([](frmConfigurationDialog& dialog, Hand&) {
     dialog.txtButtonNotes.Text(std::string(1000, 'x'));
-    EXPECT_EQ(dialog.StatusBar1.SimpleText(), "T21090");
+    EXPECT_EQ(dialog.StatusBar1.SimpleText(), Text(21090));
   });
 }
 

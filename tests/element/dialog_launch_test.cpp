@@ -26,7 +26,6 @@ class DialogLaunch : public ElementTest {
     element->ElementType(Rect);
     host.Forget();
   }
-  ~DialogLaunch() override { FormDirectory::Instance() = FormDirectory(); }
 
   void WantAQuestion() {
     element->WizardOn(True);
@@ -73,7 +72,7 @@ TEST_F(DialogLaunch, AVantaFlagOfOneIsNotTrue) {
 }
 
 TEST_F(DialogLaunch, AKeySwitchOpensNothingAndSendsNothing) {
-  const auto before = ctlPlexelBaseElement::Create("B", host);
+  const auto before = component.Create("B", host);
   Module().ctlCurrentElement = before;
   Module().lngMaxScanCodes = 7;
   element->ElementType(Key);

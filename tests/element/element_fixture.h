@@ -6,43 +6,25 @@
 #include <string>
 #include <vector>
 
-#include "element/ctlPlexelBaseElement.h"
-#include "headless/headless_surroundings.h"
-#include "headless/host_window.h"
 #include "headless/memory_bag.h"
-#include "headless/recording_host.h"
-#include "services/module_state.h"
+#include "world/world.h"
 
 namespace plexel {
 
-/// One element in headless surroundings, with a module state of its own.
-class ElementTest : public testing::Test {
+/// One element in a world of its own.
+class ElementTest : public testing::Test, protected World {
  protected:
   using Values = std::vector<HostEvent::Value>;
   using Names = std::vector<std::string>;
 
-  ElementTest() {
-    Module() = ModuleState();
-    element = ctlPlexelBaseElement::Create("A", host);
-    host.Forget();
-  }
-  ~ElementTest() override { Module() = ModuleState(); }
+  ElementTest() { host.Forget(); }
 
   std::shared_ptr<ctlPlexelBaseElement> Load(MemoryBag::Entries entries) {
-    return ctlPlexelBaseElement::Read("B", host, MemoryBag(std::move(entries)));
+    return component.Read("B", host, MemoryBag(std::move(entries)));
   }
   const Surface& Shown() const { return element->SurfaceObjects(); }
 
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-  RecordingHost host{platform.faults};
-
- private:
-  Platform::Use usePlatform_{platform};
-  Surroundings::Use useSurroundings_{surroundings};
-
- protected:
-  std::shared_ptr<ctlPlexelBaseElement> element;
+  std::shared_ptr<ctlPlexelBaseElement> element = component.Create("A", host);
 };
 
 /// The kind of the failure that an act throws.

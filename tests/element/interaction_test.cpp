@@ -1,4 +1,5 @@
 #include "element/defined_marker.h"
+#include "element/element_access.h"
 #include "element_fixture.h"
 
 namespace plexel {
@@ -49,7 +50,7 @@ class WritingHost : public RecordingHost {
 
 TEST_F(ElementInteraction, WhatAListenerWritesToTheDefinitionIsLost) {
   WritingHost writing(platform.faults);
-  const auto other = ctlPlexelBaseElement::Create("B", writing);
+  const auto other = component.Create("B", writing);
   other->UserControl_GotFocus();
   EXPECT_EQ(other->PressKeyDefLayer1(), "");
   EXPECT_EQ(other->LEDTypeLayer1(), LedNotEnabled);
@@ -133,7 +134,7 @@ TEST_F(ElementInteraction, RefreshLaysOutWithTheNewFocusWidth) {
 }
 
 TEST_F(ElementInteraction, RefreshOfSeveralLeavesTheLastAsCurrent) {
-  const auto other = ctlPlexelBaseElement::Create("B", host);
+  const auto other = component.Create("B", host);
   element->Refresh();
   other->Refresh();
   EXPECT_EQ(Module().ctlCurrentElement, other);
@@ -160,7 +161,7 @@ TEST_F(ElementInteraction, RefreshEndsQuietlyAtAFocusWidthPast255) {
 TEST_F(ElementInteraction, RefreshKeepsTheStepsBeforeAFailingService) {
   surroundings.Settings().Option(3, True);
   for (std::int64_t call = 1; call <= 8; ++call) {
-    const auto other = ctlPlexelBaseElement::Create("B", host);
+    const auto other = component.Create("B", host);
     platform.faults.Arm(Fault::Settings, call);
     EXPECT_NO_THROW(other->Refresh());
     EXPECT_EQ(other->FocusColor() == 255, call > 1);
@@ -194,12 +195,12 @@ TEST_F(ElementInteraction, WithoutAContainerTheQuestionFails) {
 
 TEST_F(ElementInteraction, ADefinitionOfLedFunctionsAloneIsEmpty) {
   element->LEDTypeLayer1(RunLed);
-  EXPECT_TRUE(element->IsDefinitionEmpty());
+  EXPECT_TRUE(ElementAccess::IsDefinitionEmpty(*element));
 }
 
 TEST_F(ElementInteraction, AnyTextMakesTheDefinitionNotEmpty) {
   element->ReleaseKeyDefLayer4("[a]");
-  EXPECT_FALSE(element->IsDefinitionEmpty());
+  EXPECT_FALSE(ElementAccess::IsDefinitionEmpty(*element));
 }
 
 TEST_F(ElementInteraction, UpdatingTheMarkerWithoutACurrentElementEndsQuietly) {
@@ -208,7 +209,7 @@ TEST_F(ElementInteraction, UpdatingTheMarkerWithoutACurrentElementEndsQuietly) {
 }
 
 TEST_F(ElementInteraction, UpdatingTheMarkerWorksOnTheCurrentElement) {
-  const auto other = ctlPlexelBaseElement::Create("B", host);
+  const auto other = component.Create("B", host);
   element->ElementType(Rect);
   element->ShowDefined(True);
   element->PressKeyDefLayer1("[a]");

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "element/element_access.h"
 #include "element/property_table.h"
 #include "element_fixture.h"
 
@@ -57,7 +58,7 @@ TEST_F(Element, ANewOneHas45EndMarksInEachSequence) {
 }
 
 TEST_F(Element, ItsMakingAnnouncesKeyNumbersThenLedFunctions) {
-  ctlPlexelBaseElement::Create("New", host);
+  component.Create("New", host);
   const Values expected = {"HardwareNumberKey",
                            "HardwareNumberKey1",
                            "HardwareNumberKey2",
@@ -75,7 +76,7 @@ TEST_F(Element, ItsMakingAnnouncesKeyNumbersThenLedFunctions) {
 
 TEST_F(Element, AScreenThatFailsEndsItsMakingQuietly) {
   platform.faults.Turn(Fault::Screen, true);
-  const auto broken = ctlPlexelBaseElement::Create("Broken", host);
+  const auto broken = component.Create("Broken", host);
   EXPECT_EQ(broken->DPIFontScaleFactor(), 0.0);
   EXPECT_EQ(broken->HardwareNumberKey(), 0);
   EXPECT_EQ(broken->LEDTypeLayer1(), LedNotEnabled);
@@ -84,7 +85,7 @@ TEST_F(Element, AScreenThatFailsEndsItsMakingQuietly) {
 
 TEST_F(Element, AScreenWithoutAFiniteMeasureEndsItsMakingQuietly) {
   platform.TheScreen().TwipsPerPixel(HUGE_VALF, 15);
-  const auto broken = ctlPlexelBaseElement::Create("Broken", host);
+  const auto broken = component.Create("Broken", host);
   EXPECT_EQ(broken->DPIFontScaleFactor(), 0.0);
   EXPECT_EQ(broken->HardwareNumberKey7(), 0);
 }
@@ -225,15 +226,15 @@ TEST_F(Element, WithoutAHostNoticesAndEventsGoNowhere) {
   element->UserControl_GotFocus();
   element->UserControl_MouseUp(1, 0, 1, 1);
   element->UserControl_DblClick();
-  element->RaiseProjectModified();
-  element->RaiseDirectInputStatusChanged(True);
+  ElementAccess::RaiseProjectModified(*element);
+  ElementAccess::RaiseDirectInputStatusChanged(*element, True);
   EXPECT_TRUE(host.Heard().empty());
   EXPECT_EQ(element->SizeX(), 5);
 }
 
 TEST_F(Element, ItRaisesTheEventsOfItsDialogs) {
-  element->RaiseDirectInputStatusChanged(True);
-  element->RaiseProjectModified();
+  ElementAccess::RaiseDirectInputStatusChanged(*element, True);
+  ElementAccess::RaiseProjectModified(*element);
   const std::vector<HostEvent> expected = {{"A", "DirectInputStatusChanged", {-1}}, {"A", "ProjectModified", {}}};
   EXPECT_EQ(host.Events(), expected);
 }

@@ -10,6 +10,7 @@ namespace {
 
 using Info = udtTactisBaseElement_ScanCodeInfo;
 using Buffer = udtTactisBaseElement_TACTIS_SCANCODE;
+using PackedCodes = std::vector<std::uint8_t>;
 
 /// What comes back into a record that held something else before.
 Info Handed(const PackedCodes& codes) {
@@ -18,13 +19,13 @@ Info Handed(const PackedCodes& codes) {
     PressBuffer(record, layer)->Value.fill(0x5A);
     ReleaseBuffer(record, layer)->NextValue = 7;
   }
-  codes.PutInto(record);
+  UnpackCodes(codes, record);
   return record;
 }
 
 Info KeptAndHanded(const Info& record) {
   PackedCodes codes;
-  codes.Keep(record);
+  PackCodes(record, codes);
   return Handed(codes);
 }
 
@@ -66,10 +67,10 @@ TEST(PackedCodes, TheLastRecordCounts) {
   Info first;
   first.strLayer1PressScanCode.Value.fill(9);
   PackedCodes codes;
-  codes.Keep(first);
-  codes.Keep(Info{});
+  PackCodes(first, codes);
+  PackCodes(Info{}, codes);
   EXPECT_EQ(Handed(codes), Info{});
-  codes.Keep(Handed(PackedCodes()));
+  PackCodes(Handed(PackedCodes()), codes);
   EXPECT_EQ(Handed(codes), Handed(PackedCodes()));
 }
 

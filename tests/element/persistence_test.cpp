@@ -30,6 +30,7 @@ class AskedBag : public PropertyBag {
     return nullptr;
   }
   void Store(std::string_view, BagValue) override {}
+  void Remove(std::string_view) override {}
   mutable std::vector<std::string> asked;
 };
 
@@ -143,7 +144,7 @@ TEST_F(ElementStorage, AnEmptyBagGivesTheReadDefaults) {
 
 TEST_F(ElementStorage, KeysAreReadInTheirOrder) {
   const AskedBag bag;
-  ctlPlexelBaseElement::Read("B", host, bag);
+  component.Read("B", host, bag);
   EXPECT_EQ(bag.asked, readOrder);
 }
 
@@ -169,6 +170,26 @@ TEST_F(ElementStorage, AnElementAtTheWriteDefaultsStoresOnlyTheTwoBooleans) {
   element->XElementSize(XSizeMedium);
   const MemoryBag::Entries expected = {{"WizardOn", False}, {"FocusVisible", False}};
   EXPECT_EQ(Written().All(), expected);
+}
+
+TEST_F(ElementStorage, WhatIsLeftOutDoesNotStandInABagThatIsWrittenAgain) {
+  element->PressKeyDefLayer1("[a]");
+  element->ShowX(True);
+  element->HardwareNumberKey(3);
+  MemoryBag bag = Written();
+  bag.Store("Foreign", std::int32_t{1});
+  element->PressKeyDefLayer1("");
+  element->ShowX(False);
+  element->HardwareNumberKey(-1);
+  element->SizeX(7);
+  element->UserControl_WriteProperties(bag);
+  EXPECT_EQ(bag.Find("PressKeyDefLayer1"), nullptr);
+  EXPECT_EQ(bag.Find("ShowX"), nullptr);
+  EXPECT_EQ(bag.Find("HardwareNumberKey"), nullptr);
+  EXPECT_EQ(*bag.Find("Foreign"), BagValue(std::int32_t{1}));
+  const MemoryBag fresh = Written();
+  for (const auto& [key, value] : fresh.All()) EXPECT_EQ(*bag.Find(key), value) << key;
+  EXPECT_EQ(bag.All().size(), fresh.All().size() + 1);
 }
 
 TEST_F(ElementStorage, ValuesAreWrittenInTheirTypes) {
@@ -198,9 +219,9 @@ TEST_F(ElementStorage, WizardOnAndFocusVisibleAreAlwaysWritten) {
     element->WizardOn(value);
     element->FocusVisible(value);
     const MemoryBag bag = Written();
-    ASSERT_NE(bag.Find("WizardOn"), nullptr) << value;
+    ASSERT_NE(bag.Find("WizardOn"), nullptr) << value.Value();
     EXPECT_EQ(*bag.Find("WizardOn"), BagValue(value));
-    ASSERT_NE(bag.Find("FocusVisible"), nullptr) << value;
+    ASSERT_NE(bag.Find("FocusVisible"), nullptr) << value.Value();
     EXPECT_EQ(*bag.Find("FocusVisible"), BagValue(value));
   }
 }
@@ -228,7 +249,7 @@ TEST_F(ElementStorage, WritingAndReadingKeepsWhatIsSaved) {
   for (const PropertyRow& row : PropertyTable()) {
     if (row.set != nullptr && row.type != PropertyType::Double) Set(*element, row, ++number);
   }
-  const auto loaded = ctlPlexelBaseElement::Read("B", host, Written());
+  const auto loaded = component.Read("B", host, Written());
   int kept = 0;
   for (const PropertyRow& row : PropertyTable()) {
     if (row.storage.writeOrder == 0) continue;
@@ -242,7 +263,7 @@ TEST_F(ElementStorage, TheVerticalPositionAndHeightComeBackAsZero) {
   element->OriginalPosX(11);
   element->OriginalPosY(12);
   element->SizeY(13);
-  const auto loaded = ctlPlexelBaseElement::Read("B", host, Written());
+  const auto loaded = component.Read("B", host, Written());
   EXPECT_EQ(loaded->OriginalPosX(), 11);
   EXPECT_EQ(loaded->OriginalPosY(), 0);
   EXPECT_EQ(loaded->SizeY(), 0);
@@ -254,17 +275,17 @@ TEST_F(ElementStorage, AStoredVerticalPositionIsRead) {
 
 TEST_F(ElementStorage, AnLedComesBackWithoutAKind) {
   element->ElementType(Led);
-  EXPECT_EQ(ctlPlexelBaseElement::Read("B", host, Written())->ElementType(), 0);
+  EXPECT_EQ(component.Read("B", host, Written())->ElementType(), 0);
 }
 
 TEST_F(ElementStorage, AWidthOfOneComesBackAsTwenty) {
   element->SizeX(1);
-  EXPECT_EQ(ctlPlexelBaseElement::Read("B", host, Written())->SizeX(), 20);
+  EXPECT_EQ(component.Read("B", host, Written())->SizeX(), 20);
 }
 
 TEST_F(ElementStorage, AZoomOfOneComesBackAsAHundred) {
   element->ZoomFactor(1);
-  EXPECT_EQ(ctlPlexelBaseElement::Read("B", host, Written())->ZoomFactor(), 100);
+  EXPECT_EQ(component.Read("B", host, Written())->ZoomFactor(), 100);
 }
 
 TEST_F(ElementStorage, ThePublicNamesOfTheLedFunctionsAreNoKeys) {
@@ -321,7 +342,7 @@ TEST_F(ElementStorage, TheCodeSequencesAreNotStored) {
   auto info = element->TactisBaseElementScanCodeBuffer();
   info.strLayer1PressScanCode.Value[0] = 0x1C;
   element->TactisBaseElementScanCodeBuffer(info);
-  auto loaded = ctlPlexelBaseElement::Read("B", host, Written())->TactisBaseElementScanCodeBuffer();
+  auto loaded = component.Read("B", host, Written())->TactisBaseElementScanCodeBuffer();
   EXPECT_EQ(loaded.strLayer1PressScanCode.Value[0], 0xFF);
 }
 
@@ -342,7 +363,9 @@ TEST_F(ElementStorage, StoredNumbersConvertToTheTypeOfTheKey) {
   EXPECT_EQ(loaded->ShowX(), True);
 }
 
-TEST_F(ElementStorage, AStoredBooleanKeepsItsValue) { EXPECT_EQ(Load({{"WizardOn", Boolean::Raw(1)}})->WizardOn(), Boolean::Raw(1)); }
+TEST_F(ElementStorage, AStoredBooleanKeepsItsValue) {
+  EXPECT_EQ(Load({{"WizardOn", Boolean::Raw(1)}})->WizardOn(), Boolean::Raw(1));
+}
 
 TEST_F(ElementStorage, TheFirstValueThatDoesNotConvertEndsReadingQuietly) {
   const auto loaded = Load({{"SizeX", std::int16_t{9}},

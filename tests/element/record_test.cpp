@@ -147,7 +147,7 @@ TEST_F(ElementRecord, BothStoreTheCodeSequences) {
   const Info wanted = Filled();
   element->TactisBaseElementScanCodeBuffer(wanted);
   EXPECT_EQ(element->TactisBaseElementScanCodeBuffer().strLayer4PressScanCode, wanted.strLayer4PressScanCode);
-  const auto other = ctlPlexelBaseElement::Create("B", host);
+  const auto other = component.Create("B", host);
   other->SetTactisBaseElementDefinition(wanted);
   EXPECT_EQ(other->TactisBaseElementScanCodeBuffer().strLayer1ReleaseScanCode, wanted.strLayer1ReleaseScanCode);
 }

@@ -197,7 +197,7 @@ TEST_F(ElementVisibility, WhatIsNotTrueHidesTheTick) {
   for (const Boolean value : {False, Boolean::Raw(1)}) {
     element->ShowDefinedObject(True);
     element->ShowDefinedObject(value);
-    EXPECT_FALSE(TickShown()) << value;
+    EXPECT_FALSE(TickShown()) << value.Value();
   }
 }
 

@@ -49,6 +49,26 @@ TEST(FlatBag, WhatWasNotStoredIsAbsent) {
   EXPECT_EQ(bag.Find(""), nullptr);
 }
 
+TEST(FlatBag, WhatWasRemovedIsAbsentAndTheRestStays) {
+  FlatBag bag;
+  bag.Store("SizeX", std::int16_t{20});
+  bag.Store("TargetSystem", std::string("a"));
+  bag.Store("ZoomFactor", std::int16_t{100});
+  bag.Store("Foreign", std::uint8_t{1});
+  bag.Store("Other", std::uint8_t{2});
+  bag.Remove("TargetSystem");
+  bag.Remove("Foreign");
+  bag.Remove("ShowX");
+  bag.Remove("");
+  EXPECT_THAT(KeysOf(bag), ElementsAre("SizeX", "ZoomFactor", "Other"));
+  EXPECT_EQ(bag.Find("TargetSystem"), nullptr);
+  EXPECT_EQ(bag.Find("Foreign"), nullptr);
+  EXPECT_EQ(*bag.Find("ZoomFactor"), BagValue(std::int16_t{100}));
+  bag.Store("TargetSystem", std::string("b"));
+  EXPECT_THAT(KeysOf(bag), ElementsAre("SizeX", "ZoomFactor", "TargetSystem", "Other"));
+  EXPECT_EQ(*bag.Find("TargetSystem"), BagValue(std::string("b")));
+}
+
 TEST(FlatBag, StoringAnewReplacesTheValueAndKeepsThePlace) {
   FlatBag bag;
   bag.Store("SizeX", std::int16_t{20});

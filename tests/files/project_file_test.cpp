@@ -2,15 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "file_error_of.h"
 #include "files/text_lines.h"
-#include "headless/headless_platform.h"
-#include "headless/recording_host.h"
 #include "platform/failure.h"
 #include "sample_project.h"
 #include "services/code_page.h"
 #include "temporary_directory.h"
+#include "world/world.h"
 
 namespace plexel {
 namespace {
@@ -286,21 +284,15 @@ TEST(ProjectFile, AHugeCountTakesNoHugeMemory) {
   EXPECT_TRUE(FaultOf("[PROJECT]\nFormat=1\nMarks=\x8B\x9B\nPanel=P\nElements=4294967295\n[END]\n"));
 }
 
-/// An element on a platform in memory.
-class ProjectOfElements : public testing::Test {
- protected:
-  HeadlessPlatform platform_;
-  Platform::Use use_{platform_};
-  RecordingHost host_{platform_.faults};
-};
+class ProjectOfElements : public testing::Test, protected World {};
 
 TEST_F(ProjectOfElements, TheBuffersOfANewElementAreNotSaved) {
-  const auto element = ctlPlexelBaseElement::Create("A", host_);
+  const auto element = component.Create("A", host);
   EXPECT_THAT(CodesOf(element->TactisBaseElementScanCodeBuffer()), IsEmpty());
 }
 
 TEST_F(ProjectOfElements, SavedBuffersComeBackAndTheOthersAreNew) {
-  const auto element = ctlPlexelBaseElement::Create("A", host_);
+  const auto element = component.Create("A", host);
   udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
   record.strLayer3ReleaseScanCode.Value[1] = 0x1C;
   record.strLayer3ReleaseScanCode.NextValue = 2;
@@ -314,7 +306,7 @@ TEST_F(ProjectOfElements, SavedBuffersComeBackAndTheOthersAreNew) {
 }
 
 TEST_F(ProjectOfElements, AnElementsBagComesBackThroughAFile) {
-  const auto element = ctlPlexelBaseElement::Create("A", host_);
+  const auto element = component.Create("A", host);
   element->SizeX(33);
   element->PressKeyDefLayer1("[a\u2039\u203A]");
   element->ButtonNotes("two\nlines");
@@ -322,7 +314,7 @@ TEST_F(ProjectOfElements, AnElementsBagComesBackThroughAFile) {
   element->UserControl_WriteProperties(project.elements.emplace_back().bag);
   const Project read = Parse(FormatProject(project));
   EXPECT_EQ(read, project);
-  const auto again = ctlPlexelBaseElement::Read("B", host_, read.elements[0].bag);
+  const auto again = component.Read("B", host, read.elements[0].bag);
   EXPECT_EQ(again->SizeX(), 33);
   EXPECT_EQ(again->PressKeyDefLayer1(), "[a\u2039\u203A]");
   EXPECT_EQ(again->ButtonNotes(), "two\nlines");

@@ -3,6 +3,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "platform/platform_in_force.h"
 #include "test_form.h"
 
 namespace plexel {
@@ -25,7 +26,7 @@ struct DirectoryOfOne {
   int made = 0, alive = 0;
   FormDirectory directory;
   HeadlessPlatform platform;
-  Platform::Use use;
+  PlatformInForce use;
 };
 
 TEST(FormDirectory, HoldsAFormWhileItIsShown) {

@@ -1,5 +1,6 @@
 #include <stdexcept>
 
+#include "platform/platform_in_force.h"
 #include "test_form.h"
 
 namespace plexel {
@@ -24,7 +25,7 @@ struct NotingPlatform {
     platform.Modal().onRun = [](Form& shown) { shown.Unload(); };
   }
   HeadlessPlatform platform;
-  Platform::Use use;
+  PlatformInForce use;
 };
 
 TEST(Form, LoadsTakesTheFocusRunsAndUnloadsInThisOrder) {
@@ -69,7 +70,7 @@ TEST(Form, WhoseLoadFailsIsNotShownAndCanBeShownAgain) {
   const NotingPlatform noting(form);
   form.onLoad = [] { throw Failure(FailureKind::Index, "no such list"); };
   EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.ShowModal(nullptr); }), "no such list");
-  EXPECT_EQ(form.Taken(), Strings{"Load"});
+  EXPECT_EQ(form.Taken(), (Strings{"Load", "Abandoned"}));
   EXPECT_FALSE(form.IsShown());
   form.onLoad = nullptr;
   form.ShowModal(nullptr);
@@ -79,10 +80,37 @@ TEST(Form, WhoseLoadFailsIsNotShownAndCanBeShownAgain) {
 TEST(Form, IsNotShownAfterItsLoopHasThrown) {
   TestForm form;
   HeadlessPlatform platform;
-  const Platform::Use use(platform);
+  const PlatformInForce use(platform);
   platform.Modal().onRun = [](Form&) { throw std::logic_error("broken"); };
   EXPECT_THROW(form.ShowModal(nullptr), std::logic_error);
   EXPECT_FALSE(form.IsShown());
+}
+
+TEST(Form, ThatAnythingIsThrownThroughIsAbandonedWithoutItsQuestions) {
+  TestForm outer, inner;
+  HeadlessPlatform platform;
+  const PlatformInForce use(platform);
+  platform.Modal().onRun = [&](Form& form) {
+    if (&form == &inner) throw 7;
+    inner.ShowModal(&outer);
+  };
+  EXPECT_THROW(outer.ShowModal(nullptr), int);
+  EXPECT_EQ(inner.log, (Strings{"Load", "Abandoned"}));
+  EXPECT_EQ(outer.log, (Strings{"Load", "Abandoned"}));
+  EXPECT_FALSE(outer.IsShown());
+  EXPECT_TRUE(platform.Modal().Shown().empty());
+}
+
+TEST(Form, WhoseQuestionThrowsAnythingStaysAndCanBeClosedAgain) {
+  TestForm form;
+  WhileShown(form, [&] {
+    form.onQueryUnload = [] { throw 7; };
+    EXPECT_THROW(form.Unload(), int);
+    EXPECT_TRUE(form.IsShown());
+    form.onQueryUnload = nullptr;
+    form.Unload();
+    EXPECT_FALSE(form.IsShown());
+  });
 }
 
 TEST(Form, ThatIsShownCannotBeShownOnceMore) {
@@ -247,7 +275,7 @@ TEST(PopupMenu, IsOpenUntilItIsDismissed) {
   TestForm form;
   MenuItem menu(form, "MNU_POPUP");
   HeadlessPlatform platform;
-  const Platform::Use use(platform);
+  const PlatformInForce use(platform);
   std::vector<float> place;
   platform.Modal().onPopup = [&](Form&, MenuItem& shown, bool placed, float x, float y) {
     EXPECT_EQ(&shown, &menu);
@@ -264,9 +292,12 @@ TEST(PopupMenu, ThatCannotBeShownIsNotOpen) {
   TestForm form;
   MenuItem menu(form, "MNU_POPUP");
   HeadlessPlatform platform;
-  const Platform::Use use(platform);
+  const PlatformInForce use(platform);
   platform.faults.Turn(Fault::Popup, true);
   EXPECT_NE(FailureOf(FailureKind::Platform, [&] { form.PopupMenu(menu); }), "");
+  EXPECT_EQ(form.OpenPopup(), nullptr);
+  platform.faults.Thrown([] { throw 7; });
+  EXPECT_THROW(form.PopupMenu(menu), int);
   EXPECT_EQ(form.OpenPopup(), nullptr);
 }
 

@@ -8,6 +8,7 @@
 #include "forms/form.h"
 #include "headless/headless_platform.h"
 #include "platform/failure.h"
+#include "platform/platform_in_force.h"
 
 namespace plexel {
 
@@ -48,6 +49,7 @@ class TestForm : public Form {
     Note("Unload");
     if (onUnload) onUnload();
   }
+  void OnAbandoned() override { Note("Abandoned"); }
   void OnKeyDown(std::int16_t& keyCode, std::int16_t shift) override {
     Note("Form KeyDown " + std::to_string(keyCode) + ' ' + std::to_string(shift));
     if (onKeyDown) onKeyDown(keyCode);
@@ -65,7 +67,7 @@ class TestForm : public Form {
 /// Shows a form, lets `acts` act on it once, and closes it unless it has closed.
 inline void WhileShown(Form& form, const std::function<void()>& acts) {
   HeadlessPlatform platform;
-  const Platform::Use use(platform);
+  const PlatformInForce use(platform);
   int runs = 0;
   platform.Modal().onRun = [&](Form& shown) {
     ++runs;

@@ -3,10 +3,9 @@
 #include <stdexcept>
 
 #include "forms/hand.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
 #include "headless/key_road.h"
 #include "platform/failure.h"
+#include "world/world.h"
 
 namespace plexel {
 namespace {
@@ -25,12 +24,8 @@ class KeyForm : public Form {
   std::vector<std::int16_t> presses;
 };
 
-class Shown : public testing::Test {
+class Shown : public testing::Test, protected World {
  protected:
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-  Platform::Use usePlatform{platform};
-  Surroundings::Use useSurroundings{surroundings};
   KeyRoad road{platform};
   KeyForm form;
 

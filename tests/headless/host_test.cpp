@@ -1,24 +1,16 @@
 #include <gtest/gtest.h>
 
-#include "element/ctlPlexelBaseElement.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
-#include "headless/host_window.h"
+#include "element/element_access.h"
 #include "headless/memory_bag.h"
-#include "headless/recording_host.h"
 #include "platform/failure.h"
+#include "world/world.h"
 
 namespace plexel {
 namespace {
 
-class Host : public testing::Test {
+class Host : public testing::Test, protected World {
  protected:
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-  Platform::Use usePlatform{platform};
-  Surroundings::Use useSurroundings{surroundings};
-  RecordingHost host{platform.faults};
-  std::shared_ptr<ctlPlexelBaseElement> element = ctlPlexelBaseElement::Create("A", host);
+  std::shared_ptr<ctlPlexelBaseElement> element = component.Create("A", host);
 };
 
 TEST_F(Host, EventsAndNoticesKeepTheirOrder) {
@@ -35,7 +27,7 @@ TEST_F(Host, EventsAndNoticesKeepTheirOrder) {
 
 TEST_F(Host, AFailingHandlerHasHeardItsEvent) {
   platform.faults.Turn("handler:ProjectModified", true);
-  EXPECT_THROW(element->RaiseProjectModified(), Failure);
+  EXPECT_THROW(ElementAccess::RaiseProjectModified(*element), Failure);
   EXPECT_EQ(host.Count("ProjectModified"), 1);
 }
 

@@ -51,7 +51,7 @@ TEST_F(HeadlessServices, AnOptionKeepsAnyValue) {
   surroundings.Settings().Option(1, Boolean::Raw(7));
   Boolean value = False;
   surroundings.Settings().GetOption(1, value);
-  EXPECT_EQ(value, 7);
+  EXPECT_EQ(value, Boolean::Raw(7));
 }
 
 TEST_F(HeadlessServices, TheLanguageIsReadAtTheFirstQuestion) {

@@ -33,12 +33,9 @@ namespace {
 class Editor : public ::testing::Test {
  protected:
   Editor() {
-    FormDirectory::Instance() = FormDirectory();
-    RegisterForms(FormDirectory::Instance());
     window.NewProject("Large");
     window.show();
   }
-  ~Editor() override { Module().ctlCurrentElement.reset(); }
 
   std::filesystem::path File(const std::string& name) { return files.path().toStdString() + "/" + name; }
   ctlPlexelBaseElement& Element(const std::string& id) {
@@ -75,11 +72,10 @@ class Editor : public ::testing::Test {
 
   QTemporaryDir files;
   FileSurroundings surroundings{DataDirectory(), files.path().toStdString()};
-  Surroundings::Use useSurroundings{surroundings};
   HelpWindow help;
   OpenQtPlatform platform{surroundings.UserRegistry(), help};
-  Platform::Use usePlatform{platform};
-  MainWindow window{surroundings, platform, help};
+  Component component{platform, surroundings};
+  MainWindow window{component, surroundings, platform, help};
   QObject context;
 };
 

@@ -187,6 +187,42 @@ TEST_F(FormViewTest, AFailureOfAHandlerIsReportedAndTheDialogStaysUsable) {
   });
 }
 
+TEST_F(FormViewTest, AnythingElseEndsTheDialogAndReachesWhoeverShowedIt) {
+  form.ok.OnClick = [] { throw 7; };
+  QTimer::singleShot(0, &context, [&] { Click(*platform.Modal().Topmost(), form.ok); });
+  EXPECT_THROW(form.ShowModal(nullptr), int);
+  EXPECT_TRUE(failures.empty());
+  EXPECT_FALSE(form.IsShown());
+  EXPECT_EQ(platform.Modal().Topmost(), nullptr);
+  form.ok.OnClick = nullptr;
+  WhileShown([&](FormView& view) {
+    Click(view, form.link);
+    EXPECT_EQ(form.notes, std::vector<std::string>{"link"});
+  });
+}
+
+TEST_F(FormViewTest, WhatIsThrownInANestedDialogEndsBoth) {
+  SampleForm inner;
+  inner.ok.OnClick = [] { throw std::runtime_error("inner"); };
+  form.ok.OnClick = [&] {
+    QTimer::singleShot(0, &context, [&] { Click(*platform.Modal().Topmost(), inner.ok); });
+    inner.ShowModal(&form);
+  };
+  QTimer::singleShot(0, &context, [&] { Click(*platform.Modal().Topmost(), form.ok); });
+  EXPECT_THROW(form.ShowModal(nullptr), std::runtime_error);
+  EXPECT_FALSE(inner.IsShown());
+  EXPECT_FALSE(form.IsShown());
+  EXPECT_EQ(platform.Modal().Topmost(), nullptr);
+}
+
+TEST_F(FormViewTest, WhatAKeyboardHookThrowsEndsTheDialogToo) {
+  static constexpr HookProcedure throws = [](std::int32_t, std::int32_t, std::intptr_t) -> std::int32_t { throw 7; };
+  const std::int32_t hook = platform.Hooks().Install(HookKind::Keyboard, throws);
+  QTimer::singleShot(0, &context, [&] { Press(*platform.Modal().Topmost(), Qt::Key_A); });
+  EXPECT_THROW(form.ShowModal(nullptr), int);
+  platform.Hooks().Remove(hook);
+}
+
 TEST_F(FormViewTest, AFormOpensOverItsOwner) {
   SampleForm inner;
   QWidget* parent = nullptr;

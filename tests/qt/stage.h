@@ -12,6 +12,7 @@
 
 #include "headless/headless_system.h"
 #include "headless/memory_registry.h"
+#include "platform/platform_in_force.h"
 #include "qt/form_view.h"
 #include "qt/qt_ports.h"
 #include "qt/units.h"
@@ -71,7 +72,7 @@ class Stage : public ::testing::Test {
   MemoryRegistry registry{faults, "SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS"};
   HeadlessHelp help{faults};
   OpenQtPlatform platform;
-  Platform::Use use{platform};
+  PlatformInForce use{platform};
   SampleForm form;
   QObject context;
   std::vector<std::string> failures;

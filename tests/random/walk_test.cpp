@@ -7,14 +7,9 @@
 #include <memory>
 #include <random>
 
-#include "component/component.h"
-#include "element/ctlPlexelBaseElement.h"
 #include "forms/hand.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
 #include "headless/key_road.h"
-#include "headless/recording_host.h"
-#include "services/module_state.h"
+#include "world/world.h"
 
 namespace plexel {
 namespace {
@@ -49,15 +44,8 @@ constexpr std::array<WalkKey, 18> walkKeys = {{{0x11, 0x1D, false},
 /// A user who does whatever comes to hand, and the promises that must hold all the same.
 class Walker {
  public:
-  explicit Walker(std::uint64_t seed) : random_(seed), surroundings_(platform_), road_(platform_) {
-    usePlatform_.emplace(platform_);
-    useSurroundings_.emplace(surroundings_);
-    RegisterForms(FormDirectory::Instance());
-    surroundings_.Language().Source([] {
-      HeadlessLanguage::Texts texts;
-      for (std::int32_t number = 1; number < 11000; ++number) texts[number] = "text " + std::to_string(number);
-      return texts;
-    });
+  explicit Walker(std::uint64_t seed) : random_(seed) {
+    world_.Speak();
     for (int query = 0; query < CapabilityCount; ++query)
       surroundings_.Capabilities().Set("*", static_cast<Capability>(query), Below(4) != 0);
     surroundings_.Settings().Option(1, True);
@@ -66,13 +54,11 @@ class Walker {
       constexpr std::array answers = {MessageAnswer::Yes, MessageAnswer::No, MessageAnswer::Cancel};
       return answers[Below(3)];
     };
-    host_ = std::make_unique<RecordingHost>(platform_.faults);
     for (int kind = 0; kind <= Key; ++kind) {
-      elements_.push_back(ctlPlexelBaseElement::Create("E" + std::to_string(kind), *host_));
+      elements_.push_back(world_.component.Create("E" + std::to_string(kind), world_.host));
       elements_.back()->ElementType(static_cast<enumTactisBaseElementType>(kind));
     }
   }
-  ~Walker() { Module() = ModuleState(); }
   Walker(const Walker&) = delete;
   Walker& operator=(const Walker&) = delete;
 
@@ -89,7 +75,7 @@ class Walker {
     opened_ = element.TactisBaseElementScanCodeBuffer();
     undone_ = false;
     okClicks_ = 0;
-    host_->Forget();
+    world_.host.Forget();
     actsInForm_ = 0;
     Below(10) == 0 ? element.OpenPropertiesDialog() : element.OpenConfigurationDialog();
 
@@ -97,7 +83,7 @@ class Walker {
     ASSERT_FALSE(platform_.Hooks().Installed(HookKind::Keyboard)) << "capture outlived the dialogs";
     ASSERT_FALSE(platform_.Hooks().Installed(HookKind::LowLevelKeyboard)) << "the task keys stayed locked";
     ASSERT_EQ(Module().bDirectInputActive, False);
-    ASSERT_EQ(host_->Count("ProjectModified"), okClicks_);
+    ASSERT_EQ(world_.host.Count("ProjectModified"), okClicks_);
     confirmed_ += okClicks_;
     if (undone_) {
       ASSERT_EQ(okClicks_, 0);
@@ -156,11 +142,11 @@ class Walker {
     Control* const button = form.Find(name);
     if (button == nullptr) return;
     if (name == "cmdCancel") return Leave(form, [&] { Hand(form).Click(*button); });
-    const int modified = host_->Count("ProjectModified");
+    const int modified = world_.host.Count("ProjectModified");
     Hand(form).Click(*button);
     if (name != "cmdOK" || !Confirms(form.Name())) return;
     ++okClicks_;
-    ASSERT_EQ(host_->Count("ProjectModified"), modified + 1);
+    ASSERT_EQ(world_.host.Count("ProjectModified"), modified + 1);
   }
 
   /// Leaves a form by Cancel or its close box. From the first form of a configuration that undoes everything.
@@ -227,10 +213,10 @@ class Walker {
     const std::string focus = form->Focus() == nullptr ? "" : form->Focus()->Name();
     const std::string name = form->Name();
     const bool first = platform_.Modal().Shown().size() == 1;
-    const int modified = host_->Count("ProjectModified"), confirmed = okClicks_;
+    const int modified = world_.host.Count("ProjectModified"), confirmed = okClicks_;
     road_.Send({key.virtualKey, key.scanCode, key.extended, down, 0});
     // What pages nested in this key's event confirmed has been counted by their own acts.
-    const int own = host_->Count("ProjectModified") - modified - (okClicks_ - confirmed);
+    const int own = world_.host.Count("ProjectModified") - modified - (okClicks_ - confirmed);
     const bool closed = platform_.Modal().Topmost() != form;
     if (own != 0) {
       ASSERT_EQ(own, 1);
@@ -242,12 +228,10 @@ class Walker {
   }
 
   std::mt19937_64 random_;
-  HeadlessPlatform platform_;
-  HeadlessSurroundings surroundings_;
-  std::optional<Platform::Use> usePlatform_;
-  std::optional<Surroundings::Use> useSurroundings_;
-  KeyRoad road_;
-  std::unique_ptr<RecordingHost> host_;
+  World world_;
+  HeadlessPlatform& platform_ = world_.platform;
+  HeadlessSurroundings& surroundings_ = world_.surroundings;
+  KeyRoad road_{platform_};
   std::vector<std::shared_ptr<ctlPlexelBaseElement>> elements_;
   udtTactisBaseElement_ScanCodeInfo opened_;
   int acts_ = 0, actsInForm_ = 0, okClicks_ = 0, confirmed_ = 0, restored_ = 0;

@@ -51,6 +51,43 @@ TEST(Capture, StartingForTheWizardUsesItsCatcher) {
   });
 }
 
+TEST(Capture, AHandlerThatThrowsAnythingAtTheStartLeavesCaptureOff) {
+  ScanCodeSession session;
+  session.surroundings.Settings().Option(9, True);
+  session.InConfigurationDialog([&](StandInConfigurationDialog&) {
+    session.host.onEvent = [](const HostEvent& event) {
+      if (event.arguments[0] == HostEvent::Value(-1)) throw 7;
+    };
+    EXPECT_THROW(SetDirectInput(True, 0), int);
+    EXPECT_FALSE(Hooked(session, HookKind::Keyboard));
+    EXPECT_FALSE(Hooked(session, HookKind::LowLevelKeyboard));
+    EXPECT_EQ(Module().lngKeyboardHook, 0);
+    EXPECT_EQ(Module().lngLowLevelHook, 0);
+    session.host.onEvent = nullptr;
+    EXPECT_NE(SetDirectInput(True, 0), 0);
+  });
+  const std::vector<HostEvent> expected = {{"Key1", "DirectInputStatusChanged", {-1}},
+                                           {"Key1", "DirectInputStatusChanged", {0}},
+                                           {"Key1", "DirectInputStatusChanged", {-1}}};
+  EXPECT_EQ(session.host.Events(), expected);
+}
+
+TEST(Capture, AHookThatThrowsAnythingTakesTheOtherOneAlong) {
+  ScanCodeSession session;
+  session.surroundings.Settings().Option(9, True);
+  session.InConfigurationDialog([&](StandInConfigurationDialog&) {
+    session.platform.faults.Thrown([] { throw 7; });
+    session.platform.faults.Arm(Fault::KeyboardHook, 1);
+    EXPECT_THROW(SetDirectInput(True, 0), int);
+    EXPECT_FALSE(Hooked(session, HookKind::LowLevelKeyboard));
+    ASSERT_NE(SetDirectInput(True, 0), 0);
+    session.platform.faults.Arm(Fault::Unhook, 1);
+    EXPECT_THROW(SetDirectInput(False, 0), int);
+    EXPECT_FALSE(Hooked(session, HookKind::Keyboard));
+    EXPECT_FALSE(Hooked(session, HookKind::LowLevelKeyboard));
+  });
+}
+
 TEST(Capture, TheElementHearsOfStartAndStop) {
   ScanCodeSession session;
   session.InConfigurationDialog([&](StandInConfigurationDialog&) {
@@ -76,10 +113,10 @@ TEST(Capture, RequestsThatChangeNothingRaiseNothingAndReportZero) {
 TEST(Capture, ABooleanThatIsNeitherTrueNorFalseDoesNothing) {
   ScanCodeSession session;
   session.InConfigurationDialog([&](StandInConfigurationDialog&) {
-    EXPECT_EQ(SetDirectInput(1, 0), 0);
+    EXPECT_EQ(SetDirectInput(Boolean::Raw(1), 0), 0);
     EXPECT_FALSE(Hooked(session, HookKind::Keyboard));
     SetDirectInput(True, 0);
-    EXPECT_EQ(SetDirectInput(1, 0), 0);
+    EXPECT_EQ(SetDirectInput(Boolean::Raw(1), 0), 0);
     EXPECT_TRUE(Hooked(session, HookKind::Keyboard));
   });
 }

@@ -32,7 +32,7 @@ TEST(StoringCodes, TheCurrentCellOfTheGridSelectsTheBuffer) {
         dialog.msgScanCodes.Current(1, 1);
       });
       Info expected = session.Record();
-      Info empty = ctlPlexelBaseElement::Create("Key2", session.host)->TactisBaseElementScanCodeBuffer();
+      Info empty = session.component.Create("Key2", session.host)->TactisBaseElementScanCodeBuffer();
       EXPECT_EQ(Used(*CellBuffer(expected, row, col)), "FF 1C F0 1C FF");
       *CellBuffer(expected, row, col) = *CellBuffer(empty, row, col);
       for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {

@@ -5,6 +5,7 @@
 #include <set>
 #include <string_view>
 
+#include "platform/platform_in_force.h"
 #include "scancodes/scancode_session.h"
 
 namespace plexel {
@@ -303,7 +304,7 @@ TEST(KeyTranslation, AFailingQuestionLetsTheTranslationGoOnWithTheLastState) {
 
 TEST(KeyTranslation, TheToggleBitOfAKeyDoesNotCount) {
   ToggledPlatform platform;
-  const Platform::Use use(platform);
+  const PlatformInForce use(platform);
   Module().bNumLockDown = Module().bShiftDown = True;
   SampleModifierKeys();
   EXPECT_EQ(Module().bNumLockDown, False);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/platform_in_force.h"
 #include "scancodes/capture.h"
 #include "scancodes/scancode_session.h"
 
@@ -328,7 +329,7 @@ class RecordingHooks : public HeadlessPlatform {
 
 TEST(KeyboardHook, ANegativeCodeGoesOnWithHookTwoAndTheAddressOfTheFlagWord) {
   RecordingHooks platform;
-  const Platform::Use use(platform);
+  const PlatformInForce use(platform);
   EXPECT_EQ(KeyboardHookProc(-3, 0x41, 0x001E0001), 77);
   EXPECT_EQ(platform.table.call, (std::vector<std::int32_t>{2, -3, 0x41}));
   EXPECT_EQ(platform.table.flags, 0x001E0001);

@@ -8,39 +8,27 @@
 #include <utility>
 #include <vector>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
-#include "headless/recording_host.h"
 #include "scancodes/key_translation.h"
 #include "scancodes/stand_in_dialogs.h"
 #include "services/code_page.h"
-#include "services/module_state.h"
+#include "world/world.h"
 
 namespace plexel {
 
-/// A headless platform with one current element and stand-ins for the dialogs that the procedures work on.
+/// A world with one current element and stand-ins for the dialogs that the procedures work on.
 ///
-/// Language text N reads "text N"; a layer takes 43 codes; the grid check is on.
-class ScanCodeSession {
+/// A layer takes 43 codes; the grid check is on.
+class ScanCodeSession : public World {
  public:
   ScanCodeSession() {
-    Module() = ModuleState{};
-    element = ctlPlexelBaseElement::Create("Key1", host);
     element->ElementType(Rect);
     element->TargetSystem("PANEL");
     Module().ctlCurrentElement = element;
     Module().lngMaxScanCodes = 43;
     Module().lngOsFamily = 1;
     surroundings.Settings().Option(1, True);
-    surroundings.Language().Source([] {
-      HeadlessLanguage::Texts texts;
-      for (const auto& [first, last] : {std::pair{100, 103}, {2000, 2999}, {10400, 10999}}) {
-        for (int number = first; number <= last; ++number) texts[number] = "text " + std::to_string(number);
-      }
-      return texts;
-    });
+    Speak();
     host.Forget();
     FormDirectory::Instance().Add("frmConfigurationDialog",
                                   [] { return std::make_unique<StandInConfigurationDialog>(); });
@@ -51,7 +39,6 @@ class ScanCodeSession {
       act(form);
     };
   }
-  ~ScanCodeSession() { Module() = ModuleState{}; }
   ScanCodeSession(const ScanCodeSession&) = delete;
   ScanCodeSession& operator=(const ScanCodeSession&) = delete;
 
@@ -74,14 +61,9 @@ class ScanCodeSession {
 
   udtTactisBaseElement_ScanCodeInfo Record() { return element->TactisBaseElementScanCodeBuffer(); }
 
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-  RecordingHost host{platform.faults};
-  std::shared_ptr<ctlPlexelBaseElement> element;
+  std::shared_ptr<ctlPlexelBaseElement> element = component.Create("Key1", host);
 
  private:
-  Platform::Use usePlatform_{platform};
-  Surroundings::Use useSurroundings_{surroundings};
   std::vector<std::function<void(Form&)>> acts_;
 };
 

@@ -3,23 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "forms/form.h"
-#include "headless/headless_surroundings.h"
-#include "services/module_state.h"
+#include "platform/platform_in_force.h"
+#include "world/world.h"
 
 namespace plexel {
 namespace {
 
-class SharedServices : public testing::Test {
- protected:
-  SharedServices() { Module() = ModuleState(); }
-
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-
- private:
-  Platform::Use usePlatform_{platform};
-  Surroundings::Use useSurroundings_{surroundings};
-};
+class SharedServices : public testing::Test, protected World {};
 
 /// A form with a text on every kind of control that has one.
 class SampleForm : public Form {
@@ -312,10 +302,8 @@ class RegistryPlatform : public Platform {
 
 TEST(SavedPositions, TheRegistryGetsTheKeyTheTypeAndTheLength) {
   RegistryPlatform platform;
-  const Platform::Use use(platform);
-  const std::intptr_t key = OpenPositions();
-  StorePosition(key, SavedTop, "22.5");
-  ClosePositions(key);
+  const PlatformInForce use(platform);
+  StorePositions({{SavedTop, "22.5"}});
   const std::vector<std::string> expected = {"2147483649 SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS 0 2",
                                              "5 ConfigDialogTop 0 1 22.5 4", "close 5"};
   EXPECT_EQ(platform.registry.calls, expected);
@@ -331,26 +319,31 @@ TEST(Surroundings, WithoutAnyAskingFails) {
 }
 
 TEST_F(SharedServices, PositionsAreStoredUnderTheComponentsKey) {
-  const std::intptr_t key = OpenPositions();
-  StorePosition(key, SavedTop, "1530");
-  ClosePositions(key);
+  StorePositions({{SavedTop, "1530"}});
   const MemoryRegistry::Values expected = {{"ConfigDialogTop", "1530"}};
   EXPECT_EQ(platform.UserRegistry().Stored(), expected);
   EXPECT_EQ(platform.UserRegistry().OpenKeys(), 0);
 }
 
 TEST_F(SharedServices, AStoredPositionIsReadBackThroughTheSettings) {
-  const std::intptr_t key = OpenPositions();
-  StorePosition(key, SavedLeft, "22.5");
-  ClosePositions(key);
+  StorePositions({{SavedLeft, "22.5"}});
   EXPECT_EQ(GetWindowPosition(1), "22.5");
+}
+
+TEST_F(SharedServices, ARegistryThatThrowsAnythingIsClosedAllTheSame) {
+  for (const auto& thrower : {std::function<void()>([] { throw 7; }),
+                              std::function<void()>([] { throw Failure(FailureKind::Platform, "refused"); })}) {
+    platform.faults.Thrown(thrower);
+    platform.faults.Arm(Fault::Registry, 2);
+    EXPECT_ANY_THROW(StorePositions({{SavedTop, "1"}, {SavedLeft, "2"}}));
+    EXPECT_EQ(platform.UserRegistry().OpenKeys(), 0);
+    EXPECT_TRUE(platform.UserRegistry().Stored().empty());
+  }
 }
 
 TEST_F(SharedServices, ARegistryThatRefusesIsNotLookedAt) {
   platform.faults.Turn(Fault::Registry, true);
-  const std::intptr_t key = OpenPositions();
-  EXPECT_NO_THROW(StorePosition(key, SavedTop, "1"));
-  EXPECT_NO_THROW(ClosePositions(key));
+  EXPECT_NO_THROW(StorePositions({{SavedTop, "1"}}));
   EXPECT_TRUE(platform.UserRegistry().Stored().empty());
 }
 

@@ -2,40 +2,13 @@
 
 #include <algorithm>
 
-#include "forms/form_directory.h"
 #include "headless/key_road.h"
 #include "services/conversion.h"
-#include "wizard/frmButtonWizardPage1.h"
-#include "wizard/frmButtonWizardPage2.h"
-#include "wizard/frmButtonWizardPage3.h"
-#include "wizard/frmPropertiesButton.h"
 
 namespace plexel {
 
-namespace {
-
-template <typename Dialog>
-void Register(const char* name) {
-  FormDirectory::Instance().Add(name, [] { return std::make_unique<Dialog>(); });
-}
-
-HeadlessLanguage::Texts NumberedTexts() {
-  HeadlessLanguage::Texts texts;
-  for (const auto& [first, last] : {std::pair{100, 200}, {2400, 2999}, {6000, 6010}, {10400, 10999}}) {
-    for (std::int32_t number = first; number <= last; ++number) texts[number] = Text(number);
-  }
-  return texts;
-}
-
-}  // namespace
-
 WizardSession::WizardSession(enumTactisBaseElementType type) {
-  Module() = ModuleState{};
-  Register<frmButtonWizardPage1>("frmButtonWizardPage1");
-  Register<frmButtonWizardPage2>("frmButtonWizardPage2");
-  Register<frmButtonWizardPage3>("frmButtonWizardPage3");
-  Register<frmPropertiesButton>("frmPropertiesButton");
-  surroundings.Language().Source(NumberedTexts);
+  Speak();
   platform.Messages().onShow = [](const std::string&, std::int32_t, const std::string&) { return MessageAnswer::No; };
   platform.Modal().onShown = [this](Form& form, Window* owner) {
     shown.push_back(form.Name() + " over " + (owner == nullptr ? "nothing" : owner->WindowName()) + " at " +
@@ -52,16 +25,10 @@ WizardSession::WizardSession(enumTactisBaseElementType type) {
     acts_.pop_front();
     act();
   };
-  element = ctlPlexelBaseElement::Create("A", host);
   element->ElementType(type);
   element->WizardOn(True);
   element->ParentWindow(std::make_shared<HostForm>());
   host.Forget();
-}
-
-WizardSession::~WizardSession() {
-  Module() = ModuleState{};
-  element->Detach();
 }
 
 WizardSession& WizardSession::Then(Act act) {

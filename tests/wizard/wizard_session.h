@@ -8,26 +8,20 @@
 #include <string_view>
 #include <vector>
 
-#include "element/ctlPlexelBaseElement.h"
 #include "forms/hand.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
-#include "headless/host_window.h"
-#include "headless/recording_host.h"
-#include "services/module_state.h"
+#include "world/world.h"
 
 namespace plexel {
 
 /// One element of a panel and the user who goes through its dialogs. Acts are planned first; Open shows the first
 /// dialog and carries them out one by one, each on the form that is then the topmost.
 ///
-/// Language text N reads "text N"; the target system has nothing unless granted.
-class WizardSession {
+/// The target system has nothing unless granted.
+class WizardSession : public World {
  public:
   using Act = std::function<void()>;
 
   explicit WizardSession(enumTactisBaseElementType type);
-  ~WizardSession();
   WizardSession(const WizardSession&) = delete;
   WizardSession& operator=(const WizardSession&) = delete;
 
@@ -68,24 +62,17 @@ class WizardSession {
   /// The value of a name in the registry, "none" when it was not stored.
   std::string Stored(std::string_view name);
 
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings{platform};
-  RecordingHost host{platform.faults};
-  std::shared_ptr<ctlPlexelBaseElement> element;
+  std::shared_ptr<ctlPlexelBaseElement> element = component.Create("A", host);
   /// Forms as they were shown ("frmButtonWizardPage1 over HostForm at 1800,1500") and their names as they closed.
   std::vector<std::string> shown, closed;
 
  private:
   void Run(const Act& open);
 
-  Platform::Use usePlatform_{platform};
-  Surroundings::Use useSurroundings_{surroundings};
   std::deque<Act> acts_;
 };
 
 /// The first `count` bytes of a buffer, in hexadecimal.
 std::string Bytes(const udtTactisBaseElement_TACTIS_SCANCODE& buffer, std::size_t count);
-
-inline std::string Text(std::int32_t number) { return "text " + std::to_string(number); }
 
 }  // namespace plexel

@@ -9,14 +9,9 @@
 #include <cstdlib>
 #include <string>
 
-#include "component/component.h"
-#include "element/ctlPlexelBaseElement.h"
-#include "headless/headless_platform.h"
-#include "headless/headless_surroundings.h"
-#include "headless/recording_host.h"
 #include "scancodes/dialog_access.h"
 #include "scancodes/keyboard_hook.h"
-#include "services/module_state.h"
+#include "world/world.h"
 
 namespace {
 
@@ -153,16 +148,12 @@ int main(int count, char** words) {
   const std::uint64_t seed = std::strtoull(words[1], nullptr, 10);
   const auto streams = static_cast<std::uint32_t>(std::strtoul(words[2], nullptr, 10));
 
-  HeadlessPlatform platform;
-  HeadlessSurroundings surroundings(platform);
-  const Platform::Use usePlatform(platform);
-  const Surroundings::Use useSurroundings(surroundings);
-  RegisterForms(FormDirectory::Instance());
+  World world;
+  HeadlessPlatform& platform = world.platform;
   for (const Character& character : characters)
     platform.Layout().KeyText(character.virtualKey, character.count, character.text);
 
-  RecordingHost host(platform.faults);
-  const auto element = ctlPlexelBaseElement::Create("F1", host);
+  const auto element = world.component.Create("F1", world.host);
   element->ElementType(Oval);
   platform.Modal().onRun = [&](Form& form) {
     const bool wizard = form.Name() != "frmConfigurationDialog";
@@ -170,10 +161,9 @@ int main(int count, char** words) {
     form.Unload();
   };
   element->OpenConfigurationDialog();
-  host.Forget();
+  world.host.Forget();
   element->WizardOn(True);
   element->WizardOptions(NormalKey);
   element->OpenConfigurationDialog();
-  Module().ctlCurrentElement.reset();
   return 0;
 }
