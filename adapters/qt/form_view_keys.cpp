@@ -60,9 +60,7 @@ void FormView::TakeKey(const KeyEvent& event, char32_t character) {
     if (!event.down) return hand.KeyUp(keyCode, shift);
     if (view != nullptr && view->EditsItself() && !captured) {
       leftToEditor_ = hand.PreviewKey(keyCode, shift, character);
-    } else if (character != 0) {
-      hand.Key(keyCode, shift, character);
-    } else if (hand.KeyDown(keyCode, shift) == keyCode && view != nullptr && AsksToUnfold(event, shift)) {
+    } else if (hand.Key(keyCode, shift, character) == keyCode && view != nullptr && AsksToUnfold(event, shift)) {
       view->Unfold();
     }
     if (keyCode == key::F1 && shift == 0 && !captured) ShowHelp();

@@ -13,10 +13,11 @@ namespace plexel {
 /// and changes nothing. Failures of handlers without a guard pass through. When a handler closes the form, the rest of
 /// the act does not happen. Every act but a choice from it and the end of a key closes the popup menu that is open.
 ///
-/// A key takes this road: the form's preview, the control that has the focus when the key goes down, then the default
-/// action. A handler that sets the key code to 0 takes the control's own action away; Tab, Escape with a cancel button
-/// and Return with a default button, or on a command button, act whatever a handler did to the code, and yield no
-/// character. From any other key the character follows as a key press, whatever became of the key down.
+/// A key takes this road: the form itself, the form's preview, the control that has the focus when the key goes down,
+/// then the control's own action. The form itself takes Tab, Escape with a cancel button, and Return with a default
+/// button or on a command button: such a key raises nothing of its own and yields no character. Any other is raised as
+/// a key down, and its character follows as a key press, whatever became of the key down. A handler that sets the key
+/// code to 0 takes the control's own action away.
 ///
 /// A control's own actions: Space presses a command button and sets an option button; the arrow keys move within the
 /// option buttons of a container, the entries of a combo box, the cells of a grid and the tabs of a strip; Left, Right,
@@ -64,16 +65,17 @@ class Hand {
   /// The window's close box.
   void Close();
 
-  /// A key down at the focus, with its default action and without the character that it yields; gives the key code as
-  /// it came back from the handlers. With a popup menu open, Escape closes that and does nothing else.
+  /// A key down at the focus, raised whatever the key is, then what the key does, without the character that it yields;
+  /// gives the key code as it came back from the handlers, which keep no key from the form itself. With a popup menu
+  /// open, Escape closes that and does nothing else.
   std::int16_t KeyDown(std::int16_t keyCode, std::int16_t shift);
   /// A character at the focus, with its insertion into a text box; gives it as it came back. `character` is a code of
   /// Windows-1252; Failure (InvalidCall) for a number that is none.
   std::int16_t KeyPress(std::int16_t character);
-  /// A key down with the Unicode character that it yields, 0 for none (as with Alt, and for Delete): what KeyDown does,
-  /// then what KeyPress does where a character follows. A character that Windows-1252 lacks is a question mark to the
-  /// handlers and goes into the text box unharmed.
-  void Key(std::int16_t keyCode, std::int16_t shift, char32_t character);
+  /// A key that goes down, on its whole road, with the Unicode character that it yields, 0 for none (as with Alt, and
+  /// for Delete); gives the key code as it came back from the handlers, 0 when the form itself took the key. A
+  /// character that Windows-1252 lacks is a question mark to the handlers and goes into the text box unharmed.
+  std::int16_t Key(std::int16_t keyCode, std::int16_t shift, char32_t character);
   /// The same ahead of an editor that works on the text of the focused text box itself: all events and the actions of
   /// the form, but no editing of the text. True when the editor is to carry out the key's own action and to hand the
   /// outcome to Edit; false when the key has had its effect, which may be none, and the box is to be drawn anew.
@@ -85,7 +87,7 @@ class Hand {
   /// Who edits the text of a text box.
   enum class Editor { Form, Renderer };
   struct DownResult {
-    std::int16_t keyCode;   ///< as it came back
+    std::int16_t keyCode;   ///< as it came back, 0 when the form took the key
     bool characterFollows;  ///< false when the form took the key, or has closed
   };
   struct PressResult {
@@ -95,7 +97,11 @@ class Hand {
 
   void Press(Control& control);
   void TakeFocus(Control& control, std::int16_t button);
+  /// The road of a key that goes down, as far as the control's own action.
   DownResult Down(Control* target, std::int16_t keyCode, std::int16_t shift, Editor editor);
+  /// Raises a key down; gives the code as it came back.
+  std::int16_t RaiseKeyDown(Control* target, std::int16_t keyCode, std::int16_t shift);
+  /// Whether the form itself takes a key, which it then has carried out.
   bool FormTakes(Control* target, std::int16_t keyCode, std::int16_t shift);
   PressResult Character(Control* target, char32_t character, Editor editor);
 

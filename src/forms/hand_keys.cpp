@@ -40,16 +40,22 @@ bool Hand::FormTakes(Control* target, std::int16_t keyCode, std::int16_t shift) 
   return true;
 }
 
-Hand::DownResult Hand::Down(Control* target, std::int16_t keyCode, std::int16_t shift, Editor editor) {
-  if (DismissMenu() && keyCode == key::Escape) return {keyCode, false};
+std::int16_t Hand::RaiseKeyDown(Control* target, std::int16_t keyCode, std::int16_t shift) {
   const OpenForm open(form_);
   std::int16_t code = keyCode;
   if (form_.KeyPreview()) form_.OnKeyDown(code, shift);
   if (open && GetsKeys(target)) Raise(target->OnKeyDown, code, shift);
-  if (!open || FormTakes(target, keyCode, shift)) return {code, false};
+  return code;
+}
+
+Hand::DownResult Hand::Down(Control* target, std::int16_t keyCode, std::int16_t shift, Editor editor) {
+  if (DismissMenu() && keyCode == key::Escape) return {0, false};
+  if (FormTakes(target, keyCode, shift)) return {0, false};
+  const OpenForm open(form_);
+  const std::int16_t code = RaiseKeyDown(target, keyCode, shift);
   const bool editorActs =
       editor == Editor::Renderer && code == keyCode && target != nullptr && target->Kind() == ControlKind::TextBox;
-  if (GetsKeys(target) && !editorActs) ActOnKey(*target, code, shift);
+  if (open && GetsKeys(target) && !editorActs) ActOnKey(*target, code, shift);
   return {code, bool(open)};
 }
 
@@ -70,7 +76,12 @@ Hand::PressResult Hand::Character(Control* target, char32_t character, Editor ed
 }
 
 std::int16_t Hand::KeyDown(std::int16_t keyCode, std::int16_t shift) {
-  return Down(form_.Focus(), keyCode, shift, Editor::Form).keyCode;
+  if (DismissMenu() && keyCode == key::Escape) return keyCode;
+  Control* const target = form_.Focus();
+  const OpenForm open(form_);
+  const std::int16_t code = RaiseKeyDown(target, keyCode, shift);
+  if (open && !FormTakes(target, keyCode, shift) && GetsKeys(target)) ActOnKey(*target, code, shift);
+  return code;
 }
 
 std::int16_t Hand::KeyPress(std::int16_t character) {
@@ -80,10 +91,11 @@ std::int16_t Hand::KeyPress(std::int16_t character) {
   return Character(form_.Focus(), characters::OfCode(static_cast<std::uint8_t>(character)), Editor::Form).character;
 }
 
-void Hand::Key(std::int16_t keyCode, std::int16_t shift, char32_t character) {
+std::int16_t Hand::Key(std::int16_t keyCode, std::int16_t shift, char32_t character) {
   Control* const target = form_.Focus();
-  const bool follows = Down(target, keyCode, shift, Editor::Form).characterFollows;
-  if (follows && character != 0) Character(target, character, Editor::Form);
+  const DownResult down = Down(target, keyCode, shift, Editor::Form);
+  if (down.characterFollows && character != 0) Character(target, character, Editor::Form);
+  return down.keyCode;
 }
 
 bool Hand::PreviewKey(std::int16_t keyCode, std::int16_t shift, char32_t character) {

@@ -99,8 +99,8 @@ TEST(PreviewKey, KeepsTheKeysOfTheForm) {
                           EXPECT_TRUE(form.hand.PreviewKey(key::Return, 0, key::Return));
                           EXPECT_FALSE(form.hand.PreviewKey(key::Tab, 0, key::Tab));
                         }),
-            (Strings{"txtNotes KeyDown 27 0", "cmdCancel Click", "txtNotes KeyDown 13 0", "txtNotes KeyPress 13",
-                     "txtNotes KeyDown 9 0", "txtNotes LostFocus", "cmdOK GotFocus"}));
+            (Strings{"cmdCancel Click", "txtNotes KeyDown 13 0", "txtNotes KeyPress 13", "txtNotes LostFocus",
+                     "cmdOK GotFocus"}));
 }
 
 TEST(PreviewKey, LeavesNothingToTheEditorOnceTheFormHasClosed) {

@@ -49,14 +49,17 @@ TEST(KeyDown, IsOverWhenThePreviewClosesTheForm) {
   KeysForm form;
   form.KeyPreview(true);
   form.onKeyDown = [&](std::int16_t&) { form.Unload(); };
-  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(key::Return, 0, key::Return); }),
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(letterA, 0, 'a'); }),
+            (Strings{"Form KeyDown 65 0", "QueryUnload 1", "Unload"}));
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.KeyDown(key::Return, 0); }),
             (Strings{"Form KeyDown 13 0", "QueryUnload 1", "Unload"}));
 }
 
 TEST(KeyDown, IsOverWhenTheControlClosesTheForm) {
   KeysForm form;
   form.txtLine.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.Unload(); };
-  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(key::Return, 0, key::Return); }),
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(letterA, 0, 'a'); }), (Strings{"QueryUnload 1", "Unload"}));
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.KeyDown(key::Return, 0); }),
             (Strings{"QueryUnload 1", "Unload"}));
 }
 
@@ -69,10 +72,20 @@ TEST(KeyDown, StaysWithTheControlThatHadTheFocusWhenThePreviewMovesIt) {
                      "msgA KeyPress 13"}));
 }
 
-TEST(ReturnKey, PressesTheDefaultButtonFromATextBox) {
+TEST(ReturnKey, PressesTheDefaultButtonFromATextBoxAndRaisesNothingElse) {
   KeysForm form;
-  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(key::Return, 0, key::Return); }),
-            (Strings{"txtLine KeyDown 13 0", "cmdOK Click"}));
+  form.KeyPreview(true);
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.Key(key::Return, 0, key::Return), 0); }),
+            Strings{"cmdOK Click"});
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_FALSE(form.hand.PreviewKey(key::Return, 0, key::Return)); }),
+            Strings{"cmdOK Click"});
+}
+
+TEST(ReturnKey, AsAKeyDownOfItsOwnIsRaisedAndPressesTheDefaultButton) {
+  KeysForm form;
+  form.KeyPreview(true);
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.KeyDown(key::Return, 0), key::Return); }),
+            (Strings{"Form KeyDown 13 0", "txtLine KeyDown 13 0", "cmdOK Click"}));
 }
 
 TEST(ReturnKey, PressesTheDefaultButtonWhateverAHandlerDidToTheCode) {
@@ -92,6 +105,7 @@ TEST(ReturnKey, LeavesTheFocusWhereItIs) {
 
 TEST(ReturnKey, PressesTheCommandButtonWithTheFocusRatherThanTheDefaultOne) {
   KeysForm form;
+  EXPECT_EQ(form.Raised(form.cmdHelp, [&] { form.hand.Key(key::Return, 0, key::Return); }), Strings{"cmdHelp Click"});
   EXPECT_EQ(form.Raised(form.cmdHelp, [&] { form.hand.KeyDown(key::Return, 0); }),
             (Strings{"cmdHelp KeyDown 13 0", "cmdHelp Click"}));
 }
@@ -133,12 +147,20 @@ TEST(ReturnKey, WithoutAFocusPressesTheDefaultButton) {
   EXPECT_EQ(form.log, Strings{"cmdOK Click"});
 }
 
-TEST(EscapeKey, PressesTheCancelButtonFromAnywhere) {
+TEST(EscapeKey, PressesTheCancelButtonFromAnywhereAndRaisesNothingElse) {
   KeysForm form;
+  form.KeyPreview(true);
   for (Control* focus : std::initializer_list<Control*>{&form.msgA, &form.txtNotes, &form.cmdOK}) {
-    EXPECT_EQ(form.Raised(*focus, [&] { form.hand.Key(key::Escape, 0, key::Escape); }),
-              (Strings{focus->FullName() + " KeyDown 27 0", "cmdCancel Click"}));
+    EXPECT_EQ(form.Raised(*focus, [&] { form.hand.Key(key::Escape, 0, key::Escape); }), Strings{"cmdCancel Click"});
+    EXPECT_EQ(form.Raised(*focus, [&] { form.hand.PreviewKey(key::Escape, 0, key::Escape); }),
+              Strings{"cmdCancel Click"});
   }
+}
+
+TEST(EscapeKey, AsAKeyDownOfItsOwnIsRaisedAndPressesTheCancelButton) {
+  KeysForm form;
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.KeyDown(key::Escape, 0); }),
+            (Strings{"txtLine KeyDown 27 0", "cmdCancel Click"}));
 }
 
 TEST(EscapeKey, WithoutACancelButtonIsACharacter) {
@@ -153,10 +175,10 @@ TEST(EscapeKey, WithoutACancelButtonIsACharacter) {
 TEST(EscapeKey, WithADisabledOrHiddenCancelButtonPressesNothing) {
   KeysForm form;
   form.cmdCancel.Enabled(false);
-  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.KeyDown(key::Escape, 0); }), Strings{"txtLine KeyDown 27 0"});
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(key::Escape, 0, 0); }), Strings{"txtLine KeyDown 27 0"});
   form.cmdCancel.Enabled(true);
   form.cmdCancel.Visible(false);
-  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.KeyDown(key::Escape, 0); }), Strings{"txtLine KeyDown 27 0"});
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(key::Escape, 0, 0); }), Strings{"txtLine KeyDown 27 0"});
 }
 
 TEST(EscapeKey, OnlyClosesTheMenuThatIsOpen) {
@@ -178,10 +200,29 @@ TEST(OpenMenu, StaysWhenThePreviewOpensItForAKeyWithACharacter) {
   EXPECT_EQ(form.OpenPopup(), &form.mnuPopup);
 }
 
-TEST(TabKey, MovesTheFocusWhateverAHandlerDidToTheCode) {
+TEST(TabKey, MovesTheFocusAndRaisesNothingElse) {
+  KeysForm form;
+  form.KeyPreview(true);
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.Key(key::Tab, 0, key::Tab), 0); }),
+            (Strings{"txtLine LostFocus", "txtNotes GotFocus"}));
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_FALSE(form.hand.PreviewKey(key::Tab, key::ShiftBit, 0)); }),
+            (Strings{"txtLine LostFocus", "msgA GotFocus"}));
+}
+
+TEST(TabKey, RaisesNothingWhenThereIsNoOtherControl) {
+  TestForm form;
+  CommandButton only(form, "cmdA");
+  form.Watch(only);
+  form.KeyPreview(true);
+  only.SetFocus();
+  Hand(form).Key(key::Tab, 0, 0);
+  EXPECT_EQ(form.log, Strings{});
+}
+
+TEST(TabKey, AsAKeyDownOfItsOwnMovesTheFocusWhateverAHandlerDidToTheCode) {
   KeysForm form;
   form.txtLine.OnKeyDown = [](std::int16_t& keyCode, std::int16_t) { keyCode = 0; };
-  EXPECT_EQ(form.Raised(form.txtLine, [&] { form.hand.Key(key::Tab, 0, key::Tab); }),
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.KeyDown(key::Tab, 0), 0); }),
             (Strings{"txtLine LostFocus", "txtNotes GotFocus"}));
 }
 

@@ -92,6 +92,19 @@ TEST(WizardKeyEntry, AnyKeyInTheIdleBoxMakesForwardRewriteTheTexts) {
   EXPECT_EQ(session.Texts(), (Names{"[a‹›]", "[a‹›]", "[a‹›]", "[a‹›]", "", "", "", ""}));
 }
 
+TEST(WizardKeyEntry, TabPastTheBoxLeavesTheLayersAsTheyAre) {
+  constexpr std::int32_t placeOfTab = 0x0F;
+  WizardSession session(Oval);
+  session.GiveTexts("[a‹›]", "[b›]");
+  session.element->PressKeyDefLayer2("[other‹›]");
+  const Names before = session.Texts();
+  session.Then([&] { Hand(session.Top()).Focus(session.Get<Control>("txtScanCodes")); });
+  session.Stroke(key::Tab, placeOfTab).Then([&] { EXPECT_FALSE(session.Get<Control>("txtScanCodes").HasFocus()); });
+  session.Click("cmdForward").Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(session.Texts(), before);
+}
+
 TEST(WizardKeyEntry, ArrowsInTheIdleBoxAreNotDropped) {
   WizardSession session(Oval);
   Look(session, [&] {
