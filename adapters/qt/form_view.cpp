@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "platform/failure.h"
+#include "qt/captions.h"
 #include "qt/fonts.h"
 #include "qt/input_events.h"
 #include "qt/units.h"
@@ -123,8 +124,10 @@ void FormView::SyncWindow() {
 }
 
 void FormView::SyncFocus() {
+  // A control on a page that is not in front has no widget that could get keys: the window gets them in its place.
   const ControlView* const view = ViewOf(form_.Focus());
-  QWidget& wanted = view != nullptr ? view->FocusWidget() : *window_;
+  const bool inFront = view != nullptr && view->FocusWidget().isVisibleTo(window_.get());
+  QWidget& wanted = inFront ? view->FocusWidget() : *window_;
   if (window_->focusWidget() != &wanted) wanted.setFocus(Qt::OtherFocusReason);
 }
 
@@ -141,7 +144,7 @@ void FormView::OpenMenu(MenuItem& menu, bool placed, float x, float y) {
       shown->addSeparator();
       continue;
     }
-    QAction* const action = shown->addAction(ToQt(entry->Caption()).replace('&', "&&"));
+    QAction* const action = shown->addAction(WithLetter(entry->Caption()));
     action->setEnabled(entry->Enabled());
     connect(action, &QAction::triggered, this,
             [this, entry] { CarryOnForm([entry](Hand& hand) { hand.Menu(*entry); }); });

@@ -3,6 +3,8 @@
 #include <QFrame>
 #include <QPainterPath>
 
+#include "forms/caption.h"
+#include "qt/captions.h"
 #include "qt/fonts.h"
 #include "qt/pictures.h"
 #include "qt/units.h"
@@ -57,7 +59,8 @@ class TitledFrame : public QWidget {
     painter.setRenderHint(QPainter::Antialiasing);
     const QFontMetrics metrics = painter.fontMetrics();
     const int titleHeight = title_.isEmpty() ? 0 : metrics.height();
-    const QRect title(TitleLeft, 0, metrics.horizontalAdvance(title_) + 2 * TitleMargin, titleHeight);
+    const int titleWidth = metrics.size(Qt::TextShowMnemonic, title_).width();
+    const QRect title(TitleLeft, 0, titleWidth + 2 * TitleMargin, titleHeight);
     QPainterPath gap, all;
     all.addRect(rect());
     if (!title_.isEmpty()) gap.addRect(title);
@@ -66,7 +69,8 @@ class TitledFrame : public QWidget {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleHeight / 2 + 0.5, -0.5, -0.5), Radius, Radius);
     painter.setClipping(false);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(title.adjusted(TitleMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, title_);
+    painter.drawText(title.adjusted(TitleMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,
+                     title_);
   }
 
  private:
@@ -77,9 +81,6 @@ namespace {
 
 /// A frame up to this height in twips is drawn as a rule.
 constexpr float RuleHeight = 90;
-
-/// A mnemonic sign in the toolkit is a sign like any other in the model.
-QString WithoutMnemonics(const std::string& caption) { return ToQt(caption).replace('&', "&&"); }
 
 void SetBackground(QWidget& widget, std::int32_t colour) {
   QPalette palette = widget.palette();
@@ -110,7 +111,7 @@ ButtonView::ButtonView(CommandButton& model, QWidget& parent, UserActs& acts)
 }
 
 void ButtonView::SyncMore() {
-  const QString caption = WithoutMnemonics(model_.Caption());
+  const QString caption = WithLetter(model_.Caption());
   if (button_->text() != caption) button_->setText(caption);
   if (button_->isDefault() != model_.Default()) button_->setDefault(model_.Default());
   if (picture_ == model_.Picture()) return;
@@ -129,7 +130,7 @@ OptionView::OptionView(OptionButton& model, QWidget& parent, UserActs& acts)
 }
 
 void OptionView::SyncMore() {
-  const QString caption = WithoutMnemonics(model_.Caption());
+  const QString caption = WithLetter(model_.Caption());
   if (button_->text() != caption) button_->setText(caption);
   button_->setChecked(model_.Value());
 }
@@ -152,8 +153,17 @@ LabelView::LabelView(Label& model, QWidget& parent, UserActs&)
   label_->setFont(font);
 }
 
+/// The widget to which the letter of the caption leads; the toolkit underlines no letter without one.
+QWidget* LabelView::Named() const {
+  if (model_.Look() == LabelLook::Link) return label_;
+  return model_.Names() == nullptr ? nullptr : label_->window()->findChild<QWidget*>(ToQt(model_.Names()->FullName()));
+}
+
 void LabelView::SyncMore() {
-  const QString caption = ToQt(model_.Caption());
+  const ReadableCaption read = ReadCaption(model_.Caption());
+  QWidget* const named = read.letterAt == ReadableCaption::NoLetter ? nullptr : Named();
+  if (label_->buddy() != named) label_->setBuddy(named);
+  const QString caption = named != nullptr ? WithLetter(model_.Caption()) : ToQt(read.text);
   if (label_->text() != caption) label_->setText(caption);
   label_->setAlignment(AlignmentOf(model_.Alignment()) | Qt::AlignTop);
 }
@@ -179,7 +189,7 @@ FrameView::FrameView(Frame& model, QWidget& parent, UserActs&) : ControlView(mod
 }
 
 void FrameView::SyncMore() {
-  if (titled_ != nullptr) titled_->Title(ToQt(model_.Caption()));
+  if (titled_ != nullptr) titled_->Title(WithLetter(model_.Caption()));
 }
 
 StatusView::StatusView(StatusBar& model, QWidget& parent, UserActs&)

@@ -46,6 +46,8 @@ class LabelView : public ControlView {
   void SyncMore() override;
 
  private:
+  QWidget* Named() const;
+
   Label& model_;
   QLabel* label_;
 };

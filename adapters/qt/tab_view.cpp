@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleOptionTabWidgetFrame>
 
+#include "qt/captions.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -70,7 +71,7 @@ void TabView::SyncMore() {
   const QSize size = outer_->size();
   bar_->setGeometry(0, 0, size.width(), TabRowHeight);
   for (int page = 0; page < model_.Pages(); ++page) {
-    const QString caption = ToQt(model_.TabCaption(page)).replace('&', "&&");
+    const QString caption = WithLetter(model_.TabCaption(page));
     if (bar_->tabText(page) != caption) bar_->setTabText(page, caption);
     if (bar_->isTabEnabled(page) != model_.TabEnabled(page)) bar_->setTabEnabled(page, model_.TabEnabled(page));
     QWidget& inner = Inner(page);

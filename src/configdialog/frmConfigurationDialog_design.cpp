@@ -70,8 +70,10 @@ void frmConfigurationDialog::DesignButtonPage() {
   msgScanCodes.Place(contentLeft, gridTop, contentWidth, 5 * gridRowHeight);
   msgScanCodes.RowHeight(gridRowHeight);
   msgScanCodes.UserResizing(true);
+  labButtonTitel.Names(msgScanCodes);
   cmdFocusCatcher.Place(contentLeft, gridTop, 15, 15);
   cmdFocusCatcher.Caption("Focus");
+  cmdFocusCatcher.ParksFocus(true);
 
   fraCodeType.Place(contentLeft, 1995, contentWidth, 540);
   fraCodeType.Caption("@2008");
@@ -97,6 +99,7 @@ void frmConfigurationDialog::DesignLedPage() {
   imgLed.Inside(fraLed);
   labLedTitel.Inside(fraLed);
   PlaceHeading(imgLed, "led", labLedTitel, "@2101");
+  labLedTitel.Names(cmbLEDTypes.front());
   const std::array<Label*, LayerCount> labels = {&Label2, &Label3, &Label4, &Label5};
   for (std::size_t i = 0; i < labels.size(); ++i) {
     const float top = 645 + 465 * static_cast<float>(i);
@@ -104,6 +107,7 @@ void frmConfigurationDialog::DesignLedPage() {
     labels[i]->Place(contentLeft, top + 75, 1200, 255);
     labels[i]->Caption("Layer " + std::to_string(i + 1) + ":");
     cmbLEDTypes[i].Inside(fraLed);
+    labels[i]->Names(cmbLEDTypes[i]);
     cmbLEDTypes[i].Place(1440, top, 4800, 375);
     cmbLEDTypes[i].Sorted(true);
     cmdDeleteLED[i].Inside(fraLed);
@@ -119,6 +123,7 @@ void frmConfigurationDialog::DesignNotesPage() {
   PlaceHeading(imgButtonNotesIcon, "notes", Label1, "@2108");
   txtButtonNotes.Place(contentLeft, 600, contentWidth, 1635);
   txtButtonNotes.MultiLine(true);
+  Label1.Names(txtButtonNotes);
   txtButtonNotes.MaxLength(1000);
   StatusBar1.Place(contentLeft, 2280, contentWidth, 300);
 }

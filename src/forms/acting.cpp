@@ -7,6 +7,8 @@ void CheckUsable(const Control& control) {
   if (!hindrance.empty()) throw Failure(FailureKind::InvalidCall, control.FullName() + ' ' + std::string(hindrance));
 }
 
+bool GetsKeys(const Control* focus) { return focus != nullptr && focus->OwnHindrance().empty(); }
+
 void MoveTo(Grid& grid, int row, int col) {
   const OpenForm open(grid.Owner());
   grid.Current(row, col);

@@ -26,4 +26,8 @@ void CheckUsable(const Control& control);
 /// Makes a cell current and brings it into view.
 void MoveTo(Grid& grid, int row, int col);
 
+/// Whether the control with the focus gets the keys: it and its containers are visible and enabled. A page that is not
+/// in front is no hindrance.
+bool GetsKeys(const Control* focus);
+
 }  // namespace plexel

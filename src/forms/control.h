@@ -112,8 +112,7 @@ class Control {
   virtual bool Focusable() const { return false; }
   bool CanTakeFocus() const { return Focusable() && Usable(); }
   /// Gives it the focus. A page that is not in front or off is no hindrance to the program, as it is to the user: the
-  /// control holds the focus until it can take keys. Failure (InvalidCall) when it or a container is hidden or
-  /// disabled.
+  /// control gets the keys all the same. Failure (InvalidCall) when it or a container is hidden or disabled.
   void SetFocus();
   bool HasFocus() const;
 

@@ -11,7 +11,7 @@ namespace plexel {
 
 enum class TextAlignment { Left, Centre, Right };
 
-/// A control with one caption. "&" has no special meaning in it.
+/// A control with one caption, in which "&" may mark a letter (forms/caption.h).
 class CaptionControl : public Control {
  public:
   using Control::Control;
@@ -40,12 +40,17 @@ class CommandButton : public CaptionControl {
   void Cancel(bool value);
   const std::string& Picture() const { return picture_; }
   void Picture(std::string name) { picture_ = std::move(name); }
+  /// Whether it only holds the focus while keys go elsewhere: no key that it gets moves the focus to a neighbour, turns
+  /// a page or follows the letter of a caption. Tab alone leaves it.
+  bool ParksFocus() const { return parksFocus_; }
+  void ParksFocus(bool value) { parksFocus_ = value; }
 
  protected:
   void DescribeMore(Description& description) const override;
 
  private:
   std::string picture_;
+  bool parksFocus_ = false;
 };
 
 /// One of the choices of its container.
@@ -157,10 +162,14 @@ class Label : public CaptionControl {
   void Alignment(TextAlignment value) { alignment_ = value; }
   LabelLook Look() const { return look_; }
   void Look(LabelLook value) { look_ = value; }
+  /// The control that it names and to which the letter of its caption leads; null for none.
+  Control* Names() const { return names_; }
+  void Names(Control& control) { names_ = &control; }
 
  private:
   TextAlignment alignment_ = TextAlignment::Left;
   LabelLook look_ = LabelLook::Plain;
+  Control* names_ = nullptr;
 };
 
 /// A picture, named among the pictures of the product.

@@ -14,15 +14,17 @@ namespace plexel {
 /// the act does not happen. Every act but a choice from it and the end of a key closes the popup menu that is open.
 ///
 /// A key takes this road: the form itself, the form's preview, the control that has the focus when the key goes down,
-/// then the control's own action. The form itself takes Tab, Escape with a cancel button, and Return with a default
-/// button or on a command button: such a key raises nothing of its own and yields no character. Any other is raised as
-/// a key down, and its character follows as a key press, whatever became of the key down. A handler that sets the key
-/// code to 0 takes the control's own action away.
+/// then the control's own action. The form itself takes Tab, Escape with a cancel button, Return with a default button
+/// or on a command button, Ctrl with Tab, PageUp or PageDown, which click on the next page of a tab strip that is on,
+/// and Alt with the letter of a caption, which clicks on a button or a tab and gives the focus to what a label or a
+/// frame names: such a key raises nothing of its own and yields no character. Any other is raised as a key down, and
+/// its character follows as a key press, whatever became of the key down. A handler that sets the key code to 0 takes
+/// the control's own action away.
 ///
-/// A control's own actions: Space presses a command button and sets an option button; the arrow keys move within the
-/// option buttons of a container, the entries of a combo box, the cells of a grid and the tabs of a strip; Left, Right,
-/// Home, End and Delete edit a text box. A grid and a text box of several lines keep Return for themselves. An open
-/// list of a combo box (F4, Alt and Down) is the renderer's.
+/// A control's own actions: Space presses a command button and sets an option button; the arrow keys move the focus
+/// from a command button as Tab does, and move within the option buttons of a container, the entries of a combo box,
+/// the cells of a grid and the tabs of a strip; Left, Right, Home, End and Delete edit a text box. A grid and a text
+/// box of several lines keep Return for themselves. An open list of a combo box (F4, Alt and Down) is the renderer's.
 class Hand {
  public:
   explicit Hand(Form& form) : form_(form) {}
@@ -67,7 +69,7 @@ class Hand {
 
   /// A key down at the focus, raised whatever the key is, then what the key does, without the character that it yields;
   /// gives the key code as it came back from the handlers, which keep no key from the form itself. With a popup menu
-  /// open, Escape closes that and does nothing else.
+  /// open, Escape closes that and the letter of an entry picks it, and the key does nothing else.
   std::int16_t KeyDown(std::int16_t keyCode, std::int16_t shift);
   /// A character at the focus, with its insertion into a text box; gives it as it came back. `character` is a code of
   /// Windows-1252; Failure (InvalidCall) for a number that is none.
@@ -103,6 +105,11 @@ class Hand {
   std::int16_t RaiseKeyDown(Control* target, std::int16_t keyCode, std::int16_t shift);
   /// Whether the form itself takes a key, which it then has carried out.
   bool FormTakes(Control* target, std::int16_t keyCode, std::int16_t shift);
+  bool TakesPlain(Control* target, std::int16_t keyCode, std::int16_t shift);
+  bool TurnsPage(Control* target, std::int16_t keyCode, std::int16_t shift);
+  bool FollowsLetter(const Control* target, std::int16_t keyCode);
+  /// Whether the popup menu takes a key; it is closed in any case.
+  bool MenuTakes(std::int16_t keyCode, std::int16_t shift);
   PressResult Character(Control* target, char32_t character, Editor editor);
 
   Form& form_;

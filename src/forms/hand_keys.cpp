@@ -1,6 +1,9 @@
 #include "forms/hand.h"
 
+#include <algorithm>
+
 #include "forms/acting.h"
+#include "forms/caption.h"
 #include "forms/characters.h"
 #include "forms/own_keys.h"
 #include "forms/text_editing.h"
@@ -12,32 +15,20 @@ namespace {
 /// What handlers see of a character that the code page lacks.
 constexpr std::int16_t UnknownCharacter = '?';
 
-bool KeepsReturn(const Control& control) {
-  if (control.Kind() == ControlKind::Grid) return true;
-  return control.Kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).MultiLine();
-}
-
-bool GetsKeys(const Control* control) { return control != nullptr && control->Usable(); }
-
 }  // namespace
 
-bool Hand::FormTakes(Control* target, std::int16_t keyCode, std::int16_t shift) {
-  if ((shift & (key::ControlBit | key::AltBit)) != 0) return false;
-  if (keyCode == key::Tab) {
-    Control* const next = form_.TabNeighbour((shift & key::ShiftBit) == 0);
-    if (next != nullptr) form_.Focus(next);
+bool Hand::MenuTakes(std::int16_t keyCode, std::int16_t shift) {
+  if (form_.OpenPopup() == nullptr) return false;
+  const std::vector<MenuItem*>& entries = form_.OpenPopup()->Entries();
+  const auto entry = std::find_if(entries.begin(), entries.end(), [&](const MenuItem* one) {
+    return one->Usable() && !one->Separator() && LeadsTo(one->Caption(), keyCode);
+  });
+  if (entry != entries.end() && (shift & key::ControlBit) == 0) {
+    Menu(**entry);
     return true;
   }
-  CommandButton* button = nullptr;
-  if (keyCode == key::Escape) button = form_.CancelButton();
-  if (keyCode == key::Return) {
-    if (GetsKeys(target) && KeepsReturn(*target)) return false;
-    const bool onButton = GetsKeys(target) && target->Kind() == ControlKind::CommandButton;
-    button = onButton ? static_cast<CommandButton*>(target) : form_.DefaultButton();
-  }
-  if (!GetsKeys(button)) return false;
-  Press(*button);
-  return true;
+  DismissMenu();
+  return keyCode == key::Escape;
 }
 
 std::int16_t Hand::RaiseKeyDown(Control* target, std::int16_t keyCode, std::int16_t shift) {
@@ -49,8 +40,7 @@ std::int16_t Hand::RaiseKeyDown(Control* target, std::int16_t keyCode, std::int1
 }
 
 Hand::DownResult Hand::Down(Control* target, std::int16_t keyCode, std::int16_t shift, Editor editor) {
-  if (DismissMenu() && keyCode == key::Escape) return {0, false};
-  if (FormTakes(target, keyCode, shift)) return {0, false};
+  if (MenuTakes(keyCode, shift) || FormTakes(target, keyCode, shift)) return {0, false};
   const OpenForm open(form_);
   const std::int16_t code = RaiseKeyDown(target, keyCode, shift);
   const bool editorActs =
@@ -76,7 +66,7 @@ Hand::PressResult Hand::Character(Control* target, char32_t character, Editor ed
 }
 
 std::int16_t Hand::KeyDown(std::int16_t keyCode, std::int16_t shift) {
-  if (DismissMenu() && keyCode == key::Escape) return keyCode;
+  if (MenuTakes(keyCode, shift)) return keyCode;
   Control* const target = form_.Focus();
   const OpenForm open(form_);
   const std::int16_t code = RaiseKeyDown(target, keyCode, shift);

@@ -15,7 +15,12 @@ namespace {
 constexpr int ListPage = 8;
 
 void ActOnButton(Control& control, std::int16_t keyCode) {
-  if (keyCode == key::Space) control.Owner().Armed(&control);
+  if (keyCode == key::Space) return control.Owner().Armed(&control);
+  const bool back = keyCode == key::Left || keyCode == key::Up;
+  if (!back && keyCode != key::Right && keyCode != key::Down) return;
+  if (static_cast<CommandButton&>(control).ParksFocus() || !control.HasFocus()) return;
+  Control* const next = control.Owner().TabNeighbour(!back);
+  if (next != nullptr) next->SetFocus();
 }
 
 void ActOnOption(Control& control, std::int16_t keyCode) {

@@ -15,6 +15,7 @@ ListDialog::ListDialog(const Design& design) : Form(design.form), title(*this, d
   Caption(std::string(design.caption));
   HelpContextID(design.helpTopic);
   title.Caption(std::string(design.titleCaption));
+  title.Names(list);
   cmdOK.Caption("@100");
   cmdOK.Default(true);
   cmdCancel.Caption("@101");

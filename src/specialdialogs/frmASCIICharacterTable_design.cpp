@@ -14,6 +14,7 @@ frmASCIICharacterTable::frmASCIICharacterTable() : Form("frmASCIICharacterTable"
   HelpContextID(HelpTopic);
   PlaceControls();
   msgASCIICodes.RowHeight(rowHeight);
+  labASCIITableTitle.Names(msgASCIICodes);
   txtBigCharacter.Visible(false);
   txtBigCharacter.Locked(true);
   txtBigCharacter.TabStop(false);

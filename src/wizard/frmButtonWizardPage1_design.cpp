@@ -49,6 +49,7 @@ void frmButtonWizardPage1::DesignButtons() {
   cmdDeleteKEY.Picture("delete");
   cmdDeleteKEY.Place(ContentLeft + ContentWidth - fieldHeight, 4065, fieldHeight, fieldHeight);
   cmdFocusCatcher.Caption("FocusCatcher");
+  cmdFocusCatcher.ParksFocus(true);
   cmdFocusCatcher.Place(cmdCancel.Left(), cmdCancel.Top(), 5, 5);
   cmdFocusCatcher.TabStop(false);
 }

@@ -16,6 +16,7 @@ void frmButtonWizardPage2::Design() {
   labAllavailableLEDFunctions.Place(ContentLeft, top, ContentWidth, 300);
   cmbLEDTypes.Place(ContentLeft, top + 345, ContentWidth - fieldHeight - gap, fieldHeight);
   cmbLEDTypes.Sorted(true);
+  labAllavailableLEDFunctions.Names(cmbLEDTypes);
   cmdDeleteLED.Picture("delete");
   cmdDeleteLED.Place(ContentLeft + ContentWidth - fieldHeight, top + 345, fieldHeight, fieldHeight);
 

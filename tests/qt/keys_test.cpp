@@ -111,6 +111,93 @@ TEST_F(QtKeys, EveryControlShowsThatItHasTheFocus) {
   });
 }
 
+TEST_F(QtKeys, ControlAndTabOrPageDownTurnThePagesFromAnywhere) {
+  WhileShown([&](FormView& view) {
+    form.line.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(form.strip.Tab(), 1);
+    form.note.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(form.strip.Tab(), 0);
+    Press(view, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(form.strip.Tab(), 1);
+    EXPECT_TRUE(form.strip.HasFocus());
+    EXPECT_EQ(form.note.Text(), "");
+  });
+}
+
+TEST_F(QtKeys, AltAndTheLetterOfACaptionActOnce) {
+  form.ok.Caption("&OK");
+  form.options[1]->Caption("Option &1");
+  form.title.Caption("&Title");
+  form.title.Names(form.line);
+  form.strip.TabCaption(1, "&Page 1");
+  WhileShown([&](FormView& view) {
+    form.note.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_O, Qt::AltModifier);
+    Press(view, Qt::Key_1, Qt::AltModifier);
+    Press(view, Qt::Key_P, Qt::AltModifier);
+    EXPECT_EQ(form.notes, (std::vector<std::string>{"ok", "option 1", "tab 1"}));
+    Press(view, Qt::Key_T, Qt::AltModifier);
+    EXPECT_TRUE(form.line.HasFocus());
+    EXPECT_EQ(form.line.Text(), "");
+  });
+}
+
+TEST_F(QtKeys, TheLetterOfACaptionIsDrawnUnderlined) {
+  form.title.Names(form.line);
+  WhileShown([&](FormView& view) {
+    const auto pictureOf = [&](const Control& control) { return view.ViewOf(&control)->Outer().grab().toImage(); };
+    const auto underlines = [&](const Control& control, const std::function<void(const char*)>& caption) {
+      const auto drawn = [&](const char* text) {
+        caption(text);
+        platform.Modal().SyncAll();
+        return pictureOf(control);
+      };
+      const QImage plain = drawn("Fine & more"), marked = drawn("&Fine & more"), doubled = drawn("Fine && more");
+      EXPECT_NE(plain, marked) << control.FullName();
+      EXPECT_EQ(plain, doubled) << control.FullName();
+    };
+    underlines(form.ok, [&](const char* text) { form.ok.Caption(text); });
+    underlines(*form.options[0], [&](const char* text) { form.options[0]->Caption(text); });
+    underlines(form.title, [&](const char* text) { form.title.Caption(text); });
+    underlines(form.frame, [&](const char* text) { form.frame.Caption(text); });
+    underlines(form.strip, [&](const char* text) { form.strip.TabCaption(1, text); });
+  });
+}
+
+TEST_F(QtKeys, TheArrowsMoveTheCellOfAGridThatIsNotInFront) {
+  WhileShown([&](FormView& view) {
+    form.strip.Tab(1);
+    form.grid.SetFocus();
+    platform.Modal().SyncAll();
+    Press(view, Qt::Key_Down);
+    Press(view, Qt::Key_Right);
+    EXPECT_EQ(form.grid.Row(), 2);
+    EXPECT_EQ(form.grid.Col(), 2);
+    form.strip.Tab(0);
+    platform.Modal().SyncAll();
+    EXPECT_EQ(&FocusOf(view), &view.ViewOf(&form.grid)->FocusWidget());
+  });
+}
+
+TEST_F(QtKeys, TabRaisesNoKeyDown) {
+  WhileShown([&](FormView& view) {
+    form.line.SetFocus();
+    platform.Modal().SyncAll();
+    form.keys.clear();
+    Press(view, Qt::Key_Tab);
+    EXPECT_FALSE(form.line.HasFocus());
+    Press(view, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(form.line.HasFocus());
+    const std::pair<std::int16_t, std::int16_t> shiftAlone(key::Shift, key::ShiftBit);
+    EXPECT_EQ(form.keys, std::vector{shiftAlone});
+  });
+}
+
 TEST_F(QtKeys, EscapePressesTheCancelButton) {
   WhileShown([&](FormView& view) {
     Press(view, Qt::Key_Escape);
