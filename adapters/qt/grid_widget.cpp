@@ -4,11 +4,13 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
 
+#include "qt/captions.h"
 #include "qt/input_events.h"
 #include "qt/units.h"
 
@@ -18,6 +20,7 @@ namespace {
 
 constexpr int EdgeReach = 3;  // pixels
 constexpr int CellMargin = 4;
+constexpr int Narrowest = 120, NextInView = 240;  // twips
 
 bool SameCell(const GridCell& one, const GridCell& other) {
   return one.text == other.text && one.foreColor == other.foreColor && one.backColor == other.backColor &&
@@ -33,6 +36,7 @@ bool SameRow(const std::vector<GridCell>& one, const std::vector<GridCell>& othe
 bool GridWidget::Shot::operator==(const Shot& other) const {
   return widths == other.widths && row == other.row && col == other.col && topRow == other.topRow &&
          leftCol == other.leftCol && rowHeight == other.rowHeight && focus == other.focus && enabled == other.enabled &&
+         showsEnd == other.showsEnd &&
          std::equal(cells.begin(), cells.end(), other.cells.begin(), other.cells.end(), SameRow);
 }
 
@@ -50,7 +54,7 @@ GridWidget::Shot GridWidget::Take() const {
     std::vector<GridCell>& cells = shot.cells.emplace_back();
     for (int col = 0; col < model_.Cols(); ++col) cells.push_back(model_.CellAt(row, col));
   }
-  for (int col = 0; col < model_.Cols(); ++col) shot.widths.push_back(model_.ColWidth(col));
+  shot.widths = DrawnWidths();
   shot.row = model_.Row();
   shot.col = model_.Col();
   shot.topRow = model_.TopRow();
@@ -58,7 +62,24 @@ GridWidget::Shot GridWidget::Take() const {
   shot.rowHeight = model_.RowHeight();
   shot.focus = model_.HasFocus();
   shot.enabled = model_.Enabled();
+  shot.showsEnd = model_.ShowsEnd();
   return shot;
+}
+
+int GridWidget::WidestOf(int col, const std::vector<int>& widths) const {
+  const int room = static_cast<int>(model_.Width());
+  if (col < model_.FixedCols()) return std::max(Narrowest, room / 2 / model_.FixedCols());
+  const int fixed = std::accumulate(widths.begin(), widths.begin() + model_.FixedCols(), 0);
+  return std::max(Narrowest, room - fixed - NextInView);
+}
+
+std::vector<int> GridWidget::DrawnWidths() const {
+  std::vector<int> widths;
+  for (int col = 0; col < model_.Cols(); ++col) {
+    const int width = model_.ColWidth(col);
+    widths.push_back(model_.UserResizing() ? std::clamp(width, Narrowest, WidestOf(col, widths)) : width);
+  }
+  return widths;
 }
 
 void GridWidget::Sync() {
@@ -131,14 +152,23 @@ void GridWidget::DrawCell(QPainter& painter, int row, int col, const QRect& plac
     painter.drawRect(place.adjusted(1, 1, -1, -1));
   }
   painter.setPen(shot_.enabled ? ColourOf(cell.foreColor) : palette().color(QPalette::Disabled, QPalette::Text));
-  const QString text = WithVisibleControls(ToQt(cell.text));
+  const QString text = TextAt(row, col);
   if (cell.centred) {
     painter.drawText(place, Qt::AlignCenter, text);
     return;
   }
-  const QRect inner = place.adjusted(CellMargin, 0, -CellMargin, 0);
+  const QRect inner = TextRect(row, col);
+  const Qt::TextElideMode elided = ShowsEnd(row, col) ? Qt::ElideLeft : Qt::ElideRight;
   painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft,
-                   painter.fontMetrics().elidedText(text, Qt::ElideRight, inner.width()));
+                   painter.fontMetrics().elidedText(text, elided, inner.width()));
+}
+
+QString GridWidget::TextAt(int row, int col) const {
+  return WithVisibleControls(ToQt(shot_.cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)].text));
+}
+
+QRect GridWidget::TextRect(int row, int col) const {
+  return CellRect(row, col).adjusted(CellMargin, 0, -CellMargin, 0);
 }
 
 GridWidget::Spot GridWidget::SpotAt(const QPoint& point) const {
@@ -170,7 +200,7 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
   if (edge >= 0) {
     resizedCol_ = edge;
     resizeFrom_ = event->pos().x();
-    resizeWidth_ = model_.ColWidth(edge);
+    resizeWidth_ = shot_.widths[static_cast<std::size_t>(edge)];
     return;
   }
   pressed_ = SpotAt(event->pos());
@@ -185,8 +215,7 @@ void GridWidget::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   const int change = static_cast<int>(ToTwips(event->pos().x() - resizeFrom_));
-  constexpr int Narrowest = 120;
-  listener_.resized(resizedCol_, std::max(Narrowest, resizeWidth_ + change));
+  listener_.resized(resizedCol_, std::clamp(resizeWidth_ + change, Narrowest, WidestOf(resizedCol_, shot_.widths)));
 }
 
 void GridWidget::mouseReleaseEvent(QMouseEvent*) { resizedCol_ = -1; }
@@ -199,11 +228,22 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void GridWidget::wheelEvent(QWheelEvent* event) {
   constexpr int StepOfWheel = 120, RowsOfStep = 3;
-  const bool sideways = event->modifiers().testFlag(Qt::ShiftModifier);
+  const bool sideways = event->modifiers().testFlag(Qt::ShiftModifier) || verticalScrollBar()->maximum() == 0;
   const QPoint turned = event->angleDelta();
   const int rows = sideways ? 0 : turned.y() * RowsOfStep / StepOfWheel;
   const int cols = (sideways ? turned.x() + turned.y() : turned.x()) / StepOfWheel;
   if (rows != 0 || cols != 0) listener_.scrolled(model_.TopRow() - rows, model_.LeftCol() - cols);
+}
+
+bool GridWidget::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+  const auto& asked = static_cast<const QHelpEvent&>(*event);
+  const Spot spot = SpotAt(asked.pos());
+  const bool cut = spot.OnCell() && viewport()->fontMetrics().horizontalAdvance(TextAt(spot.row, spot.col)) >
+                                        TextRect(spot.row, spot.col).width();
+  const QString text = cut ? ToolTipOf(TextAt(spot.row, spot.col)) : toolTip();
+  QToolTip::showText(asked.globalPos(), text, viewport(), cut ? CellRect(spot.row, spot.col) : QRect());
+  return true;
 }
 
 void GridWidget::scrollContentsBy(int, int) {

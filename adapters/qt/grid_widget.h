@@ -40,6 +40,7 @@ class GridWidget : public QAbstractScrollArea {
   void mouseMoveEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
+  bool viewportEvent(QEvent* event) override;
 
  private:
   /// What is drawn.
@@ -47,13 +48,21 @@ class GridWidget : public QAbstractScrollArea {
     GridCells cells;
     std::vector<int> widths;
     int row = 0, col = 0, topRow = 0, leftCol = 0, rowHeight = 0;
-    bool focus = false, enabled = true;
+    bool focus = false, enabled = true, showsEnd = false;
     bool operator==(const Shot& other) const;
   };
 
   Shot Take() const;
+  /// The widths in twips as they are drawn. Where the user may change them, each column keeps an edge that the mouse
+  /// can take, with a piece of the next column in view behind it, whatever width the model has.
+  std::vector<int> DrawnWidths() const;
+  int WidestOf(int col, const std::vector<int>& widths) const;
   void SyncScrollBars();
   void DrawCell(QPainter& painter, int row, int col, const QRect& place) const;
+  bool ShowsEnd(int row, int col) const { return shot_.showsEnd && row == shot_.row && col == shot_.col; }
+  QString TextAt(int row, int col) const;
+  /// The place of a cell's text.
+  QRect TextRect(int row, int col) const;
   Spot SpotAt(const QPoint& point) const;
   /// The column whose right edge in the header lies at a point, or -1.
   int EdgeAt(const QPoint& point) const;

@@ -153,6 +153,7 @@ bool frmConfigurationDialog::AnyScanCodeDefined() {
 }
 
 void frmConfigurationDialog::PaintCaptureCell() {
+  msgScanCodes.ShowsEnd(true);
   msgScanCodes.CellBackColor(TextToInt32(GetParameter(captureColour)));
 }
 

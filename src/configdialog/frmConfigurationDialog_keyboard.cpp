@@ -41,6 +41,7 @@ void frmConfigurationDialog::ToggleKeyCapture() {
         return;
       }
       module.bDirectInputActive = False;
+      msgScanCodes.ShowsEnd(false);
       ResetGridCellColours();
       cmdCancel.Cancel(true);
     }
@@ -48,8 +49,9 @@ void frmConfigurationDialog::ToggleKeyCapture() {
 }
 
 void frmConfigurationDialog::EndKeyCapture() {
-  EndQuietly([] {
+  EndQuietly([this] {
     Module().bDirectInputActive = False;
+    msgScanCodes.ShowsEnd(false);
     SetDirectInput(False, TargetConfigurationDialog);
     Platform::Current().Events().DoEvents();
     ResetGridCellColours();

@@ -55,6 +55,10 @@ class Grid : public Control {
   float CellWidth() const { return static_cast<float>(ColWidth(col_)); }
   float CellHeight() const { return static_cast<float>(rowHeight_); }
 
+  /// Whether the current cell shows the end of a text for which it has no room, and not the beginning.
+  bool ShowsEnd() const { return showsEnd_; }
+  void ShowsEnd(bool value) { showsEnd_ = value; }
+
   bool Redraw() const { return redraw_; }
   void Redraw(bool value) { redraw_ = value; }
   /// Draws what has changed while Redraw was off.
@@ -92,7 +96,7 @@ class Grid : public Control {
   int rowHeight_ = 255;
   int topRow_, leftCol_;
   int refreshes_ = 0;
-  bool redraw_ = true, userResizing_ = false;
+  bool redraw_ = true, userResizing_ = false, showsEnd_ = false;
 };
 
 }  // namespace plexel

@@ -38,6 +38,19 @@ TEST_F(CaptureMode, SecondDoubleClickEndsCapture) {
   });
 }
 
+TEST_F(CaptureMode, TheCellThatRecordsShowsTheEndOfItsText) {
+  Open([](frmConfigurationDialog& dialog, Hand& hand) {
+    EXPECT_FALSE(dialog.msgScanCodes.ShowsEnd());
+    hand.DblClick(dialog.msgScanCodes, 2, 1);
+    EXPECT_TRUE(dialog.msgScanCodes.ShowsEnd());
+    hand.DblClick(dialog.msgScanCodes, 2, 1);
+    EXPECT_FALSE(dialog.msgScanCodes.ShowsEnd());
+    hand.DblClick(dialog.msgScanCodes, 2, 1);
+    hand.Tab(dialog.sstScanCode, 2);
+    EXPECT_FALSE(dialog.msgScanCodes.ShowsEnd());
+  });
+}
+
 TEST_F(CaptureMode, HostHearsCaptureOnAndOff) {
   Open([this](frmConfigurationDialog& dialog, Hand& hand) {
     hand.DblClick(dialog.msgScanCodes, 1, 1);

@@ -1,7 +1,12 @@
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QTabBar>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include "qt/grid_widget.h"
 #include "stage.h"
@@ -206,6 +211,114 @@ TEST_F(QtLists, TheEdgeOfAColumnIsDraggedToANewWidth) {
     EXPECT_EQ(form.grid.ColWidth(0), 1500);
     EXPECT_EQ(form.grid.ColWidth(1), 1200);
     EXPECT_EQ(GridOf(view, form.grid).CellRect(0, 0).width(), 100);
+  });
+}
+
+TEST_F(QtLists, AColumnIsNotDraggedSoWideThatTheNextOneCannotBeReached) {
+  for (const int dragged : {0, 1}) {
+    for (int col = 0; col < 3; ++col) form.grid.ColWidth(col, 1200);
+    WhileShown([&](FormView& view) {
+      QWidget& mouse = MouseWidgetOf(view, form.grid);
+      const QPoint edge(80 * (dragged + 1), 8);
+      QTest::mousePress(&mouse, Qt::LeftButton, Qt::NoModifier, edge);
+      QTest::mouseMove(&mouse, QPoint(2000, 8));
+      QTest::mouseRelease(&mouse, Qt::LeftButton, Qt::NoModifier, QPoint(2000, 8));
+      const QRect next = GridOf(view, form.grid).CellRect(0, dragged + 1);
+      EXPECT_LT(next.left() + 10, mouse.width());
+      EXPECT_EQ(GridOf(view, form.grid).CellRect(0, dragged).width(),
+                ToPixels(static_cast<float>(form.grid.ColWidth(dragged))));
+    });
+  }
+}
+
+TEST_F(QtLists, AWidthThatHidesAColumnIsDrawnWithinReachAndKept) {
+  for (const int hiding : {0, 1, 2}) {
+    for (int col = 0; col < 3; ++col) form.grid.ColWidth(col, col == hiding ? 60000 : 1200);
+    WhileShown([&](FormView& view) {
+      QWidget& mouse = MouseWidgetOf(view, form.grid);
+      const GridWidget& grid = GridOf(view, form.grid);
+      form.grid.SetFocus();
+      for (int col = 1; col < 3; ++col) {
+        form.grid.Current(1, 1);
+        for (int step = 1; step < col; ++step) Press(view, Qt::Key_Right);
+        platform.Modal().SyncAll();
+        EXPECT_GE(grid.CellRect(1, col).intersected(mouse.rect()).width(), 16) << hiding << ' ' << col;
+      }
+      Press(view, Qt::Key_Left);
+      const QPoint edge(grid.CellRect(0, hiding).right() + 1, 8);
+      EXPECT_TRUE(hiding == 2 || mouse.rect().contains(edge));
+      EXPECT_EQ(form.grid.ColWidth(hiding), 60000);
+      if (hiding == 2) return;
+      QTest::mousePress(&mouse, Qt::LeftButton, Qt::NoModifier, edge);
+      QTest::mouseMove(&mouse, edge - QPoint(20, 0));
+      QTest::mouseRelease(&mouse, Qt::LeftButton, Qt::NoModifier, edge - QPoint(20, 0));
+      EXPECT_EQ(ToPixels(static_cast<float>(form.grid.ColWidth(hiding))), grid.CellRect(0, hiding).width());
+      EXPECT_LT(form.grid.ColWidth(hiding), 4500);
+    });
+  }
+}
+
+TEST_F(QtLists, AColumnWithoutAWidthIsDrawnWithinReach) {
+  form.grid.ColWidth(1, 0);
+  WhileShown([&](FormView& view) {
+    EXPECT_EQ(GridOf(view, form.grid).CellRect(1, 1).width(), 8);
+    EXPECT_EQ(form.grid.ColWidth(1), 0);
+  });
+}
+
+TEST_F(QtLists, TheWheelScrollsSidewaysWhereAllRowsAreInView) {
+  for (int col = 0; col < 3; ++col) form.grid.ColWidth(col, 2200);
+  WhileShown([&](FormView& view) {
+    QWidget& mouse = MouseWidgetOf(view, form.grid);
+    const auto turn = [&](int angle) {
+      QWheelEvent event(QPointF(200, 40), mouse.mapToGlobal(QPointF(200, 40)), QPoint(), QPoint(0, angle), Qt::NoButton,
+                        Qt::NoModifier, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(&mouse, &event);
+    };
+    turn(-120);
+    EXPECT_EQ(form.grid.LeftCol(), 2);
+    turn(120);
+    EXPECT_EQ(form.grid.LeftCol(), 1);
+  });
+}
+
+constexpr const char* longText = "[first][second][third][fourth][fifth][sixth][seventh][eighth][ninth][tenth][last]";
+
+TEST_F(QtLists, TheCurrentCellShowsTheEndOfALongTextWhenItIsToldTo) {
+  WhileShown([&](FormView& view) {
+    const auto pictureOf = [&](const std::string& text, bool showsEnd) {
+      form.grid.Text(text);
+      form.grid.ShowsEnd(showsEnd);
+      platform.Modal().SyncAll();
+      return MouseWidgetOf(view, form.grid).grab().toImage();
+    };
+    const std::string text = longText;
+    EXPECT_EQ(pictureOf(text, false), pictureOf(text + "more", false));
+    EXPECT_NE(pictureOf(text, true), pictureOf(text + "more", true));
+    EXPECT_EQ(pictureOf(text + "more", true), pictureOf("other" + text + "more", true));
+    EXPECT_EQ(pictureOf("short", false), pictureOf("short", true));
+  });
+}
+
+TEST_F(QtLists, ATextThatIsCutStandsWholeInTheToolTip) {
+  form.grid.ToolTipText("what the grid is for");
+  WhileShown([&](FormView& view) {
+    QWidget& mouse = MouseWidgetOf(view, form.grid);
+    const auto toolTipAt = [&](int row, int col) {
+      QHelpEvent event(QEvent::ToolTip, CellPlace(row, col), mouse.mapToGlobal(CellPlace(row, col)));
+      QApplication::sendEvent(&mouse, &event);
+      QTextDocument shown;
+      shown.setHtml(QToolTip::text());
+      return shown.toPlainText().remove('\n').replace(QChar::Nbsp, ' ').toStdString();
+    };
+    form.grid.Text(longText);
+    form.grid.Current(1, 2);
+    form.grid.Text("short");
+    platform.Modal().SyncAll();
+    EXPECT_EQ(toolTipAt(1, 1), longText);
+    EXPECT_EQ(toolTipAt(1, 2), "what the grid is for");
+    EXPECT_EQ(toolTipAt(2, 1), "what the grid is for");
+    QToolTip::hideText();
   });
 }
 
