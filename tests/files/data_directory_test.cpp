@@ -35,6 +35,12 @@ TEST(DataDirectory, AnEmptyVariableDoesNotCount) {
   EXPECT_TRUE(std::filesystem::exists(DataDirectory() / "languages" / "English.lang"));
 }
 
+TEST(DataDirectory, IsNamedWithoutTheLinkThatLeadsThere) {
+  const Environment data("PLEXEL_DATA", nullptr);
+  EXPECT_EQ(DataDirectory(), std::filesystem::canonical(DataDirectory()));
+  EXPECT_FALSE(std::filesystem::is_symlink(DataDirectory()));
+}
+
 TEST(ConfigurationDirectory, LiesUnderTheConfigurationHome) {
   const Environment home("XDG_CONFIG_HOME", "/c");
   EXPECT_EQ(ConfigurationDirectory(), "/c/plexel");

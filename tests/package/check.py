@@ -12,11 +12,11 @@ import sys
 SOURCE = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 STANDARD_OR_QT = re.compile(r"^([a-z_]+|Q[A-Za-z]+)$")
-INTERNAL = ["services/module_state.h", "element/property_rows.h", "forms/acting.h",
+INTERNAL = ["services/module_state.h", "element/packed_codes.h", "element/property_rows.h", "forms/acting.h",
             "qt/qt_ports.h", "files/text_lines.h"]
 LIBRARIES = {"plexel": [], "plexel-headless": ["plexel"], "plexel-files": ["plexel"],
              "plexel-qt": ["plexel", "plexel-files", "Qt6Widgets"]}
-CONSOLE_OUTPUT = "F1 is new\n[Ctrl Left+a‹›]\nFF 14 1C FF F0 1C F0 14 FF\n"
+CONSOLE_OUTPUT = "F1 is new\n[Ctrl Left+a‹›]\nFF 14 1C F0 1C F0 14 FF\n"
 
 
 class Wrong(Exception):
@@ -66,7 +66,7 @@ class Package:
         root = os.path.join(self.prefix, "include", "plexel")
         headers = sorted(os.path.relpath(os.path.join(folder, name), root)
                          for folder, _, names in os.walk(root) for name in names)
-        expect("component/component.h" in headers and "headless/headless_platform.h" in headers, "headers are missing")
+        expect("component/component.h" in headers and "headless/headless_user.h" in headers, "headers are missing")
         expect(not set(headers) & set(INTERNAL), "internal headers are installed")
         qt = run("pkg-config", "--cflags", "Qt6Widgets").split()
 

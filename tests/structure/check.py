@@ -40,7 +40,6 @@ ROOMS = [
 BY_NAME = {room.name: room for room in ROOMS}
 SHIPPED = ("src", "adapters", "apps")
 PROOF = ("tests", "bench", "fuzz")
-APART = ("tests/consumer",)  # built from the installed package, not from the tree
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 STANDARD = re.compile(r"^[a-z_]+$")
@@ -57,7 +56,7 @@ class Tree:
             for path, _, names in os.walk(os.path.join(root, folder)):
                 for name in names:
                     file = os.path.relpath(os.path.join(path, name), root)
-                    if name.endswith((".h", ".cpp")) and not file.startswith(APART):
+                    if name.endswith((".h", ".cpp")):
                         with open(os.path.join(root, file), encoding="utf-8") as source:
                             self.texts[file] = source.read()
 

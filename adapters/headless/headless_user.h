@@ -1,0 +1,42 @@
+#pragma once
+
+#include <initializer_list>
+#include <string_view>
+
+#include "platform/keyboard.h"
+
+namespace plexel {
+
+class Control;
+class Form;
+class Grid;
+class HeadlessPlatform;
+
+/// The person in front of a headless platform: acts on the topmost dialog, whose controls go by their full names
+/// ("cmdOK", "optKeyType(2)"), and presses keys. Its place is HeadlessModalLoop::onRun. The acts are those of Hand,
+/// with their failures; Failure (ObjectNotSet) when no dialog is open, Failure (NoSuchMember) for a name that no
+/// control of the wanted kind has.
+class HeadlessUser {
+ public:
+  explicit HeadlessUser(HeadlessPlatform& platform) : platform_(platform) {}
+
+  void Click(std::string_view control);
+  void Click(std::string_view grid, int row, int col);
+  void DblClick(std::string_view control);
+  void DblClick(std::string_view grid, int row, int col);
+  /// Picks a list entry of a combo box by its place.
+  void Select(std::string_view box, int index);
+  /// Types into a text box.
+  void Type(std::string_view box, std::string_view text);
+  /// Presses keys together: down in this order, up in the reverse order.
+  void Press(std::initializer_list<KeyEvent> keys);
+
+ private:
+  Form& Dialog() const;
+  template <typename Kind = Control>
+  Kind& Named(std::string_view control) const;
+
+  HeadlessPlatform& platform_;
+};
+
+}  // namespace plexel
