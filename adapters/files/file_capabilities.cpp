@@ -1,10 +1,10 @@
 #include "files/file_capabilities.h"
 
-#include <algorithm>
 #include <bitset>
 #include <optional>
 #include <system_error>
 
+#include "files/file_lists.h"
 #include "files/ini_walk.h"
 #include "files/number_text.h"
 
@@ -25,12 +25,8 @@ std::vector<std::filesystem::path> TablesIn(const std::filesystem::path& directo
   std::vector<std::filesystem::path> tables;
   std::error_code error;
   if (!std::filesystem::exists(directory, error)) return tables;
-  std::filesystem::directory_iterator entries(directory, error);
-  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (entries->path().extension() == ".cap") tables.push_back(entries->path());
-  }
+  tables = FilesWith(".cap", directory, error);
   if (error) throw FileError(directory, 0, "cannot be read: " + error.message());
-  std::sort(tables.begin(), tables.end());
   return tables;
 }
 
