@@ -187,9 +187,9 @@ void ProjectReader::ReadValue(ProjectElement& element) {
 }
 
 void ProjectReader::Store(ProjectElement& element, BagValue&& value) {
-  const std::size_t number = BagKeyNumber(key_);
-  const bool isNew = number < BagKeyCount ? element.bag.StoreNew(number, std::move(value))
-                                          : element.bag.StoreNew(OtherKey(), std::move(value));
+  const std::size_t number = StoredKeyNumber(key_);
+  const bool isNew = number < StoredKeyCount ? element.bag.StoreNew(number, std::move(value))
+                                             : element.bag.StoreNew(OtherKey(), std::move(value));
   if (!isNew) Refuse("\"" + Excerpt(key_) + "\" stands twice");
 }
 
