@@ -1,5 +1,7 @@
 #include "qt/element_widget.h"
 
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -11,7 +13,6 @@
 #include <QToolTip>
 
 #include "files/panel_file.h"
-#include "gmock/gmock.h"
 #include "qt/element_face.h"
 #include "qt/panel_painter.h"
 #include "widgets.h"
