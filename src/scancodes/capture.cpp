@@ -10,17 +10,16 @@
 #include "scancodes/keyboard_hook.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
+#include "services/setting_table.h"
 #include "services/shared_services.h"
 
 namespace plexel {
 
 namespace {
 
-constexpr std::int32_t optionLockTaskKeys = 9;
-
 void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
   ModuleState& state = Module();
-  if (IsTrue(GetOption(optionLockTaskKeys))) {
+  if (IsTrue(GetOption(OptionLockTaskKeys))) {
     state.lngLowLevelHook = Platform::Current().Hooks().Install(HookKind::LowLevelKeyboard, LowLevelKeyboardProc);
   }
   state.lngKeyboardHook = Platform::Current().Hooks().Install(HookKind::Keyboard, KeyboardHookProc);
