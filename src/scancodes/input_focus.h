@@ -10,7 +10,7 @@ namespace plexel {
 void CatchFocus(std::int32_t lngTarget);
 /// Takes the focus catcher out of the tab order again and gives the focus back. No guard.
 void ReturnFocus(std::int32_t lngTarget);
-/// Gives the focus to the focus catcher of the input target. No guard.
+/// The first for the input target. Ends quietly when the focus catcher cannot take the focus or no dialog is open.
 void ParkInputFocus();
 
 }  // namespace plexel

@@ -266,6 +266,17 @@ TEST(Capture, ParkingBringsTheFocusBackToTheCatcherOfTheTarget) {
   });
 }
 
+TEST(Capture, ParkingOnACatcherThatCannotTakeTheFocusEndsQuietlyAndKeepsTheTabStop) {
+  ScanCodeSession session;
+  session.InConfigurationDialog([&](StandInConfigurationDialog& dialog) {
+    dialog.msgScanCodes.SetFocus();
+    dialog.cmdFocusCatcher.Enabled(false);
+    EXPECT_NO_THROW(ParkInputFocus());
+    EXPECT_TRUE(dialog.cmdFocusCatcher.TabStop());
+    EXPECT_TRUE(dialog.msgScanCodes.HasFocus());
+  });
+}
+
 TEST(Capture, ParkingWithoutAnOpenDialogEndsQuietly) {
   ScanCodeSession session;
   for (const std::int32_t target : {0, 1, 2}) {
