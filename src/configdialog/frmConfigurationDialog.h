@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/form.h"
+#include "scancodes/capture.h"
 #include "scancodes/dialog_access.h"
 #include "services/element_types.h"
 
@@ -154,6 +155,8 @@ class frmConfigurationDialog : public Form, public ConfigurationDialogAccess {
   void ShowCharactersLeft();
   void PaintCaptureCell();
   void DeleteGroup(std::string (*remainingText)(std::string_view), void (*deleteCodes)());
+
+  const LeftHooks leftHooks_;
 };
 
 }  // namespace plexel

@@ -1,6 +1,7 @@
 #include "scancodes/capture.h"
 
-#include <utility>
+#include <exception>
+#include <vector>
 
 #include "element/element_access.h"
 #include "platform/clean_up.h"
@@ -10,19 +11,47 @@
 #include "scancodes/keyboard_hook.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
-#include "services/setting_table.h"
 #include "services/shared_services.h"
 
 namespace plexel {
 
 namespace {
 
+constexpr std::int32_t optionLockTaskKeys = 9;
+
+std::int32_t Install(HookKind kind, HookProcedure procedure) {
+  const std::int32_t hook = Platform::Current().Hooks().Install(kind, procedure);
+  if (hook != 0) Module().installedHooks.push_back(hook);
+  return hook;
+}
+
+std::int32_t Remove(std::int32_t hook) {
+  const std::int32_t result = Platform::Current().Hooks().Remove(hook);
+  if (result != 0) std::erase(Module().installedHooks, hook);
+  return result;
+}
+
+/// Tries each, and throws behind the last what the first threw that did.
+void RemoveAll() {
+  std::exception_ptr thrown;
+  Module().lngKeyboardHook = Module().lngLowLevelHook = 0;
+  const std::vector<std::int32_t> hooks = Module().installedHooks;
+  for (const std::int32_t hook : hooks) {
+    try {
+      Remove(hook);
+    } catch (...) {
+      if (!thrown) thrown = std::current_exception();
+    }
+  }
+  if (thrown) std::rethrow_exception(thrown);
+}
+
 void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
   ModuleState& state = Module();
-  if (IsTrue(GetOption(OptionLockTaskKeys))) {
-    state.lngLowLevelHook = Platform::Current().Hooks().Install(HookKind::LowLevelKeyboard, LowLevelKeyboardProc);
+  if (IsTrue(GetOption(optionLockTaskKeys))) {
+    state.lngLowLevelHook = Install(HookKind::LowLevelKeyboard, LowLevelKeyboardProc);
   }
-  state.lngKeyboardHook = Platform::Current().Hooks().Install(HookKind::Keyboard, KeyboardHookProc);
+  state.lngKeyboardHook = Install(HookKind::Keyboard, KeyboardHookProc);
   result = state.lngKeyboardHook;
   if (state.lngKeyboardHook == 0) return;
 
@@ -36,9 +65,8 @@ void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
 
 void StopCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
   ModuleState& state = Module();
-  KeyboardHooks& hooks = Platform::Current().Hooks();
-  if (state.lngLowLevelHook != 0) state.lngLowLevelHook = hooks.Remove(state.lngLowLevelHook);
-  state.lngKeyboardHook = hooks.Remove(state.lngKeyboardHook);
+  if (state.lngLowLevelHook != 0) state.lngLowLevelHook = Remove(state.lngLowLevelHook);
+  state.lngKeyboardHook = Remove(state.lngKeyboardHook);
   result = state.lngKeyboardHook;
   if (state.lngKeyboardHook == 0) return;
 
@@ -69,15 +97,18 @@ std::int32_t SetDirectInput(Boolean bActive, std::int32_t lngTarget) {
 
 void DropCapture() {
   ModuleState& state = Module();
-  const std::int32_t lowLevelHook = std::exchange(state.lngLowLevelHook, 0);
-  const std::int32_t keyboardHook = std::exchange(state.lngKeyboardHook, 0);
   state.bDirectInputActive = False;
   state.lngPressedKeys = {};
   state.lngPressedKeyCount = 0;
-  const auto remove = [](std::int32_t hook) {
-    if (hook != 0) Platform::Current().Hooks().Remove(hook);
-  };
-  AndThen([&] { remove(lowLevelHook); }, [&] { remove(keyboardHook); });
+  RemoveAll();
+}
+
+void LeftHooks::Remove() {
+  if (Module().installedHooks.empty()) return;
+  try {
+    RemoveAll();
+  } catch (...) {  // there is a next time
+  }
 }
 
 void AbandonCapture() {

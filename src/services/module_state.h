@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/keyboard.h"
 #include "services/element_types.h"
@@ -31,6 +32,7 @@ struct ModuleState {
   using KeySlot = std::array<std::int32_t, 4>;
   std::int32_t lngInputTarget = 0;  ///< 0 configuration dialog, 2 wizard
   std::int32_t lngKeyboardHook = 0, lngLowLevelHook = 0;
+  std::vector<std::int32_t> installedHooks;  ///< handles of all hooks not yet removed, those above among them
   std::array<KeySlot, KeySlots> lngPressedKeys{};
   std::int32_t lngPressedKeyCount = 0;
   LowLevelKey udtLowLevelKey;

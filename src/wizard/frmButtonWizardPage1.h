@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "scancodes/capture.h"
 #include "scancodes/dialog_access.h"
 #include "services/boolean.h"
 #include "wizard/wizard_page.h"
@@ -59,6 +60,7 @@ class frmButtonWizardPage1 : public WizardPage, public WizardPageAccess {
   void StorePanelFunction();
   void StoreShortCut();
 
+  const LeftHooks leftHooks_;
   std::array<OptionButton, 4> optKeyType{OptionButton{*this, "optKeyType", 0}, OptionButton{*this, "optKeyType", 1},
                                          OptionButton{*this, "optKeyType", 2}, OptionButton{*this, "optKeyType", 3}};
   TextBox txtScanCodes{*this, "txtScanCodes"};

@@ -177,6 +177,61 @@ TEST_F(CaptureMode, AHookThatCannotBeRemovedShowsMessage5823AndCaptureStaysOn) {
   });
 }
 
+// Hooks that a failed start or end leaves.
+
+TEST_F(CaptureMode, ALowLevelHookThatAFailedStartLeavesStaysWhileTheDialogIsOpenAndGoesWithIt) {
+  for (const char* way : {"cmdOK", "cmdCancel", "the close box"}) {
+    SCOPED_TRACE(way);
+    surroundings.Settings().Option(9, True);
+    platform.faults.Turn(Fault::KeyboardHook, true);
+    Open([&](frmConfigurationDialog& dialog, Hand& hand) {
+      for (int tries = 0; tries < 3; ++tries) hand.DblClick(dialog.msgScanCodes, 1, 1);
+      platform.faults.Turn(Fault::KeyboardHook, false);
+      hand.DblClick(dialog.msgScanCodes, 1, 1);
+      EXPECT_TRUE(Hooked());
+      hand.DblClick(dialog.msgScanCodes, 1, 1);
+      EXPECT_FALSE(Hooked());
+      EXPECT_TRUE(platform.Hooks().Installed(HookKind::LowLevelKeyboard));
+      if (Control* button = dialog.Find(way)) hand.Click(*button);
+    });
+    EXPECT_FALSE(platform.Hooks().Installed(HookKind::LowLevelKeyboard));
+    EXPECT_EQ(Module().lngLowLevelHook, 0);
+  }
+}
+
+TEST_F(CaptureMode, HooksThatCannotBeRemovedWhileTheDialogIsOpenGoWithIt) {
+  surroundings.Settings().Option(9, True);
+  Open([&](frmConfigurationDialog& dialog, Hand& hand) {
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    platform.faults.Turn(Fault::Unhook, true);
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    platform.faults.Turn(Fault::Unhook, false);
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    EXPECT_EQ(platform.Messages().Shown().size(), 2U);
+    EXPECT_TRUE(Hooked());
+  });
+  EXPECT_FALSE(Hooked());
+  EXPECT_FALSE(platform.Hooks().Installed(HookKind::LowLevelKeyboard));
+}
+
+TEST_F(CaptureMode, HooksThatOutliveTheDialogGoWithTheNextOneBeforeItIsShown) {
+  surroundings.Settings().Option(9, True);
+  Open([&](frmConfigurationDialog& dialog, Hand& hand) {
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    platform.faults.Turn(Fault::Unhook, true);
+  });
+  EXPECT_TRUE(Hooked());
+  EXPECT_TRUE(platform.Hooks().Installed(HookKind::LowLevelKeyboard));
+  platform.faults.Turn(Fault::Unhook, false);
+  Open([&](frmConfigurationDialog& dialog, Hand& hand) {
+    EXPECT_FALSE(Hooked());
+    EXPECT_FALSE(platform.Hooks().Installed(HookKind::LowLevelKeyboard));
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    EXPECT_TRUE(Hooked());
+  });
+  EXPECT_FALSE(Hooked());
+}
+
 TEST_F(CaptureMode, AFailingMessageBoxIsNotSeen) {
   platform.faults.Turn(Fault::KeyboardHook, true);
   platform.faults.Turn(Fault::Messages, true);

@@ -10,7 +10,7 @@ using ConfigurationDialogLoading = ConfigurationDialog;
 
 struct TypeCase {
   enumTactisBaseElementType type;
-  std::string caption;
+  const char* caption;
   bool page0, page1;
   int front;
 };

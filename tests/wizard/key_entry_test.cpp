@@ -264,4 +264,46 @@ TEST(WizardKeyEntry, ForwardAfterDeleteLeavesTheEmptiedElementHandMade) {
   EXPECT_EQ(session.element->WizardOptions(), ManuallyDefined);
 }
 
+namespace {
+
+bool AnyHook(WizardSession& session) {
+  return session.platform.Hooks().Installed(HookKind::Keyboard) ||
+         session.platform.Hooks().Installed(HookKind::LowLevelKeyboard);
+}
+
+}  // namespace
+
+TEST(WizardKeyEntry, ALowLevelHookThatAFailedStartLeavesStaysUpToTheEndOfTheWizardAndNoLonger) {
+  const std::vector<Names> ways = {{"cmdCancel"},           {""},
+                                   {"cmdForward", "cmdOK"}, {"cmdForward", "cmdCancel"},
+                                   {"cmdForward", ""},      {"cmdForward", "cmdBack", "cmdCancel"}};
+  for (const Names& way : ways) {
+    SCOPED_TRACE(way.front() + ' ' + way.back());
+    WizardSession session(Oval);
+    session.surroundings.Settings().Option(9, True);
+    session.platform.faults.Turn(Fault::KeyboardHook, true);
+    session.DblClick("txtScanCodes").DblClick("txtScanCodes").DblClick("txtScanCodes");
+    session.Then([&] { session.platform.faults.Turn(Fault::KeyboardHook, false); });
+    session.Click("optKeyType(0)").DblClick("txtScanCodes").DblClick("txtScanCodes");
+    session.Then([&] { EXPECT_TRUE(AnyHook(session)); });
+    for (const std::string& button : way) button.empty() ? session.Close() : session.Click(button);
+    session.Open();
+    EXPECT_FALSE(AnyHook(session));
+    EXPECT_EQ(Module().lngLowLevelHook, 0);
+  }
+}
+
+TEST(WizardKeyEntry, HooksThatOutliveTheWizardGoWithTheNextOneBeforeItIsShown) {
+  WizardSession session(Oval);
+  session.surroundings.Settings().Option(9, True);
+  session.DblClick("txtScanCodes").Then([&] { session.platform.faults.Turn(Fault::Unhook, true); }).Click("cmdCancel");
+  session.Open();
+  EXPECT_TRUE(AnyHook(session));
+  session.platform.faults.Turn(Fault::Unhook, false);
+  session.Then([&] { EXPECT_FALSE(AnyHook(session)); }).DblClick("txtScanCodes");
+  session.Then([&] { EXPECT_TRUE(AnyHook(session)); }).Click("cmdCancel");
+  session.Open();
+  EXPECT_FALSE(AnyHook(session));
+}
+
 }  // namespace plexel

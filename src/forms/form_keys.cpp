@@ -1,10 +1,9 @@
-#include "forms/hand.h"
-
 #include <algorithm>
 #include <array>
 
 #include "forms/acting.h"
 #include "forms/caption.h"
+#include "forms/hand.h"
 
 namespace plexel {
 
