@@ -11,10 +11,11 @@ namespace plexel {
 
 namespace {
 
-Capability QueryNamed(const std::string& name) {
-  const std::optional<Capability> query = CapabilityNamed(name);
-  if (!query) throw CommandError("the capability service has no query " + Excerpt(name));
-  return *query;
+Capability CapabilityNamed(const std::string& name) {
+  for (int query = 0; query < CapabilityCount; ++query) {
+    if (name == CapabilityName(static_cast<Capability>(query))) return static_cast<Capability>(query);
+  }
+  throw CommandError("the capability service has no query " + Excerpt(name));
 }
 
 Fault FaultNamed(const std::string& name) {
@@ -51,7 +52,7 @@ void SetText(Workbench& bench, Arguments& arguments, Json&) {
 
 void SetCapability(Workbench& bench, Arguments& arguments, Json&) {
   const std::string target = arguments.Text();
-  const Capability query = QueryNamed(arguments.Text());
+  const Capability query = CapabilityNamed(arguments.Text());
   bench.surroundings.Capabilities().Set(target, query, arguments.Int32());
 }
 

@@ -7,10 +7,8 @@
 #include "cli/values_json.h"
 #include "files/data_directory.h"
 #include "files/file_error.h"
-#include "files/file_lists.h"
 #include "files/language_file.h"
 #include "files/text_lines.h"
-#include "forms/ascii.h"
 
 namespace plexel {
 
@@ -23,17 +21,22 @@ std::filesystem::path LanguageDirectory() { return DataDirectory() / "languages"
 
 LanguageTexts InitialTexts() {
   try {
-    return ReadLanguageFile(LanguageDirectory() / (InitialLanguage + std::string(LanguageExtension)));
+    return ReadLanguageFile(LanguageDirectory() / (std::string(InitialLanguage) + ".lang"));
   } catch (const FileError& error) {
     throw Failure(FailureKind::Platform, error.what());
   }
 }
 
+bool SameLetters(std::string_view a, std::string_view b) {
+  const auto lower = [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
+}
+
 /// The file of a language, whose name may be written in any case.
 std::filesystem::path LanguageFile(const std::string& name) {
   std::error_code error;
-  for (const std::filesystem::path& file : FilesWith(LanguageExtension, LanguageDirectory(), error)) {
-    if (ascii::Same(file.stem().string(), name)) return file;
+  for (const auto& entry : std::filesystem::directory_iterator(LanguageDirectory(), error)) {
+    if (SameLetters(entry.path().filename().string(), name + ".lang")) return entry.path();
   }
   throw CommandError("no language is named " + Excerpt(name));
 }
@@ -51,6 +54,14 @@ Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), repo
   platform.Layout().Use(layout_.get());
   ReportForms();
   ReportSystem();
+}
+
+Workbench::~Workbench() {
+  host.TraceNotices(false);  // behind the last answer nothing is reported
+  for (const auto& [name, element] : elements_) {
+    element->UserControl_Terminate();
+    element->Detach();
+  }
 }
 
 void Workbench::UseLanguage(const std::string& name) {

@@ -28,6 +28,7 @@ class Workbench {
   using Element = std::shared_ptr<ctlPlexelBaseElement>;
 
   explicit Workbench(Reporter& reporter);
+  ~Workbench();
 
   HeadlessPlatform platform;
   HeadlessSurroundings surroundings{platform};

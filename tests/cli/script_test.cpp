@@ -8,6 +8,8 @@
 #include <thread>
 
 #include "cli/json.h"
+#include "cli/workbench.h"
+#include "element/ctlPlexelBaseElement.h"
 #include "services/module_state.h"
 
 namespace plexel {
@@ -104,6 +106,32 @@ TEST_F(ScriptRun, AnElementDroppedInsideItsDialogLivesToItsEnd) {
           "set ShowDefined -1\nclose\nform\n");
   EXPECT_EQ(answers.back()["form"], nullptr);
   EXPECT_EQ(answers.back()["ok"], true);
+}
+
+TEST_F(ScriptRun, ADroppedElementTellsItsEndToTheContainer) {
+  const std::vector<Json> answers = Run("element A\nset ElementType 2\ntrace notices on\ndrop A\n");
+  ASSERT_EQ(answers.size(), 5U);
+  EXPECT_EQ(answers[3].dump(), R"({"line":4,"notice":"ElementType","element":"A"})");
+  EXPECT_EQ(answers[4].dump(), R"({"line":4,"ok":true,"ElementType":0})");
+}
+
+TEST_F(ScriptRun, ElementsThatAreLeftEndWithTheScriptAndReportNothing) {
+  char* text = nullptr;
+  std::size_t length = 0;
+  std::FILE* output = open_memstream(&text, &length);
+  std::shared_ptr<ctlPlexelBaseElement> element;
+  {
+    Reporter reporter(output);
+    Workbench bench(reporter);
+    element = bench.component.Create("A", bench.host);
+    element->ElementType(Rect);
+    bench.Add(element);
+    bench.host.TraceNotices(true);
+  }
+  std::fclose(output);
+  EXPECT_EQ(static_cast<std::int32_t>(element->ElementType()), 0);
+  EXPECT_EQ(length, 0U);
+  std::free(text);
 }
 
 }  // namespace
