@@ -1,10 +1,10 @@
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QMessageBox>
 #include <QProxyStyle>
 #include <iostream>
 
 #include "component/component.h"
+#include "editor/call.h"
 #include "editor/log_panel.h"
 #include "editor/main_window.h"
 #include "editor/version.h"
@@ -40,7 +40,7 @@ void TellProblems(const FileSurroundings& surroundings, const FileRegistry& regi
   QMessageBox::warning(parent, "Plexel", Say(Text::FilesDamaged) + "\n\n" + problems.join('\n'));
 }
 
-int Run(const QStringList& arguments) {
+int Run(const QString& project) {
   FileSurroundings surroundings(DataDirectory(), ConfigurationDirectory());
   HelpWindow help;
   QtPlatform platform(surroundings.UserRegistry(), help);
@@ -49,7 +49,7 @@ int Run(const QStringList& arguments) {
   MainWindow window(component, surroundings, platform, help);
   window.show();
   TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
-  const bool opened = !arguments.isEmpty() && window.OpenProject(arguments.front().toStdString());
+  const bool opened = !project.isEmpty() && window.OpenProject(project.toStdString());
   if (!opened && !window.StartEmpty()) return 1;
   return QApplication::exec();
 }
@@ -59,6 +59,11 @@ int Run(const QStringList& arguments) {
 }  // namespace plexel
 
 int main(int argc, char** argv) {
+  const plexel::Call call = plexel::Understand(argc, argv);
+  if (call.status) {
+    (*call.status == 0 ? std::cout : std::cerr) << call.answer.toStdString();
+    return *call.status;
+  }
   // Of a desktop that has both, the X server is taken: it tells more of the keyboard.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
@@ -69,18 +74,8 @@ int main(int argc, char** argv) {
   QApplication::setStyle(new plexel::PlainButtons);
   QApplication::setFont(plexel::DialogFont());
   QApplication::setWindowIcon(plexel::PicturePixmap("plexel", plexel::IconSize, 2));
-  QCommandLineParser parser;
-  parser.setApplicationDescription("Configures the keys and LEDs of operator panels.");
-  parser.addHelpOption();
-  parser.addVersionOption();
-  parser.addPositionalArgument("project", "The project file to open.", "[PROJECT]");
-  parser.process(application);
-  if (parser.positionalArguments().size() > 1) {
-    std::cerr << "plexel-editor: one project at most\n";
-    return 2;
-  }
   try {
-    return plexel::Run(parser.positionalArguments());
+    return plexel::Run(call.project);
   } catch (const std::exception& failure) {
     std::cerr << "plexel-editor: " << failure.what() << '\n';
     QMessageBox::critical(nullptr, "Plexel", QString::fromUtf8(failure.what()));
