@@ -13,13 +13,10 @@ Panel ReadNamedPanel(const std::string& name, const std::filesystem::path& direc
   return ReadPanel(PanelFile(directory, name));
 }
 
-/// The zoom that a project was saved with; every element carries it.
-int SavedZoom(const Project& project) {
-  if (project.elements.empty()) return PanelDocument::NormalZoom;
-  const BagValue* const value = project.elements.front().bag.Find("ZoomFactor");
-  const auto* const zoom = value == nullptr ? nullptr : std::get_if<std::int16_t>(value);
-  if (zoom == nullptr) return PanelDocument::NormalZoom;
-  return std::clamp<int>(*zoom, PanelDocument::SmallestZoom, PanelDocument::LargestZoom);
+/// Gives the bag of an element the values that it has at rest, for those that selecting and zooming change.
+void PutAtRest(FlatBag& bag) {
+  bag.Store("FocusVisible", False);
+  bag.Store("ZoomFactor", std::int16_t{PanelDocument::NormalZoom});
 }
 
 }  // namespace
@@ -43,7 +40,6 @@ std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& 
     }
   }
   document->file_ = file;
-  document->zoom_ = SavedZoom(project);
   for (const PanelPart& part : document->panel_.parts) {
     if (!part.element) continue;
     const auto saved = std::find_if(project.elements.begin(), project.elements.end(),
@@ -60,8 +56,8 @@ std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& 
 
 PanelDocument::~PanelDocument() {
   for (const Place& place : places_) {
-    place.element->Detach();
     place.element->UserControl_Terminate();
+    place.element->Detach();
   }
 }
 
@@ -109,6 +105,7 @@ void PanelDocument::Save(const std::filesystem::path& file) {
     ProjectElement& saved = project.elements.emplace_back();
     saved.place = place.part->element->id;
     place.element->UserControl_WriteProperties(saved.bag);
+    PutAtRest(saved.bag);
     saved.codes = CodesOf(place.element->TactisBaseElementScanCodeBuffer());
   }
   WriteProject(file, project);

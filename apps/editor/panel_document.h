@@ -34,7 +34,8 @@ class PanelDocument {
   PanelDocument(const PanelDocument&) = delete;
   PanelDocument& operator=(const PanelDocument&) = delete;
 
-  /// Writes the project and takes the file as its own; FileError when that fails.
+  /// Writes the project and takes the file as its own; FileError when that fails. The file holds the elements at rest,
+  /// whatever is selected and however far it is zoomed; what the screen shows stays.
   void Save(const std::filesystem::path& file);
 
   const Panel& ThePanel() const { return panel_; }

@@ -5,81 +5,28 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <set>
 
-#include "component/component.h"
 #include "editor/log_panel.h"
-#include "editor/main_window.h"
-#include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
 #include "editor/texts.h"
-#include "files/data_directory.h"
+#include "editor_fixture.h"
 #include "files/file_error.h"
 #include "files/language_file.h"
-#include "forms/form_directory.h"
-#include "qt/form_view.h"
-#include "qt/qt_ports.h"
-#include "services/module_state.h"
 
 namespace plexel::testing {
 namespace {
 
-class Editor : public ::testing::Test {
- protected:
-  Editor() {
-    window.NewProject("Large");
-    window.show();
-  }
-
-  std::filesystem::path File(const std::string& name) { return files.path().toStdString() + "/" + name; }
-  ctlPlexelBaseElement& Element(const std::string& id) {
-    for (const PanelDocument::Place& place : window.Document()->Places()) {
-      if (place.element->Name() == id) return *place.element;
-    }
-    throw std::logic_error("no element " + id);
-  }
-  int PlaceOf(const std::string& id) { return window.Document()->PlaceOf(Element(id)); }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(&window.View(), key, modifiers);
-  }
-  QPoint Middle(const std::string& id) { return window.View().PlaceRect(PlaceOf(id)).center(); }
-  /// Acts on the message box that comes next.
-  void AnswerNextBox(const std::function<void(QMessageBox&)>& act) {
-    QTimer::singleShot(0, &context, [act] {
-      auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(box, nullptr);
-      act(*box);
-      box->close();
-    });
-  }
-  /// Acts on the form that opens next, and closes it.
-  void ActOnNextForm(const std::function<void(Hand&, Form&)>& act) {
-    QTimer::singleShot(0, &context, [this, act] {
-      FormView* const view = platform.Modal().Topmost();
-      ASSERT_NE(view, nullptr);
-      Form& form = view->Model();
-      Hand hand(form);
-      act(hand, form);
-      if (form.IsShown()) form.Unload();
-    });
-  }
-
-  QTemporaryDir files;
-  FileSurroundings surroundings{DataDirectory(), files.path().toStdString()};
-  HelpWindow help;
-  OpenQtPlatform platform{surroundings.UserRegistry(), help};
-  Component component{platform, surroundings};
-  MainWindow window{component, surroundings, platform, help};
-  QObject context;
-};
-
 constexpr const char* Definition = "[Ctrl Left+a\u2039\u203A]";
+
+std::string BytesOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
 
 /// Every number of the editor's own texts in a language file.
 std::vector<std::int32_t> OwnNumbers(const LanguageTexts& texts) {
@@ -230,14 +177,63 @@ TEST_F(Editor, AProjectComesBackWithTextsCodesAndKinds) {
   EXPECT_FALSE(window.Document()->Modified());
 }
 
-TEST_F(Editor, TheZoomOfAProjectComesBack) {
+TEST_F(Editor, AProjectIsOpenedAtItsOriginalSize) {
   window.SetZoom(150);
   ASSERT_TRUE(window.SaveProject(File("a.plexel")));
-  ASSERT_TRUE(window.NewProject("Large"));
-  EXPECT_EQ(window.Document()->Zoom(), 100);
   ASSERT_TRUE(window.OpenProject(File("a.plexel")));
-  EXPECT_EQ(window.Document()->Zoom(), 150);
-  EXPECT_EQ(Element("F1").ZoomFactor(), 150);
+  EXPECT_EQ(window.Document()->Zoom(), 100);
+  EXPECT_EQ(Element("F1").ZoomFactor(), 100);
+}
+
+TEST_F(Editor, OpeningAndSavingTheSampleChangesNoByte) {
+  const std::filesystem::path sample = DataDirectory() / "projects" / "sample.plexel";
+  ASSERT_TRUE(window.OpenProject(sample));
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  EXPECT_EQ(BytesOf(File("a.plexel")), BytesOf(sample));
+}
+
+TEST_F(Editor, SelectingAndZoomingChangeNoByteOfTheFileAndSavingNothingOnTheScreen) {
+  const auto showX =
+      std::find_if(SettingTable.begin(), SettingTable.end(), [](const SettingRow& row) { return row.name == "ShowX"; });
+  surroundings.Settings().Value(*showX, 1);
+  window.SettingsChanged();
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  const std::string before = BytesOf(File("a.plexel"));
+  window.View().Select(PlaceOf("F5"));
+  window.SetZoom(250);
+  window.View().Select(PlaceOf("F18"));
+  const float width = Element("F18").SurfaceObjects().Width;
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  EXPECT_EQ(BytesOf(File("a.plexel")), before);
+  EXPECT_EQ(Element("F18").SurfaceObjects().Width, width);
+  EXPECT_TRUE(Element("F18").SurfaceObjects().shpRect.Visible);
+  EXPECT_TRUE(Element("F18").SurfaceObjects().linX1.Visible);
+  EXPECT_EQ(Element("F18").FocusVisible(), True);
+  EXPECT_EQ(Element("F18").ZoomFactor(), 250);
+  EXPECT_EQ(window.Document()->Zoom(), 250);
+  EXPECT_EQ(window.View().Selected(), &Element("F18"));
+}
+
+/// Hears of kinds that go.
+class EndingHost : public EditorHost {
+ public:
+  void PropertyChanged(ctlPlexelBaseElement& element, const Notice& notice) override {
+    if (notice.text == "ElementType") ended.insert(element.Name());
+  }
+  std::set<std::string> ended;
+};
+
+TEST_F(Editor, TheContainerHearsTheEndOfEveryElementOfAProject) {
+  EndingHost host;
+  auto document = PanelDocument::New("Large", {component, host, nullptr, DataDirectory() / "panels"});
+  const std::shared_ptr<ctlPlexelBaseElement> kept = document->Places().front().element;
+  host.ended.clear();
+  document.reset();
+  EXPECT_EQ(host.ended.size(), 46U);
+  EXPECT_EQ(static_cast<std::int32_t>(kept->ElementType()), 0);
+  host.ended.clear();
+  kept->ElementType(Rect);
+  EXPECT_TRUE(host.ended.empty());
 }
 
 TEST_F(Editor, AFileThatCannotBeReadTellsItsLineAndLosesNothing) {
