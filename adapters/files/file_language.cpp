@@ -1,6 +1,7 @@
 #include "files/file_language.h"
 
-#include "files/file_lists.h"
+#include <algorithm>
+#include <system_error>
 
 namespace plexel {
 
@@ -10,10 +11,19 @@ void FileLanguage::GetText(std::int32_t number, std::string& text) {
 }
 
 void FileLanguage::Choose(const std::string& name) {
-  texts_ = ReadLanguageFile(directory_ / (name + std::string(LanguageExtension)));
+  texts_ = ReadLanguageFile(directory_ / (name + ".lang"));
   chosen_ = name;
 }
 
-std::vector<std::string> FileLanguage::Available() const { return NamesOfFilesWith(LanguageExtension, directory_); }
+std::vector<std::string> FileLanguage::Available() const {
+  std::vector<std::string> names;
+  std::error_code error;
+  std::filesystem::directory_iterator entries(directory_, error);
+  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
+    if (entries->path().extension() == ".lang") names.push_back(entries->path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
 
 }  // namespace plexel

@@ -3,8 +3,11 @@
 #include <exception>
 #include <string>
 
+#include "qt/form_note.h"
+
 namespace plexel {
 
+class Form;
 class FormView;
 class Keyboard;
 
@@ -18,6 +21,8 @@ class FormDesk {
   /// The window of a form has got, or lost, the keys of the desktop.
   virtual void Activated(FormView& view) = 0;
   virtual void Deactivated(FormView& view) = 0;
+  /// What the host says under the form now.
+  virtual FormNote NoteOf(Form& form) = 0;
   /// Tells the user, and the log, of a failure that came out of one of his acts.
   virtual void Report(const std::string& what) = 0;
   /// Ends the form in front, whose showing then throws what came out of one of the user's acts.

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QFontDatabase>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
 #include <algorithm>
@@ -35,6 +36,8 @@ class FormWindow : public QDialog {
  private:
   std::function<void()> closing_;
 };
+
+constexpr QColor AlertColour(0xFF, 0xE0, 0x82);
 
 /// Whether the user could see any of the form.
 bool OnAnyScreen(const Form& form) {
@@ -107,16 +110,47 @@ void FormView::Hide() {
 
 void FormView::Sync() {
   for (const std::unique_ptr<ControlView>& view : views_) view->Sync();
+  SyncNote();
   SyncWindow();
   SyncFocus();
   SyncMenu();
+}
+
+void FormView::SyncNote() {
+  const FormNote note = desk_.NoteOf(form_);
+  if (note == noted_) return;
+  noted_ = note;
+  if (note_ == nullptr) {
+    constexpr int Side = 10, Above = 4, Below = 6;
+    note_ = new QLabel(window_.get());
+    note_->setObjectName("FormNote");
+    note_->setTextFormat(Qt::RichText);
+    note_->setWordWrap(true);
+    note_->setContentsMargins(Side, Above, Side, Below);
+    note_->setAutoFillBackground(true);
+    note_->show();
+  }
+  QPalette palette = window_->palette();
+  if (note.alert) {
+    palette.setColor(QPalette::Window, AlertColour);
+    palette.setColor(QPalette::WindowText, Qt::black);
+  }
+  note_->setPalette(palette);
+  note_->setText(note.text);
 }
 
 void FormView::SyncWindow() {
   const QString caption = ToQt(form_.Caption());
   if (window_->windowTitle() != caption) window_->setWindowTitle(caption);
   const QSize client(ToPixels(form_.ClientWidth()), ToPixels(form_.ClientHeight()));
-  if (window_->size() != client || window_->minimumSize() != client) window_->setFixedSize(client);
+  QSize whole = client;
+  if (note_ != nullptr) {
+    // The strip never shrinks, so that the window does not jump while the user works in it.
+    const int height = std::max(note_->height(), note_->heightForWidth(client.width()));
+    note_->setGeometry(0, client.height(), client.width(), height);
+    whole.rheight() += height;
+  }
+  if (window_->size() != whole || window_->minimumSize() != whole) window_->setFixedSize(whole);
   const QPoint place(ToPixels(form_.Left()), ToPixels(form_.Top()));
   if (place == placed_ && window_->testAttribute(Qt::WA_Moved)) return;
   placed_ = place;

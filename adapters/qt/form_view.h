@@ -13,6 +13,7 @@
 #include "qt/form_desk.h"
 
 class QDialog;
+class QLabel;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -54,6 +55,7 @@ class FormView : public QObject, public UserActs {
   void MakeViewOf(Control& control);
   void PlaceOverOwner();
   void SyncWindow();
+  void SyncNote();
   void SyncFocus();
   void SyncMenu();
   bool KeyArrives(QObject* receiver, QKeyEvent& event);
@@ -68,6 +70,8 @@ class FormView : public QObject, public UserActs {
   std::unordered_map<const Control*, ControlView*> viewOf_;
   std::unordered_map<const QObject*, ControlView*> byWidget_;
   QPointer<QMenu> menu_;
+  QLabel* note_ = nullptr;  ///< the window's; null until there is something to say
+  FormNote noted_;
   const Control* pressed_ = nullptr;
   bool leftToEditor_ = false;  ///< the key at hand is the text box's own to carry out
   QPoint placed_;

@@ -9,6 +9,7 @@
 #include "platform/failure.h"
 #include "qt/form_view.h"
 #include "qt/keyboard.h"
+#include "services/failure_styles.h"
 
 namespace plexel {
 
@@ -116,6 +117,12 @@ void QtModalLoop::Abandon(std::exception_ptr thrown) {
   if (open_.empty()) return Report("an act failed behind the end of its form");
   if (!*open_.back().thrown) *open_.back().thrown = std::move(thrown);
   open_.back().loop->quit();
+}
+
+FormNote QtModalLoop::NoteOf(Form& form) {
+  FormNote told;
+  if (note) PassOver([&] { told = note(form); });
+  return told;
 }
 
 void QtModalLoop::Report(const std::string& what) {

@@ -39,6 +39,7 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   void SyncAll() override;
   void Activated(FormView& view) override;
   void Deactivated(FormView& view) override;
+  FormNote NoteOf(Form& form) override;
   void Report(const std::string& what) override;
   void Abandon(std::exception_ptr thrown) override;
 
@@ -53,6 +54,8 @@ class QtModalLoop : public ModalLoop, public FormDesk {
 
   /// Shows the text of a failure; without it the log alone tells.
   std::function<void(const std::string& what)> onFailure;
+  /// What the host says under an open form; asked whenever the forms show what their models say.
+  std::function<FormNote(Form& form)> note;
 
  private:
   struct Open {

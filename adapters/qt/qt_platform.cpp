@@ -32,6 +32,7 @@ void QtPlatform::OnFailure(std::function<void(const std::string&)> show) { ports
 void QtPlatform::ButtonTexts(std::function<QString(MessageAnswer)> text) {
   ports_->messages.buttonText = std::move(text);
 }
+void QtPlatform::Notes(std::function<FormNote(Form&)> say) { ports_->modal.note = std::move(say); }
 bool QtPlatform::HasFullCapture() const { return ports_->capture != nullptr; }
 
 }  // namespace plexel

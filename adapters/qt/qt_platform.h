@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/platform.h"
+#include "qt/form_note.h"
 
 class QWidget;
 
@@ -39,6 +40,8 @@ class QtPlatform : public Platform {
   void Report(const std::string& what);
   /// Shows the text of such a failure; without it the log alone tells.
   void OnFailure(std::function<void(const std::string& what)> show);
+  /// What the host says under an open form, asked behind each of the user's acts; without it nothing.
+  void Notes(std::function<FormNote(Form& form)> say);
   /// Gives the buttons of message boxes their texts in the user's language; without it they have the toolkit's.
   void ButtonTexts(std::function<QString(MessageAnswer)> text);
   /// Whether capture works as on an X server: every key arrives, and the desktop's task keys can be held back.

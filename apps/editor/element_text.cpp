@@ -50,7 +50,7 @@ QString LayerText(const ctlPlexelBaseElement& element, std::int32_t layer) {
   const QString press = ToQt(element.PressKeyDefLayer(layer)), release = ToQt(element.ReleaseKeyDefLayer(layer));
   if (!press.isEmpty() || !release.isEmpty()) parts.append(release.isEmpty() ? press : press + " / " + release);
   const enumLedType led = element.LEDTypeLayer(layer);
-  if (led != LedNotEnabled) parts.append(ToQt(LedTypeToText(led)));
+  if (led != LedNotEnabled) parts.append(Say(Text::LedShows).arg(ToQt(LedTypeToText(led))));
   return parts.join("  ");
 }
 
@@ -62,13 +62,19 @@ QStringList ElementText(const ctlPlexelBaseElement& element) {
   const KindRow& kind = KindOf(element.ElementType());
   QStringList text = {ToQt(element.Name()), Say(kind.text)};
   text += Numbers(element, kind);
-  if (kind.hasContacts) return text;
-  QStringList layers;
+  if (kind.hasContacts) return text + QStringList(Say(Text::NothingToConfigure));
+  const QStringList definition = DefinitionText(element);
+  return text + (definition.isEmpty() ? QStringList(Say(Text::NotDefined)) : definition);
+}
+
+QStringList DefinitionText(const ctlPlexelBaseElement& element) {
+  QStringList told, layers;
   for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-    const QString told = LayerText(element, layer);
-    if (!told.isEmpty()) layers.append(Say(Text::Layer).arg(layer).arg(told));
+    told.append(LayerText(element, layer));
+    if (!told.back().isEmpty()) layers.append(Say(Text::Layer).arg(layer).arg(told.back()));
   }
-  return text + (layers.isEmpty() ? QStringList(Say(Text::NotDefined)) : layers);
+  const bool alike = told.count(told.front()) == told.size() && !told.front().isEmpty();
+  return alike ? QStringList(Say(Text::AllLayers).arg(told.front())) : layers;
 }
 
 }  // namespace plexel

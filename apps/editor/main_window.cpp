@@ -27,6 +27,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
   ConnectElements();
   platform_.Register(*windowObject_, *this);
   platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
+  platform_.Notes([this](Form& form) { return notes_.Of(form); });
   help_.title = [] { return Say(Text::HelpTitle); };
   platform_.ButtonTexts([](MessageAnswer answer) {
     if (answer == MessageAnswer::Yes) return Say(Text::Yes);
@@ -43,6 +44,7 @@ MainWindow::~MainWindow() {
   view_->Show(nullptr);
   document_.reset();
   platform_.OnFailure(nullptr);
+  platform_.Notes(nullptr);
   platform_.ButtonTexts(nullptr);
 }
 
@@ -174,6 +176,14 @@ void MainWindow::ShowStatus() {
   const QStringList text = element == nullptr ? QStringList(Say(Text::NothingSelected)) : ElementText(*element);
   status_->SetText("  " + text.join("   \u00B7   "));
   status_->setToolTip(text.join('\n'));
+  ShowConfigure();
+}
+
+void MainWindow::ShowConfigure() {
+  const ctlPlexelBaseElement* const element = view_->Selected();
+  const bool keySwitch = element != nullptr && element->ElementType() == Key;
+  configure_->setEnabled(element != nullptr && !keySwitch);
+  configure_->setText(Say(keySwitch ? Text::ConfigureKeySwitch : Text::Configure));
 }
 
 QString MainWindow::ProjectName() const {

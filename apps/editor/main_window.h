@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "editor/editor_host.h"
+#include "editor/form_notes.h"
 #include "editor/panel_document.h"
 #include "editor/texts.h"
 #include "files/file_surroundings.h"
@@ -82,6 +83,8 @@ class MainWindow : public QMainWindow {
 
   void OpenConfiguration(ctlPlexelBaseElement& element);
   void ShowStatus();
+  /// Configuring is for elements that have something to configure.
+  void ShowConfigure();
   void ShowTitle();
   /// Runs what the user set off; an exception is told to him and ends there.
   void Guarded(const std::function<void()>& act);
@@ -100,6 +103,8 @@ class MainWindow : public QMainWindow {
   LogPanel* log_ = nullptr;
   ElidedLabel* status_ = nullptr;
   QLabel* limits_ = nullptr;
+  FormNotes notes_;
+  QAction* configure_ = nullptr;
   std::vector<Named> named_;
   std::vector<std::pair<QMenu*, Text>> menus_;
   QMenu* elementMenu_ = nullptr;

@@ -64,7 +64,7 @@ void MainWindow::MakeActions() {
   named_.push_back({quit, Text::Quit});
   QMenu& element = addMenu(Text::MenuElement);
   elementMenu_ = &element;
-  Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);
+  configure_ = Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);
   Add(element, Text::Properties, Qt::ALT | Qt::Key_Return, &MainWindow::ShowProperties);
   QMenu& view = addMenu(Text::MenuView);
   Add(view, Text::ZoomIn, QKeySequence::ZoomIn, &MainWindow::ZoomIn)

@@ -10,6 +10,7 @@
 
 #include "component/component.h"
 #include "editor/editor_host.h"
+#include "editor/form_notes.h"
 #include "editor/main_window.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
@@ -42,6 +43,7 @@ class PictureMaker {
 
   void TakeAll() {
     TakeEditor();
+    platform_.Notes([this](Form& form) { return notes_.Of(form); });
     TakeConfiguration(RectLed);
     TakeConfiguration(Led);
     TakeWizard();
@@ -194,6 +196,7 @@ class PictureMaker {
   QTemporaryDir configuration_;
   HelpWindow help_;
   EditorHost host_;
+  FormNotes notes_;
   FileSurroundings surroundings_;
   OpenQtPlatform platform_;
   Component component_;

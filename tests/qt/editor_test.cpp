@@ -155,6 +155,32 @@ TEST_F(Editor, TheStatusLineTellsKindNumbersAndDefinitions) {
   EXPECT_TRUE(status.contains(QString("Layer 1: ") + Definition)) << status.toStdString();
 }
 
+TEST_F(Editor, TheStatusLineNamesLedFunctionsAsSuchAndEqualLayersOnce) {
+  Element("F5").PressKeyDefLayer1(Definition);
+  Element("F5").LEDTypeLayer1(PowerLed);
+  window.View().Select(PlaceOf("F5"));
+  EXPECT_TRUE(window.StatusText().endsWith(QString("Layer 1: ") + Definition + "  LED Power"))
+      << window.StatusText().toStdString();
+  window.View().Select(PlaceOf("F6"));
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) Element("F5").LEDTypeLayer(layer, PowerLed);
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) Element("F5").PressKeyDefLayer(layer, Definition);
+  window.View().Select(PlaceOf("F5"));
+  EXPECT_TRUE(window.StatusText().endsWith(QString("All layers: ") + Definition + "  LED Power"))
+      << window.StatusText().toStdString();
+}
+
+TEST_F(Editor, ConfigureIsOffForAKeySwitchAndSaysWhy) {
+  const QAction* const configure = window.menuBar()->actions().at(1)->menu()->actions().at(0);
+  Element("F6").ElementType(Key);
+  window.View().Select(PlaceOf("F6"));
+  EXPECT_FALSE(configure->isEnabled());
+  EXPECT_EQ(configure->text(), "&Configure: a key switch has nothing to configure");
+  EXPECT_TRUE(window.StatusText().endsWith("nothing to configure")) << window.StatusText().toStdString();
+  window.View().Select(PlaceOf("F5"));
+  EXPECT_TRUE(configure->isEnabled());
+  EXPECT_EQ(configure->text(), "&Configure...");
+}
+
 TEST_F(Editor, AProjectComesBackWithTextsCodesAndKinds) {
   Element("F5").PressKeyDefLayer1(Definition);
   Element("F5").ButtonNotes("note");

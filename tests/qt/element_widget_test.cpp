@@ -1,7 +1,5 @@
 #include "qt/element_widget.h"
 
-#include <gmock/gmock.h>
-
 #include <QAccessible>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -13,6 +11,7 @@
 #include <QToolTip>
 
 #include "files/panel_file.h"
+#include "gmock/gmock.h"
 #include "qt/element_face.h"
 #include "qt/panel_painter.h"
 #include "widgets.h"
