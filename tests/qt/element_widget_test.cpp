@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QToolTip>
+#include <algorithm>
 
 #include "files/panel_file.h"
 #include "gmock/gmock.h"

@@ -1,5 +1,6 @@
 #include <QDialog>
 #include <QLabel>
+#include <algorithm>
 
 #include "configdialog/frmConfigurationDialog.h"
 #include "editor_fixture.h"
