@@ -19,12 +19,12 @@
 #include <memory>
 
 #include "component/component.h"
-#include "editor/help_window.h"
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
 #include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
+#include "qt/help_window.h"
 #include "qt/qt_ports.h"
 #include "world.h"
 

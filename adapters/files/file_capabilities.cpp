@@ -1,10 +1,10 @@
 #include "files/file_capabilities.h"
 
-#include <algorithm>
 #include <bitset>
 #include <optional>
 #include <system_error>
 
+#include "files/file_lists.h"
 #include "files/ini_walk.h"
 #include "files/number_text.h"
 
@@ -14,23 +14,12 @@ namespace {
 
 constexpr std::size_t Limit = std::size_t{4} << 20U;
 
-std::optional<std::size_t> QueryNamed(std::string_view name) {
-  for (std::size_t index = 0; index < CapabilityCount; ++index) {
-    if (CapabilityName(static_cast<Capability>(index)) == name) return index;
-  }
-  return std::nullopt;
-}
-
 std::vector<std::filesystem::path> TablesIn(const std::filesystem::path& directory) {
   std::vector<std::filesystem::path> tables;
   std::error_code error;
   if (!std::filesystem::exists(directory, error)) return tables;
-  std::filesystem::directory_iterator entries(directory, error);
-  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (entries->path().extension() == ".cap") tables.push_back(entries->path());
-  }
+  tables = FilesWith(".cap", directory, error);
   if (error) throw FileError(directory, 0, "cannot be read: " + error.message());
-  std::sort(tables.begin(), tables.end());
   return tables;
 }
 
@@ -55,13 +44,14 @@ void FileCapabilities::ReadTable(const std::filesystem::path& path) {
       continue;
     }
     if (answers == nullptr) throw file.Error(line.number, "a query before the first target system");
-    const std::optional<std::size_t> query = QueryNamed(line.name);
-    if (!query) throw file.Error(line.number, "there is no query \"" + Excerpt(line.name) + "\"");
-    if (seen.test(*query)) throw file.Error(line.number, "the query " + std::string(line.name) + " stands twice");
+    const std::optional<Capability> named = CapabilityNamed(line.name);
+    if (!named) throw file.Error(line.number, "there is no query \"" + Excerpt(line.name) + "\"");
+    const auto query = static_cast<std::size_t>(*named);
+    if (seen.test(query)) throw file.Error(line.number, "the query " + std::string(line.name) + " stands twice");
     const std::optional<std::int32_t> answer = ParseNumber<std::int32_t>(line.value);
     if (!answer) throw file.Error(line.number, "\"" + Excerpt(line.value) + "\" is no number");
-    seen.set(*query);
-    answers->at(*query) = *answer;
+    seen.set(query);
+    answers->at(query) = *answer;
   }
 }
 

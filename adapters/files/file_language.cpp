@@ -1,7 +1,6 @@
 #include "files/file_language.h"
 
-#include <algorithm>
-#include <system_error>
+#include "files/file_lists.h"
 
 namespace plexel {
 
@@ -11,19 +10,10 @@ void FileLanguage::GetText(std::int32_t number, std::string& text) {
 }
 
 void FileLanguage::Choose(const std::string& name) {
-  texts_ = ReadLanguageFile(directory_ / (name + ".lang"));
+  texts_ = ReadLanguageFile(directory_ / (name + std::string(LanguageExtension)));
   chosen_ = name;
 }
 
-std::vector<std::string> FileLanguage::Available() const {
-  std::vector<std::string> names;
-  std::error_code error;
-  std::filesystem::directory_iterator entries(directory_, error);
-  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (entries->path().extension() == ".lang") names.push_back(entries->path().stem().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
+std::vector<std::string> FileLanguage::Available() const { return NamesOfFilesWith(LanguageExtension, directory_); }
 
 }  // namespace plexel

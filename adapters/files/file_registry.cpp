@@ -5,6 +5,7 @@
 
 #include "files/ini_walk.h"
 #include "files/system_files.h"
+#include "forms/ascii.h"
 
 namespace plexel {
 
@@ -20,11 +21,6 @@ enum Result : std::int32_t {
 };
 constexpr std::intptr_t KeyHandle = 1;
 constexpr std::size_t Limit = std::size_t{1} << 20U;
-
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
-}
 
 /// Whether a text stands in a line as it is and reads back the same.
 bool FitsALine(std::string_view text) {
@@ -58,7 +54,7 @@ void FileRegistry::ReadValues(const TextFile& file) {
   bool inKey = false;
   for (IniLine line; walk.Next(line);) {
     if (line.section) {
-      inKey = SameIgnoringCase(line.name, keyPath_);
+      inKey = ascii::Same(line.name, keyPath_);
       if (!inKey) throw file.Error(line.number, "there is no key \"" + Excerpt(line.name) + "\"");
     } else if (!inKey) {
       throw file.Error(line.number, "a value before its key");
@@ -72,7 +68,7 @@ void FileRegistry::ReadValues(const TextFile& file) {
 
 std::int32_t FileRegistry::OpenKey(std::uint32_t root, std::string_view path, std::int32_t, std::int32_t access,
                                    std::intptr_t& key) {
-  if (root != CurrentUser || !SameIgnoringCase(path, keyPath_)) return NotFound;
+  if (root != CurrentUser || !ascii::Same(path, keyPath_)) return NotFound;
   if ((access & AccessSetValue) == 0) return AccessDenied;
   key = KeyHandle;
   ++openKeys_;

@@ -19,13 +19,6 @@ constexpr std::size_t MostProblems = 10;
 constexpr std::string_view SectionName = "SETTINGS";
 constexpr std::string_view LanguageKey = "Language";
 
-const SettingRow* RowOf(bool isSwitch, std::int32_t number) {
-  const auto row = std::find_if(SettingTable.begin(), SettingTable.end(), [&](const SettingRow& candidate) {
-    return candidate.isSwitch == isSwitch && candidate.number == number;
-  });
-  return row == SettingTable.end() ? nullptr : &*row;
-}
-
 std::size_t PlaceOf(const SettingRow& row) { return static_cast<std::size_t>(&row - SettingTable.data()); }
 
 bool IsLanguageName(std::string_view name) {
@@ -90,12 +83,12 @@ void FileSettings::GetBasePath(std::string& text) { text = basePath_; }
 void FileSettings::GetLanguageName(std::string& text) { text = language_; }
 
 void FileSettings::GetOption(std::int32_t number, Boolean& value) {
-  const SettingRow* row = RowOf(true, number);
+  const SettingRow* row = FindSetting(true, number);
   value = row != nullptr && Value(*row) != 0;
 }
 
 void FileSettings::GetParameter(std::int32_t number, std::string& text) {
-  const SettingRow* row = RowOf(false, number);
+  const SettingRow* row = FindSetting(false, number);
   text = row == nullptr ? std::string() : std::to_string(Value(*row));
 }
 

@@ -8,30 +8,10 @@
 
 #include "files/file_error.h"
 #include "files/file_registry.h"
+#include "services/setting_table.h"
 #include "services/surroundings.h"
 
 namespace plexel {
-
-/// One setting that the user can change: a switch (an option of the service) or a number (a parameter in decimal text).
-struct SettingRow {
-  std::string_view name;  ///< in the file
-  bool isSwitch;
-  std::int32_t number;  ///< of GetOption or GetParameter
-  std::int32_t initial, low, high;
-};
-
-/// Every setting, one row each; the language stands beside them.
-inline constexpr std::array<SettingRow, 11> SettingTable = {{{"ShowCodeBalance", true, 1, 1, 0, 1},
-                                                             {"UseWizard", true, 2, 0, 0, 1},
-                                                             {"ShowX", true, 3, 0, 0, 1},
-                                                             {"ShowXPermanent", true, 4, 0, 0, 1},
-                                                             {"ShowDefined", true, 5, 1, 0, 1},
-                                                             {"LockTaskKeys", true, 9, 1, 0, 1},
-                                                             {"XSize", false, 0, 1, 0, 2},
-                                                             {"FocusWidth", false, 1, 1, 0, 255},
-                                                             {"FocusColor", false, 2, 255, 0, 0xFFFFFF},
-                                                             {"CaptureColor", false, 3, 65535, 0, 0xFFFFFF},
-                                                             {"DefinedColor", false, 5, 32768, 0, 0xFFFFFF}}};
 
 /// The user's settings in a text file of lines "NAME=VALUE" under "[SETTINGS]". Positions come from the registry.
 class FileSettings : public SettingsService {

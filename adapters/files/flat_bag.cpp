@@ -2,63 +2,14 @@
 
 #include <algorithm>
 
-#include "element/property_rows.h"
-
 namespace plexel {
 
 namespace {
-
-/// The keys in the order in which an element reads them.
-constexpr auto keys = [] {
-  std::array<std::string_view, BagKeyCount> made{};
-  std::size_t count = 0;
-  for (const PropertyRow& row : propertyRows) {
-    if (row.storage.readOrder == 0) continue;
-    made.at(static_cast<std::size_t>(row.storage.readOrder - 1)) = row.storage.key;
-    ++count;
-  }
-  if (count != BagKeyCount) throw "the number of keys has changed";
-  return made;
-}();
-
-/// An open hash table of the keys, made by the compiler.
-constexpr std::size_t SlotCount = 128;
-constexpr std::uint8_t EmptySlot = BagKeyCount;
-
-constexpr std::size_t FirstSlot(std::string_view key) {
-  const auto first = static_cast<unsigned char>(key.front());
-  const auto last = static_cast<unsigned char>(key.back());
-  return (key.size() * 5U + first * 11U + last * 3U) % SlotCount;
-}
-
-constexpr auto slots = [] {
-  std::array<std::uint8_t, SlotCount> made{};
-  made.fill(EmptySlot);
-  for (std::size_t number = 0; number < keys.size(); ++number) {
-    std::size_t slot = FirstSlot(keys[number]);
-    while (made[slot] != EmptySlot) slot = (slot + 1) % SlotCount;
-    made[slot] = static_cast<std::uint8_t>(number);
-  }
-  return made;
-}();
 
 /// Room for what an ordinary element stores.
 constexpr std::size_t UsualSize = 24;
 
 }  // namespace
-
-std::size_t BagKeyNumber(std::string_view key) {
-  if (key.empty()) return BagKeyCount;
-  for (std::size_t slot = FirstSlot(key); slots[slot] != EmptySlot; slot = (slot + 1) % SlotCount) {
-    const std::string_view candidate = keys[slots[slot]];
-    // The element asks with the very texts of its table.
-    if (candidate.data() == key.data() && candidate.size() == key.size()) return slots[slot];
-    if (candidate == key) return slots[slot];
-  }
-  return BagKeyCount;
-}
-
-std::string_view BagKey(std::size_t number) { return keys.at(number); }
 
 const BagValue* FlatBag::FindOwn(std::size_t place, std::string_view) const {
   const std::size_t index = places_.at(place);
@@ -72,8 +23,8 @@ const BagValue* FlatBag::FindOther(std::string_view key) const {
 }
 
 const BagValue* FlatBag::Find(std::string_view key) const {
-  const std::size_t number = BagKeyNumber(key);
-  return number < BagKeyCount ? FindOwn(number, key) : FindOther(key);
+  const std::size_t number = StoredKeyNumber(key);
+  return number < StoredKeyCount ? FindOwn(number, key) : FindOther(key);
 }
 
 bool FlatBag::StoreNew(std::size_t number, BagValue&& value) {
@@ -86,8 +37,8 @@ bool FlatBag::StoreNew(std::size_t number, BagValue&& value) {
 }
 
 bool FlatBag::StoreNew(std::string_view key, BagValue&& value) {
-  const std::size_t number = BagKeyNumber(key);
-  if (number < BagKeyCount) return StoreNew(number, std::move(value));
+  const std::size_t number = StoredKeyNumber(key);
+  if (number < StoredKeyCount) return StoreNew(number, std::move(value));
   if (FindOther(key) != nullptr) return false;
   other_.emplace_back(key, std::move(value));
   return true;
@@ -100,8 +51,8 @@ void FlatBag::Clear() {
 }
 
 void FlatBag::Remove(std::string_view key) {
-  const std::size_t number = BagKeyNumber(key);
-  if (number == BagKeyCount) {
+  const std::size_t number = StoredKeyNumber(key);
+  if (number == StoredKeyCount) {
     std::erase_if(other_, [key](const auto& entry) { return entry.first == key; });
     return;
   }
@@ -114,11 +65,11 @@ void FlatBag::Remove(std::string_view key) {
 }
 
 void FlatBag::Store(std::string_view key, BagValue value) {
-  const std::size_t number = BagKeyNumber(key);
-  const BagValue* const stored = number < BagKeyCount ? FindOwn(number, key) : FindOther(key);
+  const std::size_t number = StoredKeyNumber(key);
+  const BagValue* const stored = number < StoredKeyCount ? FindOwn(number, key) : FindOther(key);
   if (stored != nullptr) {
     *const_cast<BagValue*>(stored) = std::move(value);
-  } else if (number < BagKeyCount) {
+  } else if (number < StoredKeyCount) {
     StoreNew(number, std::move(value));
   } else {
     other_.emplace_back(key, std::move(value));

@@ -8,15 +8,9 @@
 #include <vector>
 
 #include "element/property_bag.h"
+#include "element/property_table.h"
 
 namespace plexel {
-
-/// The number of a key under which elements store a property: its place in the order in which they read, from 0 to
-/// BagKeyCount - 1; BagKeyCount for any other key.
-std::size_t BagKeyNumber(std::string_view key);
-/// The key of a number.
-std::string_view BagKey(std::size_t number);
-inline constexpr std::size_t BagKeyCount = 39;
 
 /// A property bag in memory, made for many elements: the keys of the element's properties are kept as numbers, and a
 /// value is found without a search. Other keys are kept as they are.
@@ -39,7 +33,7 @@ class FlatBag : public PropertyBag {
   /// `visitOther(key, value)` for all others.
   template <typename VisitOwn, typename VisitOther>
   void ForEach(VisitOwn&& visitOwn, VisitOther&& visitOther) const {
-    for (const auto& [number, value] : known_) visitOwn(BagKey(number), value);
+    for (const auto& [number, value] : known_) visitOwn(StoredKey(number), value);
     for (const auto& [key, value] : other_) visitOther(std::string_view(key), value);
   }
 
@@ -49,7 +43,7 @@ class FlatBag : public PropertyBag {
  private:
   const BagValue* FindOther(std::string_view key) const;
 
-  std::array<std::uint8_t, BagKeyCount> places_{};  ///< in `known_`, from 1; 0 for a key that is not stored
+  std::array<std::uint8_t, StoredKeyCount> places_{};  ///< in `known_`, from 1; 0 for a key that is not stored
   std::vector<std::pair<std::uint8_t, BagValue>> known_;
   std::vector<std::pair<std::string, BagValue>> other_;
 };

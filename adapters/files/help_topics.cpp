@@ -4,8 +4,10 @@
 #include <system_error>
 
 #include "files/file_error.h"
+#include "files/file_lists.h"
 #include "files/number_text.h"
 #include "files/text_lines.h"
+#include "forms/characters.h"
 
 namespace plexel {
 
@@ -36,7 +38,7 @@ std::optional<HelpTopic> ReadHelpTopic(std::string_view helpFile, std::int32_t n
   const std::string name = std::to_string(number) + std::string(TopicExtension);
   try {
     const TextFile file(HelpDirectory(helpFile) / name, Limit);
-    if (!IsUtf8(file.Text())) return std::nullopt;
+    if (!characters::IsWellFormed(file.Text())) return std::nullopt;
     return HelpTopic{number, TitleOf(file.Text()), std::string(file.Text())};
   } catch (const FileError&) {
     return std::nullopt;
@@ -46,10 +48,8 @@ std::optional<HelpTopic> ReadHelpTopic(std::string_view helpFile, std::int32_t n
 std::vector<HelpTopic> ReadHelpTopics(std::string_view helpFile) {
   std::vector<HelpTopic> topics;
   std::error_code error;
-  std::filesystem::directory_iterator entries(HelpDirectory(helpFile), error);
-  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (entries->path().extension() != TopicExtension) continue;
-    const std::optional<std::int32_t> number = ParseNumber<std::int32_t>(entries->path().stem().string());
+  for (const std::filesystem::path& file : FilesWith(TopicExtension, HelpDirectory(helpFile), error)) {
+    const std::optional<std::int32_t> number = ParseNumber<std::int32_t>(file.stem().string());
     if (!number) continue;
     if (std::optional<HelpTopic> topic = ReadHelpTopic(helpFile, *number)) topics.push_back(std::move(*topic));
   }

@@ -15,8 +15,7 @@ struct IniLine {
   std::size_t number = 0;
 };
 
-/// Walks over the sections and keys of a text file. Empty lines and lines that begin with '#' or ';' are passed over,
-/// blanks around names and values do not count.
+/// Walks over the sections and keys of a text file, whose lines are those of a parameter file.
 class IniWalk {
  public:
   explicit IniWalk(const TextFile& file) : file_(file), lines_(file.Lines()) {}

@@ -4,10 +4,14 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace plexel {
 
 using LanguageTexts = std::map<std::int32_t, std::string>;
+
+/// The ending of a language file; its stem is the name of the language.
+inline constexpr std::string_view LanguageExtension = ".lang";
 
 /// The texts of a language file: UTF-8 lines "NUMBER=TEXT". Empty lines and lines that begin with '#' are passed over,
 /// blanks around number and text do not count. In a text "\n" is a line break, "\s" a blank and "\\" a backslash.

@@ -8,13 +8,15 @@
 #include <utility>
 #include <vector>
 
+#include "forms/ascii.h"
+
 namespace plexel {
 
 /// A hash of a name, whatever the case of its letters A to Z. Names that count upwards lie side by side, as they are
 /// written and asked for.
 constexpr std::uint32_t HashOfName(std::string_view name) {
   std::uint32_t hash = 0;
-  for (const char c : name) hash = hash * 31 + static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+  for (const char c : name) hash = hash * 31 + static_cast<unsigned char>(ascii::Lower(c));
   return hash;
 }
 

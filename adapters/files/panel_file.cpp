@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <system_error>
 
+#include "files/file_lists.h"
 #include "files/panel_values.h"
 
 namespace plexel {
@@ -243,14 +243,7 @@ std::filesystem::path PanelFile(const std::filesystem::path& directory, const st
 }
 
 std::vector<std::string> PanelNames(const std::filesystem::path& directory) {
-  std::vector<std::string> names;
-  std::error_code error;
-  std::filesystem::directory_iterator entries(directory, error);
-  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (entries->path().extension() == Extension) names.push_back(entries->path().stem().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
+  return NamesOfFilesWith(Extension, directory);
 }
 
 }  // namespace plexel

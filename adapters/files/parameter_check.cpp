@@ -10,6 +10,7 @@
 #include "files/sequence_entries.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
 #include "services/code_page.h"
 
 namespace plexel {
@@ -36,7 +37,7 @@ std::vector<std::string_view> ItemsOf(std::string_view value) {
 /// What is wrong with one code of a sequence, or an empty text.
 std::string CodeFault(std::string_view item, bool make) {
   std::string_view digits = item;
-  if (digits.starts_with("&H") || digits.starts_with("&h")) digits.remove_prefix(2);
+  ascii::TakeHexMark(digits);
   std::uint64_t code = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
   const std::string shown = "\"" + Excerpt(item) + "\"";
@@ -140,14 +141,12 @@ class Check {
   Names englishNames_, germanNames_;
 };
 
-bool IsUtf16(std::string_view text) { return text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF"); }
-
 }  // namespace
 
 std::vector<Finding> CheckParameterFile(const std::filesystem::path& file) {
   std::vector<Finding> findings;
   const ParameterText text(ReadFileStart(file, ParameterFileLimit));
-  if (IsUtf16(text.Text())) return {{1, "the text is UTF-16 and is not read; save it as UTF-8"}};
+  if (HasUtf16Mark(text.Text())) return {{1, "the text is UTF-16 and is not read; save it as UTF-8"}};
   if (text.content.size() >= ParameterFileLimit) {
     findings.push_back(
         {LineOf(text.Text(), text.Text().size()),

@@ -10,6 +10,7 @@
 #include "files/parameter_syntax.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
 
 namespace plexel {
 
@@ -46,7 +47,7 @@ class FileParameterReader::Index {
   auto IsNamed(std::string_view name) const {
     return [this, name](std::uint32_t number) {
       const Section& section = sections_[number - 1];
-      return SameName(Piece(section.name, section.nameEnd), name);
+      return ascii::Same(Piece(section.name, section.nameEnd), name);
     };
   }
   Section* Enter(std::string_view name);
@@ -94,7 +95,7 @@ std::optional<std::string> FileParameterReader::Index::Find(std::string_view sec
   LineWalk lines(Piece(sections_[number - 1].body, sections_[number - 1].bodyEnd));
   for (std::string_view line; lines.Next(line);) {
     const ParameterLine read = ReadParameterLine(line);
-    if (read.kind == ParameterLineKind::Key && SameName(read.name, name)) return text_.Decode(read.value);
+    if (read.kind == ParameterLineKind::Key && ascii::Same(read.name, name)) return text_.Decode(read.value);
   }
   return std::nullopt;
 }

@@ -1,19 +1,10 @@
 #include "files/parameter_syntax.h"
 
-#include <algorithm>
-
 #include "files/text_lines.h"
+#include "forms/characters.h"
 #include "services/code_page.h"
 
 namespace plexel {
-
-namespace {
-
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-}  // namespace
 
 ParameterLine ReadParameterLine(std::string_view line) {
   const std::string_view text = TrimBlanks(line);
@@ -25,12 +16,6 @@ ParameterLine ReadParameterLine(std::string_view line) {
   const std::size_t equals = text.find('=');
   if (equals == std::string_view::npos) return {ParameterLineKind::Other, text, {}};
   return {ParameterLineKind::Key, TrimBlanks(text.substr(0, equals)), TrimBlanks(text.substr(equals + 1))};
-}
-
-bool SameName(std::string_view a, std::string_view b) {
-  if (a == b) return true;
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 std::string_view ParameterItem(std::string_view value, std::string_view delimiter, int number) {
@@ -45,9 +30,7 @@ std::string_view ParameterItem(std::string_view value, std::string_view delimite
 }
 
 ParameterText::ParameterText(std::string bytes)
-    : content(std::move(bytes)),
-      start(std::string_view(content).starts_with(Utf8Mark) ? Utf8Mark.size() : 0),
-      isUtf8(IsUtf8(Text())) {}
+    : content(std::move(bytes)), start(Utf8MarkLength(content)), isUtf8(characters::IsWellFormed(Text())) {}
 
 std::string ParameterText::Decode(std::string_view piece) const {
   return isUtf8 ? std::string(piece) : FromCodePage(piece);

@@ -12,14 +12,11 @@ enum class ParameterLineKind { Empty, Section, Key, Other };
 
 struct ParameterLine {
   ParameterLineKind kind = ParameterLineKind::Empty;  ///< a comment counts as empty
-  std::string_view name;
-  std::string_view value;  ///< of a key
+  std::string_view name;                              ///< of a section or a key; of another line its text
+  std::string_view value;                             ///< of a key
 };
 
 ParameterLine ReadParameterLine(std::string_view line);
-
-/// Whether two names are the same, in any case of the letters A to Z.
-bool SameName(std::string_view a, std::string_view b);
 
 /// The item of a 1-based number in a value, without the blanks around it; empty when there is none. Without a delimiter
 /// the whole value is the first item.

@@ -7,6 +7,7 @@
 #include "files/number_text.h"
 #include "files/project_syntax.h"
 #include "files/project_text.h"
+#include "forms/ascii.h"
 #include "platform/failure.h"
 
 namespace plexel {
@@ -14,20 +15,6 @@ namespace plexel {
 namespace {
 
 using namespace project_syntax;
-
-/// The values of the hexadecimal digits, NoDigit for any other character.
-constexpr std::uint8_t NoDigit = 0xFF;
-constexpr auto digitValues = [] {
-  std::array<std::uint8_t, 256> values{};
-  values.fill(NoDigit);
-  for (std::uint8_t value = 0; value < 16; ++value) {
-    values[static_cast<std::uint8_t>("0123456789ABCDEF"[value])] = value;
-    values[static_cast<std::uint8_t>("0123456789abcdef"[value])] = value;
-  }
-  return values;
-}();
-
-std::uint8_t HexDigit(char c) { return digitValues[static_cast<std::uint8_t>(c)]; }
 
 /// Reads the bytes of a code buffer: pairs of digits, a pair with "*COUNT" for a run, blanks between them as wanted.
 bool ReadBytes(std::string_view text, udtTactisBaseElement_TACTIS_SCANCODE& codes) {
@@ -37,9 +24,9 @@ bool ReadBytes(std::string_view text, udtTactisBaseElement_TACTIS_SCANCODE& code
       text.remove_prefix(1);
       continue;
     }
-    const std::uint8_t high = HexDigit(text.front());
-    const std::uint8_t low = text.size() > 1 ? HexDigit(text[1]) : NoDigit;
-    if (high == NoDigit || low == NoDigit) return false;
+    const std::uint8_t high = ascii::HexValue(text.front());
+    const std::uint8_t low = text.size() > 1 ? ascii::HexValue(text[1]) : ascii::NoDigit;
+    if (high == ascii::NoDigit || low == ascii::NoDigit) return false;
     text.remove_prefix(2);
     std::size_t run = 1;
     if (!text.empty() && text.front() == '*') {
@@ -200,9 +187,9 @@ void ProjectReader::ReadValue(ProjectElement& element) {
 }
 
 void ProjectReader::Store(ProjectElement& element, BagValue&& value) {
-  const std::size_t number = BagKeyNumber(key_);
-  const bool isNew = number < BagKeyCount ? element.bag.StoreNew(number, std::move(value))
-                                          : element.bag.StoreNew(OtherKey(), std::move(value));
+  const std::size_t number = StoredKeyNumber(key_);
+  const bool isNew = number < StoredKeyCount ? element.bag.StoreNew(number, std::move(value))
+                                             : element.bag.StoreNew(OtherKey(), std::move(value));
   if (!isNew) Refuse("\"" + Excerpt(key_) + "\" stands twice");
 }
 

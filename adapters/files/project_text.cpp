@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "files/project_syntax.h"
+#include "forms/ascii.h"
 #include "services/code_page.h"
 
 namespace plexel {
@@ -14,9 +15,9 @@ namespace {
 bool IsPlain(char c) { return c >= ' ' && c <= '~' && c != '\\'; }
 
 void AppendEscape(std::string& out, char c) {
-  constexpr std::string_view digits = "0123456789abcdef";
+  const auto digit = [](unsigned value) { return ascii::Lower(ascii::HexDigits[value]); };
   const auto code = static_cast<unsigned char>(c);
-  const std::array<char, 6> escape = {'\\', 'u', '{', digits[code >> 4U], digits[code & 0xFU], '}'};
+  const std::array<char, 6> escape = {'\\', 'u', '{', digit(code >> 4U), digit(code & 0xFU), '}'};
   out.append(escape.data(), escape.size());
 }
 

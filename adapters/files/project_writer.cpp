@@ -6,6 +6,7 @@
 #include "files/project_syntax.h"
 #include "files/project_text.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
 #include "platform/failure.h"
 
 namespace plexel {
@@ -105,7 +106,6 @@ void ProjectWriter::AppendValue(const std::string& value) {
 
 /// The last index in use, then the bytes up to the last that is not 0, with runs of equal ones shortened.
 void ProjectWriter::AppendCodes(const udtTactisBaseElement_TACTIS_SCANCODE& codes) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
   out_ += '=';
   AppendTyped(Codes, codes.NextValue);
   std::array<char, 6 * udtTactisBaseElement_TACTIS_SCANCODE::Size> text;
@@ -119,8 +119,8 @@ void ProjectWriter::AppendCodes(const udtTactisBaseElement_TACTIS_SCANCODE& code
     while (end < count && codes.Value[end] == byte) ++end;
     const std::size_t run = end - index >= ShortestRun ? end - index : 1;
     if (apart) *put++ = ' ';
-    *put++ = digits[byte >> 4U];
-    *put++ = digits[byte & 0xFU];
+    *put++ = ascii::HexDigits[byte >> 4U];
+    *put++ = ascii::HexDigits[byte & 0xFU];
     apart = run > 1;
     if (apart) {
       *put++ = '*';

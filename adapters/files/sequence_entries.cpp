@@ -5,6 +5,8 @@
 
 #include "files/number_text.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
+#include "forms/characters.h"
 
 namespace plexel {
 
@@ -14,7 +16,8 @@ constexpr std::string_view SectionStem = "SCANCODE";
 
 /// The number of a section that the dialog asks for, or nothing.
 std::optional<std::int64_t> EntryNumber(std::string_view section) {
-  if (section.size() <= SectionStem.size() || !SameName(section.substr(0, SectionStem.size()), SectionStem)) return {};
+  if (section.size() <= SectionStem.size() || !ascii::Same(section.substr(0, SectionStem.size()), SectionStem))
+    return {};
   const std::string_view digits = section.substr(SectionStem.size());
   if (digits.front() < '1' || digits.front() > '9') return {};
   return ParseNumber<std::int64_t>(digits);
@@ -45,7 +48,7 @@ class Collector {
   void CheckCharacters(std::string_view line) {
     const bool plain = std::all_of(line.begin(), line.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
     if (line.find('\0') != std::string_view::npos) Find("a NUL byte");
-    if (!plain && !text_.isUtf8 && IsUtf8(line)) {
+    if (!plain && !text_.isUtf8 && characters::IsWellFormed(line)) {
       Find("the line looks like UTF-8, but other lines are not, so that its characters are misread");
     }
   }
@@ -72,7 +75,7 @@ class Collector {
     if (!inSection_) Find("the key " + Shown(read.name) + " stands before the first section and is not read");
     if (!current_) return;
     const auto row = std::find_if(SequenceKeys.begin(), SequenceKeys.end(),
-                                  [&read](const SequenceKeyRow& key) { return SameName(key.name, read.name); });
+                                  [&read](const SequenceKeyRow& key) { return ascii::Same(key.name, read.name); });
     if (row == SequenceKeys.end()) {
       Find("the key \"" + Shown(read.name) + "\" is unknown and not read");
       return;

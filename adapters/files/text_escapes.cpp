@@ -1,9 +1,11 @@
 #include "files/text_escapes.h"
 
+#include "forms/characters.h"
+
 namespace plexel {
 
 std::string ReadEscapedText(const TextFile& file, std::size_t line, std::string_view text) {
-  if (!IsUtf8(text)) throw file.Error(line, "the line is not UTF-8");
+  if (!characters::IsWellFormed(text)) throw file.Error(line, "the line is not UTF-8");
   std::string result;
   for (std::size_t index = 0; index < text.size(); ++index) {
     if (text[index] != '\\') {

@@ -65,8 +65,10 @@ std::size_t LineOf(std::string_view text, std::size_t position);
 /// The text without the blanks and tabs around it.
 std::string_view TrimBlanks(std::string_view text);
 
-/// Whether the bytes are well-formed UTF-8.
-bool IsUtf8(std::string_view bytes);
+/// The length of the byte order mark of UTF-8 at the start of a content, 0 for none.
+std::size_t Utf8MarkLength(std::string_view content);
+/// Whether a content begins with a byte order mark of UTF-16.
+bool HasUtf16Mark(std::string_view content);
 
 /// A piece of a faulty text for a message: at most 40 bytes, control characters and broken UTF-8 as '?'.
 std::string Excerpt(std::string_view text);

@@ -19,9 +19,8 @@ Fault Known(std::string_view name) {
 }  // namespace
 
 std::optional<Fault> Faults::Named(std::string_view name) {
-  const auto found = std::find(Names.begin(), Names.end(), name);
-  if (found == Names.end()) return std::nullopt;
-  return static_cast<Fault>(found - Names.begin());
+  const auto* const row = std::ranges::find(FaultTable, name, &FaultRow::name);
+  return row == FaultTable.end() ? std::nullopt : std::optional(row->fault);
 }
 
 void Faults::Arm(Fault fault, std::int64_t call) { At(fault).failingCall = call == 0 ? 0 : At(fault).calls + call; }
@@ -38,7 +37,7 @@ bool Faults::Trips(Fault fault) {
 
 void Faults::Check(Fault fault) {
   if (!Trips(fault)) return;
-  throw Failure(FailureKind::Platform, "fault: " + std::string(Names[static_cast<std::size_t>(fault)]));
+  throw Failure(FailureKind::Platform, "fault: " + std::string(FaultTable[static_cast<std::size_t>(fault)].name));
 }
 
 }  // namespace plexel

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
+
+#include "services/value_rows.h"
 
 namespace plexel {
 
@@ -36,35 +39,42 @@ enum class Fault : std::uint8_t {
   Container
 };
 
-/// Which of them fail: all the time while turned on, or once on their n-th call. Names are those of the table below.
+struct FaultRow {
+  Fault fault;
+  std::string_view name;
+};
+
+/// In the order of the faults.
+inline constexpr auto FaultTable = std::to_array<FaultRow>({
+    {Fault::KeyboardHook, "keyboard-hook"},
+    {Fault::LowLevelHook, "lowlevel-hook"},
+    {Fault::Unhook, "unhook"},
+    {Fault::Registry, "registry"},
+    {Fault::Language, "language"},
+    {Fault::Settings, "settings"},
+    {Fault::Capability, "capability"},
+    {Fault::Layout, "layout"},
+    {Fault::Show, "show"},
+    {Fault::HandlerDirectInputStatusChanged, "handler:DirectInputStatusChanged"},
+    {Fault::HandlerSendKeyDefinition, "handler:SendKeyDefinition"},
+    {Fault::HandlerMouseClicked, "handler:MouseClicked"},
+    {Fault::HandlerMouseDblClicked, "handler:MouseDblClicked"},
+    {Fault::HandlerProjectModified, "handler:ProjectModified"},
+    {Fault::Keys, "keys"},
+    {Fault::Screen, "screen"},
+    {Fault::Version, "version"},
+    {Fault::Help, "help"},
+    {Fault::Messages, "messages"},
+    {Fault::Popup, "popup"},
+    {Fault::Events, "events"},
+    {Fault::ParameterFiles, "parameter-files"},
+    {Fault::Container, "container"},
+});
+static_assert(InOrderOfValues(FaultTable, &FaultRow::fault));
+
+/// Which of them fail: all the time while turned on, or once on their n-th call. Names are those of the table.
 class Faults {
  public:
-  static constexpr std::size_t Count = 23;
-  static constexpr std::array<std::string_view, Count> Names = {"keyboard-hook",
-                                                                "lowlevel-hook",
-                                                                "unhook",
-                                                                "registry",
-                                                                "language",
-                                                                "settings",
-                                                                "capability",
-                                                                "layout",
-                                                                "show",
-                                                                "handler:DirectInputStatusChanged",
-                                                                "handler:SendKeyDefinition",
-                                                                "handler:MouseClicked",
-                                                                "handler:MouseDblClicked",
-                                                                "handler:ProjectModified",
-                                                                "keys",
-                                                                "screen",
-                                                                "version",
-                                                                "help",
-                                                                "messages",
-                                                                "popup",
-                                                                "events",
-                                                                "parameter-files",
-                                                                "container"};
-  static_assert(static_cast<std::size_t>(Fault::Container) == Count - 1);
-
   static std::optional<Fault> Named(std::string_view name);
 
   void Turn(Fault fault, bool on) { At(fault).on = on; }
@@ -96,7 +106,7 @@ class Faults {
     std::int64_t failingCall = 0;
   };
   State& At(Fault fault) { return states_[static_cast<std::size_t>(fault)]; }
-  std::array<State, Count> states_{};
+  std::array<State, FaultTable.size()> states_{};
   std::function<void()> thrower_;
 };
 

@@ -1,6 +1,7 @@
 #include "headless/headless_services.h"
 
 #include "services/saved_positions.h"
+#include "services/setting_table.h"
 
 namespace plexel {
 
@@ -32,6 +33,13 @@ void HeadlessLanguage::GetText(std::int32_t number, std::string& text) {
 void HeadlessLanguage::Source(std::function<Texts()> source) {
   texts_.clear();
   source_ = std::move(source);
+}
+
+HeadlessSettings::HeadlessSettings(Faults& faults, const MemoryRegistry& registry)
+    : faults_(faults), registry_(registry) {
+  for (const SettingRow& row : SettingTable) {
+    if (!row.isSwitch) parameters_[row.number] = std::to_string(row.initial);
+  }
 }
 
 void HeadlessSettings::GetBasePath(std::string& text) {

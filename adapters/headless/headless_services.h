@@ -29,10 +29,11 @@ class HeadlessLanguage : public LanguageService {
   Texts texts_, set_;
 };
 
-/// Settings in memory. Positions come from what was set, else from the registry, else from the defaults.
+/// Settings in memory. Options are off and parameters as the table of settings begins unless set. Positions come from
+/// what was set, else from the registry, else from the defaults.
 class HeadlessSettings : public SettingsService {
  public:
-  HeadlessSettings(Faults& faults, const MemoryRegistry& registry) : faults_(faults), registry_(registry) {}
+  HeadlessSettings(Faults& faults, const MemoryRegistry& registry);
   void GetBasePath(std::string& text) override;
   void GetLanguageName(std::string& text) override;
   void GetOption(std::int32_t number, Boolean& value) override;
@@ -50,7 +51,7 @@ class HeadlessSettings : public SettingsService {
   const MemoryRegistry& registry_;
   std::string basePath_, languageName_ = "English";
   std::map<std::int32_t, Boolean> options_;
-  std::map<std::int32_t, std::string> parameters_ = {{0, "1"}, {1, "1"}, {2, "255"}, {3, "65535"}, {5, "32768"}};
+  std::map<std::int32_t, std::string> parameters_;
   std::map<std::int32_t, std::string> positions_;
 };
 

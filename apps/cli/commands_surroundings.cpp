@@ -11,11 +11,10 @@ namespace plexel {
 
 namespace {
 
-Capability CapabilityNamed(const std::string& name) {
-  for (int query = 0; query < CapabilityCount; ++query) {
-    if (name == CapabilityName(static_cast<Capability>(query))) return static_cast<Capability>(query);
-  }
-  throw CommandError("the capability service has no query " + Excerpt(name));
+Capability QueryNamed(const std::string& name) {
+  const std::optional<Capability> query = CapabilityNamed(name);
+  if (!query) throw CommandError("the capability service has no query " + Excerpt(name));
+  return *query;
 }
 
 Fault FaultNamed(const std::string& name) {
@@ -52,7 +51,7 @@ void SetText(Workbench& bench, Arguments& arguments, Json&) {
 
 void SetCapability(Workbench& bench, Arguments& arguments, Json&) {
   const std::string target = arguments.Text();
-  const Capability query = CapabilityNamed(arguments.Text());
+  const Capability query = QueryNamed(arguments.Text());
   bench.surroundings.Capabilities().Set(target, query, arguments.Int32());
 }
 

@@ -8,6 +8,7 @@
 #include "cli/command_error.h"
 #include "cli/values_json.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
 
 namespace plexel {
 
@@ -100,9 +101,7 @@ constexpr std::array<Field, 33> fields = {Row<&Record::enumWizardButtonType>("en
                                           Row<&Record::strBaseElementNotes>("strBaseElementNotes")};
 
 std::uint8_t HexDigit(char digit) {
-  if (digit >= '0' && digit <= '9') return static_cast<std::uint8_t>(digit - '0');
-  if (digit >= 'A' && digit <= 'F') return static_cast<std::uint8_t>(digit - 'A' + 10);
-  if (digit >= 'a' && digit <= 'f') return static_cast<std::uint8_t>(digit - 'a' + 10);
+  if (const std::uint8_t value = ascii::HexValue(digit); value != ascii::NoDigit) return value;
   throw CommandError(std::string("\"") + Excerpt(std::string_view(&digit, 1)) + "\" is no hexadecimal digit");
 }
 

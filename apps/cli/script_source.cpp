@@ -9,10 +9,12 @@
 #include <string_view>
 #include <system_error>
 
+#include "files/text_lines.h"
+
 namespace plexel {
 
 namespace {
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+constexpr std::size_t LongestMark = 3;
 constexpr std::size_t ChunkSize = 65536;
 }  // namespace
 
@@ -79,9 +81,9 @@ void ScriptSource::ReadMore() {
   if (count < 0) throw std::system_error(errno, std::generic_category());
   ended_ = count == 0;
   bytes_.append(chunk.data(), static_cast<std::size_t>(count));
-  if (!begun_ && (bytes_.size() >= Utf8Mark.size() || ended_)) {
+  if (!begun_ && (bytes_.size() >= LongestMark || ended_)) {
     begun_ = true;
-    if (bytes_.starts_with(Utf8Mark)) bytes_.erase(0, Utf8Mark.size());
+    bytes_.erase(0, Utf8MarkLength(bytes_));
     searched_ = start_;
   }
 }

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "forms/ascii.h"
+
 namespace plexel {
 
 namespace {
@@ -31,7 +33,7 @@ void AppendHex(std::string& row, std::uint32_t value) {
   if (!row.empty()) row.push_back(' ');
   if (result.ptr == digits.data() + 1) row.push_back('0');
   for (const char* digit = digits.data(); digit != result.ptr; ++digit) {
-    row.push_back(*digit >= 'a' ? static_cast<char>(*digit - 'a' + 'A') : *digit);
+    row.push_back(ascii::Upper(*digit));
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include "cli/command_error.h"
 #include "files/text_lines.h"
+#include "forms/characters.h"
 #include "services/code_page.h"
 
 namespace plexel {
@@ -93,20 +94,8 @@ class Splitter {
   std::size_t position_ = 0;
 };
 
-/// Bytes of a character by its first byte.
-std::size_t LengthOf(char lead) {
-  const auto byte = static_cast<unsigned char>(lead);
-  return byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
-}
-
 /// The place of the first NUL or broken character; npos for a sound line.
-std::size_t FindFault(std::string_view line) {
-  const std::size_t nul = line.find('\0');
-  if (IsUtf8(line)) return nul;
-  std::size_t place = 0;
-  while (place < nul && IsUtf8(line.substr(place, LengthOf(line[place])))) place += LengthOf(line[place]);
-  return std::min(place, nul);
-}
+std::size_t FindFault(std::string_view line) { return std::min(line.find('\0'), characters::FindBroken(line)); }
 
 }  // namespace
 

@@ -7,8 +7,10 @@
 #include "cli/values_json.h"
 #include "files/data_directory.h"
 #include "files/file_error.h"
+#include "files/file_lists.h"
 #include "files/language_file.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
 
 namespace plexel {
 
@@ -21,22 +23,17 @@ std::filesystem::path LanguageDirectory() { return DataDirectory() / "languages"
 
 LanguageTexts InitialTexts() {
   try {
-    return ReadLanguageFile(LanguageDirectory() / (std::string(InitialLanguage) + ".lang"));
+    return ReadLanguageFile(LanguageDirectory() / (InitialLanguage + std::string(LanguageExtension)));
   } catch (const FileError& error) {
     throw Failure(FailureKind::Platform, error.what());
   }
 }
 
-bool SameLetters(std::string_view a, std::string_view b) {
-  const auto lower = [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
-}
-
 /// The file of a language, whose name may be written in any case.
 std::filesystem::path LanguageFile(const std::string& name) {
   std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(LanguageDirectory(), error)) {
-    if (SameLetters(entry.path().filename().string(), name + ".lang")) return entry.path();
+  for (const std::filesystem::path& file : FilesWith(LanguageExtension, LanguageDirectory(), error)) {
+    if (ascii::Same(file.stem().string(), name)) return file;
   }
   throw CommandError("no language is named " + Excerpt(name));
 }

@@ -17,17 +17,6 @@
 
 namespace plexel {
 
-namespace {
-
-const SettingRow& RowOf(std::string_view name) {
-  const auto row = std::find_if(SettingTable.begin(), SettingTable.end(),
-                                [name](const SettingRow& one) { return one.name == name; });
-  if (row == SettingTable.end()) throw Failure(FailureKind::Index, "no setting " + std::string(name));
-  return *row;
-}
-
-}  // namespace
-
 SettingsDialog::SettingsDialog(FileSurroundings& surroundings, QWidget* parent)
     : QDialog(parent), surroundings_(surroundings) {
   setWindowTitle(Say(Text::SettingsTitle));
@@ -55,29 +44,30 @@ QWidget* SettingsDialog::MakeGeneralGroup() {
   }
   language_->setCurrentIndex(language_->findData(ToQt(surroundings_.Language().Chosen())));
   layout->addRow(Say(Text::Language), language_);
-  AddSwitch(*layout, "UseWizard", Say(Text::UseWizard));
+  AddSwitch(*layout, SettingOf(OptionUseWizard), Say(Text::UseWizard));
   return group;
 }
 
 QWidget* SettingsDialog::MakeMarksGroup() {
   auto* group = new QGroupBox(Say(Text::GroupMarks));
   auto* layout = new QFormLayout(group);
-  AddColour(*layout, "FocusColor", Say(Text::FocusColor));
-  AddNumber(*layout, "FocusWidth", Say(Text::FocusWidth));
-  AddSwitch(*layout, "ShowX", Say(Text::ShowX));
-  AddSwitch(*layout, "ShowXPermanent", Say(Text::ShowXPermanent));
-  AddChoice(*layout, "XSize", Say(Text::XSize), {Say(Text::XBig), Say(Text::XMedium), Say(Text::XSmall)});
-  AddSwitch(*layout, "ShowDefined", Say(Text::ShowDefined));
-  AddColour(*layout, "DefinedColor", Say(Text::DefinedColor));
+  AddColour(*layout, SettingOf(ParameterFocusColor), Say(Text::FocusColor));
+  AddNumber(*layout, SettingOf(ParameterFocusWidth), Say(Text::FocusWidth));
+  AddSwitch(*layout, SettingOf(OptionShowX), Say(Text::ShowX));
+  AddSwitch(*layout, SettingOf(OptionShowXPermanent), Say(Text::ShowXPermanent));
+  AddChoice(*layout, SettingOf(ParameterXSize), Say(Text::XSize),
+            {Say(Text::XBig), Say(Text::XMedium), Say(Text::XSmall)});
+  AddSwitch(*layout, SettingOf(OptionShowDefined), Say(Text::ShowDefined));
+  AddColour(*layout, SettingOf(ParameterDefinedColor), Say(Text::DefinedColor));
   return group;
 }
 
 QWidget* SettingsDialog::MakeRecordingGroup() {
   auto* group = new QGroupBox(Say(Text::GroupRecording));
   auto* layout = new QFormLayout(group);
-  AddSwitch(*layout, "LockTaskKeys", Say(Text::LockTaskKeys));
-  AddSwitch(*layout, "ShowCodeBalance", Say(Text::ShowCodeBalance));
-  AddColour(*layout, "CaptureColor", Say(Text::CaptureColor));
+  AddSwitch(*layout, SettingOf(OptionLockTaskKeys), Say(Text::LockTaskKeys));
+  AddSwitch(*layout, SettingOf(OptionShowCodeBalance), Say(Text::ShowCodeBalance));
+  AddColour(*layout, SettingOf(ParameterCaptureColor), Say(Text::CaptureColor));
   return group;
 }
 
@@ -94,38 +84,34 @@ void SettingsDialog::AlignFields() {
   for (QWidget* const caption : captions) caption->setMinimumWidth(widest);
 }
 
-void SettingsDialog::AddSwitch(QFormLayout& layout, std::string_view name, const QString& caption) {
-  const SettingRow& row = RowOf(name);
+void SettingsDialog::AddSwitch(QFormLayout& layout, const SettingRow& row, const QString& caption) {
   auto* box = new QCheckBox(caption);
-  box->setObjectName(ToQt(name));
+  box->setObjectName(ToQt(row.name));
   box->setChecked(surroundings_.Settings().Value(row) != 0);
   layout.addRow(box);
   fields_.push_back({&row, [box] { return box->isChecked() ? 1 : 0; }});
 }
 
-void SettingsDialog::AddColour(QFormLayout& layout, std::string_view name, const QString& caption) {
-  const SettingRow& row = RowOf(name);
+void SettingsDialog::AddColour(QFormLayout& layout, const SettingRow& row, const QString& caption) {
   auto* button = new ColourButton(ColourOf(surroundings_.Settings().Value(row)));
-  button->setObjectName(ToQt(name));
+  button->setObjectName(ToQt(row.name));
   layout.addRow(caption, button);
   fields_.push_back({&row, [button] { return NumberOf(button->Colour()); }});
 }
 
-void SettingsDialog::AddNumber(QFormLayout& layout, std::string_view name, const QString& caption) {
-  const SettingRow& row = RowOf(name);
+void SettingsDialog::AddNumber(QFormLayout& layout, const SettingRow& row, const QString& caption) {
   auto* box = new QSpinBox;
-  box->setObjectName(ToQt(name));
+  box->setObjectName(ToQt(row.name));
   box->setRange(row.low, row.high);
   box->setValue(surroundings_.Settings().Value(row));
   layout.addRow(caption, box);
   fields_.push_back({&row, [box] { return box->value(); }});
 }
 
-void SettingsDialog::AddChoice(QFormLayout& layout, std::string_view name, const QString& caption,
+void SettingsDialog::AddChoice(QFormLayout& layout, const SettingRow& row, const QString& caption,
                                const QStringList& choices) {
-  const SettingRow& row = RowOf(name);
   auto* box = new QComboBox;
-  box->setObjectName(ToQt(name));
+  box->setObjectName(ToQt(row.name));
   box->addItems(choices);
   box->setCurrentIndex(surroundings_.Settings().Value(row) - row.low);
   layout.addRow(caption, box);

@@ -24,10 +24,10 @@ class SettingsDialog : public QDialog {
   QWidget* MakeMarksGroup();
   QWidget* MakeRecordingGroup();
   void AlignFields();
-  void AddSwitch(QFormLayout& layout, std::string_view name, const QString& caption);
-  void AddColour(QFormLayout& layout, std::string_view name, const QString& caption);
-  void AddNumber(QFormLayout& layout, std::string_view name, const QString& caption);
-  void AddChoice(QFormLayout& layout, std::string_view name, const QString& caption, const QStringList& choices);
+  void AddSwitch(QFormLayout& layout, const SettingRow& row, const QString& caption);
+  void AddColour(QFormLayout& layout, const SettingRow& row, const QString& caption);
+  void AddNumber(QFormLayout& layout, const SettingRow& row, const QString& caption);
+  void AddChoice(QFormLayout& layout, const SettingRow& row, const QString& caption, const QStringList& choices);
 
   struct Field {
     const SettingRow* row;

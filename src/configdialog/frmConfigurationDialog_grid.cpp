@@ -8,6 +8,7 @@
 #include "services/conversion.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
+#include "services/setting_table.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -16,7 +17,6 @@ namespace {
 
 enum GridColumn : int { NumberColumn = 0, PressColumn = 1, ReleaseColumn = 2 };
 
-constexpr std::int32_t captureColour = 3;
 constexpr std::array<std::int32_t, 3> headerTexts = {2002, 2003, 2004};
 constexpr std::int16_t rightButton = 2;
 
@@ -154,7 +154,7 @@ bool frmConfigurationDialog::AnyScanCodeDefined() {
 
 void frmConfigurationDialog::PaintCaptureCell() {
   msgScanCodes.ShowsEnd(true);
-  msgScanCodes.CellBackColor(TextToInt32(GetParameter(captureColour)));
+  msgScanCodes.CellBackColor(TextToInt32(GetParameter(ParameterCaptureColor)));
 }
 
 void frmConfigurationDialog::msgScanCodes_Click() {

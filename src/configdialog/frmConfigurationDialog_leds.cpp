@@ -1,63 +1,23 @@
 #include "configdialog/frmConfigurationDialog.h"
 
-#include <array>
+#include <span>
 
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/list_keys.h"
 #include "services/failure_styles.h"
+#include "services/led_functions.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
 
 namespace plexel {
 
-namespace {
-
-/// A function that is offered when the target system has it.
-struct LedCandidate {
-  Capability query;
-  enumLedType type;
-};
-
-constexpr std::array<LedCandidate, 12> candidatesOfFourLayers = {{
-    {Capability::HasHarddiskLed, HarddiskLed},
-    {Capability::HasPowerLed, PowerLed},
-    {Capability::HasCapsLockLed, CapsLockLed},
-    {Capability::HasNumLockLed, NumLockLed},
-    {Capability::HasLayer1Led, Layer1Led},
-    {Capability::HasLayer2Led, Layer2Led},
-    {Capability::HasLayer3Led, Layer3Led},
-    {Capability::HasLayer4Led, Layer4Led},
-    {Capability::HasPanelLockedLed, PanelLockedLed},
-    {Capability::HasScrollLockLed, ScrollLockLed},
-    {Capability::HasAlarmLed, AlarmLed},
-    {Capability::HasRunLed, RunLed},
-}};
-
-constexpr std::array<LedCandidate, 4> candidatesOfOneLayer = {{
-    {Capability::HasUserLed, UserLed},
-    {Capability::HasTemperatureLed, TemperatureLed},
-    {Capability::HasHarddiskLed, HarddiskLed},
-    {Capability::HasPowerLed, PowerLed},
-}};
-
-constexpr std::int32_t highestLedType = RunLed;
-constexpr std::int32_t noFunctionText = 10413;
-
-}  // namespace
-
 void frmConfigurationDialog::FillLedLists() {
   EndQuietly([this] {
     const bool fourLayers = IsTrue(CurrentElement().VantaEnabled());
     for (int index = 1; index < LayerCount; ++index) LedTypeBox(index).Enabled(fourLayers);
-    const auto offer = [this](const auto& candidates) {
-      for (const LedCandidate& candidate : candidates) {
-        if (TargetHas(candidate.query, CurrentElement().TargetSystem())) AddLedToLists(candidate.type);
-      }
-    };
-    if (fourLayers) {
-      offer(candidatesOfFourLayers);
-    } else {
-      offer(candidatesOfOneLayer);
+    const auto offered = fourLayers ? std::span<const enumLedType>(LedsOfFourLayers) : LedsOfOneLayer;
+    for (const enumLedType type : offered) {
+      if (TargetHas(*LedFunctions[type].query, CurrentElement().TargetSystem())) AddLedToLists(type);
     }
   });
 }
@@ -76,9 +36,7 @@ void frmConfigurationDialog::AddLedToLists(enumLedType enumType) {
 }
 
 void frmConfigurationDialog::LedTypeToListText(enumLedType enumType, std::string& strText) {
-  EndQuietly([enumType, &strText] {
-    strText = enumType == LedNotEnabled || enumType > highestLedType ? "" : LedTypeToText(enumType);
-  });
+  EndQuietly([enumType, &strText] { strText = enumType == LedNotEnabled ? "" : LedTypeToText(enumType); });
 }
 
 void frmConfigurationDialog::LoadLedSelections() {
@@ -98,7 +56,7 @@ bool frmConfigurationDialog::AnyLEDDefined() {
 }
 
 void frmConfigurationDialog::cmdDeleteLED_Click(std::int16_t Index) {
-  EndQuietly([this, Index] { LedTypeBox(Index).Text(GetText(noFunctionText)); });
+  EndQuietly([this, Index] { LedTypeBox(Index).Text(LedTypeToText(LedNotEnabled)); });
 }
 
 void frmConfigurationDialog::cmbLEDTypes_KeyDown(std::int16_t, std::int16_t& KeyCode, std::int16_t) {

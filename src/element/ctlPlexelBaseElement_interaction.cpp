@@ -5,6 +5,7 @@
 #include "services/conversion.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
+#include "services/setting_table.h"
 #include "services/surroundings.h"
 
 namespace plexel {
@@ -61,14 +62,14 @@ void ctlPlexelBaseElement::Refresh() {
       settings.GetOption(number, value);
       return value;
     };
-    FocusColor(TextToInt32(parameter(2)));
-    FocusWidth(TextToUInt8(parameter(1)));
-    ShowX(option(3));
-    ShowXPermanent(option(4));
-    WizardOn(option(2));
-    KeyDefinedColor(TextToInt32(parameter(5)));
-    ShowDefined(option(5));
-    XElementSize(static_cast<enumXSize>(TextToInt32(parameter(0))));
+    FocusColor(TextToInt32(parameter(ParameterFocusColor)));
+    FocusWidth(TextToUInt8(parameter(ParameterFocusWidth)));
+    ShowX(option(OptionShowX));
+    ShowXPermanent(option(OptionShowXPermanent));
+    WizardOn(option(OptionUseWizard));
+    KeyDefinedColor(TextToInt32(parameter(ParameterDefinedColor)));
+    ShowDefined(option(OptionShowDefined));
+    XElementSize(static_cast<enumXSize>(TextToInt32(parameter(ParameterXSize))));
   });
 }
 

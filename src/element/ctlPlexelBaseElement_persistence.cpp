@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "element/property_rows.h"
+#include "element/property_table.h"
 #include "platform/platform.h"
 #include "services/component_life.h"
 #include "services/failure_styles.h"
@@ -12,7 +13,7 @@ namespace plexel {
 
 namespace {
 
-constexpr std::size_t readCount = 39, writeCount = 38;
+constexpr std::size_t writeCount = 38;
 
 /// The rows that have a place in an order, in that order. Does not compile when places are missing or doubled.
 template <std::size_t count, std::int32_t Storage::*order>
@@ -33,7 +34,7 @@ consteval auto RowsBy() {
   return rows;
 }
 
-constexpr auto readRows = RowsBy<readCount, &Storage::readOrder>();
+constexpr auto readRows = RowsBy<StoredKeyCount, &Storage::readOrder>();
 constexpr auto writeRows = RowsBy<writeCount, &Storage::writeOrder>();
 
 /// The write rule: a value equal to the default is not stored. A boolean counts as true (-1) or false (0), which never

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "forms/ascii.h"
 #include "services/conversion.h"
 
 namespace plexel {
@@ -28,11 +29,6 @@ double ToNumber(const BagValue& value) {
       value);
 }
 
-bool EqualsWord(std::string_view text, std::string_view lowerCaseWord) {
-  return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
-                    [](char one, char other) { return (one >= 'A' && one <= 'Z' ? one + ('a' - 'A') : one) == other; });
-}
-
 }  // namespace
 
 std::int32_t BagToInt32(const BagValue& value) {
@@ -53,8 +49,8 @@ std::uint8_t BagToUInt8(const BagValue& value) {
 Boolean BagToBoolean(const BagValue& value) {
   if (const auto* same = std::get_if<Boolean>(&value)) return *same;
   if (const auto* text = std::get_if<std::string>(&value)) {
-    if (EqualsWord(*text, "true")) return True;
-    if (EqualsWord(*text, "false")) return False;
+    if (ascii::Same(*text, "true")) return True;
+    if (ascii::Same(*text, "false")) return False;
   }
   return ToNumber(value) != 0;
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "element/name_index.h"
 #include "element/property_rows.h"
 #include "platform/failure.h"
 
@@ -9,26 +10,20 @@ namespace plexel {
 
 namespace {
 
-/// An open hash table of the rows, made by the compiler. Length, first and last character tell the names well apart.
-constexpr std::size_t slotCount = 128;
-constexpr std::uint8_t emptySlot = 0xFF;
-static_assert(propertyRows.size() < emptySlot && propertyRows.size() < slotCount / 2);
+constexpr NameIndex rowIndex{[] {
+  std::array<std::string_view, propertyRows.size()> names;
+  for (std::size_t row = 0; row < names.size(); ++row) names[row] = propertyRows[row].name;
+  return names;
+}()};
 
-constexpr std::size_t FirstSlot(std::string_view name) {
-  const auto first = static_cast<unsigned char>(name.front()), last = static_cast<unsigned char>(name.back());
-  return (name.size() * 5 + first * 11U + last * 3U) % slotCount;
-}
-
-constexpr auto slots = [] {
-  std::array<std::uint8_t, slotCount> made{};
-  made.fill(emptySlot);
-  for (std::size_t row = 0; row < propertyRows.size(); ++row) {
-    std::size_t slot = FirstSlot(propertyRows[row].name);
-    while (made[slot] != emptySlot) slot = (slot + 1) % slotCount;
-    made[slot] = static_cast<std::uint8_t>(row);
+/// The keys in the order in which an element reads them.
+constexpr NameIndex keyIndex{[] {
+  std::array<std::string_view, StoredKeyCount> keys;
+  for (const PropertyRow& row : propertyRows) {
+    if (row.storage.readOrder != 0) keys.at(static_cast<std::size_t>(row.storage.readOrder - 1)) = row.storage.key;
   }
-  return made;
-}();
+  return keys;
+}()};
 
 [[noreturn]] void Refuse(const PropertyRow& row) {
   throw Failure(FailureKind::InvalidCall, std::string(row.name) + " is not a value");
@@ -39,13 +34,13 @@ constexpr auto slots = [] {
 std::span<const PropertyRow> PropertyTable() { return propertyRows; }
 
 const PropertyRow* FindProperty(std::string_view name) {
-  if (name.empty()) return nullptr;
-  for (std::size_t slot = FirstSlot(name); slots[slot] != emptySlot; slot = (slot + 1) % slotCount) {
-    const PropertyRow& row = propertyRows[slots[slot]];
-    if (row.name == name) return &row;
-  }
-  return nullptr;
+  const std::size_t row = rowIndex.Find(name);
+  return row < propertyRows.size() ? &propertyRows[row] : nullptr;
 }
+
+std::size_t StoredKeyNumber(std::string_view key) { return keyIndex.Find(key); }
+
+std::string_view StoredKey(std::size_t number) { return keyIndex.Name(number); }
 
 PropertyData Get(const ctlPlexelBaseElement& element, const PropertyRow& row) {
   if (row.get == nullptr) Refuse(row);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -15,6 +16,13 @@ std::span<const PropertyRow> PropertyTable();
 
 /// The row of a property's name, which is compared exactly; null for an unknown name.
 const PropertyRow* FindProperty(std::string_view name);
+
+/// The number of a key under which a property is stored: its place in the order of reading, from 0; StoredKeyCount for
+/// any other key.
+std::size_t StoredKeyNumber(std::string_view key);
+/// The key of a number. std::out_of_range for a number that no key has.
+std::string_view StoredKey(std::size_t number);
+inline constexpr std::size_t StoredKeyCount = 39;
 
 /// The value of a property, through its getter. Failure (InvalidCall) for an object or a record.
 PropertyData Get(const ctlPlexelBaseElement& element, const PropertyRow& row);

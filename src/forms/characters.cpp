@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace plexel::characters {
 
@@ -52,6 +53,22 @@ Decoded First(std::string_view utf8) {
   }
   if (character < smallest[count] || !IsCharacter(character)) return broken;
   return {character, count + 1, false};
+}
+
+std::size_t FindBroken(std::string_view utf8) {
+  constexpr std::uint64_t highBits = 0x8080808080808080U;
+  for (std::size_t place = 0; place < utf8.size();) {
+    std::uint64_t word = highBits;
+    if (utf8.size() - place >= sizeof(word)) std::memcpy(&word, utf8.data() + place, sizeof(word));
+    if ((word & highBits) == 0) {
+      place += sizeof(word);
+      continue;
+    }
+    const Decoded next = First(utf8.substr(place));
+    if (next.broken) return place;
+    place += next.length;
+  }
+  return std::string_view::npos;
 }
 
 std::vector<std::string_view> Split(std::string_view utf8) {

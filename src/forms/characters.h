@@ -20,6 +20,10 @@ struct Decoded {
 /// The character at the start of a text that is not empty.
 Decoded First(std::string_view utf8);
 
+/// The place of the first broken byte, npos for a well-formed text.
+std::size_t FindBroken(std::string_view utf8);
+inline bool IsWellFormed(std::string_view utf8) { return FindBroken(utf8) == std::string_view::npos; }
+
 /// The characters of a UTF-8 text, in order, as parts of it.
 std::vector<std::string_view> Split(std::string_view utf8);
 int Count(std::string_view utf8);

@@ -11,13 +11,12 @@
 #include "scancodes/keyboard_hook.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
+#include "services/setting_table.h"
 #include "services/shared_services.h"
 
 namespace plexel {
 
 namespace {
-
-constexpr std::int32_t optionLockTaskKeys = 9;
 
 std::int32_t Install(HookKind kind, HookProcedure procedure) {
   const std::int32_t hook = Platform::Current().Hooks().Install(kind, procedure);
@@ -48,7 +47,7 @@ void RemoveAll() {
 
 void StartCapture(std::int32_t& result, Boolean bActive, std::int32_t target) {
   ModuleState& state = Module();
-  if (IsTrue(GetOption(optionLockTaskKeys))) {
+  if (IsTrue(GetOption(OptionLockTaskKeys))) {
     state.lngLowLevelHook = Install(HookKind::LowLevelKeyboard, LowLevelKeyboardProc);
   }
   state.lngKeyboardHook = Install(HookKind::Keyboard, KeyboardHookProc);

@@ -6,13 +6,13 @@
 #include "scancodes/dialog_access.h"
 #include "services/code_page.h"
 #include "services/failure_styles.h"
+#include "services/setting_table.h"
 #include "services/shared_services.h"
 
 namespace plexel {
 
 namespace {
 
-constexpr std::int32_t optionGridCheck = 1;
 constexpr std::int32_t colourBlack = 0, colourRed = 255, colourWhite = 0xFFFFFF;
 
 std::string Without(std::string text, std::string_view part) {
@@ -75,7 +75,7 @@ void AppendSpecialDefinition(std::string_view strText) {
 
 void UpdateGridRowMarks() {
   EndQuietly([] {
-    if (!IsTrue(GetOption(optionGridCheck))) return;
+    if (!IsTrue(GetOption(OptionShowCodeBalance))) return;
     Grid& grid = OpenConfigurationDialogAccess().ScanCodeGrid();
     const int currentRow = grid.Row(), currentCol = grid.Col();
     for (int row = 1; row < grid.Rows(); ++row) {

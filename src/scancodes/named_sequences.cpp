@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/ascii.h"
 #include "scancodes/key_translation.h"
 #include "services/conversion.h"
 #include "services/shared_services.h"
@@ -12,21 +13,6 @@ namespace plexel {
 namespace {
 
 constexpr std::string_view fileName = "NonStandardScancodes.cfg";
-
-std::string UpperCase(std::string text) {
-  std::ranges::transform(text, text.begin(), [](char character) {
-    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
-  });
-  return text;
-}
-
-/// The value of a hexadecimal digit, -1 for any other character.
-int DigitValue(char digit) {
-  if (digit >= '0' && digit <= '9') return digit - '0';
-  if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
-  if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
-  return -1;
-}
 
 std::string SectionOf(std::int32_t number) { return "SCANCODE" + std::to_string(number); }
 
@@ -40,12 +26,12 @@ std::string ItemOf(const std::string& value, std::int32_t index) {
 
 std::int64_t ConvertHex(std::string_view H) {
   constexpr std::size_t digits = 8;
-  if (H.size() >= 2 && H[0] == '&' && (H[1] == 'H' || H[1] == 'h')) H.remove_prefix(2);
+  ascii::TakeHexMark(H);
   if (H.size() > digits) H.remove_prefix(H.size() - digits);
   std::int64_t number = 0;
   for (const char digit : H) {
-    const int value = DigitValue(digit);
-    if (value < 0) return 0;
+    const std::uint8_t value = ascii::HexValue(digit);
+    if (value == ascii::NoDigit) return 0;
     number = number * 16 + value;
   }
   return number;
@@ -53,7 +39,7 @@ std::int64_t ConvertHex(std::string_view H) {
 
 NamedSequences::NamedSequences()
     : file_(GetBasePath() + "\\" + std::string(fileName)),
-      nameKey_(UpperCase(GetLanguageName()) == "GERMAN" ? GermanNameKey : EnglishNameKey) {
+      nameKey_(ascii::Same(GetLanguageName(), "German") ? GermanNameKey : EnglishNameKey) {
   Surroundings::Current().ParameterFiles().SetDelimiter(":");
 }
 

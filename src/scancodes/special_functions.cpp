@@ -5,6 +5,7 @@
 
 #include "scancodes/key_translation.h"
 #include "services/shared_services.h"
+#include "services/value_rows.h"
 
 namespace plexel {
 
@@ -24,13 +25,7 @@ constexpr std::array<SpecialFunction, NoSpecialFunction> functions = {{
     {WarmStart, 2600, Capability::HasWarmStart, 0xF5, false},
 }};
 
-constexpr bool InOrderOfEnumeration() {
-  for (std::size_t place = 0; place < functions.size(); ++place) {
-    if (functions[place].function != static_cast<enumSpecialKeyFunctions>(place)) return false;
-  }
-  return true;
-}
-static_assert(InOrderOfEnumeration());
+static_assert(InOrderOfValues(functions, &SpecialFunction::function));
 
 constexpr std::array<enumSpecialKeyFunctions, NoSpecialFunction> comparingOrder = {BackgroundLightLigther,
                                                                                    BackgroundLightDarker,

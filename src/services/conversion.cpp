@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "forms/ascii.h"
 #include "platform/failure.h"
 
 namespace plexel {
@@ -80,7 +81,7 @@ Number ParseHexadecimal(std::string_view digits, std::string_view text) {
 template <typename Number>
 Number Parse(std::string_view text) {
   std::string_view rest = WithoutBlanks(text);
-  if (rest.starts_with("&H") || rest.starts_with("&h")) return ParseHexadecimal<Number>(rest.substr(2), text);
+  if (ascii::TakeHexMark(rest)) return ParseHexadecimal<Number>(rest, text);
   const bool negative = rest.starts_with('-');
   if (negative || rest.starts_with('+')) rest.remove_prefix(1);
   if (!IsUnsignedDecimal(rest)) FailConversion(text);

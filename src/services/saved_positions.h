@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "services/value_rows.h"
+
 namespace plexel {
 
 /// What dialogs store when they close and read when they open, as the settings service numbers it: the place of the
@@ -18,20 +20,14 @@ struct PositionRow {
 };
 
 /// In the order of the numbers. The names say Row where they mean columns.
-inline constexpr std::array<PositionRow, 5> PositionTable = {
-    {{SavedTop, "ConfigDialogTop", "1500"},
-     {SavedLeft, "ConfigDialogLeft", "1800"},
-     {SavedColumn0Width, "ConfigDialogMsFlexGridRow0Width", "735"},
-     {SavedColumn1Width, "ConfigDialogMsFlexGridRow1Width", "3270"},
-     {SavedColumn2Width, "ConfigDialogMsFlexGridRow2Width", "3270"}}};
+inline constexpr auto PositionTable =
+    std::to_array<PositionRow>({{SavedTop, "ConfigDialogTop", "1500"},
+                                {SavedLeft, "ConfigDialogLeft", "1800"},
+                                {SavedColumn0Width, "ConfigDialogMsFlexGridRow0Width", "735"},
+                                {SavedColumn1Width, "ConfigDialogMsFlexGridRow1Width", "3270"},
+                                {SavedColumn2Width, "ConfigDialogMsFlexGridRow2Width", "3270"}});
 
-static_assert([] {
-  std::int32_t number = 0;
-  for (const PositionRow& row : PositionTable) {
-    if (row.number != number++) return false;
-  }
-  return true;
-}());
+static_assert(InOrderOfValues(PositionTable, &PositionRow::number));
 
 constexpr std::string_view PositionName(SavedPosition position) {
   return PositionTable.at(static_cast<std::size_t>(position)).name;

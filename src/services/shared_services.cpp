@@ -8,35 +8,20 @@
 #include "platform/clean_up.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"
+#include "services/led_functions.h"
 #include "services/module_state.h"
 
 namespace plexel {
 
 namespace {
 
-struct LedName {
-  std::int32_t number;
-  enumLedType type;
-};
-
-/// In the order in which a text is compared; 10400 and 10401 stand crosswise to their types.
-constexpr std::array<LedName, 15> ledNames = {{{10400, UserLed},
-                                               {10401, HarddiskLed},
-                                               {10402, TemperatureLed},
-                                               {10403, PowerLed},
-                                               {10404, CapsLockLed},
-                                               {10405, NumLockLed},
-                                               {10406, Layer1Led},
-                                               {10407, Layer2Led},
-                                               {10408, Layer3Led},
-                                               {10409, Layer4Led},
-                                               {10410, PanelLockedLed},
-                                               {10411, ScrollLockLed},
-                                               {10412, AlarmLed},
-                                               {10413, LedNotEnabled},
-                                               {10961, RunLed}}};
-static_assert(std::is_sorted(ledNames.begin(), ledNames.end(),
-                             [](const LedName& a, const LedName& b) { return a.number < b.number; }));
+/// The order in which a text is compared: that of the text numbers.
+constexpr auto comparingOrder = [] {
+  std::array<enumLedType, LedFunctions.size()> order{};
+  std::ranges::transform(LedFunctions, order.begin(), &LedFunction::type);
+  std::ranges::sort(order, {}, [](enumLedType type) { return LedFunctions[type].textId; });
+  return order;
+}();
 
 SettingsService& Settings() { return Surroundings::Current().Settings(); }
 
@@ -138,16 +123,15 @@ void ShowHelpTopic(std::intptr_t, std::int32_t topic) {
 }
 
 enumLedType LedTextToType(std::string_view text) {
-  for (const LedName& name : ledNames) {
-    if (GetText(name.number) == text) return name.type;
+  for (const enumLedType type : comparingOrder) {
+    if (GetText(LedFunctions[type].textId) == text) return type;
   }
   return LedNotEnabled;
 }
 
 std::string LedTypeToText(std::int32_t type) {
-  const auto found =
-      std::find_if(ledNames.begin(), ledNames.end(), [&](const LedName& name) { return name.type == type; });
-  return found == ledNames.end() ? std::string() : GetText(found->number);
+  const auto place = static_cast<std::size_t>(type);
+  return type < 0 || place >= LedFunctions.size() ? std::string() : GetText(LedFunctions[place].textId);
 }
 
 void StorePositions(std::initializer_list<StoredPosition> positions) {

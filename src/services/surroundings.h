@@ -1,10 +1,14 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "services/boolean.h"
+#include "services/value_rows.h"
 
 namespace plexel {
 
@@ -56,9 +60,46 @@ enum class Capability : std::int32_t {
   HasHarddiskLed,
   HasUserLed
 };
-inline constexpr int CapabilityCount = 23;
 
-std::string_view CapabilityName(Capability query);
+struct CapabilityRow {
+  Capability query;
+  std::string_view name;
+};
+
+/// In the order of the queries.
+inline constexpr auto CapabilityTable = std::to_array<CapabilityRow>({
+    {Capability::HasBackgroundLightDarker, "HasBackgroundLightDarker"},
+    {Capability::HasBackgroundLightLighter, "HasBackgroundLightLighter"},
+    {Capability::HasContrastLower, "HasContrastLower"},
+    {Capability::HasContrastHigher, "HasContrastHigher"},
+    {Capability::HasLayer4Key, "HasLayer4Key"},
+    {Capability::HasLayer3Key, "HasLayer3Key"},
+    {Capability::HasLayer2Key, "HasLayer2Key"},
+    {Capability::HasWarmStart, "HasWarmStart"},
+    {Capability::HasSystemReset, "HasSystemReset"},
+    {Capability::HasAlarmLed, "HasAlarmLed"},
+    {Capability::HasScrollLockLed, "HasScrollLockLed"},
+    {Capability::HasPanelLockedLed, "HasPanelLockedLed"},
+    {Capability::HasLayer4Led, "HasLayer4Led"},
+    {Capability::HasLayer3Led, "HasLayer3Led"},
+    {Capability::HasLayer2Led, "HasLayer2Led"},
+    {Capability::HasLayer1Led, "HasLayer1Led"},
+    {Capability::HasRunLed, "HasRunLed"},
+    {Capability::HasNumLockLed, "HasNumLockLed"},
+    {Capability::HasCapsLockLed, "HasCapsLockLed"},
+    {Capability::HasPowerLed, "HasPowerLed"},
+    {Capability::HasTemperatureLed, "HasTemperatureLed"},
+    {Capability::HasHarddiskLed, "HasHarddiskLed"},
+    {Capability::HasUserLed, "HasUserLed"},
+});
+static_assert(InOrderOfValues(CapabilityTable, &CapabilityRow::query));
+inline constexpr int CapabilityCount = static_cast<int>(CapabilityTable.size());
+
+constexpr std::string_view CapabilityName(Capability query) {
+  return CapabilityTable.at(static_cast<std::size_t>(query)).name;
+}
+/// The query of a name, which is compared exactly.
+std::optional<Capability> CapabilityNamed(std::string_view name);
 
 class CapabilityService {
  public:

@@ -12,13 +12,13 @@
 #include "services/conversion.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
+#include "services/setting_table.h"
 #include "services/shared_services.h"
 
 namespace plexel {
 
 namespace {
 
-constexpr std::int32_t captureColour = 3;
 constexpr std::int32_t scanCodesToolTip = 10955;
 /// In the order of the list. Warm start and the layer keys stay with the configuration dialog.
 constexpr std::array<enumSpecialKeyFunctions, 5> offeredFunctions = {SystemReset, ContrastHigher, ContrastLower,
@@ -148,7 +148,7 @@ void frmButtonWizardPage1::ToggleDirectInput() {
   udtTactisBaseElement_ScanCodeInfo info = CurrentElement().TactisBaseElementScanCodeBuffer();
   if (IsTrue(Module().bDirectInputActive)) {
     KeyPreview(false);
-    txtScanCodes.BackColor(TextToInt32(GetParameter(captureColour)));
+    txtScanCodes.BackColor(TextToInt32(GetParameter(ParameterCaptureColor)));
     txtScanCodes.Text("");
     EmptyDefinitionTexts();
     EmptyScanCodes(info);

@@ -1,12 +1,12 @@
 #include "wizard/frmButtonWizardPage2.h"
 
-#include <array>
 #include <span>
 
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
 #include "platform/platform.h"
 #include "services/failure_styles.h"
+#include "services/led_functions.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
 
@@ -14,31 +14,8 @@ namespace plexel {
 
 namespace {
 
-struct Candidate {
-  Capability query;
-  enumLedType type;
-};
-
-/// Candidates in the order of testing.
-constexpr std::array<Candidate, 4> candidates = {{
-    {Capability::HasUserLed, UserLed},
-    {Capability::HasTemperatureLed, TemperatureLed},
-    {Capability::HasHarddiskLed, HarddiskLed},
-    {Capability::HasPowerLed, PowerLed},
-}};
-constexpr std::array<Candidate, 8> candidatesOfVanta = {{
-    {Capability::HasHarddiskLed, HarddiskLed},
-    {Capability::HasPowerLed, PowerLed},
-    {Capability::HasCapsLockLed, CapsLockLed},
-    {Capability::HasNumLockLed, NumLockLed},
-    {Capability::HasPanelLockedLed, PanelLockedLed},
-    {Capability::HasScrollLockLed, ScrollLockLed},
-    {Capability::HasAlarmLed, AlarmLed},
-    {Capability::HasRunLed, RunLed},
-}};
-
 /// The text of a layer without a function, which is never an entry of the list.
-std::string TextOfNoLed() { return GetText(10413); }
+std::string TextOfNoLed() { return LedTypeToText(LedNotEnabled); }
 
 }  // namespace
 
@@ -63,14 +40,13 @@ void frmButtonWizardPage2::OnQueryUnload(UnloadMode mode) {
 
 void frmButtonWizardPage2::FillLedFunctionList() {
   EndQuietly([this] {
-    const std::span<const Candidate> table = IsTrue(CurrentElement().VantaEnabled())
-                                                 ? std::span<const Candidate>(candidatesOfVanta)
-                                                 : std::span<const Candidate>(candidates);
-    for (const Candidate& candidate : table) {
-      if (!TargetHas(candidate.query, CurrentElement().TargetSystem())) continue;
-      const Boolean used = CurrentElement().CheckIfLedIsAlreadyDefined(candidate.type, 1);
-      if (IsTrue(used) && CurrentElement().LEDTypeLayer1() != candidate.type) continue;
-      cmbLEDTypes.AddItem(LedTypeToText(candidate.type));
+    // The LEDs that tell the layer stay with the configuration dialog.
+    const bool fourLayers = IsTrue(CurrentElement().VantaEnabled());
+    for (const enumLedType type : fourLayers ? std::span<const enumLedType>(LedsOfFourLayers) : LedsOfOneLayer) {
+      if (TellsLayer(type) || !TargetHas(*LedFunctions[type].query, CurrentElement().TargetSystem())) continue;
+      const Boolean used = CurrentElement().CheckIfLedIsAlreadyDefined(type, 1);
+      if (IsTrue(used) && CurrentElement().LEDTypeLayer1() != type) continue;
+      cmbLEDTypes.AddItem(LedTypeToText(type));
     }
   });
 }

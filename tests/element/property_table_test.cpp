@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <set>
+#include <stdexcept>
 
 #include "element_fixture.h"
 
@@ -29,6 +30,24 @@ TEST_F(PropertyTableOfElement, RowsStandInTheOrderOfTheInterface) {
           "HardwareNumberKey2", "HardwareNumberKey3", "HardwareNumberKey4", "HardwareNumberKey5", "HardwareNumberKey6",
           "HardwareNumberKey7", "HardwareNumberLed", "HardwareNumberButton", "ShowDefined", "KeyDefinedColor",
           "TactisBaseElementScanCodeBuffer", "ShowX", "VantaEnabled", "TargetSystem", "ButtonNotes", "ShowXPermanent"));
+}
+
+TEST_F(PropertyTableOfElement, EveryStoredKeyHasItsPlaceInTheOrderOfReadingForItsNumber) {
+  std::size_t stored = 0;
+  for (const PropertyRow& row : PropertyTable()) {
+    if (row.storage.readOrder == 0) continue;
+    ++stored;
+    EXPECT_EQ(StoredKeyNumber(row.storage.key), static_cast<std::size_t>(row.storage.readOrder - 1)) << row.name;
+    EXPECT_EQ(StoredKey(StoredKeyNumber(row.storage.key)), row.storage.key);
+  }
+  EXPECT_EQ(stored, StoredKeyCount);
+  EXPECT_THROW(StoredKey(StoredKeyCount), std::out_of_range);
+}
+
+TEST_F(PropertyTableOfElement, AnyOtherKeyHasNoNumber) {
+  for (const char* key : {"", "SizeY", "LEDTypeLayer1", "sizeX", "SizeX ", "LedType5"}) {
+    EXPECT_EQ(StoredKeyNumber(key), StoredKeyCount) << key;
+  }
 }
 
 TEST_F(PropertyTableOfElement, EveryRowIsFoundByItsName) {

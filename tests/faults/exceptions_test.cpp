@@ -140,19 +140,19 @@ TEST_P(EachRoadThrown, AnEventHandlerMayThrowAnything) {
 
 /// Every port of the platform and every service throws at each of its calls in turn, and so does the container.
 TEST_P(EachRoadThrown, APortThatThrowsLeavesNothingBehind) {
-  std::array<std::int64_t, Faults::Count> calls{};
+  std::array<std::int64_t, FaultTable.size()> calls{};
   {
     Scene scene;
     scene.platform.faults.Reset();
     Play(scene, road_);
-    for (std::size_t fault = 0; fault < Faults::Count; ++fault)
+    for (std::size_t fault = 0; fault < FaultTable.size(); ++fault)
       calls[fault] = scene.platform.faults.Calls(static_cast<Fault>(fault));
   }
   std::int64_t played = 0;
-  for (std::size_t fault = 0; fault < Faults::Count; ++fault) {
+  for (std::size_t fault = 0; fault < FaultTable.size(); ++fault) {
     for (std::int64_t call = 1; call <= calls[fault]; ++call) {
       const Kind& kind = kinds[static_cast<std::size_t>(call) % (kinds.size() - 1)];
-      SCOPED_TRACE(std::string(road_.name) + ": " + std::string(Faults::Names[fault]) + " throws " + kind.name +
+      SCOPED_TRACE(std::string(road_.name) + ": " + std::string(FaultTable[fault].name) + " throws " + kind.name +
                    " at call " + std::to_string(call));
       Scene scene;
       scene.platform.faults.Reset();

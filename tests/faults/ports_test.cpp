@@ -30,18 +30,18 @@ class EachRoad : public ::testing::TestWithParam<std::size_t> {};
 
 TEST_P(EachRoad, SurvivesEveryPortFailingOnceAtEachOfItsCalls) {
   const Road& road = Roads()[GetParam()];
-  std::array<std::int64_t, Faults::Count> calls{};
+  std::array<std::int64_t, FaultTable.size()> calls{};
   {
     Scene scene;
     scene.platform.faults.Reset();
     Play(scene, road);
-    for (std::size_t fault = 0; fault < Faults::Count; ++fault)
+    for (std::size_t fault = 0; fault < FaultTable.size(); ++fault)
       calls[fault] = scene.platform.faults.Calls(static_cast<Fault>(fault));
   }
   std::int64_t played = 0;
-  for (std::size_t fault = 0; fault < Faults::Count; ++fault) {
+  for (std::size_t fault = 0; fault < FaultTable.size(); ++fault) {
     for (std::int64_t call = 1; call <= calls[fault]; ++call) {
-      SCOPED_TRACE(std::string(road.name) + ": " + std::string(Faults::Names[fault]) + " fails at call " +
+      SCOPED_TRACE(std::string(road.name) + ": " + std::string(FaultTable[fault].name) + " fails at call " +
                    std::to_string(call));
       Scene scene;
       scene.platform.faults.Reset();
@@ -56,8 +56,8 @@ TEST_P(EachRoad, SurvivesEveryPortFailingOnceAtEachOfItsCalls) {
 }
 
 TEST_P(EachRoad, SurvivesEveryPortFailingAllTheTime) {
-  for (std::size_t fault = 0; fault < Faults::Count; ++fault) {
-    SCOPED_TRACE(std::string(Roads()[GetParam()].name) + ": " + std::string(Faults::Names[fault]) + " fails always");
+  for (std::size_t fault = 0; fault < FaultTable.size(); ++fault) {
+    SCOPED_TRACE(std::string(Roads()[GetParam()].name) + ": " + std::string(FaultTable[fault].name) + " fails always");
     Scene scene;
     scene.platform.faults.Reset();
     scene.platform.faults.Turn(static_cast<Fault>(fault), true);

@@ -14,6 +14,8 @@
 #include "files/parameter_syntax.h"
 #include "files/project_file.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
+#include "forms/characters.h"
 
 namespace plexel {
 
@@ -63,8 +65,8 @@ std::optional<std::string_view> Walked(std::string_view text, std::string_view s
   for (std::string_view line; lines.Next(line);) {
     const ParameterLine read = ReadParameterLine(line);
     if (read.kind == ParameterLineKind::Section && inside) return std::nullopt;
-    if (read.kind == ParameterLineKind::Section) inside = SameName(read.name, section);
-    if (read.kind == ParameterLineKind::Key && inside && SameName(read.name, key)) return read.value;
+    if (read.kind == ParameterLineKind::Section) inside = ascii::Same(read.name, section);
+    if (read.kind == ParameterLineKind::Key && inside && ascii::Same(read.name, key)) return read.value;
   }
   return std::nullopt;
 }
@@ -94,7 +96,7 @@ std::size_t CountNames(FileParameterReader& reader, const std::string& file, con
     std::string item;
     reader.GetItem(1, value, item);
     Require(item.find(':') == std::string::npos, "an item has no delimiter");
-    Require(IsUtf8(item), "a name is UTF-8");
+    Require(characters::IsWellFormed(item), "a name is UTF-8");
   }
   return count;
 }
@@ -117,7 +119,7 @@ void CheckPanelReader(const std::filesystem::path& directory, std::string_view c
     for (const PanelPart& part : panel.parts) {
       Require(part.box.left >= 0 && part.box.left + part.box.width <= panel.width, "a part lies in the panel's width");
       Require(part.box.top >= 0 && part.box.top + part.box.height <= panel.height, "a part lies in the panel's height");
-      Require(IsUtf8(part.legend), "a legend is UTF-8");
+      Require(characters::IsWellFormed(part.legend), "a legend is UTF-8");
       if (!part.element) continue;
       Require(panel.Find(part.element->id) == &part, "an element's id is its own");
       Require(part.element->type >= Led && part.element->type <= Key, "an element has a kind");
@@ -131,7 +133,7 @@ void CheckLanguageReader(const std::filesystem::path& directory, std::string_vie
   Reads(file, [&] {
     for (const auto& [number, text] : ReadLanguageFile(file)) {
       Require(number > 0, "a text has a number");
-      Require(IsUtf8(text), "a text is UTF-8");
+      Require(characters::IsWellFormed(text), "a text is UTF-8");
     }
   });
 }

@@ -123,14 +123,13 @@ TEST(ReadWholeFile, AFileWhoseSizeTheSystemDoesNotTellIsReadToItsEnd) {
   EXPECT_THAT(ReadWholeFile("/proc/self/status", 1 << 20), HasSubstr("Threads:"));
 }
 
-TEST(IsUtf8, TellsWellFormedFromBroken) {
-  for (const std::string_view good : {"", "a", "\xC3\xA4", "\xE2\x80\xB9", "\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF"}) {
-    EXPECT_TRUE(IsUtf8(good)) << good;
-  }
-  for (const std::string_view bad : {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80",
-                                     "\xF5\x80\x80\x80", "\xE4", "a\xFF"}) {
-    EXPECT_FALSE(IsUtf8(bad));
-  }
+TEST(ByteOrderMarks, AreToldFromText) {
+  EXPECT_EQ(Utf8MarkLength("\xEF\xBB\xBFtext"), 3U);
+  EXPECT_EQ(Utf8MarkLength("\xEF\xBB"), 0U);
+  EXPECT_EQ(Utf8MarkLength("text"), 0U);
+  EXPECT_TRUE(HasUtf16Mark("\xFF\xFEt"));
+  EXPECT_TRUE(HasUtf16Mark("\xFE\xFFt"));
+  EXPECT_FALSE(HasUtf16Mark("\xEF\xBB\xBFt"));
 }
 
 TEST(Excerpt, LongTextsAreShortened) { EXPECT_EQ(Excerpt(std::string(100, 'a')), std::string(40, 'a') + "..."); }

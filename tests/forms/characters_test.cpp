@@ -73,5 +73,23 @@ TEST(FoldedText, HasNeitherCaseNorAccent) {
 
 TEST(FoldedText, KeepsWhatIsNoLetterOfLatin1) { EXPECT_EQ(characters::Folded("×÷_€1Ω\xFF"), "×÷_€1Ω\xFF"); }
 
+TEST(Characters, AWellFormedTextHasNoBrokenByte) {
+  for (const std::string_view good : {"", "a", "\xC3\xA4", "\xE2\x80\xB9", "\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF"}) {
+    EXPECT_TRUE(characters::IsWellFormed(good)) << good;
+  }
+  for (const std::string_view bad : {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80",
+                                     "\xF5\x80\x80\x80", "\xE4", "a\xFF"}) {
+    EXPECT_FALSE(characters::IsWellFormed(bad));
+  }
+}
+
+TEST(Characters, TheFirstBrokenByteIsFoundBehindPlainAndOtherText) {
+  EXPECT_EQ(characters::FindBroken("0123456789\xC3\xA4\xFFz"), 12U);
+  EXPECT_EQ(characters::FindBroken("01234567\xC3"), 8U);
+  EXPECT_EQ(characters::FindBroken("\xC3\xA4"
+                                   "0123456789abcdef"),
+            std::string_view::npos);
+}
+
 }  // namespace
 }  // namespace plexel

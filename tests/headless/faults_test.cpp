@@ -11,14 +11,14 @@ namespace {
 
 TEST(Faults, NothingFailsUntilItIsTold) {
   Faults faults;
-  for (const std::string_view name : Faults::Names) {
-    EXPECT_FALSE(faults.Trips(*Faults::Named(name))) << name;
+  for (const FaultRow& row : FaultTable) {
+    EXPECT_FALSE(faults.Trips(*Faults::Named(row.name))) << row.name;
   }
 }
 
 TEST(Faults, EveryNameNamesAFaultOfItsOwn) {
-  for (std::size_t i = 0; i < Faults::Count; ++i) {
-    EXPECT_EQ(Faults::Named(Faults::Names[i]), static_cast<Fault>(i));
+  for (const FaultRow& row : FaultTable) {
+    EXPECT_EQ(Faults::Named(row.name), row.fault) << row.name;
   }
 }
 

@@ -1,10 +1,11 @@
+#include <gmock/gmock.h>
+
 #include <QMetaEnum>
 #include <QMetaProperty>
 #include <set>
 
 #include "element/property_table.h"
 #include "files/flat_bag.h"
-#include "gmock/gmock.h"
 #include "qt/units.h"
 #include "widgets.h"
 

@@ -1,5 +1,7 @@
 #include "qt/element_widget.h"
 
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -12,7 +14,6 @@
 #include <algorithm>
 
 #include "files/panel_file.h"
-#include "gmock/gmock.h"
 #include "qt/element_face.h"
 #include "qt/panel_painter.h"
 #include "widgets.h"

@@ -109,6 +109,15 @@ TEST(ElementTypes, CapabilitiesHaveTheNamesOfTheService) {
   EXPECT_EQ(CapabilityName(Capability::HasUserLed), "HasUserLed");
 }
 
+TEST(ElementTypes, EveryCapabilityIsFoundByItsName) {
+  EXPECT_EQ(CapabilityCount, 23);
+  for (const CapabilityRow& row : CapabilityTable) {
+    EXPECT_EQ(CapabilityName(row.query), row.name);
+    EXPECT_EQ(CapabilityNamed(row.name), row.query) << row.name;
+  }
+  EXPECT_EQ(CapabilityNamed("HasUserLED"), std::nullopt);
+}
+
 TEST(ModuleState, WithoutACurrentElementAskingForItFails) {
   Module() = ModuleState();
   try {

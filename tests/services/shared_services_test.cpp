@@ -4,6 +4,8 @@
 
 #include "forms/form.h"
 #include "platform/platform_in_force.h"
+#include "services/led_functions.h"
+#include "services/setting_table.h"
 #include "world/world.h"
 
 namespace plexel {
@@ -225,6 +227,28 @@ TEST_F(LedNames, EveryTextGivesItsType) {
   for (std::int32_t type = 0; type < 15; ++type) {
     EXPECT_EQ(LedTextToType("led " + std::to_string(numbers[static_cast<std::size_t>(type)])), type);
   }
+}
+
+TEST(LedFunctions, EachIsAskedForByTheQueryOfItsName) {
+  for (const LedFunction& function : LedFunctions) {
+    const bool asked = function.type != LedNotEnabled;
+    ASSERT_EQ(function.query.has_value(), asked) << function.type;
+    if (asked) EXPECT_EQ(CapabilityNamed(CapabilityName(*function.query)), function.query) << function.type;
+  }
+  const Capability expected[] = {
+      Capability::HasHarddiskLed, Capability::HasUserLed,        Capability::HasTemperatureLed,
+      Capability::HasPowerLed,    Capability::HasCapsLockLed,    Capability::HasNumLockLed,
+      Capability::HasLayer1Led,   Capability::HasLayer2Led,      Capability::HasLayer3Led,
+      Capability::HasLayer4Led,   Capability::HasPanelLockedLed, Capability::HasScrollLockLed,
+      Capability::HasAlarmLed};
+  for (std::size_t type = 0; type < std::size(expected); ++type) EXPECT_EQ(LedFunctions[type].query, expected[type]);
+  EXPECT_EQ(LedFunctions[RunLed].query, Capability::HasRunLed);
+}
+
+TEST(SettingTable, EveryRowIsFoundByItsNumber) {
+  for (const SettingRow& row : SettingTable) EXPECT_EQ(FindSetting(row.isSwitch, row.number), &row) << row.name;
+  EXPECT_EQ(FindSetting(true, 0), nullptr);
+  EXPECT_EQ(FindSetting(false, 4), nullptr);
 }
 
 TEST_F(LedNames, TheTextsOfHarddiskAndUserStandCrosswise) {

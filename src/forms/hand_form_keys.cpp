@@ -1,9 +1,10 @@
+#include "forms/hand.h"
+
 #include <algorithm>
 #include <array>
 
 #include "forms/acting.h"
 #include "forms/caption.h"
-#include "forms/hand.h"
 
 namespace plexel {
 

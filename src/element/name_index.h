@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace plexel {
+
+/// Finds the place of a name in a fixed list: an open hash table, made by the compiler. Length, first and last
+/// character tell the element's names well apart.
+template <std::size_t Count>
+class NameIndex {
+ public:
+  /// Names that are not empty, none twice; does not compile otherwise.
+  explicit consteval NameIndex(const std::array<std::string_view, Count>& names) : names_(names) {
+    slots_.fill(Free);
+    for (std::size_t place = 0; place < Count; ++place) {
+      if (names[place].empty()) throw "a name is empty";
+      if (Find(names[place]) != Count) throw "a name stands twice";
+      std::size_t slot = FirstSlot(names[place]);
+      while (slots_[slot] != Free) slot = (slot + 1) % SlotCount;
+      slots_[slot] = static_cast<std::uint8_t>(place);
+    }
+  }
+
+  /// The place of a name, which is compared exactly; Count for any other text.
+  constexpr std::size_t Find(std::string_view name) const {
+    if (name.empty()) return Count;
+    for (std::size_t slot = FirstSlot(name); slots_[slot] != Free; slot = (slot + 1) % SlotCount) {
+      const std::string_view candidate = names_[slots_[slot]];
+      // The element asks with the very texts of its table.
+      const bool very = candidate.data() == name.data() && candidate.size() == name.size();
+      if (very || candidate == name) return slots_[slot];
+    }
+    return Count;
+  }
+  constexpr std::string_view Name(std::size_t place) const { return names_.at(place); }
+
+ private:
+  static constexpr std::size_t SlotCount = 128;
+  static constexpr std::uint8_t Free = 0xFF;
+  static_assert(Count < Free && Count < SlotCount / 2);
+
+  static constexpr std::size_t FirstSlot(std::string_view name) {
+    const auto first = static_cast<unsigned char>(name.front()), last = static_cast<unsigned char>(name.back());
+    return (name.size() * 5U + first * 11U + last * 3U) % SlotCount;
+  }
+
+  std::array<std::string_view, Count> names_;
+  std::array<std::uint8_t, SlotCount> slots_{};
+};
+
+}  // namespace plexel
