@@ -23,13 +23,13 @@ struct KindRow {
 };
 
 constexpr enumTactisBaseElementType NoElement{};
-constexpr std::array<KindRow, 7> kinds = {{{"HOUSING", PanelPartKind::Housing, NoElement, NoElement},
-                                           {"SCREEN", PanelPartKind::Screen, NoElement, NoElement},
-                                           {"KEY", PanelPartKind::Key, Rect, RectLed},
-                                           {"ROUNDKEY", PanelPartKind::RoundKey, Oval, OvalLed},
-                                           {"KEYSWITCH", PanelPartKind::KeySwitch, Key, Key},
-                                           {"LED", PanelPartKind::Led, Led, Led},
-                                           {"LEGEND", PanelPartKind::Legend, NoElement, NoElement}}};
+constexpr auto kinds = std::to_array<KindRow>({{"HOUSING", PanelPartKind::Housing, NoElement, NoElement},
+                                               {"SCREEN", PanelPartKind::Screen, NoElement, NoElement},
+                                               {"KEY", PanelPartKind::Key, Rect, RectLed},
+                                               {"ROUNDKEY", PanelPartKind::RoundKey, Oval, OvalLed},
+                                               {"KEYSWITCH", PanelPartKind::KeySwitch, Key, Key},
+                                               {"LED", PanelPartKind::Led, Led, Led},
+                                               {"LEGEND", PanelPartKind::Legend, NoElement, NoElement}});
 
 const KindRow* KindOf(std::string_view section) {
   const auto row =
@@ -45,7 +45,7 @@ struct KeyRow {
 };
 
 using PartKey = KeyRow<PanelPart>;
-constexpr std::array<PartKey, 7> styleKeys = {
+constexpr auto styleKeys = std::to_array<PartKey>(
     {{"Fill",
       [](PanelPart& part, const PanelValues& values, const IniLine& line) { part.fillColor = values.Color(line); }},
      {"Line",
@@ -60,10 +60,10 @@ constexpr std::array<PartKey, 7> styleKeys = {
                        const IniLine& line) { part.legendSize = values.Integer(line, 4, 200); }},
      {"LegendAlign", [](PanelPart& part, const PanelValues& values, const IniLine& line) {
         part.legendAlignment = values.Alignment(line);
-      }}}};
+      }}});
 
 constexpr std::string_view PlaceKey = "Place", ElementKey = "Element", SizeXKey = "SizeX", SizeYKey = "SizeY";
-constexpr std::array<PartKey, 6> elementKeys = {
+constexpr auto elementKeys = std::to_array<PartKey>(
     {{"ElementType",
       [](PanelPart& part, const PanelValues& values, const IniLine& line) {
         part.element->type = static_cast<enumTactisBaseElementType>(values.Integer(line, Led, Key));
@@ -82,11 +82,11 @@ constexpr std::array<PartKey, 6> elementKeys = {
                               const IniLine& line) { part.element->hardwareNumberLed = values.Integer(line); }},
      {"HardwareNumberButton", [](PanelPart& part, const PanelValues& values, const IniLine& line) {
         part.element->hardwareNumberButton = values.Integer(line);
-      }}}};
+      }}});
 
 using PanelKey = KeyRow<Panel>;
 constexpr std::string_view WidthKey = "Width", HeightKey = "Height";
-constexpr std::array<PanelKey, 6> panelKeys = {
+constexpr auto panelKeys = std::to_array<PanelKey>(
     {{"Title", [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.title = values.Text(line); }},
      {WidthKey, [](Panel& panel, const PanelValues& values,
                    const IniLine& line) { panel.width = values.Integer(line, 1, PanelValues::LargestSize); }},
@@ -97,7 +97,7 @@ constexpr std::array<PanelKey, 6> panelKeys = {
      {"DeviceType",
       [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.deviceType = values.Integer(line); }},
      {"VantaEnabled",
-      [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.vantaEnabled = values.Switch(line); }}}};
+      [](Panel& panel, const PanelValues& values, const IniLine& line) { panel.vantaEnabled = values.Switch(line); }}});
 
 template <typename Target, std::size_t count>
 bool Apply(const std::array<KeyRow<Target>, count>& rows, Target& target, const PanelValues& values,

@@ -20,10 +20,10 @@ struct SequenceKeyRow {
   std::string_view name;
   std::string_view language;  ///< whose list shows the name; empty for codes
 };
-inline constexpr std::array<SequenceKeyRow, 4> SequenceKeys = {{{NamedSequences::EnglishNameKey, "English"},
-                                                                {NamedSequences::GermanNameKey, "German"},
-                                                                {NamedSequences::MakeKey, ""},
-                                                                {NamedSequences::BreakKey, ""}}};
+inline constexpr auto SequenceKeys = std::to_array<SequenceKeyRow>({{NamedSequences::EnglishNameKey, "English"},
+                                                                    {NamedSequences::GermanNameKey, "German"},
+                                                                    {NamedSequences::MakeKey, ""},
+                                                                    {NamedSequences::BreakKey, ""}});
 
 struct SequenceValue {
   std::size_t line = 0;

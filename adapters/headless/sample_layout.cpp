@@ -11,10 +11,10 @@ struct KeyCharacter {
   char16_t character;
 };
 
-constexpr std::array<KeyCharacter, 21> characters = {
+constexpr auto characters = std::to_array<KeyCharacter>(
     {{0x08, u'\b'}, {0x09, u'\t'}, {0x0D, u'\r'}, {0x1B, u'\x1B'}, {0x20, u' '},  {0x6A, u'*'}, {0x6B, u'+'},
      {0x6D, u'-'},  {0x6E, u'.'},  {0x6F, u'/'},  {0xBA, u';'},    {0xBB, u'='},  {0xBC, u','}, {0xBD, u'-'},
-     {0xBE, u'.'},  {0xBF, u'/'},  {0xC0, u'`'},  {0xDB, u'['},    {0xDC, u'\\'}, {0xDD, u']'}, {0xDE, u'\''}}};
+     {0xBE, u'.'},  {0xBF, u'/'},  {0xC0, u'`'},  {0xDB, u'['},    {0xDC, u'\\'}, {0xDD, u']'}, {0xDE, u'\''}});
 
 char16_t CharacterOn(std::int32_t virtualKey) {
   if (virtualKey >= 'A' && virtualKey <= 'Z') return static_cast<char16_t>(virtualKey - 'A' + 'a');

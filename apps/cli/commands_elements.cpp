@@ -57,24 +57,24 @@ void AskDefinitionEmpty(Element& element, Arguments&, Json& answer) {
   answer["result"] = BooleanToJson(ElementAccess::IsDefinitionEmpty(element));
 }
 
-constexpr std::array<Member, 10> methods = {{Row<&Element::OpenPropertiesDialog>("OpenPropertiesDialog"),
-                                             Row<&Element::OpenConfigurationDialog>("OpenConfigurationDialog"),
-                                             Row<&Element::UpdateFocus>("UpdateFocus"),
-                                             Row<&Element::Refresh>("Refresh"),
-                                             Row<&Element::ShowDefinedObject>("ShowDefinedObject"),
-                                             {"SetTactisBaseElementDefinition", 1, DefineFrom},
-                                             Row<&Element::CheckIfLedIsAlreadyDefined>("CheckIfLedIsAlreadyDefined"),
-                                             {"RaiseProjectModified", 0, RaiseProjectModified},
-                                             {"RaiseDirectInputStatusChanged", 1, RaiseDirectInputStatusChanged},
-                                             {"IsDefinitionEmpty", 0, AskDefinitionEmpty}}};
+constexpr auto methods = std::to_array<Member>({Row<&Element::OpenPropertiesDialog>("OpenPropertiesDialog"),
+                                                Row<&Element::OpenConfigurationDialog>("OpenConfigurationDialog"),
+                                                Row<&Element::UpdateFocus>("UpdateFocus"),
+                                                Row<&Element::Refresh>("Refresh"),
+                                                Row<&Element::ShowDefinedObject>("ShowDefinedObject"),
+                                                {"SetTactisBaseElementDefinition", 1, DefineFrom},
+                                                Row<&Element::CheckIfLedIsAlreadyDefined>("CheckIfLedIsAlreadyDefined"),
+                                                {"RaiseProjectModified", 0, RaiseProjectModified},
+                                                {"RaiseDirectInputStatusChanged", 1, RaiseDirectInputStatusChanged},
+                                                {"IsDefinitionEmpty", 0, AskDefinitionEmpty}});
 
-constexpr std::array<Member, 7> events = {{Row<&Element::UserControl_GotFocus>("UserControl_GotFocus"),
-                                           Row<&Element::UserControl_LostFocus>("UserControl_LostFocus"),
-                                           Row<&Element::UserControl_KeyPress>("UserControl_KeyPress"),
-                                           Row<&Element::UserControl_MouseUp>("UserControl_MouseUp"),
-                                           Row<&Element::UserControl_DblClick>("UserControl_DblClick"),
-                                           {"UserControl_ReadProperties", 1, ReadPropertiesFrom},
-                                           Row<&Element::UserControl_Terminate>("UserControl_Terminate")}};
+constexpr auto events = std::to_array<Member>({Row<&Element::UserControl_GotFocus>("UserControl_GotFocus"),
+                                               Row<&Element::UserControl_LostFocus>("UserControl_LostFocus"),
+                                               Row<&Element::UserControl_KeyPress>("UserControl_KeyPress"),
+                                               Row<&Element::UserControl_MouseUp>("UserControl_MouseUp"),
+                                               Row<&Element::UserControl_DblClick>("UserControl_DblClick"),
+                                               {"UserControl_ReadProperties", 1, ReadPropertiesFrom},
+                                               Row<&Element::UserControl_Terminate>("UserControl_Terminate")});
 
 void RunMember(std::span<const Member> members, const char* kind, Workbench& bench, Arguments& arguments,
                Json& answer) {
@@ -214,21 +214,21 @@ void ShowRegistry(Workbench& bench, Arguments&, Json& answer) {
 
 constexpr std::size_t Any = 16;
 
-constexpr std::array<Command, 15> commands = {{{"element", "NAME", 1, 1, NewElement},
-                                               {"read", "NAME {\"SizeX\":20, ...}", 2, 2, ReadElement},
-                                               {"use", "NAME", 1, 1, UseElement},
-                                               {"drop", "NAME", 1, 1, DropElement},
-                                               {"write", "", 0, 0, WriteElement},
-                                               {"get", "NAME", 1, 1, GetProperty},
-                                               {"set", "NAME VALUE", 2, 2, SetProperty},
-                                               {"call", "NAME ARGS...", 1, Any, CallMethod},
-                                               {"raise", "NAME ARGS...", 1, Any, RaiseEvent},
-                                               {"record", "", 0, 0, ShowRecord},
-                                               {"put", "{FIELD: ...}", 1, 1, PutRecord},
-                                               {"define", "{FIELD: ...}", 1, 1, Define},
-                                               {"surface", "", 0, 0, ShowSurface},
-                                               {"state", "", 0, 0, ShowState},
-                                               {"registry", "", 0, 0, ShowRegistry}}};
+constexpr auto commands = std::to_array<Command>({{"element", "NAME", 1, 1, NewElement},
+                                                  {"read", "NAME {\"SizeX\":20, ...}", 2, 2, ReadElement},
+                                                  {"use", "NAME", 1, 1, UseElement},
+                                                  {"drop", "NAME", 1, 1, DropElement},
+                                                  {"write", "", 0, 0, WriteElement},
+                                                  {"get", "NAME", 1, 1, GetProperty},
+                                                  {"set", "NAME VALUE", 2, 2, SetProperty},
+                                                  {"call", "NAME ARGS...", 1, Any, CallMethod},
+                                                  {"raise", "NAME ARGS...", 1, Any, RaiseEvent},
+                                                  {"record", "", 0, 0, ShowRecord},
+                                                  {"put", "{FIELD: ...}", 1, 1, PutRecord},
+                                                  {"define", "{FIELD: ...}", 1, 1, Define},
+                                                  {"surface", "", 0, 0, ShowSurface},
+                                                  {"state", "", 0, 0, ShowState},
+                                                  {"registry", "", 0, 0, ShowRegistry}});
 
 }  // namespace
 

@@ -144,21 +144,21 @@ void Answer(Workbench& bench, Arguments& arguments, Json&) {
   box->Answer(arguments.Text());
 }
 
-constexpr std::array<Command, 15> commands = {{{"form", "", 0, 0, ShowForm},
-                                               {"control", "NAME", 1, 1, ShowControl},
-                                               {"click", "NAME [ROW COL]", 1, 3, Click},
-                                               {"dblclick", "NAME [ROW COL]", 1, 3, DblClick},
-                                               {"mouse", "NAME BUTTON SHIFT X Y", 5, 5, MouseDown},
-                                               {"focus", "NAME", 1, 1, Focus},
-                                               {"select", "NAME TEXT | #PLACE", 2, 2, Select},
-                                               {"type", "NAME TEXT", 2, 2, Type},
-                                               {"cell", "ROW COL", 2, 2, SetCell},
-                                               {"tab", "N", 1, 1, ClickTab},
-                                               {"menu", "NAME", 1, 1, PickMenu},
-                                               {"keydown", "CODE SHIFT", 2, 2, KeyDown},
-                                               {"keypress", "CODE", 1, 1, KeyPress},
-                                               {"close", "", 0, 0, Close},
-                                               {"answer", "NAME", 1, 1, Answer}}};
+constexpr auto commands = std::to_array<Command>({{"form", "", 0, 0, ShowForm},
+                                                  {"control", "NAME", 1, 1, ShowControl},
+                                                  {"click", "NAME [ROW COL]", 1, 3, Click},
+                                                  {"dblclick", "NAME [ROW COL]", 1, 3, DblClick},
+                                                  {"mouse", "NAME BUTTON SHIFT X Y", 5, 5, MouseDown},
+                                                  {"focus", "NAME", 1, 1, Focus},
+                                                  {"select", "NAME TEXT | #PLACE", 2, 2, Select},
+                                                  {"type", "NAME TEXT", 2, 2, Type},
+                                                  {"cell", "ROW COL", 2, 2, SetCell},
+                                                  {"tab", "N", 1, 1, ClickTab},
+                                                  {"menu", "NAME", 1, 1, PickMenu},
+                                                  {"keydown", "CODE SHIFT", 2, 2, KeyDown},
+                                                  {"keypress", "CODE", 1, 1, KeyPress},
+                                                  {"close", "", 0, 0, Close},
+                                                  {"answer", "NAME", 1, 1, Answer}});
 
 }  // namespace
 

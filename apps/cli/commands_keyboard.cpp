@@ -39,9 +39,9 @@ void CallLowLevelHook(Workbench& bench, Arguments& arguments, Json& answer) {
   answer["next"] = bench.platform.Hooks().NextCalls() != before;
 }
 
-constexpr std::array<Command, 3> commands = {{{"key", "down|up VK SCAN EXT", 4, 4, SendKey},
-                                              {"hook", "NCODE WPARAM LPARAM", 3, 3, CallHook},
-                                              {"lowhook", "NCODE WPARAM VK SCAN FLAGS", 5, 5, CallLowLevelHook}}};
+constexpr auto commands = std::to_array<Command>({{"key", "down|up VK SCAN EXT", 4, 4, SendKey},
+                                                  {"hook", "NCODE WPARAM LPARAM", 3, 3, CallHook},
+                                                  {"lowhook", "NCODE WPARAM VK SCAN FLAGS", 5, 5, CallLowLevelHook}});
 
 }  // namespace
 

@@ -60,7 +60,7 @@ void CallProcedure(Workbench& bench, Arguments& arguments, Json& answer) {
   }
 }
 
-constexpr std::array<Command, 1> commands = {{{"fn", "NAME ARGS...", 1, 17, CallProcedure}}};
+constexpr auto commands = std::to_array<Command>({{"fn", "NAME ARGS...", 1, 17, CallProcedure}});
 
 }  // namespace
 

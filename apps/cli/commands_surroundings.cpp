@@ -111,23 +111,23 @@ void Trace(Workbench& bench, Arguments& arguments, Json&) {
   bench.host.TraceNotices(arguments.Choice("on", "off"));
 }
 
-constexpr std::array<Command, 17> commands = {{{"option", "N VALUE", 2, 2, SetOption},
-                                               {"parameter", "N TEXT", 2, 2, SetParameter},
-                                               {"position", "N TEXT", 2, 2, SetPosition},
-                                               {"language", "NAME", 1, 1, SetLanguage},
-                                               {"base", "DIR", 1, 1, SetBase},
-                                               {"text", "N TEXT", 2, 2, SetText},
-                                               {"capability", "TARGET QUERY VALUE", 3, 3, SetCapability},
-                                               {"led", "TYPE LAYER VALUE | missing", 1, 3, SetLed},
-                                               {"screen", "X Y", 2, 2, SetScreen},
-                                               {"dpi", "N", 1, 1, SetDpi},
-                                               {"platform", "N", 1, 1, SetPlatform},
-                                               {"layout", "NAME", 1, 1, SetLayout},
-                                               {"keytext", "VK RESULT \"BYTES\"", 3, 3, SetKeyText},
-                                               {"hold", "VK", 1, 1, HoldKey},
-                                               {"free", "VK", 1, 1, FreeKey},
-                                               {"fault", "NAME on|off", 2, 2, SetFault},
-                                               {"trace", "notices on|off", 2, 2, Trace}}};
+constexpr auto commands = std::to_array<Command>({{"option", "N VALUE", 2, 2, SetOption},
+                                                  {"parameter", "N TEXT", 2, 2, SetParameter},
+                                                  {"position", "N TEXT", 2, 2, SetPosition},
+                                                  {"language", "NAME", 1, 1, SetLanguage},
+                                                  {"base", "DIR", 1, 1, SetBase},
+                                                  {"text", "N TEXT", 2, 2, SetText},
+                                                  {"capability", "TARGET QUERY VALUE", 3, 3, SetCapability},
+                                                  {"led", "TYPE LAYER VALUE | missing", 1, 3, SetLed},
+                                                  {"screen", "X Y", 2, 2, SetScreen},
+                                                  {"dpi", "N", 1, 1, SetDpi},
+                                                  {"platform", "N", 1, 1, SetPlatform},
+                                                  {"layout", "NAME", 1, 1, SetLayout},
+                                                  {"keytext", "VK RESULT \"BYTES\"", 3, 3, SetKeyText},
+                                                  {"hold", "VK", 1, 1, HoldKey},
+                                                  {"free", "VK", 1, 1, FreeKey},
+                                                  {"fault", "NAME on|off", 2, 2, SetFault},
+                                                  {"trace", "notices on|off", 2, 2, Trace}});
 
 }  // namespace
 

@@ -39,8 +39,8 @@ struct ProgramWord {
   int (*run)(std::span<const std::string> arguments);
 };
 
-constexpr std::array<ProgramWord, 4> words = {
-    {{"script", plexel::RunScript}, {"check", plexel::RunCheck}, {"--help", TellUsage}, {"--version", TellVersion}}};
+constexpr auto words = std::to_array<ProgramWord>(
+    {{"script", plexel::RunScript}, {"check", plexel::RunCheck}, {"--help", TellUsage}, {"--version", TellVersion}});
 
 }  // namespace
 

@@ -16,10 +16,10 @@ struct ButtonName {
   const char* name;
 };
 
-constexpr std::array<ButtonName, 4> buttonNames = {{{MessageAnswer::OK, "OK"},
-                                                    {MessageAnswer::Cancel, "Cancel"},
-                                                    {MessageAnswer::Yes, "Yes"},
-                                                    {MessageAnswer::No, "No"}}};
+constexpr auto buttonNames = std::to_array<ButtonName>({{MessageAnswer::OK, "OK"},
+                                                        {MessageAnswer::Cancel, "Cancel"},
+                                                        {MessageAnswer::Yes, "Yes"},
+                                                        {MessageAnswer::No, "No"}});
 
 const char* NameOf(MessageAnswer answer) {
   const auto row = std::find_if(buttonNames.begin(), buttonNames.end(),

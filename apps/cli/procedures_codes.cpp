@@ -79,15 +79,16 @@ void AskRoom(Workbench& bench, Arguments& arguments, Json& answer) {
   answer["result"] = BooleanToJson(HasRoomForCodes(layer, RecordOf(bench), arguments.Int32()));
 }
 
-constexpr std::array<Procedure, 9> procedures = {{{"TranslateScanCode", 3, 5, Translate},
-                                                  {"GetSpecialFunctionCode", 1, 3, OfIndex<&GetSpecialFunctionCode>},
-                                                  {"GetWindowsShortCutCodes", 1, 3, OfIndex<&GetWindowsShortCutCodes>},
-                                                  {"AppendCodeGroup", 4, 4, Append},
-                                                  {"RemoveFirstCodeGroup", 1, 1, RemoveFirst},
-                                                  {"RemoveLastCodeGroup", 1, 1, RemoveLast},
-                                                  {"StoreScanCodes", 4, 4, Store},
-                                                  {"CountGroupEnds", 1, 1, CountEnds},
-                                                  {"HasRoomForCodes", 2, 2, AskRoom}}};
+constexpr auto procedures =
+    std::to_array<Procedure>({{"TranslateScanCode", 3, 5, Translate},
+                              {"GetSpecialFunctionCode", 1, 3, OfIndex<&GetSpecialFunctionCode>},
+                              {"GetWindowsShortCutCodes", 1, 3, OfIndex<&GetWindowsShortCutCodes>},
+                              {"AppendCodeGroup", 4, 4, Append},
+                              {"RemoveFirstCodeGroup", 1, 1, RemoveFirst},
+                              {"RemoveLastCodeGroup", 1, 1, RemoveLast},
+                              {"StoreScanCodes", 4, 4, Store},
+                              {"CountGroupEnds", 1, 1, CountEnds},
+                              {"HasRoomForCodes", 2, 2, AskRoom}});
 
 }  // namespace
 

@@ -81,8 +81,8 @@ void frmConfigurationDialog::DesignButtonPage() {
     float left, width;
     const char* caption;
   };
-  constexpr std::array<OptionDesign, 3> options = {
-      {{120, 2880, "@2700"}, {3030, 2100, "@2701"}, {5160, 2070, "@2702"}}};
+  constexpr auto options =
+      std::to_array<OptionDesign>({{120, 2880, "@2700"}, {3030, 2100, "@2701"}, {5160, 2070, "@2702"}});
   for (std::size_t i = 0; i < options.size(); ++i) {
     optCodeType[i].Inside(fraCodeType);
     optCodeType[i].Place(options[i].left, 240, options[i].width, 255);

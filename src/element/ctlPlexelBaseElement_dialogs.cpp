@@ -29,12 +29,12 @@ MessageAnswer AskBeforeWizard() {
     std::int32_t text;
     std::string_view breaks;  ///< behind the paragraph
   };
-  constexpr std::array<Paragraph, 6> paragraphs = {{{2403, "\r\n\r\n\r\n"},
-                                                    {2404, "\r\n\r\n"},
-                                                    {2405, "\r\n\r\n"},
-                                                    {2406, "\r\n\r\n"},
-                                                    {2407, "\r\n\r\n\r\n"},
-                                                    {2408, ""}}};
+  constexpr auto paragraphs = std::to_array<Paragraph>({{2403, "\r\n\r\n\r\n"},
+                                                        {2404, "\r\n\r\n"},
+                                                        {2405, "\r\n\r\n"},
+                                                        {2406, "\r\n\r\n"},
+                                                        {2407, "\r\n\r\n\r\n"},
+                                                        {2408, ""}});
   constexpr std::int32_t titleText = 6002;
   std::string prompt;
   for (const Paragraph& paragraph : paragraphs) prompt.append(TextOrNothing(paragraph.text)).append(paragraph.breaks);

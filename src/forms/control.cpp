@@ -18,7 +18,7 @@ struct KindTraits {
   bool placed, canBeDisabled, canBeHidden, helped;
 };
 
-constexpr std::array<KindTraits, 13> Kinds = {{
+constexpr auto Kinds = std::to_array<KindTraits>({
     {ControlKind::CommandButton, "CommandButton", true, true, true, true},
     {ControlKind::OptionButton, "OptionButton", true, true, true, true},
     {ControlKind::ComboBox, "ComboBox", true, true, true, true},
@@ -32,7 +32,7 @@ constexpr std::array<KindTraits, 13> Kinds = {{
     {ControlKind::Menu, "Menu", false, true, true, false},
     {ControlKind::ImageList, "ImageList", false, false, false, false},
     {ControlKind::Shape, "Shape", true, false, true, false},
-}};
+});
 
 constexpr bool InOrder() {
   for (std::size_t i = 0; i < Kinds.size(); ++i) {

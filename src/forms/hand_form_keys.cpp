@@ -85,13 +85,13 @@ struct LetterAnswer {
   bool (*answers)(Hand& hand, Control& control, std::int16_t keyCode);
 };
 
-constexpr std::array<LetterAnswer, 5> LetterAnswers = {{
+constexpr auto LetterAnswers = std::to_array<LetterAnswer>({
     {ControlKind::CommandButton, ButtonAnswers},
     {ControlKind::OptionButton, ButtonAnswers},
     {ControlKind::Label, LabelAnswers},
     {ControlKind::Frame, FrameAnswers},
     {ControlKind::TabStrip, StripAnswers},
-}};
+});
 
 bool Answers(Hand& hand, Control& control, std::int16_t keyCode) {
   if (!control.Usable()) return false;

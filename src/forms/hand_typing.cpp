@@ -16,12 +16,12 @@ struct CharacterKey {
   char alone, shifted;
 };
 
-constexpr std::array<CharacterKey, 21> CharacterKeys = {{
+constexpr auto CharacterKeys = std::to_array<CharacterKey>({
     {'0', '0', ')'},   {'1', '1', '!'},  {'2', '2', '@'},   {'3', '3', '#'},  {'4', '4', '$'},  {'5', '5', '%'},
     {'6', '6', '^'},   {'7', '7', '&'},  {'8', '8', '*'},   {'9', '9', '('},  {0xBA, ';', ':'}, {0xBB, '=', '+'},
     {0xBC, ',', '<'},  {0xBD, '-', '_'}, {0xBE, '.', '>'},  {0xBF, '/', '?'}, {0xC0, '`', '~'}, {0xDB, '[', '{'},
     {0xDC, '\\', '|'}, {0xDD, ']', '}'}, {0xDE, '\'', '"'},
-}};
+});
 
 /// The key of a character that no key of its own carries.
 constexpr std::int16_t PacketKey = 0xE7;

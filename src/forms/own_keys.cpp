@@ -116,14 +116,14 @@ struct OwnKeys {
   void (*act)(Control& control, std::int16_t keyCode);
 };
 
-constexpr std::array<OwnKeys, 6> OwnKeysOfKinds = {{
+constexpr auto OwnKeysOfKinds = std::to_array<OwnKeys>({
     {ControlKind::CommandButton, ActOnButton},
     {ControlKind::OptionButton, ActOnOption},
     {ControlKind::ComboBox, ActOnCombo},
     {ControlKind::TextBox, EditByKey},
     {ControlKind::TabStrip, ActOnStrip},
     {ControlKind::Grid, ActOnGrid},
-}};
+});
 
 }  // namespace
 

@@ -21,8 +21,8 @@ namespace {
 
 constexpr std::int32_t scanCodesToolTip = 10955;
 /// In the order of the list. Warm start and the layer keys stay with the configuration dialog.
-constexpr std::array<enumSpecialKeyFunctions, 5> offeredFunctions = {SystemReset, ContrastHigher, ContrastLower,
-                                                                     BackgroundLightLigther, BackgroundLightDarker};
+constexpr auto offeredFunctions = std::to_array<enumSpecialKeyFunctions>(
+    {SystemReset, ContrastHigher, ContrastLower, BackgroundLightLigther, BackgroundLightDarker});
 constexpr std::int16_t shiftAndControl = key::ShiftBit | key::ControlBit;
 
 bool EndsCapture(std::int16_t keyCode, std::int16_t shift) {
