@@ -278,6 +278,7 @@ class ElementWidget : public QWidget {
   void GainFocus();
   void LoseFocus();
   bool LedIsDefinedInWindow(LedFunction function, int layer) const;
+  void Draw(QPainter& painter) const;
   void DrawFace(QPainter& painter) const;
 
   std::unique_ptr<Container> container_;

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPixmap>
 #include <QTimer>
 #include <QToolTip>
 #include <QWhatsThis>
@@ -53,8 +54,20 @@ void ElementWidget::ShowSurfaceSoon() {
 
 void ElementWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  if (isEnabled()) return Draw(painter);
+  // Pale as a whole: strokes that meet must not show through each other.
+  QPixmap picture(size() * devicePixelRatioF());
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  picture.fill(Qt::transparent);
+  QPainter inside(&picture);
+  Draw(inside);
+  inside.end();
+  painter.setOpacity(DisabledOpacity);
+  painter.drawPixmap(0, 0, picture);
+}
+
+void ElementWidget::Draw(QPainter& painter) const {
   painter.setRenderHint(QPainter::Antialiasing);
-  if (!isEnabled()) painter.setOpacity(DisabledOpacity);
   if (faceVisible_) DrawFace(painter);
   DrawSurface(painter, element_->SurfaceObjects());
 }

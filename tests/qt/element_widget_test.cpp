@@ -263,6 +263,21 @@ TEST_F(Widgets, TheWidgetDrawsWhatThePanelDraws) {
   EXPECT_NE(marks, Drawn([](QPainter&) {}));
 }
 
+TEST_F(Widgets, ADisabledOneIsPaleAndItsStrokesDoNotShowThroughEachOther) {
+  first.FaceVisible(false);
+  first.KeyDefinedColor(Qt::black);
+  first.PressKeyDefLayer1(Definition);
+  first.LEDTypeLayer1(ElementWidget::UserLed);
+  first.ShowDefined(true);
+  first.setEnabled(false);
+  const QImage pale = Rendered(first);
+  int darkest = 255;
+  for (int y = 0; y < pale.height(); ++y) {
+    for (int x = 0; x < pale.width(); ++x) darkest = std::min(darkest, qGray(pale.pixel(x, y)));
+  }
+  EXPECT_NEAR(darkest, 255 * 0.6, 2);
+}
+
 TEST_F(Widgets, AHostGivesAFaceOfItsOwn) {
   PanelPart part = UsualFace(plexel::Oval, 56, 54).front();
   part.fillColor = 0x0000FF;
