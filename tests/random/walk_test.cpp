@@ -22,24 +22,11 @@ struct WalkKey {
   std::int32_t virtualKey, scanCode;
   bool extended;
 };
-constexpr std::array<WalkKey, 18> walkKeys = {{{0x11, 0x1D, false},
-                                               {0x10, 0x2A, false},
-                                               {0x12, 0x38, true},
-                                               {0x41, 0x1E, false},
-                                               {0x0D, 0x1C, false},
-                                               {0x1B, 0x01, false},
-                                               {0x09, 0x0F, false},
-                                               {0x20, 0x39, false},
-                                               {0x26, 0x48, true},
-                                               {0x28, 0x50, true},
-                                               {0x25, 0x4B, true},
-                                               {0x27, 0x4D, true},
-                                               {0x2E, 0x53, true},
-                                               {0x08, 0x0E, false},
-                                               {0x79, 0x44, false},
-                                               {0x43, 0x2E, false},
-                                               {0x56, 0x2F, false},
-                                               {0x2C, 0x37, true}}};
+constexpr std::array<WalkKey, 20> walkKeys = {
+    {{0x11, 0x1D, false}, {0x10, 0x2A, false}, {0x12, 0x38, true},  {0x41, 0x1E, false}, {0x0D, 0x1C, false},
+     {0x1B, 0x01, false}, {0x09, 0x0F, false}, {0x20, 0x39, false}, {0x26, 0x48, true},  {0x28, 0x50, true},
+     {0x25, 0x4B, true},  {0x27, 0x4D, true},  {0x2E, 0x53, true},  {0x08, 0x0E, false}, {0x79, 0x44, false},
+     {0x43, 0x2E, false}, {0x56, 0x2F, false}, {0x2C, 0x37, true},  {0x21, 0x49, true},  {0x22, 0x51, true}}};
 
 /// A user who does whatever comes to hand, and the promises that must hold all the same.
 class Walker {
