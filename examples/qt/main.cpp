@@ -51,7 +51,9 @@ class Window : public QMainWindow {
     for (const plexel::ProjectElement& stored : project.elements) {
       auto* const widget = findChild<ElementWidget*>(QString::fromStdString(stored.place));
       if (widget == nullptr) continue;
+      const ElementWidget::ElementKind kind = widget->ElementType();
       widget->ReadProperties(stored.bag);
+      widget->ElementType(kind);  // a bag leaves the kind of an LED out
       auto record = widget->Element().TactisBaseElementScanCodeBuffer();
       plexel::PutCodes(stored.codes, record);  // the bytes stand beside the bag
       widget->Element().TactisBaseElementScanCodeBuffer(record);

@@ -37,6 +37,25 @@ def run(*words, fails=False, **options):
     return result.stdout
 
 
+def text_of(name):
+    with open(os.path.join(SOURCE, name), encoding="utf-8") as file:
+        return file.read()
+
+
+def stripped(name):
+    return [line.strip() for line in text_of(name).splitlines()]
+
+
+def shown(document, language):
+    """The blocks of a language that a document shows, as lines without their indentation."""
+    blocks = re.findall(r"^```%s\n(.*?)^```$" % language, text_of(document), re.DOTALL | re.MULTILINE)
+    return [[line.strip() for line in block.splitlines()] for block in blocks]
+
+
+def stands_in(lines, source):
+    return any(source[at:at + len(lines)] == lines for at in range(len(source)))
+
+
 class Package:
     def __init__(self, build, work, compiler, flags):
         self.build, self.work, self.compiler, self.flags = build, work, compiler, flags
@@ -135,19 +154,36 @@ class Package:
         with open(first, "rb") as one, open(second, "rb") as other:
             text = one.read()
             expect(b"FF141CF01CF014FF" in text and text == other.read(), "the project is another one")
+            expect(b"ElementType=int32 0" not in text, "an element has lost its kind")
         with open(os.path.join(SOURCE, "examples", "qt", "main.cpp"), encoding="utf-8") as file:
             expect(len(list(file)) < 150, "the example has grown")
 
     def readme(self):
-        """README shows a part of the console example."""
-        with open(os.path.join(SOURCE, "README.md"), encoding="utf-8") as file:
-            shown = re.search(r"## The library in ten lines.*?```cpp\n(.*?)```", file.read(), re.DOTALL).group(1)
-        with open(os.path.join(SOURCE, "examples", "console", "main.cpp"), encoding="utf-8") as file:
-            source = [line.strip() for line in file]
-        lines = [line.strip() for line in shown.splitlines()]
-        expect(len(lines) == 10, "README shows %d lines" % len(lines))
-        expect(any(source[at:at + 10] == lines for at in range(len(source))), "README shows what the example does not say")
+        """README shows ten lines of the console example."""
+        lines = shown("README.md", "cpp")
+        expect([len(some) for some in lines] == [10], "README shows %s lines" % [len(some) for some in lines])
+        source = stripped("examples/console/main.cpp")
+        expect(stands_in(lines[0], source), "README shows what the example does not say")
         expect(len(source) < 60, "the example has %d lines" % len(source))
+
+    def host(self):
+        """What docs/host.md shows of programs are parts of the examples, first the whole of the console example, and the
+        messages that it explains are those of the libraries and of the package."""
+        console, qt = stripped("examples/console/main.cpp"), stripped("examples/qt/main.cpp")
+        first, *others = shown("docs/host.md", "cpp")
+        expect(first == console[2:], "docs/host.md shows another program than examples/console")
+        expect(len(others) >= 5, "docs/host.md shows %d parts of examples/qt" % len(others))
+        for lines in others:
+            expect(stands_in(lines, qt), "examples/qt does not say:\n" + "\n".join(lines))
+        expect(shown("docs/host.md", "cmake")[0] == stripped("examples/console/CMakeLists.txt"), "the CMakeLists.txt is another one")
+        expect("\n%s```" % CONSOLE_OUTPUT in text_of("docs/host.md"), "docs/host.md tells another outcome")
+        messages = re.findall(r"^\| `([^@`][^`]*)` \|", text_of("docs/host.md").split("## Common mistakes")[1], re.MULTILINE)
+        expect(len(messages) >= 8, "docs/host.md explains %d messages" % len(messages))
+        sources = "".join(text_of(os.path.join(folder, name)) for room in ["src", "adapters", "cmake"]
+                          for folder, _, names in os.walk(os.path.join(SOURCE, room)) for name in names).replace('\\"', '"')
+        for message in messages:
+            for piece in filter(None, message.split("…")):
+                expect(piece in sources, "nothing says: " + piece)
 
     def pkgconfig(self):
         """The console example once more, without CMake."""
