@@ -1,6 +1,8 @@
 // From the call to the pixels: dialogs shown as native widgets on the toolkit's offscreen platform, drawn, and closed.
 // The peer is a dialog of the toolkit with as many widgets, made by hand.
 
+#include "services/dialogs.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -114,7 +116,7 @@ void LargeSequenceFileToPixels(benchmark::State& state, bool first) {
       state.ResumeTiming();
     }
     QTimer::singleShot(0, draw);
-    FormDirectory::Instance().ShowModal("frmNonStandardScancodes", nullptr);
+    FormDirectory::Instance().ShowModal(dialogs::frmNonStandardScancodes, nullptr);
     state.ResumeTiming();
   }
   if (pixels == 0 || entries != data.Count()) state.SkipWithError("the dialog did not show the file");

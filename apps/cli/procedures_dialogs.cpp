@@ -8,6 +8,7 @@
 #include "cli/record_json.h"
 #include "configdialog/frmConfigurationDialog.h"
 #include "element/ctlPlexelBaseElement.h"
+#include "services/dialogs.h"
 #include "specialdialogs/frmASCIICharacterTable.h"
 #include "specialdialogs/frmSpecialIPCKey.h"
 #include "specialdialogs/frmSpecialWindowsKey.h"
@@ -122,7 +123,7 @@ void WithResult(Workbench& bench, Arguments&, Json& answer) {
     answer["result"] = result;
     return;
   }
-  throw CommandError("frmConfigurationDialog is not open");
+  throw CommandError(std::string(dialogs::frmConfigurationDialog) + " is not open");
 }
 
 constexpr std::array procedures = {

@@ -22,6 +22,8 @@
 #include "qt/form_view.h"
 #include "qt/help_window.h"
 #include "qt/qt_ports.h"
+#include "qt/units.h"
+#include "services/dialogs.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -109,14 +111,14 @@ class PictureMaker {
           Take("configuration-page" + QString::number(page));
         }
         Act([](Hand& hand, Form& form) { hand.Tab(static_cast<TabStrip&>(*form.Find("sstScanCode")), 0); });
-        for (const char* name :
-             {"frmSpecialIPCKey", "frmSpecialWindowsKey", "frmASCIICharacterTable", "frmNonStandardScancodes"}) {
+        for (const FormName name : {dialogs::frmSpecialIPCKey, dialogs::frmSpecialWindowsKey,
+                                    dialogs::frmASCIICharacterTable, dialogs::frmNonStandardScancodes}) {
           Later([this, name] {
-            if (TopForm().Name() != "frmConfigurationDialog") {
-              if (TopForm().Name() == "frmASCIICharacterTable") {
+            if (TopForm().Name() != dialogs::frmConfigurationDialog) {
+              if (TopForm().Name() == dialogs::frmASCIICharacterTable) {
                 Act([](Hand& hand, Form& form) { hand.Click(static_cast<Grid&>(*form.Find("msgASCIICodes")), 4, 4); });
               }
-              Take(name);
+              Take(ToQt(std::string_view(name)));
               TopForm().Unload();
             }
           });

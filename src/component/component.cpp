@@ -6,6 +6,7 @@
 #include "scancodes/capture.h"
 #include "scancodes/frmNonStandardScancodes.h"
 #include "services/component_life.h"
+#include "services/dialogs.h"
 #include "services/surroundings_in_force.h"
 #include "specialdialogs/frmASCIICharacterTable.h"
 #include "specialdialogs/frmSpecialIPCKey.h"
@@ -29,20 +30,20 @@ void AndDropFailures(Act&& act) {
 }
 
 template <typename Dialog>
-void Add(FormDirectory& directory, std::string name) {
-  directory.Add(std::move(name), [] { return std::make_unique<Dialog>(); });
+void Add(FormDirectory& directory, FormName name) {
+  directory.Add(name, [] { return std::make_unique<Dialog>(); });
 }
 
 void AddForms(FormDirectory& directory) {
-  Add<frmConfigurationDialog>(directory, "frmConfigurationDialog");
-  Add<frmButtonWizardPage1>(directory, "frmButtonWizardPage1");
-  Add<frmButtonWizardPage2>(directory, "frmButtonWizardPage2");
-  Add<frmButtonWizardPage3>(directory, "frmButtonWizardPage3");
-  Add<frmPropertiesButton>(directory, "frmPropertiesButton");
-  Add<frmSpecialIPCKey>(directory, "frmSpecialIPCKey");
-  Add<frmSpecialWindowsKey>(directory, "frmSpecialWindowsKey");
-  Add<frmASCIICharacterTable>(directory, "frmASCIICharacterTable");
-  Add<frmNonStandardScancodes>(directory, "frmNonStandardScancodes");
+  Add<frmConfigurationDialog>(directory, dialogs::frmConfigurationDialog);
+  Add<frmButtonWizardPage1>(directory, dialogs::frmButtonWizardPage1);
+  Add<frmButtonWizardPage2>(directory, dialogs::frmButtonWizardPage2);
+  Add<frmButtonWizardPage3>(directory, dialogs::frmButtonWizardPage3);
+  Add<frmPropertiesButton>(directory, dialogs::frmPropertiesButton);
+  Add<frmSpecialIPCKey>(directory, dialogs::frmSpecialIPCKey);
+  Add<frmSpecialWindowsKey>(directory, dialogs::frmSpecialWindowsKey);
+  Add<frmASCIICharacterTable>(directory, dialogs::frmASCIICharacterTable);
+  Add<frmNonStandardScancodes>(directory, dialogs::frmNonStandardScancodes);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <initializer_list>
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
 namespace {
@@ -25,7 +27,7 @@ void PlaceHeading(PictureBox& picture, const std::string& pictureName, Label& ti
 
 }  // namespace
 
-frmConfigurationDialog::frmConfigurationDialog() : Form("frmConfigurationDialog") {
+frmConfigurationDialog::frmConfigurationDialog() : Form(dialogs::frmConfigurationDialog) {
   DesignFrame();
   DesignButtonPage();
   DesignLedPage();

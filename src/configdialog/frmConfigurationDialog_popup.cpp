@@ -10,6 +10,7 @@
 #include "scancodes/element_codes.h"
 #include "scancodes/key_translation.h"
 #include "scancodes/keypad_codes.h"
+#include "services/dialogs.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 
@@ -39,7 +40,7 @@ CodeSequence KeypadEntry(const std::string& digits) {
 
 void frmConfigurationDialog::MNU_POPUP_ASCII_Click() {
   EndQuietly([this] {
-    FormDirectory::Instance().ShowModal("frmASCIICharacterTable", this);
+    FormDirectory::Instance().ShowModal(dialogs::frmASCIICharacterTable, this);
     const std::uint16_t character = Module().intAsciiResult;
     if (character == noCharacter) return;
     const std::string digits = std::to_string(character);
@@ -49,15 +50,15 @@ void frmConfigurationDialog::MNU_POPUP_ASCII_Click() {
 }
 
 void frmConfigurationDialog::MNU_SPECIALKEY_Click() {
-  EndQuietly([this] { FormDirectory::Instance().ShowModal("frmSpecialIPCKey", this); });
+  EndQuietly([this] { FormDirectory::Instance().ShowModal(dialogs::frmSpecialIPCKey, this); });
 }
 
 void frmConfigurationDialog::MNU_POPUP_WINDOWSKEY_Click() {
-  EndQuietly([this] { FormDirectory::Instance().ShowModal("frmSpecialWindowsKey", this); });
+  EndQuietly([this] { FormDirectory::Instance().ShowModal(dialogs::frmSpecialWindowsKey, this); });
 }
 
 void frmConfigurationDialog::MNU_POPUP_NONSTANDARDCODE_Click() {
-  EndQuietly([this] { FormDirectory::Instance().ShowModal("frmNonStandardScancodes", this); });
+  EndQuietly([this] { FormDirectory::Instance().ShowModal(dialogs::frmNonStandardScancodes, this); });
 }
 
 void frmConfigurationDialog::MNU_POPUP_COPY_Click() {

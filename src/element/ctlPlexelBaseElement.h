@@ -15,6 +15,8 @@
 
 namespace plexel {
 
+class FormName;
+
 /// One key, LED, or key with LED on the picture of a display unit.
 ///
 /// A property is a pair of overloads. A setter stores, then notifies the container, then acts. Sizes are pixels at zoom
@@ -202,9 +204,9 @@ class ctlPlexelBaseElement : public std::enable_shared_from_this<ctlPlexelBaseEl
   void ShowCross(bool visible);
   void SendKeyDefinition();
   /// Shows a form modal over ParentWindow.
-  void ShowForm(std::string_view form);
+  void ShowForm(FormName form);
   /// The same with mbDialogOpen set meanwhile; a form that cannot be shown is passed over.
-  void ShowDialog(std::string_view form);
+  void ShowDialog(FormName form);
   void ShowWizard();
   void ShowChosenDialog();
 

@@ -7,6 +7,7 @@
 #include "forms/form_directory.h"
 #include "platform/clean_up.h"
 #include "platform/platform.h"
+#include "services/dialogs.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
@@ -50,30 +51,29 @@ MessageAnswer AskBeforeWizard() {
 
 }  // namespace
 
-void ctlPlexelBaseElement::ShowForm(std::string_view form) {
+void ctlPlexelBaseElement::ShowForm(FormName form) {
   const std::shared_ptr<HostObject> owner = ParentWindow();
   FormDirectory::Instance().ShowModal(form, owner != nullptr ? owner->AsForm() : nullptr);
 }
 
-void ctlPlexelBaseElement::ShowDialog(std::string_view form) {
+void ctlPlexelBaseElement::ShowDialog(FormName form) {
   mbDialogOpen_ = True;
   const AtEnd closed([this] { mbDialogOpen_ = False; });
   PassOver([&] { ShowForm(form); });
 }
 
 void ctlPlexelBaseElement::ShowWizard() {
-  ShowDialog(ElementType() == Led ? "frmButtonWizardPage2" : "frmButtonWizardPage1");
+  ShowDialog(ElementType() == Led ? dialogs::frmButtonWizardPage2 : dialogs::frmButtonWizardPage1);
 }
 
 void ctlPlexelBaseElement::ShowChosenDialog() {
-  constexpr std::string_view configurationDialog = "frmConfigurationDialog";
   if (WizardOn() == False) {
-    ShowDialog(configurationDialog);
+    ShowDialog(dialogs::frmConfigurationDialog);
   } else if (WizardOptions() != ManuallyDefined || IsDefinitionEmpty()) {
     ShowWizard();
   } else {
     const MessageAnswer answer = AskBeforeWizard();
-    if (answer == MessageAnswer::Yes) ShowDialog(configurationDialog);
+    if (answer == MessageAnswer::Yes) ShowDialog(dialogs::frmConfigurationDialog);
     if (answer == MessageAnswer::No) ShowWizard();
   }
 }
@@ -93,7 +93,7 @@ void ctlPlexelBaseElement::OpenConfigurationDialog() {
 void ctlPlexelBaseElement::OpenPropertiesDialog() {
   EndQuietly([&] {
     const auto self = shared_from_this();
-    if (BecomeCurrent()) ShowForm("frmPropertiesButton");
+    if (BecomeCurrent()) ShowForm(dialogs::frmPropertiesButton);
   });
 }
 

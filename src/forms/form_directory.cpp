@@ -9,10 +9,10 @@ FormDirectory& FormDirectory::Instance() {
   return directory;
 }
 
-void FormDirectory::Add(std::string name, Maker maker) { entries_[std::move(name)].maker = std::move(maker); }
+void FormDirectory::Add(FormName name, Maker maker) { entries_[name].maker = std::move(maker); }
 
-void FormDirectory::ShowModal(std::string_view name, Window* owner) {
-  const auto found = entries_.find(name);
+void FormDirectory::ShowModal(FormName name, Window* owner) {
+  const auto found = entries_.find(std::string_view(name));
   if (found == entries_.end() || !found->second.maker)
     throw Failure(FailureKind::NoSuchMember, "no form named " + std::string(name));
   Entry& entry = found->second;
@@ -36,8 +36,8 @@ std::vector<Form*> FormDirectory::Clear() {
   return open;
 }
 
-Form* FormDirectory::Open(std::string_view name) const {
-  const auto entry = entries_.find(name);
+Form* FormDirectory::Open(FormName name) const {
+  const auto entry = entries_.find(std::string_view(name));
   return entry == entries_.end() ? nullptr : entry->second.open.get();
 }
 

@@ -4,10 +4,10 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "forms/form.h"
+#include "forms/form_name.h"
 
 namespace plexel {
 
@@ -17,14 +17,14 @@ namespace plexel {
 class FormDirectory {
  public:
   using Maker = std::function<std::unique_ptr<Form>()>;
-  void Add(std::string name, Maker maker);
+  void Add(FormName name, Maker maker);
   /// Shows the form of this name modal and returns when it has closed. Failure (NoSuchMember) for an unknown name,
   /// Failure (InvalidCall) when the form is shown already.
-  void ShowModal(std::string_view name, Window* owner);
+  void ShowModal(FormName name, Window* owner);
   /// Takes all makers away. The forms that are open stay so; it gives them.
   std::vector<Form*> Clear();
   /// The instance that is open, or null.
-  Form* Open(std::string_view name) const;
+  Form* Open(FormName name) const;
 
   static FormDirectory& Instance();
 

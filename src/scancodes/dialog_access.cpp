@@ -1,17 +1,17 @@
 #include "scancodes/dialog_access.h"
 
 #include <string>
-#include <string_view>
 
 #include "forms/form_directory.h"
 #include "platform/failure.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 
 namespace {
 
 template <typename Access>
-Access& OpenFormAs(std::string_view name) {
+Access& OpenFormAs(FormName name) {
   auto* access = dynamic_cast<Access*>(FormDirectory::Instance().Open(name));
   if (access == nullptr) throw Failure(FailureKind::ObjectNotSet, std::string(name) + " is not open");
   return *access;
@@ -20,9 +20,9 @@ Access& OpenFormAs(std::string_view name) {
 }  // namespace
 
 ConfigurationDialogAccess& OpenConfigurationDialogAccess() {
-  return OpenFormAs<ConfigurationDialogAccess>("frmConfigurationDialog");
+  return OpenFormAs<ConfigurationDialogAccess>(dialogs::frmConfigurationDialog);
 }
 
-WizardPageAccess& OpenWizardPageAccess() { return OpenFormAs<WizardPageAccess>("frmButtonWizardPage1"); }
+WizardPageAccess& OpenWizardPageAccess() { return OpenFormAs<WizardPageAccess>(dialogs::frmButtonWizardPage1); }
 
 }  // namespace plexel

@@ -1,9 +1,11 @@
 #include "scancodes/frmNonStandardScancodes.h"
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
 frmNonStandardScancodes::frmNonStandardScancodes()
-    : ListDialog({.form = "frmNonStandardScancodes",
+    : ListDialog({.form = dialogs::frmNonStandardScancodes,
                   .caption = "@10815",
                   .title = "labTitle",
                   .titleCaption = "@10816",

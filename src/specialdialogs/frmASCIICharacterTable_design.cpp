@@ -1,5 +1,7 @@
 #include "specialdialogs/frmASCIICharacterTable.h"
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
 namespace {
@@ -10,7 +12,7 @@ constexpr float margin = 240, lineHeight = 300, gridBorder = 60, buttonWidth = 1
 
 }  // namespace
 
-frmASCIICharacterTable::frmASCIICharacterTable() : Form("frmASCIICharacterTable") {
+frmASCIICharacterTable::frmASCIICharacterTable() : Form(dialogs::frmASCIICharacterTable) {
   HelpContextID(HelpTopic);
   PlaceControls();
   msgASCIICodes.RowHeight(rowHeight);

@@ -1,9 +1,11 @@
 #include "specialdialogs/frmSpecialIPCKey.h"
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
 frmSpecialIPCKey::frmSpecialIPCKey()
-    : ListDialog({.form = "frmSpecialIPCKey",
+    : ListDialog({.form = dialogs::frmSpecialIPCKey,
                   .caption = "@2009",
                   .title = "labTitel",
                   .titleCaption = "@2013",

@@ -1,9 +1,11 @@
 #include "specialdialogs/frmSpecialWindowsKey.h"
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
 frmSpecialWindowsKey::frmSpecialWindowsKey()
-    : ListDialog({.form = "frmSpecialWindowsKey",
+    : ListDialog({.form = dialogs::frmSpecialWindowsKey,
                   .caption = "@2015",
                   .title = "labTitel",
                   .titleCaption = "@2016",

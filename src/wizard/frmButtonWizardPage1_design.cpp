@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "forms/list_keys.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 
@@ -14,7 +15,7 @@ constexpr float indent = 300, optionHeight = 285, fieldHeight = 375;
 
 }  // namespace
 
-frmButtonWizardPage1::frmButtonWizardPage1() : WizardPage("frmButtonWizardPage1", "@2902", 900) {
+frmButtonWizardPage1::frmButtonWizardPage1() : WizardPage(dialogs::frmButtonWizardPage1, "@2902", 900) {
   KeyPreview(true);
   DesignKeyChoices();
   DesignButtons();

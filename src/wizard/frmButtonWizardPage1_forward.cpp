@@ -13,6 +13,7 @@
 #include "scancodes/special_functions.h"
 #include "scancodes/windows_shortcuts.h"
 #include "services/conversion.h"
+#include "services/dialogs.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
 
@@ -45,10 +46,10 @@ void frmButtonWizardPage1::cmdForward_Click() {
   Module().lngDialogTop = RoundToInt32(Top());
   const enumTactisBaseElementType type = CurrentElement().ElementType();
   if (type == Rect || type == Oval) {
-    FormDirectory::Instance().ShowModal("frmButtonWizardPage3", this);
+    FormDirectory::Instance().ShowModal(dialogs::frmButtonWizardPage3, this);
     if (CurrentElement().PressKeyDefLayer1().empty()) CurrentElement().ShowDefinedObject(False);
   } else {
-    FormDirectory::Instance().ShowModal("frmButtonWizardPage2", this);
+    FormDirectory::Instance().ShowModal(dialogs::frmButtonWizardPage2, this);
   }
   cmdForward.Enabled(true);
   if (IsTrue(Module().bWizardPageChanging)) {

@@ -5,6 +5,7 @@
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
 #include "platform/platform.h"
+#include "services/dialogs.h"
 #include "services/failure_styles.h"
 #include "services/led_functions.h"
 #include "services/module_state.h"
@@ -76,7 +77,7 @@ void frmButtonWizardPage2::cmdForward_Click() {
   } else {
     StoreNoFunction();
   }
-  FormDirectory::Instance().ShowModal("frmButtonWizardPage3", this);
+  FormDirectory::Instance().ShowModal(dialogs::frmButtonWizardPage3, this);
   cmdForward.Enabled(true);
   if (IsTrue(Module().bWizardPageChanging)) {
     Module().bWizardPageChanging = False;

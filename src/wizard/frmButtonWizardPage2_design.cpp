@@ -1,10 +1,11 @@
 #include "wizard/frmButtonWizardPage2.h"
 
 #include "forms/list_keys.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 
-frmButtonWizardPage2::frmButtonWizardPage2() : WizardPage("frmButtonWizardPage2", "@2908", 1200) {
+frmButtonWizardPage2::frmButtonWizardPage2() : WizardPage(dialogs::frmButtonWizardPage2, "@2908", 1200) {
   Design();
   UseHelpContext(2002);
   ConnectEvents();

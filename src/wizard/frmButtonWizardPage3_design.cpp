@@ -1,9 +1,11 @@
 #include "wizard/frmButtonWizardPage3.h"
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
 frmButtonWizardPage3::frmButtonWizardPage3()
-    : WizardPage("frmButtonWizardPage3", "@2909", RuleTop - DescriptionTop - Margin) {
+    : WizardPage(dialogs::frmButtonWizardPage3, "@2909", RuleTop - DescriptionTop - Margin) {
   cmdBack.Caption("@112");
   PlaceInButtonRow(cmdBack, 2);
   cmdOK.Caption("@100");

@@ -1,8 +1,10 @@
 #include "wizard/frmPropertiesButton.h"
 
+#include "services/dialogs.h"
+
 namespace plexel {
 
-frmPropertiesButton::frmPropertiesButton() : Form("frmPropertiesButton") {
+frmPropertiesButton::frmPropertiesButton() : Form(dialogs::frmPropertiesButton) {
   for (std::int32_t row = 0; row < Rows; ++row) {
     labNumberDescription.emplace_back(*this, "labNumberDescription", row);
     labHardwareNumber.emplace_back(*this, "labHardwareNumber", row);

@@ -10,6 +10,7 @@
 #include "headless/memory_bag.h"
 #include "scancodes/capture.h"
 #include "services/component_life.h"
+#include "services/dialogs.h"
 #include "world/world.h"
 
 namespace plexel {
@@ -106,7 +107,7 @@ TEST_F(ComponentEnds, WithItEndsWhatWasInForceAndWhatWasRemembered) {
   EXPECT_EQ(Module().udtSavedScanCodeInfo, udtTactisBaseElement_ScanCodeInfo());
   EXPECT_THROW(Platform::Current(), Failure);
   EXPECT_THROW(Surroundings::Current(), Failure);
-  EXPECT_THROW(FormDirectory::Instance().ShowModal("frmConfigurationDialog", nullptr), Failure);
+  EXPECT_THROW(FormDirectory::Instance().ShowModal(dialogs::frmConfigurationDialog, nullptr), Failure);
   EXPECT_EQ(element.use_count(), 1);
 }
 
@@ -124,7 +125,7 @@ TEST_F(ComponentEnds, InsideADialogItTakesTheHooksAwayAndTheDialogCloses) {
     EXPECT_FALSE(platform.Hooks().Installed(HookKind::LowLevelKeyboard));
     EXPECT_EQ(platform.Modal().Topmost(), nullptr);
   });
-  EXPECT_EQ(FormDirectory::Instance().Open("frmConfigurationDialog"), nullptr);
+  EXPECT_EQ(FormDirectory::Instance().Open(dialogs::frmConfigurationDialog), nullptr);
   EXPECT_TRUE(host.Heard().empty());
 }
 

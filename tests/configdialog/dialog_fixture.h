@@ -14,6 +14,7 @@
 #include "forms/hand.h"
 #include "headless/key_road.h"
 #include "services/code_page.h"
+#include "services/dialogs.h"
 #include "world/world.h"
 
 namespace plexel {
@@ -75,7 +76,7 @@ class ConfigurationDialog : public ::testing::Test, protected World {
   /// Shows the dialog without the element's own road to it, for kinds that this road leaves out.
   void ShowDirectly(Act act) {
     act_ = std::move(act);
-    FormDirectory::Instance().ShowModal("frmConfigurationDialog", nullptr);
+    FormDirectory::Instance().ShowModal(dialogs::frmConfigurationDialog, nullptr);
     EXPECT_TRUE(acted_) << "the dialog was not shown";
     acted_ = false;
   }

@@ -1,4 +1,5 @@
 #include "configdialog/dialog_fixture.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 
@@ -13,8 +14,8 @@ class ChildForm : public Form {
 class PopupMenu : public ConfigurationDialog {
  protected:
   PopupMenu() {
-    for (const char* name :
-         {"frmASCIICharacterTable", "frmSpecialIPCKey", "frmSpecialWindowsKey", "frmNonStandardScancodes"}) {
+    for (const FormName name : {dialogs::frmASCIICharacterTable, dialogs::frmSpecialIPCKey,
+                                dialogs::frmSpecialWindowsKey, dialogs::frmNonStandardScancodes}) {
       FormDirectory::Instance().Add(name, [name] { return std::make_unique<ChildForm>(name); });
     }
   }
@@ -38,8 +39,8 @@ TEST_F(PopupMenu, Character65IsTypedOnTheKeypadWithLeftAltHeld) {
               (std::vector<int>{0xFF, 0x11, 0x74, 0xF0, 0x74, 0x73, 0xF0, 0x73, 0xF0, 0x11, 0xFF}));
     EXPECT_EQ(dialog.msgScanCodes.Text(), "[ASCII:65" + Both + "]");
   });
-  EXPECT_EQ(shown, (std::vector<std::string>{"frmConfigurationDialog", "frmASCIICharacterTable"}));
-  EXPECT_EQ(owners[1], "frmConfigurationDialog");
+  EXPECT_EQ(shown, (std::vector<std::string>{dialogs::frmConfigurationDialog, dialogs::frmASCIICharacterTable}));
+  EXPECT_EQ(owners[1], dialogs::frmConfigurationDialog);
 }
 
 TEST_F(PopupMenu, Character9IsOneDigit) {
@@ -112,7 +113,7 @@ TEST_F(PopupMenu, ACharacterWithoutRoomLeavesCellAndBufferAsTheyWereAndTheTableC
     Pick(dialog, hand, 2, 1, dialog.MNU_POPUP_ASCII);
     EXPECT_EQ(Buffer(2, 1), CodesOfLength(40));
     EXPECT_EQ(dialog.msgScanCodes.Text(), "");
-    EXPECT_EQ(FormDirectory::Instance().Open("frmASCIICharacterTable"), nullptr);
+    EXPECT_EQ(FormDirectory::Instance().Open(dialogs::frmASCIICharacterTable), nullptr);
     EXPECT_TRUE(platform.Messages().Shown().empty());
   });
 }
@@ -145,10 +146,10 @@ TEST_F(PopupMenu, EachDialogEntryShowsItsDialogOwnedByThisOne) {
     Pick(dialog, hand, 1, 1, dialog.MNU_POPUP_WINDOWSKEY);
     Pick(dialog, hand, 1, 1, dialog.MNU_POPUP_NONSTANDARDCODE);
   });
-  EXPECT_EQ(shown, (std::vector<std::string>{"frmConfigurationDialog", "frmSpecialIPCKey", "frmSpecialWindowsKey",
-                                             "frmNonStandardScancodes"}));
-  EXPECT_EQ(owners, (std::vector<std::string>{"HostForm", "frmConfigurationDialog", "frmConfigurationDialog",
-                                              "frmConfigurationDialog"}));
+  EXPECT_EQ(shown, (std::vector<std::string>{dialogs::frmConfigurationDialog, dialogs::frmSpecialIPCKey,
+                                             dialogs::frmSpecialWindowsKey, dialogs::frmNonStandardScancodes}));
+  EXPECT_EQ(owners, (std::vector<std::string>{"HostForm", dialogs::frmConfigurationDialog,
+                                              dialogs::frmConfigurationDialog, dialogs::frmConfigurationDialog}));
 }
 
 TEST_F(PopupMenu, ADialogThatCannotBeShownIsNotSeen) {

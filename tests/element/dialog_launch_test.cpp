@@ -2,6 +2,7 @@
 
 #include "element_fixture.h"
 #include "forms/form_directory.h"
+#include "services/dialogs.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -11,8 +12,8 @@ namespace {
 class DialogLaunch : public ElementTest {
  protected:
   DialogLaunch() {
-    for (const char* name :
-         {"frmConfigurationDialog", "frmButtonWizardPage1", "frmButtonWizardPage2", "frmPropertiesButton"}) {
+    for (const FormName name : {dialogs::frmConfigurationDialog, dialogs::frmButtonWizardPage1,
+                                dialogs::frmButtonWizardPage2, dialogs::frmPropertiesButton}) {
       FormDirectory::Instance().Add(name, [name] { return std::make_unique<Form>(name); });
     }
     platform.Modal().onShown = [this](Form& form, Window* owner) {
@@ -45,7 +46,7 @@ const std::vector<std::string> definitionSent = {"SendKeyDefinition"};
 
 TEST_F(DialogLaunch, WithoutTheWizardTheConfigurationDialogOpens) {
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmConfigurationDialog"});
+  EXPECT_EQ(shown, Names{dialogs::frmConfigurationDialog});
   EXPECT_EQ(host.EventNames(), definitionSent);
 }
 
@@ -91,26 +92,26 @@ TEST_F(DialogLaunch, AnElementWithoutAKindOpensItsDialogs) {
   element->OpenConfigurationDialog();
   element->WizardOn(True);
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, (Names{"frmConfigurationDialog", "frmButtonWizardPage1"}));
+  EXPECT_EQ(shown, (Names{dialogs::frmConfigurationDialog, dialogs::frmButtonWizardPage1}));
 }
 
 TEST_F(DialogLaunch, TheWizardOfAKeyBeginsWithItsFirstPage) {
   element->WizardOn(True);
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmButtonWizardPage1"});
+  EXPECT_EQ(shown, Names{dialogs::frmButtonWizardPage1});
 }
 
 TEST_F(DialogLaunch, TheWizardOfAnLedBeginsWithItsSecondPage) {
   element->ElementType(Led);
   element->WizardOn(True);
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmButtonWizardPage2"});
+  EXPECT_EQ(shown, Names{dialogs::frmButtonWizardPage2});
 }
 
 TEST_F(DialogLaunch, AnyWizardFlagButZeroWantsTheWizard) {
   element->WizardOn(Boolean::Raw(1));
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmButtonWizardPage1"});
+  EXPECT_EQ(shown, Names{dialogs::frmButtonWizardPage1});
 }
 
 TEST_F(DialogLaunch, AKeyMadeByHandWithoutTextsOpensTheWizardUnasked) {
@@ -119,7 +120,7 @@ TEST_F(DialogLaunch, AKeyMadeByHandWithoutTextsOpensTheWizardUnasked) {
   element->LEDTypeLayer1(RunLed);
   element->OpenConfigurationDialog();
   EXPECT_TRUE(platform.Messages().Shown().empty());
-  EXPECT_EQ(shown, Names{"frmButtonWizardPage1"});
+  EXPECT_EQ(shown, Names{dialogs::frmButtonWizardPage1});
 }
 
 TEST_F(DialogLaunch, AKeyOfTheWizardWithADefinitionOpensTheWizardUnasked) {
@@ -128,7 +129,7 @@ TEST_F(DialogLaunch, AKeyOfTheWizardWithADefinitionOpensTheWizardUnasked) {
   element->PressKeyDefLayer1("[a]");
   element->OpenConfigurationDialog();
   EXPECT_TRUE(platform.Messages().Shown().empty());
-  EXPECT_EQ(shown, Names{"frmButtonWizardPage1"});
+  EXPECT_EQ(shown, Names{dialogs::frmButtonWizardPage1});
 }
 
 TEST_F(DialogLaunch, TheQuestionHasSixParagraphsAndATitle) {
@@ -149,7 +150,7 @@ TEST_F(DialogLaunch, YesOpensTheConfigurationDialog) {
   WantAQuestion();
   Answer(MessageAnswer::Yes);
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmConfigurationDialog"});
+  EXPECT_EQ(shown, Names{dialogs::frmConfigurationDialog});
   EXPECT_EQ(host.EventNames(), definitionSent);
 }
 
@@ -159,7 +160,7 @@ TEST_F(DialogLaunch, NoOpensTheWizard) {
   element->OpenConfigurationDialog();
   element->ElementType(Led);
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, (Names{"frmButtonWizardPage1", "frmButtonWizardPage2"}));
+  EXPECT_EQ(shown, (Names{dialogs::frmButtonWizardPage1, dialogs::frmButtonWizardPage2}));
 }
 
 TEST_F(DialogLaunch, CancelShowsNothingAndStillSendsTheDefinition) {
@@ -198,7 +199,7 @@ TEST_F(DialogLaunch, ASecondOpeningOfTheSameElementDoesNothing) {
     EXPECT_TRUE(host.Heard().empty());
   };
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmConfigurationDialog"});
+  EXPECT_EQ(shown, Names{dialogs::frmConfigurationDialog});
   EXPECT_EQ(Module().udtSavedScanCodeInfo.strBaseElementNotes, "before");
 }
 
@@ -214,7 +215,7 @@ TEST_F(DialogLaunch, ADialogThatCannotBeShownIsPassedOver) {
   EXPECT_EQ(host.EventNames(), definitionSent);
   platform.faults.Turn(Fault::Show, false);
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmConfigurationDialog"});
+  EXPECT_EQ(shown, Names{dialogs::frmConfigurationDialog});
 }
 
 TEST_F(DialogLaunch, TheDefinitionIsSentWhenTheDialogHasGone) {
@@ -285,7 +286,7 @@ TEST_F(DialogLaunch, AHostMayLetTheElementGoWhileItsDialogIsOpen) {
 TEST_F(DialogLaunch, ReturnOnAFocusedElementOpensItsDialog) {
   element->FocusVisible(True);
   element->UserControl_KeyPress(13);
-  EXPECT_EQ(shown, Names{"frmConfigurationDialog"});
+  EXPECT_EQ(shown, Names{dialogs::frmConfigurationDialog});
 }
 
 TEST_F(DialogLaunch, ReturnWithoutAVisibleFocusDoesNothingButTheHostStillOpensTheDialog) {
@@ -294,7 +295,7 @@ TEST_F(DialogLaunch, ReturnWithoutAVisibleFocusDoesNothingButTheHostStillOpensTh
   element->UserControl_KeyPress(13);
   EXPECT_TRUE(shown.empty());
   element->OpenConfigurationDialog();
-  EXPECT_EQ(shown, Names{"frmConfigurationDialog"});
+  EXPECT_EQ(shown, Names{dialogs::frmConfigurationDialog});
 }
 
 TEST_F(DialogLaunch, OtherKeysOpenNothing) {
@@ -312,7 +313,7 @@ TEST_F(DialogLaunch, ClicksOpenNothing) {
 TEST_F(DialogLaunch, ThePropertiesOpenForTheElementAndSendNothing) {
   element->ParentWindow(std::make_shared<HostForm>());
   element->OpenPropertiesDialog();
-  EXPECT_EQ(shown, Names{"frmPropertiesButton"});
+  EXPECT_EQ(shown, Names{dialogs::frmPropertiesButton});
   EXPECT_EQ(owners, Names{"HostForm"});
   EXPECT_EQ(Module().ctlCurrentElement, element);
   EXPECT_TRUE(host.Heard().empty());
@@ -326,7 +327,7 @@ TEST_F(DialogLaunch, ThePropertiesLeaveTheSavedRecordAndTheGuard) {
     element->OpenConfigurationDialog();
   };
   element->OpenPropertiesDialog();
-  EXPECT_EQ(shown, (Names{"frmPropertiesButton", "frmConfigurationDialog"}));
+  EXPECT_EQ(shown, (Names{dialogs::frmPropertiesButton, dialogs::frmConfigurationDialog}));
   Module().udtSavedScanCodeInfo = before;
   element->OpenPropertiesDialog();
   EXPECT_EQ(Module().udtSavedScanCodeInfo, before);
@@ -335,7 +336,7 @@ TEST_F(DialogLaunch, ThePropertiesLeaveTheSavedRecordAndTheGuard) {
 TEST_F(DialogLaunch, ThePropertiesOpenForAKeySwitchToo) {
   element->ElementType(Key);
   element->OpenPropertiesDialog();
-  EXPECT_EQ(shown, Names{"frmPropertiesButton"});
+  EXPECT_EQ(shown, Names{dialogs::frmPropertiesButton});
 }
 
 TEST_F(DialogLaunch, PropertiesThatCannotBeShownEndQuietly) {

@@ -7,6 +7,7 @@
 #include "faults/scene.h"
 #include "forms/form_directory.h"
 #include "headless/recording_host.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 namespace {
@@ -47,10 +48,8 @@ void ExpectNothingLeft(Scene& scene) {
   EXPECT_EQ(Module().lngLowLevelHook, 0);
   EXPECT_EQ(Module().bDirectInputActive, False);
   EXPECT_TRUE(scene.platform.Modal().Shown().empty());
-  for (const char* name : {"frmConfigurationDialog", "frmButtonWizardPage1", "frmButtonWizardPage2",
-                           "frmButtonWizardPage3", "frmPropertiesButton", "frmSpecialIPCKey", "frmSpecialWindowsKey",
-                           "frmASCIICharacterTable", "frmNonStandardScancodes"}) {
-    EXPECT_EQ(FormDirectory::Instance().Open(name), nullptr) << name;
+  for (const FormName name : dialogs::All) {
+    EXPECT_EQ(FormDirectory::Instance().Open(name), nullptr) << std::string_view(name);
   }
 }
 
@@ -70,8 +69,9 @@ void ExpectOpenable(Scene& scene) {
   scene.element->WizardOptions(NormalKey);
   scene.Play({Click("cmdForward"), Click("cmdForward"), Click("cmdOK")});
   Scene::Try([&] { scene.element->OpenPropertiesDialog(); });
-  EXPECT_EQ(shown, (std::vector<std::string>{"frmConfigurationDialog", "frmButtonWizardPage1", "frmButtonWizardPage2",
-                                             "frmButtonWizardPage3", "frmPropertiesButton"}));
+  EXPECT_EQ(shown, (std::vector<std::string>{dialogs::frmConfigurationDialog, dialogs::frmButtonWizardPage1,
+                                             dialogs::frmButtonWizardPage2, dialogs::frmButtonWizardPage3,
+                                             dialogs::frmPropertiesButton}));
 }
 
 class EachRoadThrown : public ::testing::TestWithParam<std::size_t> {

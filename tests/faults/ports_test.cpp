@@ -4,6 +4,7 @@
 #include <string>
 
 #include "faults/scene.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 namespace {
@@ -20,7 +21,7 @@ void ExpectHealthy(Scene& scene) {
                 again.Tap(0x42, 0x30);
               },
               Click("cmdCancel")});
-  EXPECT_EQ(shown, "frmConfigurationDialog");
+  EXPECT_EQ(shown, dialogs::frmConfigurationDialog);
   EXPECT_TRUE(scene.element->TactisBaseElementScanCodeBuffer() == before);
   EXPECT_TRUE(scene.platform.Modal().Shown().empty());
   EXPECT_EQ(Module().bDirectInputActive, False);

@@ -17,6 +17,7 @@
 #include "editor_fixture.h"
 #include "files/file_error.h"
 #include "files/language_file.h"
+#include "services/dialogs.h"
 
 namespace plexel::testing {
 namespace {
@@ -98,14 +99,14 @@ TEST_F(Editor, ReturnOpensTheConfigurationDialog) {
   std::string shown;
   ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
   Press(Qt::Key_Return);
-  EXPECT_EQ(shown, "frmConfigurationDialog");
+  EXPECT_EQ(shown, dialogs::frmConfigurationDialog);
 }
 
 TEST_F(Editor, ADoubleClickOpensTheConfigurationDialog) {
   std::string shown;
   ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
   QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
-  EXPECT_EQ(shown, "frmConfigurationDialog");
+  EXPECT_EQ(shown, dialogs::frmConfigurationDialog);
   EXPECT_TRUE(window.Log().Content().contains("F5: MouseDblClicked()"));
 }
 
@@ -114,7 +115,7 @@ TEST_F(Editor, AltReturnOpensTheProperties) {
   std::string shown;
   ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
   Press(Qt::Key_Return, Qt::AltModifier);
-  EXPECT_EQ(shown, "frmPropertiesButton");
+  EXPECT_EQ(shown, dialogs::frmPropertiesButton);
 }
 
 TEST_F(Editor, OkOfADialogMakesTheProjectModified) {

@@ -16,6 +16,7 @@
 #include "files/panel_file.h"
 #include "qt/element_face.h"
 #include "qt/panel_painter.h"
+#include "services/dialogs.h"
 #include "widgets.h"
 
 namespace plexel::testing {
@@ -135,7 +136,7 @@ TEST_F(Widgets, ReturnOpensTheDialogOverTheWindow) {
   const QSignalSpy modified(&first, &ElementWidget::ProjectModified);
   QWidget* owner = nullptr;
   ActOnNextForm([&](Hand& hand, Form& form) {
-    EXPECT_EQ(form.Name(), "frmConfigurationDialog");
+    EXPECT_EQ(form.Name(), dialogs::frmConfigurationDialog);
     owner = Topmost()->Window().parentWidget();
     Click(hand, form, "cmdOK");
   });
@@ -184,7 +185,7 @@ TEST_F(Widgets, ADoubleClickOpensADialogWhereTheHostConnectsIt) {
   ActOnNextForm([&](Hand&, Form& form) { name = form.Name(); });
   QTest::mouseDClick(&first, Qt::LeftButton);
   EXPECT_EQ(clicks.count(), 1);
-  EXPECT_EQ(name, "frmConfigurationDialog");
+  EXPECT_EQ(name, dialogs::frmConfigurationDialog);
 }
 
 TEST_F(Widgets, CaptureIsTold) {
@@ -356,7 +357,7 @@ TEST_F(Widgets, PressingAnElementFromAHelpingProgramOpensItsDialog) {
   std::string name;
   ActOnNextForm([&](Hand&, Form& form) { name = form.Name(); });
   QAccessible::queryAccessibleInterface(&first)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(name, "frmConfigurationDialog");
+  EXPECT_EQ(name, dialogs::frmConfigurationDialog);
 }
 
 TEST_F(Widgets, TheToolTipTellsTheDefinitionsUnlessTheHostSetsOne) {

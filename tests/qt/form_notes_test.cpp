@@ -4,6 +4,7 @@
 
 #include "configdialog/frmConfigurationDialog.h"
 #include "editor_fixture.h"
+#include "services/dialogs.h"
 
 namespace plexel::testing {
 namespace {
@@ -112,11 +113,11 @@ TEST_F(FormNotes, TheLastPageOfTheWizardTellsWhatTheElementHolds) {
   const auto finish = [&](const std::function<void(Hand&, Form&)>& first) {
     std::string said;
     WhileConfiguring([&](Hand& hand, Form& form) {
-      EXPECT_EQ(form.Name(), "frmButtonWizardPage1");
+      EXPECT_EQ(form.Name(), dialogs::frmButtonWizardPage1);
       EXPECT_EQ(Note(), nullptr);
       first(hand, form);
       ActOnNextForm([&](Hand& last, Form& page) {
-        EXPECT_EQ(page.Name(), "frmButtonWizardPage3");
+        EXPECT_EQ(page.Name(), dialogs::frmButtonWizardPage3);
         said = Said();
         last.Click(*page.Find("cmdOK"));
       });

@@ -9,6 +9,7 @@
 
 #include "forms/hand.h"
 #include "headless/key_road.h"
+#include "services/dialogs.h"
 #include "world/world.h"
 
 namespace plexel {
@@ -83,7 +84,7 @@ class Walker {
  private:
   /// Whether OK of this form tells the host that the project has changed.
   static bool Confirms(std::string_view form) {
-    return form == "frmConfigurationDialog" || form == "frmButtonWizardPage3";
+    return form == dialogs::frmConfigurationDialog || form == dialogs::frmButtonWizardPage3;
   }
 
   std::uint32_t Below(std::uint32_t bound) { return static_cast<std::uint32_t>(random_() % bound); }
@@ -139,7 +140,7 @@ class Walker {
   /// Leaves a form by Cancel or its close box. From the first form of a configuration that undoes everything.
   template <typename Way>
   void Leave(Form& form, Way way) {
-    const bool first = platform_.Modal().Shown().size() == 1 && form.Name() != "frmPropertiesButton";
+    const bool first = platform_.Modal().Shown().size() == 1 && form.Name() != dialogs::frmPropertiesButton;
     way();
     if (first && !form.IsShown()) undone_ = true;
   }
@@ -209,7 +210,8 @@ class Walker {
       ASSERT_EQ(own, 1);
       ASSERT_TRUE(closed && Confirms(name)) << name;
       ++okClicks_;
-    } else if (closed && first && name != "frmPropertiesButton" && (key.virtualKey == 0x1B || focus == "cmdCancel")) {
+    } else if (closed && first && name != dialogs::frmPropertiesButton &&
+               (key.virtualKey == 0x1B || focus == "cmdCancel")) {
       undone_ = true;
     }
   }

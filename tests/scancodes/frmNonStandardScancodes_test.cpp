@@ -5,6 +5,7 @@
 #include "forms/hand.h"
 #include "scancodes/memory_parameter_file.h"
 #include "scancodes/scancode_session.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 namespace {
@@ -17,7 +18,7 @@ class DialogSession : public ScanCodeSession {
   DialogSession() {
     surroundings.Settings().BasePath("C:\\Plexel");
     surroundings.ParameterFiles().Use(&file);
-    FormDirectory::Instance().Add("frmNonStandardScancodes",
+    FormDirectory::Instance().Add(dialogs::frmNonStandardScancodes,
                                   [] { return std::make_unique<frmNonStandardScancodes>(); });
   }
   void Open(const std::function<void(frmNonStandardScancodes&)>& act,
@@ -25,7 +26,7 @@ class DialogSession : public ScanCodeSession {
     InConfigurationDialog([&](StandInConfigurationDialog& dialog) {
       dialog.msgScanCodes.Text("[old]");
       if (prepare) prepare(dialog);
-      Show<frmNonStandardScancodes>("frmNonStandardScancodes", act);
+      Show<frmNonStandardScancodes>(dialogs::frmNonStandardScancodes, act);
       text = dialog.CellText(1, 1);
     });
     codes = Used(Record().strLayer1PressScanCode);

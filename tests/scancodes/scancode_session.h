@@ -12,6 +12,7 @@
 #include "scancodes/key_translation.h"
 #include "scancodes/stand_in_dialogs.h"
 #include "services/code_page.h"
+#include "services/dialogs.h"
 #include "world/world.h"
 
 namespace plexel {
@@ -30,9 +31,9 @@ class ScanCodeSession : public World {
     surroundings.Settings().Option(1, True);
     Speak();
     host.Forget();
-    FormDirectory::Instance().Add("frmConfigurationDialog",
+    FormDirectory::Instance().Add(dialogs::frmConfigurationDialog,
                                   [] { return std::make_unique<StandInConfigurationDialog>(); });
-    FormDirectory::Instance().Add("frmButtonWizardPage1", [] { return std::make_unique<StandInWizardPage>(); });
+    FormDirectory::Instance().Add(dialogs::frmButtonWizardPage1, [] { return std::make_unique<StandInWizardPage>(); });
     platform.Modal().onRun = [this](Form& form) {
       const auto act = std::move(acts_.back());
       acts_.back() = [](Form& forgotten) { forgotten.Unload(); };
@@ -44,7 +45,7 @@ class ScanCodeSession : public World {
 
   /// Shows a form, acts on it once, and closes it if the act has not.
   template <typename Dialog>
-  void Show(const std::string& name, const std::function<void(Dialog&)>& act) {
+  void Show(FormName name, const std::function<void(Dialog&)>& act) {
     acts_.emplace_back([&act](Form& form) {
       act(dynamic_cast<Dialog&>(form));
       form.Unload();
@@ -53,10 +54,10 @@ class ScanCodeSession : public World {
     acts_.pop_back();
   }
   void InConfigurationDialog(const std::function<void(StandInConfigurationDialog&)>& act) {
-    Show<StandInConfigurationDialog>("frmConfigurationDialog", act);
+    Show<StandInConfigurationDialog>(dialogs::frmConfigurationDialog, act);
   }
   void InWizard(const std::function<void(StandInWizardPage&)>& act) {
-    Show<StandInWizardPage>("frmButtonWizardPage1", act);
+    Show<StandInWizardPage>(dialogs::frmButtonWizardPage1, act);
   }
 
   udtTactisBaseElement_ScanCodeInfo Record() { return element->TactisBaseElementScanCodeBuffer(); }

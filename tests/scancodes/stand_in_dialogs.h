@@ -4,13 +4,14 @@
 
 #include "forms/form.h"
 #include "scancodes/dialog_access.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 
 /// A configuration dialog with nothing but the controls that the scan code procedures touch.
 class StandInConfigurationDialog : public Form, public ConfigurationDialogAccess {
  public:
-  StandInConfigurationDialog() : Form("frmConfigurationDialog") {
+  StandInConfigurationDialog() : Form(dialogs::frmConfigurationDialog) {
     optCodeType[0].Value(true);
     cmdFocusCatcher.TabStop(false);
   }
@@ -34,7 +35,7 @@ class StandInConfigurationDialog : public Form, public ConfigurationDialogAccess
 /// The same of the first wizard page.
 class StandInWizardPage : public Form, public WizardPageAccess {
  public:
-  StandInWizardPage() : Form("frmButtonWizardPage1") { cmdFocusCatcher.TabStop(false); }
+  StandInWizardPage() : Form(dialogs::frmButtonWizardPage1) { cmdFocusCatcher.TabStop(false); }
   TextBox& ScanCodeBox() override { return txtScanCodes; }
   OptionButton& KeyTypeOption(int index) override { return optKeyType.at(static_cast<std::size_t>(index)); }
   ComboBox& IPCFunctionBox() override { return cmdSpecialIPCFunction; }

@@ -4,6 +4,7 @@
 
 #include "forms/hand.h"
 #include "scancodes/scancode_session.h"
+#include "services/dialogs.h"
 
 namespace plexel {
 namespace {
@@ -11,10 +12,11 @@ namespace {
 class Session : public ScanCodeSession {
  public:
   Session() {
-    FormDirectory::Instance().Add("frmASCIICharacterTable", [] { return std::make_unique<frmASCIICharacterTable>(); });
+    FormDirectory::Instance().Add(dialogs::frmASCIICharacterTable,
+                                  [] { return std::make_unique<frmASCIICharacterTable>(); });
   }
   void Open(const std::function<void(frmASCIICharacterTable&, Hand&)>& act) {
-    Show<frmASCIICharacterTable>("frmASCIICharacterTable", [&](frmASCIICharacterTable& table) {
+    Show<frmASCIICharacterTable>(dialogs::frmASCIICharacterTable, [&](frmASCIICharacterTable& table) {
       Hand hand(table);
       act(table, hand);
     });

@@ -4,6 +4,7 @@
 
 #include "scancodes/code_type.h"
 #include "scancodes/element_codes.h"
+#include "services/dialogs.h"
 #include "specialdialogs/special_dialog_session.h"
 
 namespace plexel {
@@ -13,7 +14,7 @@ using Items = std::vector<std::string>;
 
 class Session : public SpecialDialogSession<frmSpecialIPCKey> {
  public:
-  explicit Session(bool offerAll = true) : SpecialDialogSession("frmSpecialIPCKey") {
+  explicit Session(bool offerAll = true) : SpecialDialogSession(dialogs::frmSpecialIPCKey) {
     if (!offerAll) return;
     for (int query = 0; query < CapabilityCount; ++query) {
       surroundings.Capabilities().Set("PANEL", static_cast<Capability>(query), 1);

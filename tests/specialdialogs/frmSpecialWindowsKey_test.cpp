@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "services/dialogs.h"
 #include "specialdialogs/special_dialog_session.h"
 
 namespace plexel {
@@ -9,7 +10,7 @@ namespace {
 
 class Session : public SpecialDialogSession<frmSpecialWindowsKey> {
  public:
-  Session() : SpecialDialogSession("frmSpecialWindowsKey") {}
+  Session() : SpecialDialogSession(dialogs::frmSpecialWindowsKey) {}
 };
 
 TEST(SpecialWindowsKey, AllShortCutsStandInTheListInTheirOrder) {
@@ -77,7 +78,7 @@ TEST(SpecialWindowsKey, MakeOnPressAndBreakOnReleaseLeaveTheRowBalanced) {
   Session session;
   session.InConfigurationDialog([&](StandInConfigurationDialog& dialog) {
     const auto take = [&] {
-      session.Show<frmSpecialWindowsKey>("frmSpecialWindowsKey",
+      session.Show<frmSpecialWindowsKey>(dialogs::frmSpecialWindowsKey,
                                          [](frmSpecialWindowsKey& special) { Hand(special).Click(special.cmdOK); });
     };
     dialog.optCodeType[1].Value(true);

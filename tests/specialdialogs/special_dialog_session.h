@@ -16,7 +16,7 @@ class SpecialDialogSession : public ScanCodeSession {
   using Act = std::function<void(Dialog&)>;
   using Prepare = std::function<void(StandInConfigurationDialog&)>;
 
-  explicit SpecialDialogSession(std::string name) : name_(std::move(name)) {
+  explicit SpecialDialogSession(FormName name) : name_(name) {
     FormDirectory::Instance().Add(name_, [] { return std::make_unique<Dialog>(); });
   }
 
@@ -46,7 +46,7 @@ class SpecialDialogSession : public ScanCodeSession {
   std::string codes;  ///< of the press buffer of layer 1
 
  private:
-  std::string name_;
+  FormName name_;
 };
 
 }  // namespace plexel

@@ -1,4 +1,5 @@
 #include "platform/failure.h"
+#include "services/dialogs.h"
 #include "wizard/frmButtonWizardPage1.h"
 #include "wizard/wizard_session.h"
 
@@ -156,7 +157,7 @@ TEST(WizardFailures, ANextPageThatCannotBeShownReachesTheCallerOfForwardOnPage1)
   session.Click("optKeyType(3)").Then([&] { session.platform.faults.Turn(Fault::Show, true); });
   session.ClickFails("cmdForward");
   Look(session, [&] {
-    EXPECT_EQ(session.Top().Name(), "frmButtonWizardPage1");
+    EXPECT_EQ(session.Top().Name(), dialogs::frmButtonWizardPage1);
     EXPECT_FALSE(session.Get<Control>("cmdForward").Enabled());
     EXPECT_EQ(session.element->PressKeyDefLayer1(), "[text 2610‹]");
   });
@@ -209,7 +210,7 @@ TEST(WizardFailures, AFailingHandlerOfProjectModifiedReachesTheCallerOfOkAndTheP
   session.platform.faults.Turn(Fault::HandlerProjectModified, true);
   session.Click("cmdForward").ClickFails("cmdOK");
   session.Then([&] {
-    EXPECT_EQ(session.Top().Name(), "frmButtonWizardPage3");
+    EXPECT_EQ(session.Top().Name(), dialogs::frmButtonWizardPage3);
     EXPECT_FALSE(session.Get<Control>("cmdOK").Enabled());
     EXPECT_EQ(session.Stored("ConfigDialogTop"), "none");
   });
@@ -307,14 +308,14 @@ TEST(WizardFailures, AHelpViewerThatFailsIsNotReported) {
   session.platform.faults.Turn(Fault::Help, true);
   session.Click("labLimitations").Click("cmdCancel");
   session.Open();
-  EXPECT_EQ(session.closed, Names{"frmButtonWizardPage1"});
+  EXPECT_EQ(session.closed, Names{dialogs::frmButtonWizardPage1});
 }
 
 TEST(WizardFailures, AHookThatCannotBeRemovedDoesNotKeepPage1Open) {
   WizardSession session(Rect);
   session.DblClick("txtScanCodes").Then([&] { session.platform.faults.Turn(Fault::Unhook, true); }).Close();
   session.Open();
-  EXPECT_EQ(session.closed, Names{"frmButtonWizardPage1"});
+  EXPECT_EQ(session.closed, Names{dialogs::frmButtonWizardPage1});
   EXPECT_EQ(Module().bDirectInputActive, False);
 }
 

@@ -1,3 +1,4 @@
+#include "services/dialogs.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {
@@ -41,7 +42,7 @@ TEST(WizardFinishPage, OkAfterBackAndForwardRaisesProjectModifiedOnce) {
 TEST(WizardFinishPage, BackOfARectReturnsToPage1Directly) {
   WizardSession session(Rect);
   session.Click("cmdForward").Click("cmdBack");
-  session.Then([&] { EXPECT_EQ(session.Top().Name(), "frmButtonWizardPage1"); }).Click("cmdCancel");
+  session.Then([&] { EXPECT_EQ(session.Top().Name(), dialogs::frmButtonWizardPage1); }).Click("cmdCancel");
   session.Open();
 }
 

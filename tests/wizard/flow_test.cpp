@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "forms/form_directory.h"
+#include "services/dialogs.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {
@@ -29,14 +30,14 @@ Names NamesOf(const Names& shown) {
 TEST(WizardFlow, ALedGoesThroughPages2And3) {
   WizardSession session(Led);
   GoThrough(session, 1);
-  EXPECT_EQ(NamesOf(session.shown), (Names{"frmButtonWizardPage2", "frmButtonWizardPage3"}));
+  EXPECT_EQ(NamesOf(session.shown), (Names{dialogs::frmButtonWizardPage2, dialogs::frmButtonWizardPage3}));
 }
 
 TEST(WizardFlow, KeysWithoutLedGoThroughPages1And3) {
   for (const enumTactisBaseElementType type : {Oval, Rect}) {
     WizardSession session(type);
     GoThrough(session, 1);
-    EXPECT_EQ(NamesOf(session.shown), (Names{"frmButtonWizardPage1", "frmButtonWizardPage3"})) << type;
+    EXPECT_EQ(NamesOf(session.shown), (Names{dialogs::frmButtonWizardPage1, dialogs::frmButtonWizardPage3})) << type;
   }
 }
 
@@ -44,7 +45,8 @@ TEST(WizardFlow, KeysWithLedGoThroughAllPages) {
   for (const enumTactisBaseElementType type : {OvalLed, RectLed}) {
     WizardSession session(type);
     GoThrough(session, 2);
-    EXPECT_EQ(NamesOf(session.shown), (Names{"frmButtonWizardPage1", "frmButtonWizardPage2", "frmButtonWizardPage3"}))
+    EXPECT_EQ(NamesOf(session.shown),
+              (Names{dialogs::frmButtonWizardPage1, dialogs::frmButtonWizardPage2, dialogs::frmButtonWizardPage3}))
         << type;
   }
 }
@@ -100,7 +102,7 @@ TEST(WizardFlow, LedFunctionsOfPage2StayInTheElementWhilePage1IsShowingAgain) {
   session.Click("cmdForward").Select("cmbLEDTypes", Text(10403)).Click("cmdForward");
   session.Click("cmdBack").Click("cmdBack");
   session.Then([&] {
-    EXPECT_EQ(session.Top().Name(), "frmButtonWizardPage1");
+    EXPECT_EQ(session.Top().Name(), dialogs::frmButtonWizardPage1);
     EXPECT_EQ(session.element->LEDTypeLayer1(), PowerLed);
     Hand(session.Top()).Click(session.Get<Control>("cmdCancel"));
   });
@@ -130,7 +132,7 @@ TEST(WizardFlow, PageChangingLeftTrueByALedElementIsClearedByTheNextWayOutOfPage
   session.Click("cmdForward").Click("cmdCancel");
   session.Open();
   EXPECT_EQ(Module().bWizardPageChanging, False);
-  EXPECT_EQ(session.closed, (Names{"frmButtonWizardPage3", "frmButtonWizardPage2"}));
+  EXPECT_EQ(session.closed, (Names{dialogs::frmButtonWizardPage3, dialogs::frmButtonWizardPage2}));
 }
 
 TEST(WizardFlow, ALedElementOfAFreshProcessOpensAtTheOrigin) {
@@ -190,8 +192,9 @@ TEST(WizardFlow, ForwardIsDisabledWhileTheNextPageIsShown) {
   Form* first = nullptr;
   session.Then([&] { first = &session.Top(); }).Click("cmdForward");
   session.Then([&] { EXPECT_FALSE(first->Find("cmdForward")->Enabled()); }).Click("cmdForward");
-  session.Then(
-      [&] { EXPECT_FALSE(FormDirectory::Instance().Open("frmButtonWizardPage2")->Find("cmdForward")->Enabled()); });
+  session.Then([&] {
+    EXPECT_FALSE(FormDirectory::Instance().Open(dialogs::frmButtonWizardPage2)->Find("cmdForward")->Enabled());
+  });
   session.Click("cmdBack").Then([&] { EXPECT_TRUE(session.Get<Control>("cmdForward").Enabled()); });
   session.Click("cmdBack").Then([&] { EXPECT_TRUE(session.Get<Control>("cmdForward").Enabled()); });
   session.Click("cmdCancel");

@@ -1,3 +1,4 @@
+#include "services/dialogs.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {
@@ -253,7 +254,7 @@ TEST(WizardLedPage, ReturnInTheListPressesForward) {
   WizardSession session(Led);
   session.Grant(Capability::HasPowerLed);
   session.Then([&] { Hand(session.Top()).Focus(session.Get<Control>("cmbLEDTypes")); }).KeyDown(key::Return);
-  session.Then([&] { EXPECT_EQ(session.Top().Name(), "frmButtonWizardPage3"); }).Click("cmdCancel");
+  session.Then([&] { EXPECT_EQ(session.Top().Name(), dialogs::frmButtonWizardPage3); }).Click("cmdCancel");
   session.Open();
 }
 

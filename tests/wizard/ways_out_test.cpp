@@ -1,11 +1,12 @@
+#include "services/dialogs.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {
 
 namespace {
 
-constexpr std::string_view page1 = "frmButtonWizardPage1", page2 = "frmButtonWizardPage2",
-                           page3 = "frmButtonWizardPage3";
+constexpr FormName page1 = dialogs::frmButtonWizardPage1, page2 = dialogs::frmButtonWizardPage2,
+                   page3 = dialogs::frmButtonWizardPage3;
 
 /// What one way out of a page did.
 struct Outcome {

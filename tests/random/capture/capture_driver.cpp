@@ -11,6 +11,7 @@
 
 #include "scancodes/dialog_access.h"
 #include "scancodes/keyboard_hook.h"
+#include "services/dialogs.h"
 #include "world/world.h"
 
 namespace {
@@ -156,7 +157,7 @@ int main(int count, char** words) {
   const auto element = world.component.Create("F1", world.host);
   element->ElementType(Oval);
   platform.Modal().onRun = [&](Form& form) {
-    const bool wizard = form.Name() != "frmConfigurationDialog";
+    const bool wizard = form.Name() != dialogs::frmConfigurationDialog;
     PlayStreams(wizard ? 2 : 0, wizard ? streams / 2 : 0, wizard ? streams : streams / 2, seed, *element, platform);
     form.Unload();
   };
