@@ -10,7 +10,7 @@ using ConfigurationDialogLoading = ConfigurationDialog;
 
 struct TypeCase {
   enumTactisBaseElementType type;
-  const char* caption;
+  std::string caption;
   bool page0, page1;
   int front;
 };
