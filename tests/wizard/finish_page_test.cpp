@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "services/dialogs.h"
 #include "wizard/wizard_session.h"
 
@@ -47,15 +49,12 @@ TEST(WizardFinishPage, BackOfARectReturnsToPage1Directly) {
 }
 
 TEST(WizardFinishPage, ReturnIsOkAndEscapeIsCancel) {
-  WizardSession ok(Rect);
-  ok.Click("cmdForward").KeyDown(key::Return);
-  ok.Open();
-  EXPECT_EQ(ok.host.Count("ProjectModified"), 1);
-
-  WizardSession cancelled(Rect);
-  cancelled.Click("cmdForward").KeyDown(key::Escape);
-  cancelled.Open();
-  EXPECT_EQ(cancelled.host.Count("ProjectModified"), 0);
+  for (const auto& [key, modified] : {std::pair{key::Return, 1}, {key::Escape, 0}}) {
+    WizardSession session(Rect);
+    session.Click("cmdForward").KeyDown(key);
+    session.Open();
+    EXPECT_EQ(session.host.Count("ProjectModified"), modified);
+  }
 }
 
 TEST(WizardFinishPage, NothingOfTheElementChangesWhileItStands) {

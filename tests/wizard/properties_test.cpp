@@ -75,9 +75,11 @@ TEST(PropertiesDialog, HalvesAreRoundedToTheEvenNeighbour) {
   };
   for (const Row& row : {Row{5, "2"}, Row{7, "4"}, Row{6, "3"}, Row{0, "0"}, Row{-1, "0"}, Row{-3, "-2"}, Row{1, "0"},
                          Row{2147483647, "1073741824"}, Row{-2147483647 - 1, "-1073741824"}}) {
-    WizardSession led(Led);
-    led.element->HardwareNumberLed(row.number);
-    EXPECT_EQ(Read(led).rows, Names{std::string("0 text 10863 ") + row.shown}) << row.number;
+    {
+      WizardSession led(Led);
+      led.element->HardwareNumberLed(row.number);
+      EXPECT_EQ(Read(led).rows, Names{std::string("0 text 10863 ") + row.shown}) << row.number;
+    }
     WizardSession both(OvalLed);
     both.element->HardwareNumberLed(row.number);
     EXPECT_EQ(Read(both).rows.at(1), std::string("1 text 2504 ") + row.shown) << row.number;
