@@ -113,7 +113,11 @@ ButtonView::ButtonView(CommandButton& model, QWidget& parent, UserActs& acts)
 void ButtonView::SyncMore() {
   const QString caption = WithLetter(model_.Caption());
   if (button_->text() != caption) button_->setText(caption);
-  if (button_->isDefault() != model_.Default()) button_->setDefault(model_.Default());
+  // The mark stands on the button that Return presses: a button with the focus takes it from the default one.
+  const Control* const focus = model_.Owner().Focus();
+  const bool elsewhere = focus != nullptr && focus != &model_ && focus->Kind() == ControlKind::CommandButton;
+  const bool marked = model_.Default() && !elsewhere;
+  if (button_->isDefault() != marked) button_->setDefault(marked);
   if (picture_ == model_.Picture()) return;
   picture_ = model_.Picture();
   constexpr int Margin = 8;

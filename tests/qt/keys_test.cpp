@@ -1,6 +1,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QWindow>
 
 #include "services/module_state.h"
@@ -212,6 +213,20 @@ TEST_F(QtKeys, EscapeWithoutACancelButtonLeavesTheDialogOpen) {
     Press(view, Qt::Key_Escape);
     EXPECT_TRUE(form.IsShown());
     EXPECT_TRUE(view.Window().isVisible());
+  });
+}
+
+TEST_F(QtKeys, TheMarkOfTheDefaultButtonGoesWithTheButtonThatReturnPresses) {
+  form.ok.Default(true);
+  WhileShown([&](FormView& view) {
+    const auto markedWith = [&](Control& focus) {
+      focus.SetFocus();
+      platform.Modal().SyncAll();
+      return WidgetOf<QPushButton>(view, form.ok).isDefault();
+    };
+    EXPECT_TRUE(markedWith(form.line));
+    EXPECT_FALSE(markedWith(form.cancel));
+    EXPECT_TRUE(markedWith(form.ok));
   });
 }
 
