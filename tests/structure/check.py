@@ -177,27 +177,27 @@ def flags_of(command):
     return flags
 
 
-def flags_by_room(root, build):
+def flags_by_folder(root, build):
     with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
         commands = json.load(file)
     flags = {}
     for entry in commands:
-        room = room_of(os.path.relpath(os.path.join(entry["directory"], entry["file"]), root))
-        if room is not None:
-            flags.setdefault(room.name, flags_of(entry["command"]))
+        file = os.path.relpath(os.path.join(entry["directory"], entry["file"]), root)
+        if room_of(file) is not None:
+            flags.setdefault(os.path.dirname(file), flags_of(entry["command"]))
     return flags
 
 
 def check_headers_alone(tree, build, problems):
-    """Returns the number of headers that were compiled. Rooms that the build leaves out are left out."""
-    flags = flags_by_room(tree.root, build)
-    headers = [file for file in tree.shipped() if file.endswith(".h") and room_of(file) and room_of(file).name in flags]
+    """Returns the number of headers that were compiled. Folders that the build leaves out are left out."""
+    flags = flags_by_folder(tree.root, build)
+    headers = [file for file in tree.shipped() if file.endswith(".h") and os.path.dirname(file) in flags]
 
     def compile_alone(folder, header):
         unit = os.path.join(folder, header.replace("/", "_") + ".cpp")
         with open(unit, "w", encoding="utf-8") as file:
             file.write('#include "%s"\n' % header.split("/", 1)[1])
-        return subprocess.run(flags[room_of(header).name] + ["-fsyntax-only", unit], capture_output=True, text=True,
+        return subprocess.run(flags[os.path.dirname(header)] + ["-fsyntax-only", unit], capture_output=True, text=True,
                               check=False)
 
     with tempfile.TemporaryDirectory() as folder, ThreadPool(os.cpu_count()) as pool:

@@ -172,6 +172,13 @@ class HeadersAlone(Trees):
         self.build("adapters/files/a.cpp", "-std=c++20 -DPLACE=1")
         self.assertEqual(self.compiled(), (1, []))
 
+    def test_of_a_folder_that_the_build_leaves_out_are_left_out(self):
+        self.write("adapters/qt/a.h", "#pragma once\n")
+        self.write("adapters/qt/designer/b.h", "#pragma once\n#include <QDesigner>\n")
+        self.build("adapters/qt/a.cpp", "-std=c++20")
+        self.assertEqual(self.compiled(), (1, []))
+
+
 
 if __name__ == "__main__":
     COMPILER = sys.argv.pop(1)
