@@ -203,7 +203,7 @@ TEST_F(ConfigurationDialogLoading, NoteAndCharactersLeftShowAfterLoading) {
   element->ButtonNotes("abc");
   Open([](frmConfigurationDialog& dialog, Hand&) {
     EXPECT_EQ(dialog.txtButtonNotes.Text(), "abc");
-    EXPECT_EQ(dialog.StatusBar1.SimpleText(), "T2109997");
+    EXPECT_EQ(dialog.StatusBar1.SimpleText(), Text(2109) + "997");
   });
 }
 
@@ -217,7 +217,7 @@ TEST_F(ConfigurationDialogLoading, ANoteOfExactly1000CharactersLeavesZero) {
 TEST_F(ConfigurationDialogLoading, CharactersLeftCountCharactersAndNotBytes) {
   Open([](frmConfigurationDialog& dialog, Hand&) {
     dialog.txtButtonNotes.Text("äöü");
-    EXPECT_EQ(dialog.StatusBar1.SimpleText(), "T2109997");
+    EXPECT_EQ(dialog.StatusBar1.SimpleText(), Text(2109) + "997");
   });
 }
 
