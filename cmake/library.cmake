@@ -41,6 +41,7 @@ function(plexel_library target)
   endif()
   target_compile_features(${target} PUBLIC cxx_std_20)
   list(TRANSFORM library_HEADERS PREPEND "${library_BASE}/")
+  set_property(GLOBAL APPEND PROPERTY PLEXEL_PUBLIC_HEADERS ${library_HEADERS})
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS "${library_BASE}" FILES ${library_HEADERS})
   target_include_directories(${target} INTERFACE $<INSTALL_INTERFACE:${PLEXEL_INCLUDE_DESTINATION}>)
 

@@ -14,6 +14,7 @@ class FileError : public std::runtime_error {
   /// Lines count from 1; 0 stands for the file as a whole.
   FileError(const std::filesystem::path& file, std::size_t line, const std::string& reason);
 
+  /// The file, the line from 1 or 0, and the reason alone.
   const std::filesystem::path& File() const { return file_; }
   std::size_t Line() const { return line_; }
   const std::string& Reason() const { return reason_; }

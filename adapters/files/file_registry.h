@@ -29,6 +29,7 @@ class FileRegistry : public Registry {
   const std::string* Find(std::string_view name) const;
   /// What is wrong with the file, until overwriting is allowed.
   const std::optional<FileError>& Problem() const { return problem_; }
+  /// Lets the damaged file be written anew.
   void AllowOverwriting() { problem_.reset(); }
 
  private:

@@ -28,6 +28,7 @@ class FileSettings : public SettingsService {
   void GetParameter(std::int32_t number, std::string& text) override;
   void GetWindowPosition(std::int32_t number, std::string& text) override;
 
+  /// The name of the language.
   const std::string& Language() const { return language_; }
   void Language(const std::string& name) { language_ = name; }
   /// A setting by its row of the table.

@@ -26,6 +26,7 @@ class FileSurroundings : public Surroundings {
   FileSettings& Settings() override { return settings_; }
   FileCapabilities& Capabilities() override { return capabilities_; }
   FileParameterReader& ParameterFiles() override { return parameterFiles_; }
+  /// The registry, for the platform.
   FileRegistry& UserRegistry() { return registry_; }
   /// Why the language that the settings name was not to be had at the start and English stands in for it.
   const std::optional<FileError>& LanguageProblem() const { return languageProblem_; }

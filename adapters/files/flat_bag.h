@@ -28,6 +28,7 @@ class FlatBag : public PropertyBag {
   /// Lets go of every value and keeps the room.
   void Clear();
 
+  /// The number of values.
   std::size_t Size() const { return known_.size() + other_.size(); }
   /// Calls `visitOwn(key, value)` for the keys of properties in the order in which they were first stored, then
   /// `visitOther(key, value)` for all others.

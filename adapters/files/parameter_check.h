@@ -10,6 +10,7 @@ namespace plexel {
 /// Something in a file of named code sequences that the dialog would silently drop, shorten or misread.
 struct Finding {
   std::size_t line = 0;  ///< from 1
+  /// What is wrong, in English.
   std::string text;
   bool operator==(const Finding&) const = default;
 };

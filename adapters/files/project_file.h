@@ -15,7 +15,9 @@ class TextFile;
 
 /// One code buffer of an element's record. The buffers are numbered press before release, layer by layer, from 0 to 7.
 struct SavedCodes {
+  /// The number of the buffer.
   std::int32_t buffer = 0;
+  /// Its codes.
   udtTactisBaseElement_TACTIS_SCANCODE codes;
   bool operator==(const SavedCodes&) const = default;
 };
@@ -28,8 +30,10 @@ struct ProjectElement {
   bool operator==(const ProjectElement&) const = default;
 };
 
+/// A project as its file keeps it.
 struct Project {
   std::string panel;  ///< name of the panel
+  /// The elements in the order of the file.
   std::vector<ProjectElement> elements;
   bool operator==(const Project&) const = default;
 };

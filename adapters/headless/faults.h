@@ -39,8 +39,11 @@ enum class Fault : std::uint8_t {
   Container
 };
 
+/// A fault and its name.
 struct FaultRow {
+  /// The fault.
   Fault fault;
+  /// Its name in scripts.
   std::string_view name;
 };
 
@@ -75,13 +78,16 @@ static_assert(InOrderOfValues(FaultTable, &FaultRow::fault));
 /// Which of them fail: all the time while turned on, or once on their n-th call. Names are those of the table.
 class Faults {
  public:
+  /// The fault of a name, nothing for an unknown one.
   static std::optional<Fault> Named(std::string_view name);
 
+  /// Makes a thing fail all the time, or no more.
   void Turn(Fault fault, bool on) { At(fault).on = on; }
   /// Fails on the n-th call from now (1 is the next one), once; 0 disarms.
   void Arm(Fault fault, std::int64_t call);
   /// std::invalid_argument for an unknown name.
   void Turn(std::string_view name, bool on);
+  /// std::invalid_argument for an unknown name.
   void Arm(std::string_view name, std::int64_t call);
 
   /// What a call that is to fail throws in place of its own way to fail; an empty function gives that back.

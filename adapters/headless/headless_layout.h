@@ -12,6 +12,7 @@ namespace plexel {
 /// A keyboard layout given from outside, with answers of its own for single keys. Without one it is a SampleLayout.
 class HeadlessLayout : public KeyboardLayout {
  public:
+  /// The faults outlive it.
   explicit HeadlessLayout(Faults& faults) : faults_(faults) {}
   Handle Current() override;
   std::int32_t ToUnicode(std::int32_t virtualKey, std::int32_t scanCode, char16_t* text, std::int32_t capacity,

@@ -13,11 +13,14 @@ namespace plexel {
 /// the box has it.
 class HeadlessMessageBoxes : public MessageBoxes {
  public:
+  /// What a box said.
   struct Message {
+    /// The text, the style and the title.
     std::string prompt;
     std::int32_t style = 0;
     std::string title;
   };
+  /// The faults outlive it.
   explicit HeadlessMessageBoxes(Faults& faults) : faults_(faults) {}
   MessageAnswer Show(std::string_view prompt, std::int32_t style, std::string_view title) override;
 
@@ -25,8 +28,10 @@ class HeadlessMessageBoxes : public MessageBoxes {
   static const std::vector<MessageAnswer>& Buttons(std::int32_t style);
   /// What the close box of a message box stands for.
   static MessageAnswer Dismissal(std::int32_t style) { return Buttons(style).back(); }
+  /// The messages so far.
   const std::vector<Message>& Shown() const { return shown_; }
 
+  /// Gives the answer to a box.
   std::function<MessageAnswer(const std::string& prompt, std::int32_t style, const std::string& title)> onShow;
 
  private:

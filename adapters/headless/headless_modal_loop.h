@@ -16,6 +16,7 @@ class HeadlessModalLoop : public ModalLoop {
   /// Rounds after which a form that is still shown is taken for forgotten.
   static constexpr int IdleRounds = 1000;
 
+  /// The faults outlive it.
   explicit HeadlessModalLoop(Faults& faults) : faults_(faults) {}
   void Prepare(Form& form) override;
   /// std::logic_error when nobody closes the form.
@@ -25,11 +26,16 @@ class HeadlessModalLoop : public ModalLoop {
 
   /// The forms that are shown, the topmost last.
   const std::vector<Form*>& Shown() const { return shown_; }
+  /// The form in front, null for none.
   Form* Topmost() const { return shown_.empty() ? nullptr : shown_.back(); }
 
+  /// Acts for the user.
   std::function<void(Form& form)> onRun;
+  /// Hears of a form that is shown, has closed, or opens a popup menu.
   std::function<void(Form& form, Window* owner)> onShown;
+  /// Hears of a form that has closed.
   std::function<void(Form& form)> onClosed;
+  /// Hears of a popup menu, which stays open.
   std::function<void(Form& form, MenuItem& menu, bool placed, float x, float y)> onPopup;
 
  private:

@@ -16,6 +16,7 @@ namespace plexel {
 /// made to fail through `faults`.
 class HeadlessPlatform : public Platform {
  public:
+  /// Nothing fails, no key is down, nothing is stored.
   HeadlessPlatform();
   HeadlessHooks& Hooks() override { return hooks_; }
   HeadlessKeys& Keys() override { return keys_; }
@@ -28,6 +29,7 @@ class HeadlessPlatform : public Platform {
   HeadlessMessageBoxes& Messages() override { return messages_; }
   HeadlessEvents& Events() override { return events_; }
 
+  /// What is to fail.
   Faults faults;
 
  private:

@@ -15,12 +15,15 @@ namespace plexel {
 /// Language texts from a source that is asked at the first question, with single texts set over it.
 class HeadlessLanguage : public LanguageService {
  public:
+  /// Texts by number.
   using Texts = std::map<std::int32_t, std::string>;
+  /// The faults outlive it.
   explicit HeadlessLanguage(Faults& faults) : faults_(faults) {}
   void GetText(std::int32_t number, std::string& text) override;
 
   /// The source of the texts; single texts stay set.
   void Source(std::function<Texts()> source);
+  /// Sets a single text.
   void Set(std::int32_t number, std::string text) { set_[number] = std::move(text); }
 
  private:
@@ -33,6 +36,7 @@ class HeadlessLanguage : public LanguageService {
 /// what was set, else from the registry, else from the defaults.
 class HeadlessSettings : public SettingsService {
  public:
+  /// The faults and the registry outlive it.
   HeadlessSettings(Faults& faults, const MemoryRegistry& registry);
   void GetBasePath(std::string& text) override;
   void GetLanguageName(std::string& text) override;
@@ -40,6 +44,7 @@ class HeadlessSettings : public SettingsService {
   void GetParameter(std::int32_t number, std::string& text) override;
   void GetWindowPosition(std::int32_t number, std::string& text) override;
 
+  /// Sets an answer. Options are false and positions those of the registry or the defaults until they are set.
   void BasePath(std::string value) { basePath_ = std::move(value); }
   void LanguageName(std::string value) { languageName_ = std::move(value); }
   void Option(std::int32_t number, Boolean value) { options_[number] = value; }
@@ -59,8 +64,10 @@ class HeadlessSettings : public SettingsService {
 /// own. 0 unless set.
 class HeadlessCapabilities : public CapabilityService {
  public:
+  /// The faults outlive it.
   explicit HeadlessCapabilities(Faults& faults) : faults_(faults) {}
   std::int32_t Ask(Capability query, std::string_view targetSystem) override;
+  /// Sets an answer.
   void Set(std::string target, Capability query, std::int32_t value) { answers_[{std::move(target), query}] = value; }
 
  private:
@@ -71,6 +78,7 @@ class HeadlessCapabilities : public CapabilityService {
 /// A parameter file reader given from outside; without one every entry is missing.
 class HeadlessParameterFiles : public ParameterFileReader {
  public:
+  /// The faults outlive it.
   explicit HeadlessParameterFiles(Faults& faults) : faults_(faults) {}
   void SetDelimiter(std::string_view delimiter) override;
   void ReadEntry(std::string_view file, std::string_view section, std::string_view name, std::string& value,

@@ -13,6 +13,7 @@ namespace plexel {
 /// A screen of settable measures.
 class HeadlessScreen : public Screen {
  public:
+  /// The faults outlive it.
   explicit HeadlessScreen(Faults& faults) : faults_(faults) {}
   float TwipsPerPixelX() override;
   float TwipsPerPixelY() override;
@@ -20,8 +21,11 @@ class HeadlessScreen : public Screen {
   std::int32_t DeviceCapability(std::intptr_t context, std::int32_t index) override;
   void DeleteContext(std::intptr_t context) override;
 
+  /// Sets the twips of a pixel; 15 at first.
   void TwipsPerPixel(float x, float y);
+  /// Sets the logical pixels of an inch; 96 at first.
   void LogicalPixels(std::int32_t dpi) { dpi_ = dpi; }
+  /// How many contexts have not been deleted.
   int OpenContexts() const { return openContexts_; }
 
  private:
@@ -34,9 +38,11 @@ class HeadlessScreen : public Screen {
 /// An operating system of a settable platform id.
 class HeadlessVersion : public OsVersion {
  public:
+  /// The faults outlive it.
   explicit HeadlessVersion(Faults& faults) : faults_(faults) {}
   /// Fills the record when its size is the one that the system knows.
   void Get(OsVersionRecord& record) override;
+  /// Sets the kind of system; 2 at first.
   void PlatformId(std::int32_t value) { platformId_ = value; }
 
  private:
@@ -47,14 +53,19 @@ class HeadlessVersion : public OsVersion {
 /// Keeps what it was asked to show.
 class HeadlessHelp : public HelpViewer {
  public:
+  /// What was asked.
   struct Topic {
+    /// The arguments of Show.
     std::intptr_t owner = 0;
     std::string file;
     std::int32_t command = 0, topic = 0;
   };
+  /// The faults outlive it.
   explicit HeadlessHelp(Faults& faults) : faults_(faults) {}
   void Show(std::intptr_t owner, std::string_view file, std::int32_t command, std::int32_t topic) override;
+  /// The topics so far.
   const std::vector<Topic>& Shown() const { return shown_; }
+  /// Hears of a topic.
   std::function<void(const Topic&)> onShow;
 
  private:
@@ -65,8 +76,10 @@ class HeadlessHelp : public HelpViewer {
 /// Counts how often waiting events were handled.
 class HeadlessEvents : public EventPump {
  public:
+  /// The faults outlive it.
   explicit HeadlessEvents(Faults& faults) : faults_(faults) {}
   void DoEvents() override;
+  /// How often so far.
   std::int64_t Rounds() const { return rounds_; }
 
  private:

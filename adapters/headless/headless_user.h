@@ -18,10 +18,13 @@ class HeadlessPlatform;
 /// control of the wanted kind has.
 class HeadlessUser {
  public:
+  /// The platform outlives the user.
   explicit HeadlessUser(HeadlessPlatform& platform) : platform_(platform) {}
 
+  /// Clicks on a control, or on a cell of a grid.
   void Click(std::string_view control);
   void Click(std::string_view grid, int row, int col);
+  /// Clicks twice on a control, or on a cell of a grid.
   void DblClick(std::string_view control);
   void DblClick(std::string_view grid, int row, int col);
   /// Picks a list entry of a combo box by its place.

@@ -12,7 +12,9 @@ class HeadlessPlatform;
 /// the topmost form and its control with the focus.
 class KeyRoad {
  public:
+  /// Keys above have no road.
   static constexpr std::int32_t LastVirtualKey = 255;
+  /// The platform outlives the road.
   explicit KeyRoad(HeadlessPlatform& platform) : platform_(platform) {}
   /// The whole road. True when the low-level hook kept the key.
   bool Send(const KeyEvent& event);

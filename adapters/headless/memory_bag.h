@@ -12,8 +12,10 @@ namespace plexel {
 /// A property bag in memory, in the order of storing. Storing under a key anew keeps its place.
 class MemoryBag : public PropertyBag {
  public:
+  /// Keys and values in their order.
   using Entries = std::vector<std::pair<std::string, BagValue>>;
   MemoryBag() = default;
+  /// A bag that holds these.
   explicit MemoryBag(Entries entries) : entries_(std::move(entries)) {}
 
   const BagValue* Find(std::string_view key) const override {
@@ -31,6 +33,7 @@ class MemoryBag : public PropertyBag {
   void Remove(std::string_view key) override {
     std::erase_if(entries_, [key](const auto& e) { return e.first == key; });
   }
+  /// What it holds.
   const Entries& All() const { return entries_; }
 
  private:

@@ -22,7 +22,9 @@ class HookTable : public KeyboardHooks {
   /// hook kept the key. `altDown` is the physical state of Alt with this event.
   bool Deliver(const KeyEvent& event, bool altDown);
 
+  /// Whether a hook of a kind is installed.
   bool Installed(HookKind kind) const { return Procedure(kind) != nullptr; }
+  /// How often a hook has handed a key on.
   std::int64_t NextCalls() const { return nextCalls_; }
 
   /// Told after a hook has really been installed or removed.

@@ -86,6 +86,7 @@ class ElementWidget : public QWidget {
     Key = plexel::Key
   };
   Q_ENUM(ElementKind)
+  /// The LED functions.
   enum LedFunction {
     HarddiskLed = plexel::HarddiskLed,
     UserLed = plexel::UserLed,
@@ -104,6 +105,7 @@ class ElementWidget : public QWidget {
     RunLed = plexel::RunLed
   };
   Q_ENUM(LedFunction)
+  /// How an element was defined.
   enum WizardOption {
     NormalKey = plexel::NormalKey,
     TipKey = plexel::TipKey,
@@ -112,9 +114,11 @@ class ElementWidget : public QWidget {
     ManuallyDefined = plexel::ManuallyDefined
   };
   Q_ENUM(WizardOption)
+  /// The sizes of the cross.
   enum MarkSize { XSizeBig = plexel::XSizeBig, XSizeMedium = plexel::XSizeMedium, XSizeSmall = plexel::XSizeSmall };
   Q_ENUM(MarkSize)
 
+  /// A new element. std::logic_error when no QtComponent stands.
   explicit ElementWidget(QWidget* parent = nullptr);
   ~ElementWidget() override;
 
@@ -129,7 +133,8 @@ class ElementWidget : public QWidget {
   /// afterwards, and so is OriginalPosY without an entry. FocusVisible follows the focus.
   void ReadProperties(const PropertyBag& bag);
 
-  // The properties of the element, in the order of its interface.
+  /// The property of this name of the element. A whole number outside the range of its type is reported, and nothing is
+  /// set.
   double DPIFontScaleFactor() const;
   void DPIFontScaleFactor(double value);
   WizardOption WizardOptions() const;
@@ -237,9 +242,11 @@ class ElementWidget : public QWidget {
 
   /// That of the surface.
   QSize sizeHint() const override;
+  /// The same.
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  public Q_SLOTS:
+  /// Those of the element; what fails is reported.
   void OpenPropertiesDialog();
   void OpenConfigurationDialog();
   void UpdateFocus();
@@ -247,12 +254,15 @@ class ElementWidget : public QWidget {
   void ShowDefinedObject(bool bVisible);
 
  Q_SIGNALS:
-  // The events of the element.
+  /// Recording of keys has begun, or ended.
   void DirectInputStatusChanged(bool bDirectInputStatus);
+  /// What the element sends, behind a configuration dialog and when the focus comes.
   void SendKeyDefinition(const plexel::KeyDefinition& definition);
   /// Buttons 1 left, 2 right, 4 middle; places in twips of the surface.
   void MouseClicked(int Button, int Shift, float x, float Y);
+  /// A double click; connect it with OpenConfigurationDialog where it is to open the dialog.
   void MouseDblClicked();
+  /// A dialog has stored something.
   void ProjectModified();
 
  protected:

@@ -24,6 +24,7 @@ class HelpWindow : public HelpViewer {
 
   /// The topic of the table of contents.
   static constexpr std::int32_t Contents = 1;
+  /// The window, null before the first topic.
   const QPointer<QDialog>& Window() const { return window_; }
 
   /// The title of the window; without it that of the topic.

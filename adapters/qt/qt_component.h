@@ -33,9 +33,12 @@ class QtComponent {
 
   /// The one of the program. std::logic_error when there is none.
   static QtComponent& Instance();
+  /// Whether there is one.
   static bool Exists();
 
+  /// Its platform.
   QtPlatform& Desktop();
+  /// Its help.
   HelpWindow& Help();
   /// A new element of a name, in a container.
   std::shared_ptr<ctlPlexelBaseElement> Create(std::string name, ElementHost& container);

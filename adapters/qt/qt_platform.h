@@ -35,6 +35,7 @@ class QtPlatform : public Platform {
 
   /// Tells which widget stands for a window of the host, so that dialogs open over the widget's window.
   void Register(const Window& window, QWidget& widget);
+  /// Undoes Register; nothing happens for a window that is not registered.
   void Forget(const Window& window);
   /// Tells the user, and the log, of a failure that came out of one of his acts.
   void Report(const std::string& what);
@@ -50,7 +51,9 @@ class QtPlatform : public Platform {
  protected:
   /// The same with another keyboard of the desktop; with null keys come as the toolkit tells them.
   QtPlatform(Registry& registry, HelpViewer& help, std::unique_ptr<DesktopKeyboard> keyboard);
+  /// The ports, which derived platforms may reach.
   struct Ports;
+  /// The ports.
   Ports& Inside() { return *ports_; }
 
  private:

@@ -12,11 +12,14 @@ class ctlPlexelBaseElement;
 
 /// What a setter passes to the container: the property's name, or deliberately its new value.
 struct Notice {
+  /// Which of the two it carries.
   enum class Kind { Text, Integer };
+  /// The one of `text` and `integer` that counts.
   Kind kind = Kind::Text;
   std::string_view text;     ///< valid during the notice
   std::int32_t integer = 0;  ///< a boolean as its 16-bit value
 
+  /// A notice with a value of its kind.
   static Notice Of(std::string_view value) { return {Kind::Text, value, 0}; }
   static Notice Of(std::int32_t value) { return {Kind::Integer, {}, value}; }
   static Notice Of(Boolean value) { return Of(std::int32_t{value.Value()}); }
@@ -24,8 +27,10 @@ struct Notice {
 
 /// The arguments of SendKeyDefinition.
 struct KeyDefinition {
+  /// The definition texts, UTF-8; empty for none.
   std::string strLayer1Press, strLayer1Release, strLayer2Press, strLayer2Release;
   std::string strLayer3Press, strLayer3Release, strLayer4Press, strLayer4Release;
+  /// The LED functions, as enumLedType.
   std::int32_t LEDTypeLayer1 = 0, LEDTypeLayer2 = 0, LEDTypeLayer3 = 0, LEDTypeLayer4 = 0;
 };
 
@@ -52,6 +57,7 @@ class ElementHost {
   /// The mouse was released over the element. Coordinates in twips of the element's surface.
   virtual void MouseClicked(ctlPlexelBaseElement& /*element*/, std::int16_t& /*Button*/, std::int16_t& /*Shift*/,
                             float& /*x*/, float& /*Y*/) {}
+  /// The left button was pressed twice over the element.
   virtual void MouseDblClicked(ctlPlexelBaseElement& /*element*/) {}
   /// A dialog has stored something new in the element.
   virtual void ProjectModified(ctlPlexelBaseElement& /*element*/) {}

@@ -12,6 +12,7 @@ namespace plexel {
 
 /// What the table of the element's properties tells of each.
 
+/// The type of a property's value.
 enum class PropertyType { Int16, Int32, UInt8, Bool, Double, String, Object, Record };
 
 /// What a setter tells the container: nothing, the property's name, or its new value.
@@ -22,18 +23,28 @@ using PropertyData = std::variant<std::int32_t, double, std::string>;
 
 /// How a property is stored. The orders count from 1, and 0 stands for never. The defaults of strings are empty.
 struct Storage {
+  /// The key in a bag; empty for what is never stored.
   std::string_view key;
+  /// The place in the order of reading and of writing.
   std::int32_t readOrder = 0, writeOrder = 0;
+  /// What a missing key is read as, and the value that is not written.
   std::int32_t readDefault = 0, writeDefault = 0;
 };
 
+/// One property of the element.
 struct PropertyRow {
+  /// Whose property it is.
   using Element = ctlPlexelBaseElement;
+  /// The name, as in the element's interface.
   std::string_view name;
+  /// The type of the value.
   PropertyType type;
+  /// What the setter tells the container.
   NoticeStyle notice;
+  /// How the value is stored.
   Storage storage;
   // How the property is reached, null where it cannot be: an object or a record, and what is never stored.
+  /// How the property is reached, null where it cannot be: an object or a record, and what is never stored.
   PropertyData (*get)(const Element&);
   void (*set)(Element&, const PropertyData&, std::string_view name);
   void (*load)(Element&, const BagValue&);

@@ -24,20 +24,25 @@ class Form : public Window {
   /// Twips that the window's frame and title take from width and height.
   static constexpr float FrameWidth = 90, FrameHeight = 405;
 
+  /// A form of a name, without controls.
   explicit Form(std::string_view name);
   ~Form() override = default;
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
   std::string WindowName() const override { return name_; }
+  /// The name of its kind, as code and scripts have it.
   const std::string& Name() const { return name_; }
+  /// The title.
   const std::string& Caption() const { return caption_; }
   void Caption(std::string value) { caption_ = std::move(value); }
+  /// The place of the window.
   float Left() const { return left_; }
   void Left(float value) {
     left_ = value;
     placed_ = true;
   }
+  /// The place of the window.
   float Top() const { return top_; }
   void Top(float value) {
     top_ = value;
@@ -45,19 +50,26 @@ class Form : public Window {
   }
   /// Whether the form has been given a place. One that has none opens where the desktop puts it.
   bool Placed() const { return placed_; }
+  /// The width of the window.
   float Width() const { return width_; }
   void Width(float value) { width_ = value; }
+  /// The height of the window.
   float Height() const { return height_; }
   void Height(float value) { height_ = value; }
+  /// The size without frame and title.
   float ClientWidth() const { return width_ - FrameWidth; }
+  /// The size without frame and title.
   float ClientHeight() const { return height_ - FrameHeight; }
+  /// Whether the form gets the keys ahead of its controls.
   bool KeyPreview() const { return keyPreview_; }
   void KeyPreview(bool value) { keyPreview_ = value; }
+  /// The number of its help topic, 0 for none.
   std::int32_t HelpContextID() const { return helpContext_; }
   void HelpContextID(std::int32_t value) { helpContext_ = value; }
 
   /// The controls in the order in which they were made, and by full name; null for an unknown one.
   const std::vector<Control*>& Controls() const { return controls_; }
+  /// A control by its full name; null for an unknown one.
   Control* Find(std::string_view fullName) const;
   /// All controls by tab index, those of the same index in the order in which they were made.
   std::vector<Control*> ControlsInTabOrder() const;
@@ -74,7 +86,9 @@ class Form : public Window {
   /// Gives the focus to a control, or to the form itself with null. From loading to unloading LostFocus and GotFocus
   /// are raised, in this order, when the focus has already moved. Failure (InvalidCall) as with Control::SetFocus.
   void Focus(Control* control);
+  /// The button that Return presses; null for none.
   CommandButton* DefaultButton() const { return defaultButton_; }
+  /// The button that Escape presses; null for none.
   CommandButton* CancelButton() const { return cancelButton_; }
 
   /// Shows the form modal over its owner (null for none) and returns when it has closed: loads it, gives the focus to
@@ -82,6 +96,7 @@ class Form : public Window {
   /// (InvalidCall) when it is already shown or loading, and whatever loading or the modal loop throws; the form is then
   /// not shown. A form that unloads itself while it loads is not shown either.
   void ShowModal(Window* owner);
+  /// Whether the form is on the screen.
   bool IsShown() const { return shown_; }
   /// Closes the form: QueryUnload, Unload. With a form that is not loaded, or is unloading, nothing happens. A failure
   /// of the two events passes on and the form stays.
@@ -105,12 +120,16 @@ class Form : public Window {
 
   /// The form's own events. The key events run ahead of the control's while KeyPreview is on.
   virtual void OnLoad() {}
+  /// It is about to close.
   virtual void OnQueryUnload(UnloadMode) {}
+  /// It closes.
   virtual void OnUnload() {}
   /// An exception has ended the showing, without the two events above; the form is no longer shown. What the form has
   /// set going outside itself ends here.
   virtual void OnAbandoned() {}
+  /// A key goes down. A handler that sets the code to 0 takes the control's own action away.
   virtual void OnKeyDown(std::int16_t& keyCode, std::int16_t shift);
+  /// A character was typed; 0 takes it away.
   virtual void OnKeyPress(std::int16_t& keyAscii);
 
  private:

@@ -27,6 +27,7 @@ namespace plexel {
 /// box of several lines keep Return for themselves. An open list of a combo box (F4, Alt and Down) is the renderer's.
 class Hand {
  public:
+  /// Acts on a form, which outlives it.
   explicit Hand(Form& form) : form_(form) {}
 
   /// A click of the left button: the focus goes to the control if its kind takes it, and Click is raised. An option
@@ -41,6 +42,7 @@ class Hand {
   /// A mouse button down; button 1 left, 2 right, 4 middle; x and y in twips in the control. The left button gives the
   /// focus to every control that takes it, the others only to a grid and a text box. No cell becomes current.
   void MouseDown(Control& control, std::int16_t button, std::int16_t shift, float x, float y);
+  /// Gives a control the focus, as a walk with Tab does.
   void Focus(Control& control);
   /// Picks a list entry by its place.
   void Select(ComboBox& box, int index);
@@ -53,9 +55,11 @@ class Hand {
   void Cell(Grid& grid, int row, int col);
   /// Failure (InvalidCall) when the widths are not the user's to change.
   void ResizeColumn(Grid& grid, int col, int width);
+  /// Scrolls a grid, as its bars do.
   void Scroll(Grid& grid, int topRow, int leftCol);
-  /// Clicks on a tab; a page that is off refuses. A double click raises both events.
+  /// Clicks on a tab; a page that is off refuses.
   void Tab(TabStrip& strip, int page);
+  /// A double click on a tab, which raises both events.
   void DblClickTab(TabStrip& strip, int page);
   /// Picks an entry of the popup menu that is open, which closes ahead of the entry's Click; Failure (InvalidCall) when
   /// there is none or the entry is disabled, hidden or a separator.

@@ -10,9 +10,11 @@ namespace plexel {
 
 /// One cell of a grid as it stands.
 struct GridCell {
+  /// What the cell shows.
   std::string text;
   std::int32_t foreColor = 0;         ///< 0x00BBGGRR
   std::int32_t backColor = 0xFFFFFF;  ///< 0x00BBGGRR
+  /// Whether the text stands in the middle.
   bool centred = false;
 };
 

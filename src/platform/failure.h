@@ -21,7 +21,9 @@ enum class FailureKind {
 /// program (an assertion, a logic error) is never a Failure.
 class Failure : public std::runtime_error {
  public:
+  /// A failure with a message for a log, not for the user.
   Failure(FailureKind kind, const std::string& message) : std::runtime_error(message), kind_(kind) {}
+  /// What went wrong.
   FailureKind Kind() const { return kind_; }
 
  private:

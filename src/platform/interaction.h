@@ -27,8 +27,10 @@ class ModalLoop {
 /// Answers of a message box.
 enum class MessageAnswer : std::int32_t { None = 0, OK = 1, Cancel = 2, Yes = 6, No = 7 };
 
+/// Shows message boxes.
 class MessageBoxes {
  public:
+  /// The styles: the buttons, and the sign of danger, which is added to them.
   static constexpr std::int32_t StyleOkOnly = 0;
   static constexpr std::int32_t StyleYesNoCancel = 3;
   static constexpr std::int32_t StyleCritical = 16;
@@ -37,6 +39,7 @@ class MessageBoxes {
   virtual MessageAnswer Show(std::string_view prompt, std::int32_t style, std::string_view title) = 0;
 };
 
+/// Lets the program take its events during a long procedure.
 class EventPump {
  public:
   virtual ~EventPump() = default;

@@ -6,15 +6,16 @@ namespace plexel {
 
 /// One event of one key, as the operating system delivers it.
 struct KeyEvent {
-  std::int32_t virtualKey = 0;
-  std::int32_t scanCode = 0;  ///< scan code of set 1, 0 to 255
-  bool extended = false;      ///< the extended flag
-  bool down = true;           ///< direction: true make, false break
-  std::uint32_t time = 0;     ///< milliseconds, wraps
+  std::int32_t virtualKey = 0;  ///< 1 to 254
+  std::int32_t scanCode = 0;    ///< scan code of set 1, 0 to 255
+  bool extended = false;        ///< the extended flag
+  bool down = true;             ///< direction: true make, false break
+  std::uint32_t time = 0;       ///< milliseconds, wraps
 };
 
 /// The record that a low-level keyboard hook receives: five 32-bit numbers.
 struct LowLevelKey {
+  /// As in a KeyEvent.
   std::int32_t virtualKey = 0;
   std::int32_t scanCode = 0;
   std::int32_t flags = 0;  ///< bit 0 extended, bit 5 Alt down, bit 7 going up
@@ -23,6 +24,7 @@ struct LowLevelKey {
 };
 static_assert(sizeof(LowLevelKey) == 20);
 
+/// The kinds of hooks.
 enum class HookKind : std::int32_t { Keyboard = 2, LowLevelKeyboard = 13 };
 
 /// A hook procedure. `lParam` is the key's flag word for a keyboard hook and the address of a LowLevelKey for a
@@ -37,6 +39,7 @@ class KeyboardHooks {
   virtual std::int32_t Install(HookKind kind, HookProcedure procedure) = 0;
   /// Non-zero when the hook was removed.
   virtual std::int32_t Remove(std::int32_t hook) = 0;
+  /// Hands a key on to the hook behind; gives what that returns.
   virtual std::int32_t CallNext(std::int32_t hook, std::int32_t nCode, std::int32_t wParam, std::intptr_t lParam) = 0;
 };
 
@@ -51,6 +54,7 @@ class KeyState {
 /// The characters on the keys of one keyboard layout, asked with an empty modifier state.
 class KeyboardLayout {
  public:
+  /// One layout of the system.
   using Handle = std::intptr_t;
   virtual ~KeyboardLayout() = default;
   /// The layout of the interface thread at this moment.

@@ -8,6 +8,7 @@ namespace plexel {
 class Window {
  public:
   virtual ~Window() = default;
+  /// A name for logs and tests.
   virtual std::string WindowName() const = 0;
 };
 

@@ -11,6 +11,7 @@ namespace plexel {
 class Boolean {
  public:
   constexpr Boolean() = default;
+  /// True is stored as -1, false as 0.
   template <std::same_as<bool> Bool>
   constexpr Boolean(Bool value) : value_(value ? -1 : 0) {}
   /// The boolean of any 16 bits.
@@ -28,9 +29,11 @@ class Boolean {
 };
 static_assert(sizeof(Boolean) == 2);
 
+/// The two values.
 inline constexpr Boolean True = true;
 inline constexpr Boolean False = false;
 
+/// Whether a value is exactly true.
 constexpr bool IsTrue(Boolean value) { return value == True; }
 
 }  // namespace plexel

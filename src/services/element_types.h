@@ -12,6 +12,7 @@ namespace plexel {
 /// The shared vocabulary of elements and dialogs: enumerations and records. All enumerations are 32-bit integers that
 /// may hold any value, not only those named.
 
+/// The panel functions.
 enum enumSpecialKeyFunctions : std::int32_t {
   SystemReset = 0,
   BackgroundLightLigther = 1,
@@ -25,8 +26,10 @@ enum enumSpecialKeyFunctions : std::int32_t {
   NoSpecialFunction = 9
 };
 
+/// The kinds of elements; Key is a key switch, which has no configuration.
 enum enumTactisBaseElementType : std::int32_t { Led = 1, Oval = 2, OvalLed = 3, Rect = 4, RectLed = 5, Key = 6 };
 
+/// What the wizard is asked for, and ManuallyDefined for what the configuration dialog has stored.
 enum enumWizardOptions : std::int32_t {
   NormalKey = 0,
   TipKey = 1,
@@ -35,6 +38,7 @@ enum enumWizardOptions : std::int32_t {
   ManuallyDefined = 4
 };
 
+/// The LED functions.
 enum enumLedType : std::int32_t {
   HarddiskLed = 0,
   UserLed = 1,
@@ -53,14 +57,18 @@ enum enumLedType : std::int32_t {
   RunLed = 14
 };
 
+/// The size of the cross.
 enum enumXSize : std::int32_t { XSizeBig = 0, XSizeMedium = 1, XSizeSmall = 2 };
 
+/// The number of layers.
 inline constexpr std::int32_t LayerCount = 4;
 
 /// One sequence of scan code bytes, in groups closed by the end mark.
 struct udtTactisBaseElement_TACTIS_SCANCODE {
+  /// Bytes of a buffer, and the mark behind each of its groups.
   static constexpr std::int32_t Size = 89;
   static constexpr std::uint8_t EndMark = 0xFF;
+  /// The bytes.
   std::array<std::uint8_t, Size> Value{};
   std::int32_t NextValue = 0;  ///< index of the last end mark, 0 in an empty sequence
   bool operator==(const udtTactisBaseElement_TACTIS_SCANCODE&) const = default;
@@ -78,21 +86,27 @@ constexpr udtTactisBaseElement_TACTIS_SCANCODE InitialCodes() {
 /// All that a dialog needs of an element. The scan codes lie press before release, layer by layer; of the strings all
 /// press strings come first.
 struct udtTactisBaseElement_ScanCodeInfo {
+  /// How the element was defined, and what it is.
   enumWizardOptions enumWizardButtonType{};
   enumTactisBaseElementType enumBaseElementType{};
+  /// The LED function in each layer.
   enumLedType lngLEDTypeLayer1{}, lngLEDTypeLayer2{}, lngLEDTypeLayer3{}, lngLEDTypeLayer4{};
+  /// Hardware numbers of LED, button and up to eight keys; -1 for no key.
   std::int32_t lngLedHardwareNumber = 0;
   std::int32_t lngButtonHardwareNumber = 0;
   std::int32_t lngKeyHardwareNumber = 0;
   std::int32_t lngKeyHardwareNumber1 = 0, lngKeyHardwareNumber2 = 0, lngKeyHardwareNumber3 = 0,
                lngKeyHardwareNumber4 = 0, lngKeyHardwareNumber5 = 0, lngKeyHardwareNumber6 = 0,
                lngKeyHardwareNumber7 = 0;
+  /// The codes that are sent.
   udtTactisBaseElement_TACTIS_SCANCODE strLayer1PressScanCode, strLayer1ReleaseScanCode;
   udtTactisBaseElement_TACTIS_SCANCODE strLayer2PressScanCode, strLayer2ReleaseScanCode;
   udtTactisBaseElement_TACTIS_SCANCODE strLayer3PressScanCode, strLayer3ReleaseScanCode;
   udtTactisBaseElement_TACTIS_SCANCODE strLayer4PressScanCode, strLayer4ReleaseScanCode;
+  /// The same as texts, UTF-8.
   std::string strLayer1PressString, strLayer2PressString, strLayer3PressString, strLayer4PressString;
   std::string strLayer1ReleaseString, strLayer2ReleaseString, strLayer3ReleaseString, strLayer4ReleaseString;
+  /// Notes of the user.
   std::string strBaseElementNotes;
   bool operator==(const udtTactisBaseElement_ScanCodeInfo&) const = default;
 };
@@ -112,8 +126,11 @@ void ZeroAllBuffers(udtTactisBaseElement_ScanCodeInfo& info);
 
 /// The copy of one grid cell.
 struct udtClipboard {
+  /// Whether something was copied.
   Boolean Valid = False;
+  /// Its codes.
   udtTactisBaseElement_TACTIS_SCANCODE scanCode;
+  /// Its text.
   std::string VisibleString;
 };
 

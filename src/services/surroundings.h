@@ -28,7 +28,9 @@ class SettingsService {
   virtual void GetBasePath(std::string& text) = 0;
   /// The name of the current language in English.
   virtual void GetLanguageName(std::string& text) = 0;
+  /// A switch by its number; false for an unknown one.
   virtual void GetOption(std::int32_t number, Boolean& value) = 0;
+  /// A number by its number, in decimal text; empty for an unknown one.
   virtual void GetParameter(std::int32_t number, std::string& text) = 0;
   /// A saved position or column width, twips in decimal text.
   virtual void GetWindowPosition(std::int32_t number, std::string& text) = 0;
@@ -61,8 +63,11 @@ enum class Capability : std::int32_t {
   HasUserLed
 };
 
+/// A query and its name.
 struct CapabilityRow {
+  /// The query.
   Capability query;
+  /// Its name, as in a capability table.
   std::string_view name;
 };
 
@@ -93,14 +98,17 @@ inline constexpr auto CapabilityTable = std::to_array<CapabilityRow>({
     {Capability::HasUserLed, "HasUserLed"},
 });
 static_assert(InOrderOfValues(CapabilityTable, &CapabilityRow::query));
+/// How many queries there are.
 inline constexpr int CapabilityCount = static_cast<int>(CapabilityTable.size());
 
+/// The name of a query.
 constexpr std::string_view CapabilityName(Capability query) {
   return CapabilityTable.at(static_cast<std::size_t>(query)).name;
 }
 /// The query of a name, which is compared exactly.
 std::optional<Capability> CapabilityNamed(std::string_view name);
 
+/// Tells what target systems can do.
 class CapabilityService {
  public:
   virtual ~CapabilityService() = default;
@@ -112,6 +120,7 @@ class CapabilityService {
 class ParameterFileReader {
  public:
   virtual ~ParameterFileReader() = default;
+  /// What stands between the items of values that are read from now on.
   virtual void SetDelimiter(std::string_view delimiter) = 0;
   /// Fetches the value of a key; status 0 when it was found.
   virtual void ReadEntry(std::string_view file, std::string_view section, std::string_view name, std::string& value,
@@ -124,9 +133,13 @@ class ParameterFileReader {
 class Surroundings {
  public:
   virtual ~Surroundings() = default;
+  /// The texts.
   virtual LanguageService& Language() = 0;
+  /// The user's settings.
   virtual SettingsService& Settings() = 0;
+  /// What target systems can do.
   virtual CapabilityService& Capabilities() = 0;
+  /// Files of named code sequences.
   virtual ParameterFileReader& ParameterFiles() = 0;
 
   /// The surroundings in force; Failure (ObjectNotSet) when there are none.
