@@ -7,7 +7,7 @@
 
 namespace plexel {
 
-/// The settings of the editor, as GetOption numbers the switches and GetParameter the numbers.
+/// The switches of the editor, as GetOption numbers them.
 enum OptionNumber : std::int32_t {
   OptionShowCodeBalance = 1,
   OptionUseWizard = 2,
@@ -16,6 +16,8 @@ enum OptionNumber : std::int32_t {
   OptionShowDefined = 5,
   OptionLockTaskKeys = 9
 };
+
+/// The numbers, as GetParameter numbers them.
 enum ParameterNumber : std::int32_t {
   ParameterXSize = 0,
   ParameterFocusWidth = 1,
@@ -26,10 +28,10 @@ enum ParameterNumber : std::int32_t {
 
 /// One setting that the user can change: a switch (an option of the service) or a number (a parameter in decimal text).
 struct SettingRow {
-  std::string_view name;
-  bool isSwitch;
-  std::int32_t number;  ///< of GetOption or GetParameter
-  std::int32_t initial, low, high;
+  std::string_view name;            ///< in the file of settings
+  bool isSwitch;                    ///< of GetOption, else of GetParameter
+  std::int32_t number;              ///< of GetOption or GetParameter
+  std::int32_t initial, low, high;  ///< the default, and the bounds
 };
 
 /// Every setting, one row each; the language stands beside them.
@@ -54,6 +56,7 @@ constexpr const SettingRow* FindSetting(bool isSwitch, std::int32_t number) {
   });
   return row == SettingTable.end() ? nullptr : row;
 }
+/// The row of a switch, or of a number.
 constexpr const SettingRow& SettingOf(OptionNumber number) { return *FindSetting(true, number); }
 constexpr const SettingRow& SettingOf(ParameterNumber number) { return *FindSetting(false, number); }
 
