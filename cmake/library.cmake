@@ -30,7 +30,7 @@ function(plexel_library target)
   add_library(Plexel::${library_COMPONENT} ALIAS ${target})
   set_target_properties(${target} PROPERTIES
     OUTPUT_NAME ${file} EXPORT_NAME ${library_COMPONENT}
-    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
   plexel_objects(${target})
   if(BUILD_SHARED_LIBS)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")

@@ -113,7 +113,7 @@ class Package:
             expect(re.fullmatch(r"lib%s\.so\.\d+\.\d+\.\d+" % name, version), "%s stands for %s" % (link, version))
             dump = run("objdump", "-p", link)
             soname = re.search(r"SONAME\s+(\S+)", dump).group(1)
-            expect(soname == os.readlink(link) == "lib%s.so.%s" % (name, version.split(".")[2]), "%s: %s" % (link, soname))
+            expect(soname == os.readlink(link) == "lib%s.so.%s" % (name, ".".join(version.split(".")[2:4])), "%s: %s" % (link, soname))
             expect(re.findall(r"(?:RUNPATH|RPATH)\s+(\S+)", dump) == ["$ORIGIN"], "%s searches elsewhere:\n%s" % (link, dump))
             for library in needed:
                 expect(re.search(r"NEEDED\s+lib%s\.so" % library, dump), "%s does not name %s" % (link, library))
