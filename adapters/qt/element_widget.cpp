@@ -89,6 +89,8 @@ void ElementWidget::Run(const std::function<void(ctlPlexelBaseElement&)>& act) {
     act(*element);
   } catch (const std::exception& failure) {
     Report(failure.what());
+  } catch (...) {
+    Report("a handler has thrown what is no std::exception");
   }
   if (self) ShowSurface();
 }

@@ -201,6 +201,8 @@ void MainWindow::Guarded(const std::function<void()>& act) {
     act();
   } catch (const std::exception& failure) {
     Tell(Text::Failed, failure.what());
+  } catch (...) {
+    Tell(Text::Failed, "a handler has thrown what is no std::exception");
   }
   view_->update();
 }

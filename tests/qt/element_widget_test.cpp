@@ -327,6 +327,14 @@ TEST_F(Widgets, AFailingHandlerIsReportedAndTheWidgetGoesOn) {
   EXPECT_TRUE(second.FocusVisible());
 }
 
+TEST_F(Widgets, WhatIsNoExceptionIsReportedToo) {
+  QObject::connect(&first, &ElementWidget::MouseDblClicked, [] { throw 5; });
+  QTest::mouseDClick(&first, Qt::LeftButton);
+  EXPECT_THAT(failures, ElementsAre(HasSubstr("no std::exception")));
+  QTest::keyClick(&first, Qt::Key_Tab);
+  EXPECT_TRUE(second.FocusVisible());
+}
+
 TEST_F(Widgets, AHandlerMayDeleteTheWidget) {
   auto* const widget = new ElementWidget(&window);
   widget->show();
