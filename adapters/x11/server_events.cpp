@@ -8,6 +8,7 @@ constexpr std::uint8_t FirstKeycode = 8;
 constexpr std::uint8_t SyntheticBit = 0x80;
 
 DesktopEvent KeyOf(const xcb_key_press_event_t& event, bool down) {
+  if (event.detail < FirstKeycode) return {};  // no server sends one, but any client may
   const bool numLock = (event.state & XCB_MOD_MASK_2) != 0;
   const std::uint32_t group = (static_cast<std::uint32_t>(event.state) >> 13U) & 3U;
   return DesktopKey{{event.detail - FirstKeycode, down, event.time}, numLock, group};

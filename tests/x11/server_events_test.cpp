@@ -51,6 +51,13 @@ TEST(ServerEvents, AKeySentByAnotherProgramIsAKey) {
   EXPECT_EQ(Read(event), DesktopEvent(DesktopKey{{1, true, 0}, false, 0}));
 }
 
+TEST(ServerEvents, AKeyBelowTheFirstOneSaysNothing) {
+  xcb_key_press_event_t event{};
+  event.response_type = XCB_KEY_PRESS | 0x80;
+  event.detail = 7;
+  EXPECT_EQ(Read(event), DesktopEvent());
+}
+
 TEST(ServerEvents, TheFocusComesAndLeaves) {
   const DesktopEvent comes = DesktopFocus{77, true}, leaves = DesktopFocus{77, false};
   EXPECT_EQ(ReadFocus(XCB_FOCUS_IN, XCB_NOTIFY_DETAIL_NONLINEAR, XCB_NOTIFY_MODE_NORMAL), comes);
