@@ -16,8 +16,8 @@ class QtPlatform;
 
 /// The component in a program of this toolkit: the desktop as its platform, the host's services, and help in a window.
 /// Element widgets find it by themselves. It is made after the application object, before the first element widget, and
-/// ends before the application object does; one at a time. Element widgets that are still there at its end show what
-/// they showed and do nothing any more.
+/// ends before the application object does, with no dialog open; one at a time. Element widgets that are still there at
+/// its end show what they showed and do nothing any more.
 class QtComponent {
  public:
   /// Services kept in files: the data of the installation and the user's own files. FileError when texts or capability
