@@ -10,7 +10,7 @@ namespace plexel {
 
 namespace {
 
-constexpr std::int32_t BufferCount = 8;
+constexpr std::int32_t BufferCount = 2 * LayerCount;
 
 const udtTactisBaseElement_TACTIS_SCANCODE& BufferOf(const udtTactisBaseElement_ScanCodeInfo& record,
                                                      std::int32_t number) {

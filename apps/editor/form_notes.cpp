@@ -1,12 +1,11 @@
 #include "editor/form_notes.h"
 
-#include <array>
-
 #include "configdialog/frmConfigurationDialog.h"
 #include "editor/element_text.h"
 #include "editor/texts.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "scancodes/element_codes.h"
+#include "services/element_types.h"
 #include "services/module_state.h"
 #include "wizard/frmButtonWizardPage3.h"
 
@@ -35,12 +34,7 @@ std::int32_t UsedBytes(const udtTactisBaseElement_TACTIS_SCANCODE& buffer) {
 }
 
 std::int32_t UsedBytes(const udtTactisBaseElement_ScanCodeInfo& record, std::int32_t layer) {
-  const std::array buffers = {&record.strLayer1PressScanCode,   &record.strLayer2PressScanCode,
-                              &record.strLayer3PressScanCode,   &record.strLayer4PressScanCode,
-                              &record.strLayer1ReleaseScanCode, &record.strLayer2ReleaseScanCode,
-                              &record.strLayer3ReleaseScanCode, &record.strLayer4ReleaseScanCode};
-  const auto place = static_cast<std::size_t>(layer - 1);
-  return UsedBytes(*buffers.at(place)) + UsedBytes(*buffers.at(place + LayerCount));
+  return UsedBytes(*PressBuffer(record, layer)) + UsedBytes(*ReleaseBuffer(record, layer));
 }
 
 FormNote StoredInElement() {

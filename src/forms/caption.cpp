@@ -1,12 +1,12 @@
 #include "forms/caption.h"
 
+#include "forms/ascii.h"
+
 namespace plexel {
 
 namespace {
 
 constexpr char Mark = '&';
-
-char Capital(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
 
 bool IsLetterOrDigit(char letter) { return (letter >= 'A' && letter <= 'Z') || (letter >= '0' && letter <= '9'); }
 
@@ -30,7 +30,7 @@ ReadableCaption ReadCaption(std::string_view caption) {
 bool LeadsTo(std::string_view caption, std::int16_t keyCode) {
   const ReadableCaption read = ReadCaption(caption);
   if (read.letterAt == ReadableCaption::NoLetter) return false;
-  const char letter = Capital(read.text[read.letterAt]);
+  const char letter = ascii::Upper(read.text[read.letterAt]);
   return IsLetterOrDigit(letter) && letter == keyCode;
 }
 
