@@ -22,9 +22,10 @@ namespace plexel {
 /// the control's own action away.
 ///
 /// A control's own actions: Space presses a command button and sets an option button; the arrow keys move the focus
-/// from a command button as Tab does, and move within the option buttons of a container, the entries of a combo box,
-/// the cells of a grid and the tabs of a strip; Left, Right, Home, End and Delete edit a text box. A grid and a text
-/// box of several lines keep Return for themselves. An open list of a combo box (F4, Alt and Down) is the renderer's.
+/// from a command button to a button beside it in tab order, and move within the option buttons of a container, the
+/// entries of a combo box, the cells of a grid and the tabs of a strip; Left, Right, Home, End and Delete edit a text
+/// box. A grid and a text box of several lines keep Return for themselves. An open list of a combo box (F4, Alt and
+/// Down) is the renderer's.
 class Hand {
  public:
   /// Acts on a form, which outlives it.

@@ -20,7 +20,9 @@ void ActOnButton(Control& control, std::int16_t keyCode) {
   if (!back && keyCode != key::Right && keyCode != key::Down) return;
   if (static_cast<CommandButton&>(control).ParksFocus() || !control.HasFocus()) return;
   Control* const next = control.Owner().TabNeighbour(!back);
-  if (next != nullptr) next->SetFocus();
+  // Where arrows have a meaning of their own, the next one would change what the control holds.
+  if (next == nullptr) return;
+  if (next->Kind() == ControlKind::CommandButton || next->Kind() == ControlKind::OptionButton) next->SetFocus();
 }
 
 void ActOnOption(Control& control, std::int16_t keyCode) {

@@ -105,6 +105,19 @@ TEST(WizardKeyEntry, TabPastTheBoxLeavesTheLayersAsTheyAre) {
   EXPECT_EQ(session.Texts(), before);
 }
 
+TEST(WizardKeyEntry, ArrowsOnTheButtonsLeaveTheLayersAsTheyAre) {
+  constexpr std::int32_t placeOfUp = 0x48;
+  WizardSession session(Oval);
+  session.GiveTexts("[a‹›]", "[b›]");
+  session.element->PressKeyDefLayer2("[other‹›]");
+  const Names before = session.Texts();
+  session.Then([&] { Hand(session.Top()).Focus(session.Get<Control>("cmdForward")); });
+  for (int times = 0; times < 3; ++times) session.Stroke(key::Up, placeOfUp);
+  session.Click("cmdForward").Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(session.Texts(), before);
+}
+
 TEST(WizardKeyEntry, ArrowsInTheIdleBoxAreNotDropped) {
   WizardSession session(Oval);
   Look(session, [&] {
