@@ -102,6 +102,10 @@ void DropCapture() {
   RemoveAll();
 }
 
+LeftHooks::LeftHooks() {
+  if (Module().lngKeyboardHook == 0) Remove();
+}
+
 void LeftHooks::Remove() {
   if (Module().installedHooks.empty()) return;
   try {
@@ -113,7 +117,9 @@ void LeftHooks::Remove() {
 void AbandonCapture() {
   const bool captured = Module().lngKeyboardHook != 0;
   DropCapture();
-  if (captured) EndQuietly([] { ElementAccess::RaiseDirectInputStatusChanged(CurrentElement(), False); });
+  if (!captured) return;
+  EndQuietly([] { Module().HelpFile = HelpFileName(); });
+  EndQuietly([] { ElementAccess::RaiseDirectInputStatusChanged(CurrentElement(), False); });
 }
 
 }  // namespace plexel

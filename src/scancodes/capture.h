@@ -16,10 +16,10 @@ void AbandonCapture();
 
 /// A member of each dialog that can start capture. As the dialog is made and as it goes, the hooks that a failed start
 /// or stop has left installed are removed, and capture is off then. One that cannot be removed is tried again the next
-/// time.
+/// time. A capture that runs as the dialog is made goes on.
 class LeftHooks {
  public:
-  LeftHooks() { Remove(); }
+  LeftHooks();
   ~LeftHooks() { Remove(); }
   LeftHooks(const LeftHooks&) = delete;
   LeftHooks& operator=(const LeftHooks&) = delete;

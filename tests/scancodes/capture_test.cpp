@@ -63,6 +63,7 @@ TEST(Capture, AHandlerThatThrowsAnythingAtTheStartLeavesCaptureOff) {
     EXPECT_FALSE(Hooked(session, HookKind::LowLevelKeyboard));
     EXPECT_EQ(Module().lngKeyboardHook, 0);
     EXPECT_EQ(Module().lngLowLevelHook, 0);
+    EXPECT_EQ(Module().HelpFile, HelpFileName());
     session.host.onEvent = nullptr;
     EXPECT_NE(SetDirectInput(True, 0), 0);
   });
