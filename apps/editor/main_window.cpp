@@ -16,6 +16,7 @@
 #include "editor/log_panel.h"
 #include "editor/panel_view.h"
 #include "files/data_directory.h"
+#include "platform/clean_up.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -149,12 +150,15 @@ bool MainWindow::SaveProject(const std::filesystem::path& file) {
 void MainWindow::OpenConfiguration(ctlPlexelBaseElement& element) {
   const auto hold = element.shared_from_this();
   const udtTactisBaseElement_ScanCodeInfo before = hold->TactisBaseElementScanCodeBuffer();
-  hold->OpenConfigurationDialog();
-  // A wizard that is left on its last page keeps what it wrote without a word.
-  if (document_ && hold->TactisBaseElementScanCodeBuffer() != before) document_->Modified(true);
-  view_->update();
-  ShowStatus();
-  ShowTitle();
+  AndThen([&] { hold->OpenConfigurationDialog(); },
+          [&] {
+            // A wizard that is left on its last page keeps what it wrote without a word, and so does a dialog behind
+            // an exception.
+            if (document_ && hold->TactisBaseElementScanCodeBuffer() != before) document_->Modified(true);
+            view_->update();
+            ShowStatus();
+            ShowTitle();
+          });
 }
 
 void MainWindow::SetZoom(int percent) {
