@@ -9,7 +9,6 @@
 #include "platform/failure.h"
 #include "qt/form_view.h"
 #include "qt/keyboard.h"
-#include "services/failure_styles.h"
 
 namespace plexel {
 
@@ -121,7 +120,11 @@ void QtModalLoop::Abandon(std::exception_ptr thrown) {
 
 FormNote QtModalLoop::NoteOf(Form& form) {
   FormNote told;
-  if (note) PassOver([&] { told = note(form); });
+  try {
+    if (note) told = note(form);
+  } catch (...) {  // it is asked anew at the next turn
+    told = {};
+  }
   return told;
 }
 
