@@ -15,9 +15,12 @@
 namespace plexel {
 namespace {
 
+using testing::AllOf;
+using testing::AnyOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::Pair;
 
 LanguageTexts Read(std::string_view content) {
@@ -94,6 +97,21 @@ TEST(ShippedLanguages, EveryNumberThatTheSourcesUseIsThere) {
       EXPECT_TRUE(texts.contains(std::stoi(number))) << number << " in " << entry.path();
     }
   }
+}
+
+TEST(ShippedLanguages, TheWizardTellsHowRecordingStarts) {
+  EXPECT_THAT(Shipped("English").at(2902), AllOf(HasSubstr("double-click"), HasSubstr("Return")));
+  EXPECT_THAT(Shipped("German").at(2902), AllOf(HasSubstr("Doppelklick"), HasSubstr("Eingabetaste")));
+}
+
+TEST(ShippedLanguages, TheWizardsLastPagePromisesNoStoring) {
+  EXPECT_THAT(Shipped("English").at(2909), Not(AnyOf(HasSubstr("configured"), HasSubstr("stored"))));
+  EXPECT_THAT(Shipped("German").at(2909), Not(AnyOf(HasSubstr("konfiguriert"), HasSubstr("gespeichert"))));
+}
+
+TEST(ShippedLanguages, ThatNoLedFunctionIsFreeIsSaidWithoutAReason) {
+  EXPECT_THAT(Shipped("English").at(2911), Not(HasSubstr("other elements")));
+  EXPECT_THAT(Shipped("German").at(2911), Not(HasSubstr("anderen")));
 }
 
 /// Lists whose entries are told apart by their texts.
