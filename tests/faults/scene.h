@@ -35,8 +35,7 @@ class Scene : public World {
   /// Plays the acts on whatever form is on top, one each time a form waits for the user; then closes what is left. What
   /// is thrown and is no Failure goes through all of it.
   void Play(const std::vector<Act>& acts) {
-    std::size_t next = 0;
-    platform.Modal().onRun = [&](Form& form) {
+    platform.Modal().onRun = [this, acts, next = std::size_t{0}](Form& form) mutable {
       if (next < acts.size()) {
         Try([&] { acts[next++](*this, form); });
       } else {
