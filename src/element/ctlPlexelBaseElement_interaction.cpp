@@ -1,7 +1,6 @@
 #include "element/ctlPlexelBaseElement.h"
 
 #include "element/defined_marker.h"
-#include "services/component_life.h"
 #include "services/conversion.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
@@ -9,10 +8,6 @@
 #include "services/surroundings.h"
 
 namespace plexel {
-
-bool ctlPlexelBaseElement::ComponentLives() const { return life_ == ComponentLife::Current(); }
-
-ElementHost* ctlPlexelBaseElement::Host() const { return ComponentLives() ? host_ : nullptr; }
 
 bool ctlPlexelBaseElement::BecomeCurrent() {
   if (!ComponentLives()) return false;

@@ -3,10 +3,15 @@
 #include "element/defined_marker.h"
 #include "element/property_rows.h"
 #include "platform/failure.h"
+#include "services/component_life.h"
 
 namespace plexel {
 
 using E = ctlPlexelBaseElement;
+
+bool E::ComponentLives() const { return life_ == ComponentLife::Current(); }
+
+ElementHost* E::Host() const { return ComponentLives() ? host_ : nullptr; }
 
 void E::Notify(const Notice& notice) {
   if (ElementHost* const host = Host()) host->PropertyChanged(*this, notice);
