@@ -8,9 +8,9 @@
 
 #include "editor/editor_host.h"
 #include "editor/form_notes.h"
-#include "editor/panel_document.h"
 #include "editor/texts.h"
 #include "files/file_surroundings.h"
+#include "project/panel_document.h"
 #include "qt/help_window.h"
 #include "qt/qt_platform.h"
 

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "editor/panel_document.h"
+#include "project/panel_document.h"
 
 namespace plexel {
 

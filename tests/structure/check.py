@@ -14,7 +14,7 @@ import tempfile
 from collections import namedtuple
 from multiprocessing.pool import ThreadPool
 
-# One row a room. A room knows itself and those of a lower level. `foreign`: what it may include in angle brackets apart from the
+# One row a room. A room knows itself and those of a lower level; one that stands in no folder is included by its own name. `foreign`: what it may include in angle brackets apart from the
 # standard library. `known_by`: the only shipped rooms that may include it, None for any above.
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
 XKB, XCB, QT, POSIX = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h", r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h"
@@ -33,12 +33,14 @@ ROOMS = [
     Room("adapters", "headless", 9, "", ("cli",)),
     Room("adapters", "x11", 9, XKB + "|" + XCB),
     Room("adapters", "qt", 9, QT),
-    Room("apps", "cli", 10, r"nlohmann/json\.hpp|" + POSIX),
-    Room("apps", "editor", 10, QT),
-    Room("apps", "pictures", 11, QT),
+    Room("", "project", 10, r"nlohmann/json\.hpp"),
+    Room("apps", "cli", 11, r"nlohmann/json\.hpp|" + POSIX),
+    Room("apps", "editor", 11, QT),
+    Room("apps", "pictures", 12, QT),
 ]
 BY_NAME = {room.name: room for room in ROOMS}
-SHIPPED = ("src", "adapters", "apps")
+SHIPPED = ("src", "adapters", "project", "apps")
+INCLUDED_FROM = ("src", "adapters", "apps", "")
 PROOF = ("tests", "bench", "fuzz")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
@@ -81,13 +83,15 @@ class Tree:
 def room_of(file):
     """The row of a shipped file; None for one that stands in no room of the list."""
     parts = file.split("/")
-    room = BY_NAME.get(parts[1]) if len(parts) > 2 else None
+    if len(parts) == 2:
+        parts.insert(0, "")
+    room = BY_NAME.get(parts[1])
     return room if room and room.folder == parts[0] else None
 
 
 def check_foreign(file, room, target, problems):
     if not STANDARD.match(target) and not re.fullmatch(room.foreign, target):
-        problems.append("%s includes <%s>, which %s/%s is not made for" % (file, target, room.folder, room.name))
+        problems.append("%s includes <%s>, which %s is not made for" % (file, target, os.path.join(room.folder, room.name)))
 
 
 def check_shipped(tree, problems):
@@ -103,7 +107,7 @@ def check_shipped(tree, problems):
             if kind == "<":
                 check_foreign(file, room, target, problems)
                 continue
-            found = tree.find(target, SHIPPED)
+            found = tree.find(target, INCLUDED_FROM)
             other = found and room_of(found)
             if other is None:
                 problems.append('%s includes "%s", which is no file of shipped code' % (file, target))
@@ -132,7 +136,7 @@ def check_proof(tree, problems):
         for kind, target in tree.includes(file):
             if kind == "<":
                 continue
-            found = tree.find(target, (os.path.dirname(file), "tests") + SHIPPED)
+            found = tree.find(target, (os.path.dirname(file), "tests") + INCLUDED_FROM)
             if found is None:
                 problems.append('%s includes "%s", which is no file of the tree' % (file, target))
                 continue
@@ -196,7 +200,7 @@ def check_headers_alone(tree, build, problems):
     def compile_alone(folder, header):
         unit = os.path.join(folder, header.replace("/", "_") + ".cpp")
         with open(unit, "w", encoding="utf-8") as file:
-            file.write('#include "%s"\n' % header.split("/", 1)[1])
+            file.write('#include "%s"\n' % (header.split("/", 1)[1] if room_of(header).folder else header))
         return subprocess.run(flags[os.path.dirname(header)] + ["-fsyntax-only", unit], capture_output=True, text=True,
                               check=False)
 

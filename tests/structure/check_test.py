@@ -28,7 +28,10 @@ class Trees(unittest.TestCase):
 
     def include(self, file, *targets):
         """A file with these includes; each one that stands in quotes is made when it is missing."""
-        self.write(file, "".join("#include %s\n" % (t if t[0] == "<" else '"%s"' % t.split("/", 1)[1]) for t in targets))
+        def quoted(target):
+            return '"%s"' % (target if target.startswith("project/") else target.split("/", 1)[1])
+
+        self.write(file, "".join("#include %s\n" % (t if t[0] == "<" else quoted(t)) for t in targets))
         for target in targets:
             if target[0] != "<" and not os.path.exists(os.path.join(self.root, target)):
                 self.write(target)
@@ -48,7 +51,8 @@ class Includes(Trees):
         self.include("adapters/headless/h.h", "adapters/keyboard/k.h", "adapters/files/f.h", "src/component/c.h")
         self.include("adapters/files/g.cpp", "adapters/keyboard/k.h", "<unistd.h>")
         self.include("apps/cli/c.cpp", "adapters/headless/h.h", "<nlohmann/json.hpp>")
-        self.include("apps/pictures/p.cpp", "apps/editor/e.h", "adapters/qt/q.h", "<QWidget>")
+        self.include("project/p.cpp", "project/p.h", "adapters/files/f.h", "<nlohmann/json.hpp>")
+        self.include("apps/pictures/p.cpp", "apps/editor/e.h", "adapters/qt/q.h", "<QWidget>", "project/p.h")
         self.assertEqual(self.problems(), [])
 
     def test_upward_in_the_component_fails(self):
@@ -71,6 +75,12 @@ class Includes(Trees):
     def test_from_the_renderer_to_the_x_server_fails(self):
         self.include("adapters/qt/a.cpp", "adapters/x11/x.h")
         self.assert_fails("includes run downward only")
+
+    def test_from_the_project_to_the_toolkit_or_the_doubles_fails(self):
+        self.include("project/a.cpp", "adapters/headless/h.h")
+        self.assertIn("project/a.cpp includes \"headless/h.h\": adapters/headless is for cli and tests alone", self.problems())
+        self.include("project/b.cpp", "<QWidget>")
+        self.assertIn("project/b.cpp includes <QWidget>, which project is not made for", self.problems())
 
     def test_from_the_keyboard_to_files_fails(self):
         self.include("adapters/keyboard/a.cpp", "adapters/files/f.h")

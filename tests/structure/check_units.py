@@ -115,7 +115,7 @@ def read(folder):
 
 def main():
     problems, definitions_found = [], 0
-    for folder in ("src", "adapters", "apps"):
+    for folder in ("src", "adapters", "project", "apps"):
         files = read(os.path.join(sys.argv[1], folder))
         definitions_found += check_sources(files, problems)
         if folder == "src":

@@ -1,4 +1,4 @@
-#include "editor/panel_document.h"
+#include "project/panel_document.h"
 
 #include <algorithm>
 
