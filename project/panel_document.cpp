@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "files/file_error.h"
+#include "platform/clean_up.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -98,7 +99,7 @@ void PanelDocument::SetWhatIsNotSaved(ctlPlexelBaseElement& element, const Panel
   element.SizeY(part.element->sizeY);
 }
 
-void PanelDocument::Save(const std::filesystem::path& file) {
+Project PanelDocument::Content() const {
   Project project;
   project.panel = panelName_;
   for (const Place& place : places_) {
@@ -108,9 +109,75 @@ void PanelDocument::Save(const std::filesystem::path& file) {
     PutAtRest(saved.bag);
     saved.codes = CodesOf(place.element->TactisBaseElementScanCodeBuffer());
   }
-  WriteProject(file, project);
+  return project;
+}
+
+void PanelDocument::Save(const std::filesystem::path& file) {
+  WriteProject(file, Content());
   file_ = file;
-  modified_ = false;
+  unsaved_.clear();
+}
+
+void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, const std::function<void()>& act) {
+  std::vector<std::size_t> sorted(places.begin(), places.end());
+  std::ranges::sort(sorted);
+  sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+  std::vector<ElementValues> before;
+  before.reserve(sorted.size());
+  for (const std::size_t place : sorted) before.push_back(ValuesOf(*places_.at(place).element));
+  ++changing_;
+  AndThen(act, [&] {
+    --changing_;
+    Step step;
+    for (std::size_t index = 0; index < sorted.size(); ++index) {
+      const ElementValues now = ValuesOf(*places_[sorted[index]].element);
+      if (now != before[index]) step.parts.push_back({sorted[index], ElementChange(before[index], now)});
+    }
+    if (step.parts.empty()) return;
+    step.name = {kind, {}, step.parts.size()};
+    if (step.parts.size() == 1) step.name.element = places_[step.parts.front().place].element->Name();
+    history_.Add(std::move(step));
+    Account(history_.ToUndo());
+  });
+}
+
+void PanelDocument::Undo() {
+  if (changing_ > 0 || !history_.CanUndo()) return;
+  Step& step = history_.ToUndo();
+  history_.Undone();
+  Exchange(step);
+}
+
+void PanelDocument::Redo() {
+  if (changing_ > 0 || !history_.CanRedo()) return;
+  Step& step = history_.ToRedo();
+  history_.Redone();
+  Exchange(step);
+}
+
+void PanelDocument::Exchange(Step& step) {
+  for (Step::Part& part : step.parts) part.change.Exchange(*places_[part.place].element);
+  Account(step);
+}
+
+void PanelDocument::Account(const Step& step) {
+  std::vector<std::size_t> places;
+  for (const Step::Part& part : step.parts) {
+    places.push_back(part.place);
+    ElementChange toFile = part.change;
+    const auto found = unsaved_.find(part.place);
+    toFile.Precede(found == unsaved_.end() ? ElementChange() : found->second, *places_[part.place].element);
+    if (toFile.IsEmpty()) {
+      unsaved_.erase(part.place);
+    } else {
+      unsaved_.insert_or_assign(part.place, std::move(toFile));
+    }
+  }
+  for (const auto& listener : listeners_) listener(places);
+}
+
+void PanelDocument::Listen(std::function<void(std::span<const std::size_t> places)> listener) {
+  listeners_.push_back(std::move(listener));
 }
 
 int PanelDocument::PlaceOf(const ctlPlexelBaseElement& element) const {

@@ -1,17 +1,24 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "component/component.h"
 #include "files/panel_file.h"
 #include "files/project_file.h"
+#include "project/history.h"
 
 namespace plexel {
 
-/// A display unit with one element on every place of its panel.
+/// A display unit with one element on every place of its panel, and what was done to it.
+///
+/// Whatever changes what the project keeps goes through Change, and is a step that can be taken back.
 class PanelDocument {
  public:
   /// What elements need of their surroundings.
@@ -37,6 +44,8 @@ class PanelDocument {
   /// Writes the project and takes the file as its own; FileError when that fails. The file holds the elements at rest,
   /// whatever is selected and however far it is zoomed; what the screen shows stays.
   void Save(const std::filesystem::path& file);
+  /// What Save writes.
+  Project Content() const;
 
   const Panel& ThePanel() const { return panel_; }
   const std::vector<Place>& Places() const { return places_; }
@@ -45,8 +54,19 @@ class PanelDocument {
   /// Empty for a project that was never saved.
   const std::filesystem::path& File() const { return file_; }
 
-  bool Modified() const { return modified_; }
-  void Modified(bool value) { modified_ = value; }
+  /// Whether the project holds anything else than its file, or than the empty project that it began as.
+  bool Modified() const { return !unsaved_.empty(); }
+
+  /// Runs what may change the elements of some places, and keeps what it has changed as one step; no step when nothing
+  /// has changed. An exception goes on behind the step.
+  void Change(StepKind kind, std::span<const std::size_t> places, const std::function<void()>& act);
+  const History& Steps() const { return history_; }
+  /// Takes the last step back, or does it again; nothing happens when there is none, and inside Change.
+  void Undo();
+  void Redo();
+  /// Calls a listener with the places that a step has changed, or that were changed back, behind each of them. It must
+  /// outlive the document.
+  void Listen(std::function<void(std::span<const std::size_t> places)> listener);
 
   /// Percent; the same for all elements.
   int Zoom() const { return zoom_; }
@@ -64,12 +84,19 @@ class PanelDocument {
   void AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site);
   /// What a saved element does not bring along.
   void SetWhatIsNotSaved(ctlPlexelBaseElement& element, const PanelPart& part, const Site& site);
+  /// Carries a step out; its parts lead back then.
+  void Exchange(Step& step);
+  /// Behind a change of elements: keeps account of what the file does not hold, and tells the listeners.
+  void Account(const Step& step);
 
   std::string panelName_;
   const Panel panel_;
   std::vector<Place> places_;
   std::filesystem::path file_;
-  bool modified_ = false;
+  History history_;
+  std::map<std::size_t, ElementChange> unsaved_;  ///< of elements that differ from the file: what the file holds
+  std::vector<std::function<void(std::span<const std::size_t>)>> listeners_;
+  int changing_ = 0;
   int zoom_ = NormalZoom;
 };
 

@@ -56,9 +56,6 @@ void EditorHost::MouseDblClicked(ctlPlexelBaseElement& element) {
   if (onDoubleClick) onDoubleClick(element);
 }
 
-void EditorHost::ProjectModified(ctlPlexelBaseElement& element) {
-  Tell(element, "ProjectModified", QString());
-  if (onModified) onModified(element);
-}
+void EditorHost::ProjectModified(ctlPlexelBaseElement& element) { Tell(element, "ProjectModified", QString()); }
 
 }  // namespace plexel

@@ -32,7 +32,6 @@ class EditorHost : public ElementHost {
   /// Whether an element of the panel shows the LED function in the layer.
   std::function<bool(std::int32_t type, std::int32_t layer)> ledIsDefined;
   std::function<void(ctlPlexelBaseElement&)> onDoubleClick;
-  std::function<void(ctlPlexelBaseElement&)> onModified;
   /// One event in words, for the log.
   std::function<void(const QString& line)> onEvent;
 

@@ -10,13 +10,13 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <array>
 
 #include "editor/element_text.h"
 #include "editor/elided_label.h"
 #include "editor/log_panel.h"
 #include "editor/panel_view.h"
 #include "files/data_directory.h"
-#include "platform/clean_up.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -82,10 +82,6 @@ void MainWindow::ConnectElements() {
     return document_ && document_->LedIsDefined(type, layer);
   };
   host_.onDoubleClick = [this](ctlPlexelBaseElement& element) { OpenConfiguration(element); };
-  host_.onModified = [this](ctlPlexelBaseElement&) {
-    if (document_) document_->Modified(true);
-    ShowTitle();
-  };
   host_.onEvent = [this](const QString& line) { log_->Append(line); };
   view_->run = [this](const std::function<void()>& act) { Guarded(act); };
   view_->onSelected = [this] {
@@ -105,10 +101,10 @@ PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject
 void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   view_->Show(nullptr);
   document_ = std::move(document);
+  document_->Listen([this](std::span<const std::size_t>) { ShowChange(); });
   view_->Show(document_.get());
   view_->setFocus();
-  ShowStatus();
-  ShowTitle();
+  ShowChange();
 }
 
 bool MainWindow::StartEmpty() {
@@ -147,18 +143,20 @@ bool MainWindow::SaveProject(const std::filesystem::path& file) {
   }
 }
 
+void MainWindow::ShowChange() {
+  view_->update();
+  ShowStatus();
+  ShowTitle();
+  ShowHistory();
+}
+
+void MainWindow::Change(StepKind kind, ctlPlexelBaseElement& element, const std::function<void()>& act) {
+  const std::array place = {static_cast<std::size_t>(document_->PlaceOf(element))};
+  document_->Change(kind, place, act);
+}
+
 void MainWindow::OpenConfiguration(ctlPlexelBaseElement& element) {
-  const auto hold = element.shared_from_this();
-  const udtTactisBaseElement_ScanCodeInfo before = hold->TactisBaseElementScanCodeBuffer();
-  AndThen([&] { hold->OpenConfigurationDialog(); },
-          [&] {
-            // A wizard that is left on its last page keeps what it wrote without a word, and so does a dialog behind
-            // an exception.
-            if (document_ && hold->TactisBaseElementScanCodeBuffer() != before) document_->Modified(true);
-            view_->update();
-            ShowStatus();
-            ShowTitle();
-          });
+  Change(StepKind::Configure, element, [hold = element.shared_from_this()] { hold->OpenConfigurationDialog(); });
 }
 
 void MainWindow::SetZoom(int percent) {

@@ -63,6 +63,13 @@ class MainWindow : public QMainWindow {
   PanelDocument::Site Site();
   void Take(std::unique_ptr<PanelDocument> document);
 
+  void Undo();
+  void Redo();
+  /// Names the steps that can be taken back and done again.
+  void ShowHistory();
+  /// Runs a dialog that may change an element, as one step.
+  void Change(StepKind kind, ctlPlexelBaseElement& element, const std::function<void()>& act);
+
   void AskNew();
   void AskOpen();
   void Save();
@@ -82,6 +89,8 @@ class MainWindow : public QMainWindow {
   void ShowElementMenu(const QPoint& globalPlace);
 
   void OpenConfiguration(ctlPlexelBaseElement& element);
+  /// Behind every step: picture, status line, title and the names of the steps.
+  void ShowChange();
   void ShowStatus();
   /// Configuring is for elements that have something to configure.
   void ShowConfigure();
@@ -104,7 +113,7 @@ class MainWindow : public QMainWindow {
   ElidedLabel* status_ = nullptr;
   QLabel* limits_ = nullptr;
   FormNotes notes_;
-  QAction* configure_ = nullptr;
+  QAction *configure_ = nullptr, *undo_ = nullptr, *redo_ = nullptr;
   std::vector<Named> named_;
   std::vector<std::pair<QMenu*, Text>> menus_;
   QMenu* elementMenu_ = nullptr;

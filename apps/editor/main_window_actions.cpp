@@ -63,9 +63,16 @@ void MainWindow::MakeActions() {
   QAction* const quit = file.addAction(QString(), this, &QWidget::close);
   quit->setShortcut(Qt::CTRL | Qt::Key_Q);
   named_.push_back({quit, Text::Quit});
+  QMenu& edit = addMenu(Text::MenuEdit);
+  undo_ = Add(edit, Text::Undo, QKeySequence::Undo, &MainWindow::Undo);
+  redo_ = Add(edit, Text::Redo, QKeySequence::Redo, &MainWindow::Redo);
+  undo_->setObjectName("Undo");
+  redo_->setObjectName("Redo");
+  redo_->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
   QMenu& element = addMenu(Text::MenuElement);
   elementMenu_ = &element;
   configure_ = Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);
+  configure_->setObjectName("Configure");
   Add(element, Text::Properties, Qt::ALT | Qt::Key_Return, &MainWindow::ShowProperties);
   QMenu& view = addMenu(Text::MenuView);
   Add(view, Text::ZoomIn, QKeySequence::ZoomIn, &MainWindow::ZoomIn)
@@ -90,6 +97,7 @@ void MainWindow::Retranslate() {
   limits_->setText(Say(Text::CaptureIsPartial));
   ShowStatus();
   ShowTitle();
+  ShowHistory();
 }
 
 void MainWindow::UseToolkitTexts() {
@@ -162,7 +170,9 @@ void MainWindow::Configure() {
 }
 
 void MainWindow::ShowProperties() {
-  if (ctlPlexelBaseElement* const element = view_->Selected()) element->OpenPropertiesDialog();
+  ctlPlexelBaseElement* const element = view_->Selected();
+  if (element == nullptr) return;
+  Change(StepKind::Properties, *element, [hold = element->shared_from_this()] { hold->OpenPropertiesDialog(); });
 }
 
 void MainWindow::ZoomIn() {

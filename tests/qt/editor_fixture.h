@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -33,6 +34,11 @@ class Editor : public ::testing::Test {
       if (place.element->Name() == id) return *place.element;
     }
     throw std::logic_error("no element " + id);
+  }
+  /// A step that changes the notes of an element.
+  void ChangeNotes(const std::string& id, const std::string& notes) {
+    const std::array place = {static_cast<std::size_t>(PlaceOf(id))};
+    window.Document()->Change(StepKind::Notes, place, [&] { Element(id).ButtonNotes(notes); });
   }
   int PlaceOf(const std::string& id) { return window.Document()->PlaceOf(Element(id)); }
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {

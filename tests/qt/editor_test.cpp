@@ -126,6 +126,34 @@ TEST_F(Editor, OkOfADialogMakesTheProjectModified) {
   EXPECT_TRUE(window.isWindowModified());
 }
 
+TEST_F(Editor, AConfigurationIsTakenBackAndDoneAgainByKeys) {
+  const udtTactisBaseElement_ScanCodeInfo before = Element("F5").TactisBaseElementScanCodeBuffer();
+  ActOnNextForm([](Hand& hand, Form& form) { hand.Click(*form.Find("cmdOK")); });
+  QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
+  const udtTactisBaseElement_ScanCodeInfo after = Element("F5").TactisBaseElementScanCodeBuffer();
+  ASSERT_NE(after, before);
+  QAction* const undo = window.findChild<QAction*>("Undo");
+  ASSERT_NE(undo, nullptr);
+  EXPECT_EQ(undo->text(), "&Undo: configure F5");
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Element("F5").TactisBaseElementScanCodeBuffer(), before);
+  EXPECT_FALSE(window.isWindowModified());
+  EXPECT_FALSE(undo->isEnabled());
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Element("F5").TactisBaseElementScanCodeBuffer(), after);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  Press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(Element("F5").TactisBaseElementScanCodeBuffer(), after);
+}
+
+TEST_F(Editor, ADialogThatIsCancelledIsNoStep) {
+  ActOnNextForm([](Hand& hand, Form& form) { hand.Click(*form.Find("cmdCancel")); });
+  QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
+  EXPECT_FALSE(window.Document()->Steps().CanUndo());
+}
+
 TEST_F(Editor, CancelOfADialogLeavesTheProjectUnmodified) {
   ActOnNextForm([](Hand& hand, Form& form) { hand.Click(*form.Find("cmdCancel")); });
   QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
@@ -171,7 +199,7 @@ TEST_F(Editor, TheStatusLineNamesLedFunctionsAsSuchAndEqualLayersOnce) {
 }
 
 TEST_F(Editor, ConfigureIsOffForAKeySwitchAndSaysWhy) {
-  const QAction* const configure = window.menuBar()->actions().at(1)->menu()->actions().at(0);
+  const QAction* const configure = window.findChild<QAction*>("Configure");
   Element("F6").ElementType(Key);
   window.View().Select(PlaceOf("F6"));
   EXPECT_FALSE(configure->isEnabled());
@@ -286,7 +314,7 @@ TEST_F(Editor, AProjectWithAPlaceThatThePanelLacksIsRefused) {
 }
 
 TEST_F(Editor, AFileThatCannotBeWrittenLeavesTheProjectModified) {
-  window.Document()->Modified(true);
+  ChangeNotes("F5", "changed");
   QString told;
   AnswerNextBox([&](QMessageBox& box) { told = box.informativeText(); });
   EXPECT_FALSE(window.SaveProject(File("missing/a.plexel")));
@@ -295,7 +323,7 @@ TEST_F(Editor, AFileThatCannotBeWrittenLeavesTheProjectModified) {
 }
 
 TEST_F(Editor, ClosingAModifiedProjectAsksAndCancelKeepsTheWindow) {
-  window.Document()->Modified(true);
+  ChangeNotes("F5", "changed");
   int asked = 0;
   AnswerNextBox([&](QMessageBox& box) {
     ++asked;

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "project/element_change.h"
+
+namespace plexel {
+
+/// What a step of a project's history did; programs say it in the user's language.
+enum class StepKind {
+  Configure,
+  Properties,
+  Paste,
+  Swap,
+  Clear,
+  Notes,
+  LedFunction,
+  Import,
+  Restore,
+  Recover,
+  TakeOver
+};
+
+/// The name of a step.
+struct StepName {
+  StepKind kind = StepKind::Configure;
+  std::string element;    ///< the only element that it changed, else empty
+  std::size_t count = 0;  ///< of elements that it changed
+  bool operator==(const StepName&) const = default;
+};
+
+/// One step: of each element that it changed the values that lead to its other side.
+struct Step {
+  /// The values of one element, by its place in the project.
+  struct Part {
+    std::size_t place;
+    ElementChange change;
+  };
+  StepName name;
+  std::vector<Part> parts;  ///< ascending by place
+};
+
+/// The steps of a project in the order in which they were made, those done before those that were taken back. Without
+/// limit.
+class History {
+ public:
+  bool CanUndo() const { return done_ > 0; }
+  bool CanRedo() const { return done_ < steps_.size(); }
+  /// The step that is taken back next, and the one that is done again next. Only when there is one.
+  Step& ToUndo() { return steps_.at(done_ - 1); }
+  Step& ToRedo() { return steps_.at(done_); }
+  const Step& ToUndo() const { return steps_.at(done_ - 1); }
+  const Step& ToRedo() const { return steps_.at(done_); }
+
+  /// Appends a step that was done; those that were taken back are forgotten.
+  void Add(Step step);
+  void Undone() { --done_; }
+  void Redone() { ++done_; }
+
+ private:
+  std::vector<Step> steps_;
+  std::size_t done_ = 0;
+};
+
+}  // namespace plexel
