@@ -1,5 +1,5 @@
 # All that the chosen parts need besides a compiler, looked for at one place: what is missing is told in one message, by the
-# names that find_package, pkg_check_modules and find_program know.
+# names that find_package, pkg_check_modules, find_program and Python know.
 set(plexel_missing "")
 
 macro(plexel_note_missing found what)
@@ -41,6 +41,20 @@ macro(plexel_programs)
   endforeach()
 endmacro()
 
+# Modules of Python that only tests import, or the names in them.
+macro(plexel_python_modules)
+  foreach(import ${ARGN})
+    set(PLEXEL_python_found FALSE)
+    if(Python3_FOUND)
+      execute_process(COMMAND ${Python3_EXECUTABLE} -c "${import}" RESULT_VARIABLE plexel_status OUTPUT_QUIET ERROR_QUIET)
+      if(plexel_status EQUAL 0)
+        set(PLEXEL_python_found TRUE)
+      endif()
+    endif()
+    plexel_note_missing(PLEXEL_python_found "python3: ${import}")
+  endforeach()
+endmacro()
+
 if(PLEXEL_BUILD_PROGRAMS OR PLEXEL_BUILD_BENCH)
   plexel_package(PkgConfig)
   plexel_modules(XKBCOMMON xkbcommon)
@@ -55,6 +69,7 @@ endif()
 if(PLEXEL_BUILD_TESTS)
   plexel_programs(doxygen)
   plexel_package(Python3 COMPONENTS Interpreter)
+  plexel_python_modules("from jsonschema import Draft202012Validator")
   plexel_package(GTest)
   if(GTest_FOUND AND NOT TARGET GTest::gmock)
     list(APPEND plexel_missing "find_package(GTest), with its GTest::gmock")

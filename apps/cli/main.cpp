@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/check_program.h"
+#include "cli/exchange_program.h"
 #include "cli/exit_status.h"
 #include "cli/script_program.h"
 
@@ -17,6 +18,8 @@ constexpr const char* Usage = R"(usage: plexel WORD ...
   script [--base DIR] [FILE]   carries out the commands of FILE, or of standard input, on elements and dialogs, and
                                answers in JSON, one object a line; DIR is the base path of the installation
   check FILE.cfg               tells what is wrong with a file of named code sequences
+  export PROJECT [FILE.json]   writes all that a project holds as one JSON document
+  import FILE.json PROJECT     writes the project that such a document holds
   --help                       tells this
   --version                    tells the version
 
@@ -39,8 +42,12 @@ struct ProgramWord {
   int (*run)(std::span<const std::string> arguments);
 };
 
-constexpr auto words = std::to_array<ProgramWord>(
-    {{"script", plexel::RunScript}, {"check", plexel::RunCheck}, {"--help", TellUsage}, {"--version", TellVersion}});
+constexpr auto words = std::to_array<ProgramWord>({{"script", plexel::RunScript},
+                                                   {"check", plexel::RunCheck},
+                                                   {"export", plexel::RunExport},
+                                                   {"import", plexel::RunImport},
+                                                   {"--help", TellUsage},
+                                                   {"--version", TellVersion}});
 
 }  // namespace
 

@@ -103,20 +103,23 @@ def check_forms(files, problems):
     return len(forms)
 
 
-def read(folder):
+def read(folder, base):
+    """The sources below a folder with their texts, by their names from `base`."""
     files = {}
     for path, _, names in os.walk(folder):
         for name in sorted(names):
             if name.endswith((".h", ".cpp")):
                 with open(os.path.join(path, name), encoding="utf-8") as file:
-                    files[os.path.relpath(os.path.join(path, name), folder)] = file.read()
+                    files[os.path.relpath(os.path.join(path, name), base)] = file.read()
     return files
 
 
 def main():
     problems, definitions_found = [], 0
     for folder in ("src", "adapters", "project", "apps"):
-        files = read(os.path.join(sys.argv[1], folder))
+        # The room that stands in no folder is included by its own name.
+        path = os.path.join(sys.argv[1], folder)
+        files = read(path, sys.argv[1] if folder == "project" else path)
         definitions_found += check_sources(files, problems)
         if folder == "src":
             forms = check_forms(files, problems)

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "files/project_file.h"
+
+namespace plexel {
+
+/// Files as a call names them: "-" is standard input where a file is read, standard output where one is written.
+
+/// How a file that is read is called in messages.
+std::filesystem::path InputName(const std::string& file);
+/// The whole content; FileError when it cannot be read or is larger than `limit` bytes.
+std::string ReadInput(const std::string& file, std::size_t limit);
+/// A project; FileError when it is none.
+Project ReadInputProject(const std::string& file);
+
+/// Replaces a file as a whole; FileError when that fails.
+void WriteOutput(const std::string& file, std::string_view content);
+
+}  // namespace plexel

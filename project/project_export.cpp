@@ -1,0 +1,133 @@
+#include "project/project_export.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "files/project_syntax.h"
+#include "project/code_bytes.h"
+#include "project/exchange_words.h"
+#include "project/json_text.h"
+
+namespace plexel {
+
+namespace {
+
+namespace words = exchange_words;
+
+/// The name of a value's type and the value itself.
+struct TypedValue {
+  std::string_view type;
+  std::string json;
+};
+
+template <typename Number>
+std::string NumberText(Number number) {
+  char digits[32];
+  return std::string(digits, std::to_chars(digits, digits + sizeof(digits), number).ptr);
+}
+
+TypedValue ToJson(std::int16_t value) { return {project_syntax::Int16, NumberText(value)}; }
+TypedValue ToJson(std::int32_t value) { return {project_syntax::Int32, NumberText(value)}; }
+TypedValue ToJson(std::uint8_t value) { return {project_syntax::UInt8, NumberText(static_cast<unsigned>(value))}; }
+TypedValue ToJson(Boolean value) { return {project_syntax::BooleanType, NumberText(value.Value())}; }
+TypedValue ToJson(double value) {
+  if (!std::isfinite(value)) return {project_syntax::Double, '"' + NumberText(value) + '"'};
+  // A whole number would come back without its sign.
+  return {project_syntax::Double, value == 0 && std::signbit(value) ? "-0.0" : NumberText(value)};
+}
+TypedValue ToJson(const std::string& value) {
+  TypedValue typed{project_syntax::Text, {}};
+  AppendJsonText(typed.json, value);
+  return typed;
+}
+
+/// Writes the document with an indentation of two blanks.
+class Exporter {
+ public:
+  std::string Run(const Project& project) {
+    out_ = "{\n";
+    Member(2, words::Format);
+    out_ += std::to_string(words::FormatVersion) + ",\n";
+    Member(2, words::Panel);
+    out_ += "{\"" + std::string(words::Name) + "\": ";
+    AppendJsonText(out_, project.panel);
+    out_ += "},\n";
+    Member(2, words::Elements);
+    List(2, '[', ']', project.elements, [this](const ProjectElement& element) { Put(element); });
+    out_ += "\n}\n";
+    return std::move(out_);
+  }
+
+ private:
+  void Indent(std::size_t depth) { out_.append(depth, ' '); }
+  void Member(std::size_t depth, std::string_view name) {
+    Indent(depth);
+    AppendJsonText(out_, name);
+    out_ += ": ";
+  }
+
+  /// What a bracket holds, one item a line.
+  template <typename Items, typename Action>
+  void List(std::size_t depth, char open, char close, const Items& items, Action&& put) {
+    out_ += open;
+    bool first = true;
+    for (const auto& item : items) {
+      out_ += first ? "\n" : ",\n";
+      first = false;
+      put(item);
+    }
+    if (!first) {
+      out_ += '\n';
+      Indent(depth);
+    }
+    out_ += close;
+  }
+
+  void Put(const ProjectElement& element) {
+    Indent(4);
+    out_ += "{\n";
+    Member(6, words::Place);
+    AppendJsonText(out_, element.place);
+    out_ += ",\n";
+    Member(6, words::Properties);
+    std::vector<std::pair<std::string_view, const BagValue*>> entries;
+    const auto take = [&entries](std::string_view key, const BagValue& value) { entries.emplace_back(key, &value); };
+    element.bag.ForEach(take, take);
+    List(6, '{', '}', entries, [this](const auto& entry) { Put(entry.first, *entry.second); });
+    if (!element.codes.empty()) {
+      out_ += ",\n";
+      Member(6, words::Codes);
+      List(6, '[', ']', element.codes, [this](const SavedCodes& codes) { Put(codes); });
+    }
+    out_ += '\n';
+    Indent(4);
+    out_ += '}';
+  }
+
+  void Put(std::string_view key, const BagValue& value) {
+    const TypedValue typed = std::visit([](const auto& held) { return ToJson(held); }, value);
+    Member(8, key);
+    out_ += "{\"" + std::string(typed.type) + "\": " + typed.json + '}';
+  }
+
+  void Put(const SavedCodes& saved) {
+    const auto entry = [this](std::string_view name, const std::string& json) {
+      out_ += '"' + std::string(name) + "\": " + json;
+    };
+    Indent(8);
+    out_ += '{';
+    entry(words::Buffer,
+          '"' + std::string(project_syntax::BufferNames.at(static_cast<std::size_t>(saved.buffer))) + "\", ");
+    entry(words::Next, NumberText(saved.codes.NextValue) + ", ");
+    entry(words::Bytes, '"' + ChangedBytes(saved.codes) + "\"}");
+  }
+
+  std::string out_;
+};
+
+}  // namespace
+
+std::string ExportProject(const Project& project) { return Exporter().Run(project); }
+
+}  // namespace plexel
