@@ -1,8 +1,14 @@
 #include "project/panel_document.h"
 
 #include <algorithm>
+#include <numeric>
+#include <string_view>
+#include <system_error>
+#include <unordered_map>
 
 #include "files/file_error.h"
+#include "files/system_files.h"
+#include "files/text_lines.h"
 #include "platform/clean_up.h"
 #include "services/shared_services.h"
 
@@ -13,6 +19,8 @@ namespace {
 Panel ReadNamedPanel(const std::string& name, const std::filesystem::path& directory) {
   return ReadPanel(PanelFile(directory, name));
 }
+
+std::size_t HashOf(std::string_view content) { return std::hash<std::string_view>()(content); }
 
 /// Gives the bag of an element the values that it has at rest, for those that selecting and zooming change.
 void PutAtRest(FlatBag& bag) {
@@ -32,24 +40,33 @@ std::unique_ptr<PanelDocument> PanelDocument::New(const std::string& panelName, 
 }
 
 std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& file, const Site& site) {
-  const Project project = ReadProject(file);
+  std::string content = ReadWholeFile(file, ProjectLimit);
+  const std::size_t hash = HashOf(content);
+  std::unique_ptr<PanelDocument> document = Of(ParseProject(TextFile(file, std::move(content))), file, site);
+  document->file_ = file;
+  document->hash_ = hash;
+  return document;
+}
+
+std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const std::filesystem::path& origin,
+                                                 const Site& site) {
   std::unique_ptr<PanelDocument> document(
       new PanelDocument(project.panel, ReadNamedPanel(project.panel, site.panelDirectory)));
-  for (const ProjectElement& saved : project.elements) {
-    if (document->panel_.Find(saved.place) == nullptr) {
-      throw FileError(file, 0, "the panel \"" + project.panel + "\" has no place \"" + saved.place + '"');
-    }
-  }
-  document->file_ = file;
+  std::unordered_map<std::string_view, const PanelPart*> left;
   for (const PanelPart& part : document->panel_.parts) {
-    if (!part.element) continue;
-    const auto saved = std::find_if(project.elements.begin(), project.elements.end(),
-                                    [&part](const ProjectElement& one) { return one.place == part.element->id; });
-    if (saved == project.elements.end()) {
-      document->AddNew(part, site);
-    } else {
-      document->AddSaved(part, *saved, site);
+    if (part.element) left.emplace(part.element->id, &part);
+  }
+  document->places_.reserve(left.size());
+  for (const ProjectElement& saved : project.elements) {
+    const auto part = left.find(saved.place);
+    if (part == left.end()) {
+      throw FileError(origin, 0, "the panel \"" + project.panel + "\" has no place \"" + saved.place + '"');
     }
+    document->AddSaved(*part->second, saved, site);
+    left.erase(part);
+  }
+  for (const PanelPart& part : document->panel_.parts) {
+    if (part.element && left.contains(part.element->id)) document->AddNew(part, site);
   }
   document->Refresh();
   return document;
@@ -113,9 +130,64 @@ Project PanelDocument::Content() const {
 }
 
 void PanelDocument::Save(const std::filesystem::path& file) {
-  WriteProject(file, Content());
+  const std::string text = ProjectFileText(file, Content());
+  WriteWholeFile(file, text);
   file_ = file;
+  hash_ = HashOf(text);
   unsaved_.clear();
+  fileIsOther_ = false;
+}
+
+PanelDocument::OnDisk PanelDocument::FileNow() const {
+  std::error_code error;
+  if (!std::filesystem::exists(file_, error)) return OnDisk::Gone;
+  try {
+    return HashOf(ReadWholeFile(file_, ProjectLimit)) == hash_ ? OnDisk::Same : OnDisk::Other;
+  } catch (const FileError&) {
+    return OnDisk::Other;
+  }
+}
+
+void PanelDocument::Become(StepKind kind, const PanelDocument& other) {
+  RequireSamePanel(other);
+  std::vector<std::size_t> all(places_.size());
+  std::iota(all.begin(), all.end(), std::size_t{0});
+  Change(kind, all, [&] {
+    ForEachPair(other, [](std::size_t, ElementChange change, ctlPlexelBaseElement& mine) { change.Exchange(mine); });
+  });
+}
+
+void PanelDocument::FileHolds(const PanelDocument& other) {
+  RequireSamePanel(other);
+  file_ = other.file_;
+  hash_ = other.hash_;
+  fileIsOther_ = false;
+  unsaved_.clear();
+  ForEachPair(other, [this](std::size_t place, ElementChange change, const ctlPlexelBaseElement&) {
+    unsaved_.emplace(place, std::move(change));
+  });
+}
+
+void PanelDocument::FileIsLost(const std::filesystem::path& file) {
+  file_ = file;
+  hash_ = 0;
+  fileIsOther_ = true;
+}
+
+void PanelDocument::RequireSamePanel(const PanelDocument& other) const {
+  if (other.panelName_ == panelName_ && other.places_.size() == places_.size()) return;
+  throw FileError(other.file_, 0, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
+}
+
+template <typename Visit>
+void PanelDocument::ForEachPair(const PanelDocument& other, Visit&& visit) {
+  std::unordered_map<std::string_view, const ctlPlexelBaseElement*> theirs;
+  for (const Place& place : other.places_) theirs.emplace(place.element->Name(), place.element.get());
+  for (std::size_t place = 0; place < places_.size(); ++place) {
+    ctlPlexelBaseElement& mine = *places_[place].element;
+    ElementChange change(ValuesOf(*theirs.at(mine.Name())), ValuesOf(mine));
+    if (!change.IsEmpty()) visit(place, std::move(change), mine);
+  }
 }
 
 void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, const std::function<void()>& act) {

@@ -37,6 +37,10 @@ class PanelDocument {
   static std::unique_ptr<PanelDocument> New(const std::string& panelName, const Site& site);
   /// The project of a file. FileError when it or its panel cannot be read, and for places that the panel lacks.
   static std::unique_ptr<PanelDocument> Open(const std::filesystem::path& file, const Site& site);
+  /// A project that stands in memory, without a file; `origin` is named in a FileError. The elements come in the order
+  /// of the project, then those that only the panel has.
+  static std::unique_ptr<PanelDocument> Of(const Project& project, const std::filesystem::path& origin,
+                                           const Site& site);
   ~PanelDocument();
   PanelDocument(const PanelDocument&) = delete;
   PanelDocument& operator=(const PanelDocument&) = delete;
@@ -55,7 +59,18 @@ class PanelDocument {
   const std::filesystem::path& File() const { return file_; }
 
   /// Whether the project holds anything else than its file, or than the empty project that it began as.
-  bool Modified() const { return !unsaved_.empty(); }
+  bool Modified() const { return fileIsOther_ || !unsaved_.empty(); }
+
+  /// The file compared with what this document read or wrote last. Only for a document with a file.
+  enum class OnDisk { Same, Other, Gone };
+  OnDisk FileNow() const;
+  /// Takes over all values of a project on the same panel, as one step; FileError for another panel.
+  void Become(StepKind kind, const PanelDocument& other);
+  /// Takes a project that was just read from a file as what that file holds; the values here stay. FileError for
+  /// another panel.
+  void FileHolds(const PanelDocument& other);
+  /// The file is gone, or holds something else: the project counts as modified until it is saved.
+  void FileIsLost(const std::filesystem::path& file);
 
   /// Runs what may change the elements of some places, and keeps what it has changed as one step; no step when nothing
   /// has changed. An exception goes on behind the step.
@@ -84,6 +99,11 @@ class PanelDocument {
   void AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site);
   /// What a saved element does not bring along.
   void SetWhatIsNotSaved(ctlPlexelBaseElement& element, const PanelPart& part, const Site& site);
+  void RequireSamePanel(const PanelDocument& other) const;
+  /// Calls `visit(place, change, element)` for each element that differs from the one of the same name: the change
+  /// leads to the other's values.
+  template <typename Visit>
+  void ForEachPair(const PanelDocument& other, Visit&& visit);
   /// Carries a step out; its parts lead back then.
   void Exchange(Step& step);
   /// Behind a change of elements: keeps account of what the file does not hold, and tells the listeners.
@@ -93,6 +113,8 @@ class PanelDocument {
   const Panel panel_;
   std::vector<Place> places_;
   std::filesystem::path file_;
+  std::size_t hash_ = 0;      ///< of the file's content as it was read or written last
+  bool fileIsOther_ = false;  ///< the file does not hold what `unsaved_` starts from
   History history_;
   std::map<std::size_t, ElementChange> unsaved_;  ///< of elements that differ from the file: what the file holds
   std::vector<std::function<void(std::span<const std::size_t>)>> listeners_;

@@ -59,7 +59,7 @@ Project ParseProject(const TextFile& file) {
 
 Project ReadProject(const std::filesystem::path& file) { return ParseProject(TextFile(file, ProjectLimit)); }
 
-void WriteProject(const std::filesystem::path& file, const Project& project) {
+std::string ProjectFileText(const std::filesystem::path& file, const Project& project) {
   std::string content;
   try {
     content = FormatProject(project);
@@ -67,7 +67,11 @@ void WriteProject(const std::filesystem::path& file, const Project& project) {
     throw FileError(file, 0, std::string("cannot be written: ") + failure.what());
   }
   if (content.size() > ProjectLimit) throw FileError(file, 0, "cannot be written: the project is too large");
-  WriteWholeFile(file, content);
+  return content;
+}
+
+void WriteProject(const std::filesystem::path& file, const Project& project) {
+  WriteWholeFile(file, ProjectFileText(file, project));
 }
 
 }  // namespace plexel

@@ -49,6 +49,9 @@ std::string FormatProject(const Project& project);
 /// Reads it back. FileError with the line for anything that is no whole and proper project.
 Project ParseProject(const TextFile& file);
 
+/// The text that WriteProject would write to a file; FileError with its name for a project that cannot be written.
+std::string ProjectFileText(const std::filesystem::path& file, const Project& project);
+
 /// Reads and writes a project file; FileError when that fails, and then nothing has changed.
 Project ReadProject(const std::filesystem::path& file);
 void WriteProject(const std::filesystem::path& file, const Project& project);

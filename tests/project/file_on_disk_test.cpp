@@ -1,0 +1,109 @@
+#include <unistd.h>
+
+#include <fstream>
+
+#include "files/file_error.h"
+#include "project/open_document.h"
+#include "project/panel_document.h"
+
+namespace plexel {
+namespace {
+
+/// A project that stands in a file, which others change.
+class FileOnDisk : public OpenDocument {
+ protected:
+  FileOnDisk() { document->Save(file); }
+  ~FileOnDisk() override { std::filesystem::remove(file); }
+  /// Another program puts notes of F3 into the file.
+  void PutNotes(const std::string& notes) {
+    Project project = ReadProject(file);
+    for (ProjectElement& element : project.elements) {
+      if (element.place == "F3") element.bag.Store("ButtonNotes", notes);
+    }
+    WriteProject(file, project);
+  }
+  void Note(const std::string& id, const std::string& text) {
+    Change({id.c_str()}, [&] { Element(id).ButtonNotes(text); });
+  }
+  const std::filesystem::path file =
+      std::filesystem::temp_directory_path() / ("plexel-on-disk-" + std::to_string(::getpid()) + ".plexel");
+};
+
+TEST_F(FileOnDisk, IsTheSameAfterSavingAndAfterOpening) {
+  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Same);
+  EXPECT_EQ(PanelDocument::Open(file, Site())->FileNow(), PanelDocument::OnDisk::Same);
+}
+
+TEST_F(FileOnDisk, IsTheSameWhenItWasWrittenAgainAlike) {
+  WriteProject(file, ReadProject(file));
+  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Same);
+}
+
+TEST_F(FileOnDisk, IsOtherWhenAnotherProgramChangedOrBrokeIt) {
+  PutNotes("theirs");
+  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Other);
+  std::ofstream(file) << "no project";
+  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Other);
+}
+
+TEST_F(FileOnDisk, IsGoneWhenItWasRemoved) {
+  std::filesystem::remove(file);
+  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Gone);
+}
+
+TEST_F(FileOnDisk, TakingTheirsIsOneStepAndThenNothingDiffers) {
+  Note("F4", "mine");
+  PutNotes("theirs");
+  const auto theirs = PanelDocument::Open(file, Site());
+  document->FileHolds(*theirs);
+  document->Become(StepKind::TakeOver, *theirs);
+  EXPECT_EQ(Element("F3").ButtonNotes(), "theirs");
+  EXPECT_EQ(Element("F4").ButtonNotes(), "");
+  EXPECT_FALSE(document->Modified());
+  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Same);
+  document->Undo();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "");
+  EXPECT_EQ(Element("F4").ButtonNotes(), "mine");
+  EXPECT_TRUE(document->Modified());
+}
+
+TEST_F(FileOnDisk, KeepingMineDiffersFromTheirs) {
+  PutNotes("theirs");
+  document->FileHolds(*PanelDocument::Open(file, Site()));
+  EXPECT_TRUE(document->Modified());
+  EXPECT_EQ(Element("F3").ButtonNotes(), "");
+  Note("F3", "theirs");
+  EXPECT_FALSE(document->Modified());
+}
+
+TEST_F(FileOnDisk, KeepingMineWhenTheFileIsGoneStaysModifiedUntilItIsSaved) {
+  std::filesystem::remove(file);
+  document->FileIsLost(file);
+  EXPECT_TRUE(document->Modified());
+  document->Save(file);
+  EXPECT_FALSE(document->Modified());
+}
+
+TEST_F(FileOnDisk, TheProjectOfAnotherPanelIsRefused) {
+  const auto small = PanelDocument::New("Small", Site());
+  EXPECT_THROW(document->Become(StepKind::TakeOver, *small), FileError);
+  EXPECT_THROW(document->FileHolds(*small), FileError);
+  EXPECT_FALSE(document->Modified());
+}
+
+TEST_F(FileOnDisk, ElementsKeepTheOrderOfTheFileAndThoseOfThePanelAloneFollow) {
+  Project project = ReadProject(file);
+  const std::string first = project.elements.front().place, last = project.elements.back().place;
+  std::swap(project.elements.front(), project.elements.back());
+  const std::string missing = project.elements[1].place;
+  project.elements.erase(project.elements.begin() + 1);
+  WriteProject(file, project);
+  const auto opened = PanelDocument::Open(file, Site());
+  ASSERT_EQ(opened->Places().size(), document->Places().size());
+  EXPECT_EQ(opened->Places().front().element->Name(), last);
+  EXPECT_EQ(opened->Places()[opened->Places().size() - 2].element->Name(), first);
+  EXPECT_EQ(opened->Places().back().element->Name(), missing);
+}
+
+}  // namespace
+}  // namespace plexel
