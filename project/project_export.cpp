@@ -1,46 +1,19 @@
 #include "project/project_export.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
+#include <utility>
+#include <vector>
 
 #include "files/project_syntax.h"
 #include "project/code_bytes.h"
 #include "project/exchange_words.h"
 #include "project/json_text.h"
+#include "project/value_text.h"
 
 namespace plexel {
 
 namespace {
 
 namespace words = exchange_words;
-
-/// The name of a value's type and the value itself.
-struct TypedValue {
-  std::string_view type;
-  std::string json;
-};
-
-template <typename Number>
-std::string NumberText(Number number) {
-  char digits[32];
-  return std::string(digits, std::to_chars(digits, digits + sizeof(digits), number).ptr);
-}
-
-TypedValue ToJson(std::int16_t value) { return {project_syntax::Int16, NumberText(value)}; }
-TypedValue ToJson(std::int32_t value) { return {project_syntax::Int32, NumberText(value)}; }
-TypedValue ToJson(std::uint8_t value) { return {project_syntax::UInt8, NumberText(static_cast<unsigned>(value))}; }
-TypedValue ToJson(Boolean value) { return {project_syntax::BooleanType, NumberText(value.Value())}; }
-TypedValue ToJson(double value) {
-  if (!std::isfinite(value)) return {project_syntax::Double, '"' + NumberText(value) + '"'};
-  // A whole number would come back without its sign.
-  return {project_syntax::Double, value == 0 && std::signbit(value) ? "-0.0" : NumberText(value)};
-}
-TypedValue ToJson(const std::string& value) {
-  TypedValue typed{project_syntax::Text, {}};
-  AppendJsonText(typed.json, value);
-  return typed;
-}
 
 /// Writes the document with an indentation of two blanks.
 class Exporter {
@@ -106,7 +79,7 @@ class Exporter {
   }
 
   void Put(std::string_view key, const BagValue& value) {
-    const TypedValue typed = std::visit([](const auto& held) { return ToJson(held); }, value);
+    const TypedJson typed = JsonOf(value);
     Member(8, key);
     out_ += "{\"" + std::string(typed.type) + "\": " + typed.json + '}';
   }
@@ -119,7 +92,7 @@ class Exporter {
     out_ += '{';
     entry(words::Buffer,
           '"' + std::string(project_syntax::BufferNames.at(static_cast<std::size_t>(saved.buffer))) + "\", ");
-    entry(words::Next, NumberText(saved.codes.NextValue) + ", ");
+    entry(words::Next, std::to_string(saved.codes.NextValue) + ", ");
     entry(words::Bytes, '"' + ChangedBytes(saved.codes) + "\"}");
   }
 
