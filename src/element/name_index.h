@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 namespace plexel {
 
@@ -29,8 +30,9 @@ class NameIndex {
     if (name.empty()) return Count;
     for (std::size_t slot = FirstSlot(name); slots_[slot] != Free; slot = (slot + 1) % SlotCount) {
       const std::string_view candidate = names_[slots_[slot]];
-      // The element asks with the very texts of its table.
-      const bool very = candidate.data() == name.data() && candidate.size() == name.size();
+      // The element asks with the very texts of its table. Where constants lie, the compiler does not know.
+      const bool very =
+          !std::is_constant_evaluated() && candidate.data() == name.data() && candidate.size() == name.size();
       if (very || candidate == name) return slots_[slot];
     }
     return Count;
