@@ -68,7 +68,7 @@ std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const s
   for (const PanelPart& part : document->panel_.parts) {
     if (part.element && left.contains(part.element->id)) document->AddNew(part, site);
   }
-  document->Refresh();
+  if (!site.keepsSettings) document->Refresh();
   return document;
 }
 

@@ -27,6 +27,7 @@ class PanelDocument {
     ElementHost& host;
     std::shared_ptr<HostObject> window;
     std::filesystem::path panelDirectory;
+    bool keepsSettings = false;  ///< elements that were saved keep the settings of the user that they were saved with
   };
   struct Place {
     const PanelPart* part;

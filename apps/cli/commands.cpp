@@ -14,8 +14,8 @@ using Table = std::unordered_map<std::string_view, const Command*>;
 
 Table AllCommands() {
   Table table;
-  for (const auto& group :
-       {SurroundingsCommands(), ElementCommands(), FormCommands(), KeyboardCommands(), ProcedureCommands()}) {
+  for (const auto& group : {SurroundingsCommands(), ElementCommands(), FormCommands(), KeyboardCommands(),
+                            ProcedureCommands(), ProjectCommands()}) {
     for (const Command& command : group) table.emplace(command.name, &command);
   }
   return table;

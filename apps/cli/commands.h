@@ -23,6 +23,7 @@ std::span<const Command> ElementCommands();
 std::span<const Command> FormCommands();
 std::span<const Command> KeyboardCommands();
 std::span<const Command> ProcedureCommands();
+std::span<const Command> ProjectCommands();
 
 /// Carries out one command; CommandError for an unknown name or a wrong number of arguments.
 void RunCommand(Workbench& bench, const std::vector<Word>& words, Json& answer);

@@ -97,6 +97,11 @@ void Workbench::Remove(const std::string& name) {
   if (selected_ == name) selected_.clear();
 }
 
+bool Workbench::Has(const ctlPlexelBaseElement& element) const {
+  const auto found = elements_.find(element.Name());
+  return found != elements_.end() && found->second.get() == &element;
+}
+
 Workbench::Element Workbench::Selected() const {
   if (!HasSelected()) throw CommandError("no element is selected");
   return Find(selected_);

@@ -9,6 +9,7 @@
 
 #include "cli/command_error.h"
 #include "cli/message_box.h"
+#include "cli/open_projects.h"
 #include "cli/script_host.h"
 #include "component/component.h"
 #include "files/parameter_file.h"
@@ -36,6 +37,7 @@ class Workbench {
   ScriptHost host;
   KeyRoad keys{platform};
   std::shared_ptr<HostForm> hostForm = std::make_shared<HostForm>();
+  OpenProjects projects;
 
   /// Carries out commands as long as something shown stays open; `open` tells whether it does.
   std::function<void(const std::function<bool()>& open)> runWhile;
@@ -50,6 +52,8 @@ class Workbench {
   void Select(const std::string& name);
   Element Find(const std::string& name) const;
   void Remove(const std::string& name);
+  /// Whether an element is one of these.
+  bool Has(const ctlPlexelBaseElement& element) const;
   /// The selected element; whoever calls into it holds on to it.
   Element Selected() const;
   bool HasSelected() const { return !selected_.empty(); }

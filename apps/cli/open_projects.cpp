@@ -1,0 +1,26 @@
+#include "cli/open_projects.h"
+
+namespace plexel {
+
+OpenProjects::Source OpenProjects::Read(const std::filesystem::path& file,
+                                        const std::filesystem::path& panelDirectory) {
+  Source source{file, ReadProject(file), {}};
+  const Panel panel = ReadPanel(PanelFile(panelDirectory, source.project.panel));
+  for (const PanelPart& part : panel.parts) {
+    if (part.element) source.places.push_back(part.element->id);
+  }
+  return source;
+}
+
+const PanelDocument& OpenProjects::Open(const Source& source, const PanelDocument::Site& site) {
+  opened_.push_back({source.file, PanelDocument::Of(source.project, source.file, site)});
+  return *opened_.back().document;
+}
+
+void OpenProjects::Save(const std::string& file) const {
+  if (opened_.empty()) return;
+  const Opened& latest = opened_.back();
+  WriteProject(file.empty() ? latest.file : std::filesystem::path(file), latest.document->Content());
+}
+
+}  // namespace plexel
