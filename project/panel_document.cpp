@@ -116,16 +116,21 @@ void PanelDocument::SetWhatIsNotSaved(ctlPlexelBaseElement& element, const Panel
   element.SizeY(part.element->sizeY);
 }
 
+ProjectElement PanelDocument::ElementContent(std::size_t place) const {
+  const ctlPlexelBaseElement& element = *places_.at(place).element;
+  ProjectElement saved;
+  saved.place = element.Name();
+  element.UserControl_WriteProperties(saved.bag);
+  PutAtRest(saved.bag);
+  saved.codes = CodesOf(element.TactisBaseElementScanCodeBuffer());
+  return saved;
+}
+
 Project PanelDocument::Content() const {
   Project project;
   project.panel = panelName_;
-  for (const Place& place : places_) {
-    ProjectElement& saved = project.elements.emplace_back();
-    saved.place = place.part->element->id;
-    place.element->UserControl_WriteProperties(saved.bag);
-    PutAtRest(saved.bag);
-    saved.codes = CodesOf(place.element->TactisBaseElementScanCodeBuffer());
-  }
+  project.elements.reserve(places_.size());
+  for (std::size_t place = 0; place < places_.size(); ++place) project.elements.push_back(ElementContent(place));
   return project;
 }
 

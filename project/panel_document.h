@@ -51,6 +51,9 @@ class PanelDocument {
   void Save(const std::filesystem::path& file);
   /// What Save writes.
   Project Content() const;
+  /// What Save writes of one element.
+  ProjectElement ElementContent(std::size_t place) const;
+  const std::string& PanelName() const { return panelName_; }
 
   const Panel& ThePanel() const { return panel_; }
   const std::vector<Place>& Places() const { return places_; }

@@ -29,6 +29,11 @@ std::filesystem::path Existing(const std::filesystem::path& directory) {
   return error || !std::filesystem::is_directory(found, error) ? std::filesystem::path() : found;
 }
 
+std::filesystem::path UsersDirectory(const char* variable, const char* underHome) {
+  const std::filesystem::path base = Environment(variable);
+  return (base.is_absolute() ? base : Environment("HOME") / underHome) / "plexel";
+}
+
 }  // namespace
 
 std::filesystem::path DataDirectory() {
@@ -42,9 +47,8 @@ std::filesystem::path DataDirectory() {
   return PLEXEL_INSTALLED_DATA;
 }
 
-std::filesystem::path ConfigurationDirectory() {
-  if (const std::filesystem::path base = Environment("XDG_CONFIG_HOME"); base.is_absolute()) return base / "plexel";
-  return Environment("HOME") / ".config" / "plexel";
-}
+std::filesystem::path ConfigurationDirectory() { return UsersDirectory("XDG_CONFIG_HOME", ".config"); }
+
+std::filesystem::path StateDirectory() { return UsersDirectory("XDG_STATE_HOME", ".local/state"); }
 
 }  // namespace plexel

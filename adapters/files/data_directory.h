@@ -14,4 +14,8 @@ std::filesystem::path DataDirectory();
 /// ".config" of the home directory. It need not exist.
 std::filesystem::path ConfigurationDirectory();
 
+/// The directory of what programs keep for the user without being asked: "plexel" under $XDG_STATE_HOME when that is an
+/// absolute path, else under ".local/state" of the home directory. It need not exist.
+std::filesystem::path StateDirectory();
+
 }  // namespace plexel

@@ -36,8 +36,14 @@ ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count) : left_(
 
 std::string ProjectWriter::Finish() {
   if (left_ != 0) Refuse(FailureKind::Index, "there are fewer elements than were told");
-  Append("\n[END]\n");
+  Append(Tail);
   return std::move(out_);
+}
+
+std::string ProjectWriter::Section(const ProjectElement& element) {
+  ProjectWriter writer;
+  writer.Add(element);
+  return std::move(writer.out_);
 }
 
 void ProjectWriter::EndLine() {

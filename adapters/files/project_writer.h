@@ -15,10 +15,16 @@ class ProjectWriter {
   /// `count` is the number of elements that will be added.
   ProjectWriter(std::string_view panel, std::size_t count);
   void Add(const ProjectElement& element);
+  /// The text of one element, as it stands in a project.
+  static std::string Section(const ProjectElement& element);
+  /// The text ahead of the elements, and behind them.
+  static std::string Head(std::string_view panel, std::size_t count) { return ProjectWriter(panel, count).out_; }
+  static constexpr std::string_view Tail = "\n[END]\n";
   /// The whole text. Failure (Index) when the elements added are not as many as were told.
   std::string Finish();
 
  private:
+  ProjectWriter() : left_(1), places_(1) {}
   void Append(std::string_view text) { out_ += text; }
   void EndLine();
   template <typename Number>

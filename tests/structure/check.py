@@ -17,7 +17,7 @@ from multiprocessing.pool import ThreadPool
 # One row a room. A room knows itself and those of a lower level; one that stands in no folder is included by its own name. `foreign`: what it may include in angle brackets apart from the
 # standard library. `known_by`: the only shipped rooms that may include it, None for any above.
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
-XKB, XCB, QT, POSIX = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h", r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h"
+XKB, XCB, QT, POSIX = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h", r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h"
 ROOMS = [
     Room("src", "platform", 0),
     Room("src", "forms", 1),

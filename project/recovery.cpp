@@ -1,0 +1,125 @@
+#include "project/recovery.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <numeric>
+#include <system_error>
+
+#include "files/file_error.h"
+#include "files/file_lists.h"
+#include "files/project_writer.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr const char* Extension = ".recovery";
+constexpr const char* LockExtension = ".lock";
+
+std::filesystem::path LockOf(std::filesystem::path file) { return file.replace_extension(LockExtension); }
+
+}  // namespace
+
+RecoveryKeeper::RecoveryKeeper(const std::filesystem::path& directory, Clock clock) : clock_(std::move(clock)) {
+  std::error_code error;
+  std::filesystem::create_directories(directory, error);
+  if (error) throw FileError(directory, 0, "cannot be made: " + error.message());
+  std::filesystem::permissions(directory, std::filesystem::perms::owner_all, error);
+  for (int number = 1; !lock_; ++number) {
+    file_ = directory / (std::to_string(::getpid()) + "-" + std::to_string(number) + Extension);
+    if (std::filesystem::exists(file_, error)) continue;
+    lock_ = ProcessLock::Try(LockOf(file_));
+  }
+  writer_ = std::make_unique<RecoveryWriter>(file_);
+}
+
+RecoveryKeeper::~RecoveryKeeper() {
+  writer_.reset();
+  std::error_code error;
+  if (!std::filesystem::exists(file_, error)) lock_->Remove();
+}
+
+void RecoveryKeeper::Watch(const PanelDocument* document) {
+  document_ = document;
+  stale_.clear();
+  sections_.clear();
+  if (document_ != nullptr) sections_.resize(document_->Places().size());
+  due_ = true;
+}
+
+void RecoveryKeeper::Changed(std::span<const std::size_t> places) {
+  for (const std::size_t place : places) {
+    if (sections_.at(place) != nullptr) stale_.insert(place);
+    sections_[place] = nullptr;
+  }
+  due_ = true;
+}
+
+bool RecoveryKeeper::Work(std::size_t elements) {
+  if (!due_) return false;
+  if (document_ != nullptr && document_->Modified()) {
+    if (stale_.empty() && std::ranges::find(sections_, nullptr) != sections_.end()) {
+      for (std::size_t place = 0; place < sections_.size(); ++place) {
+        if (sections_[place] == nullptr) stale_.insert(stale_.end(), place);
+      }
+    }
+    for (; elements > 0 && !stale_.empty(); --elements) {
+      const std::size_t place = *stale_.begin();
+      sections_[place] = std::make_shared<std::string>(ProjectWriter::Section(document_->ElementContent(place)));
+      stale_.erase(stale_.begin());
+    }
+    if (!stale_.empty()) return true;
+  }
+  HandOver();
+  return false;
+}
+
+void RecoveryKeeper::HandOver() {
+  due_ = false;
+  if (document_ == nullptr || !document_->Modified()) {
+    writer_->Remove();
+    return;
+  }
+  const auto piece = [](std::string text) { return std::make_shared<const std::string>(std::move(text)); };
+  RecoveryWriter::Pieces pieces;
+  pieces.reserve(sections_.size() + 3);
+  pieces.push_back(piece(FormatRecoveryHead({document_->File(), clock_()})));
+  pieces.push_back(piece(ProjectWriter::Head(document_->PanelName(), sections_.size())));
+  pieces.insert(pieces.end(), sections_.begin(), sections_.end());
+  pieces.push_back(piece(std::string(ProjectWriter::Tail)));
+  writer_->Write(std::move(pieces));
+}
+
+void RecoveryKeeper::Flush() {
+  while (Work(sections_.size())) {
+  }
+  writer_->Wait();
+}
+
+std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::vector<std::string>& damaged) {
+  std::vector<LostWork> found;
+  std::error_code error;
+  for (const std::filesystem::path& file : FilesWith(Extension, directory, error)) {
+    try {
+      std::optional<ProcessLock> lock = ProcessLock::Try(LockOf(file));
+      if (!lock) continue;
+      RecoveryFile content = ParseRecovery(TextFile(file, ProjectLimit));
+      found.push_back({std::move(*lock), file, std::move(content)});
+    } catch (const FileError& failure) {
+      damaged.emplace_back(failure.what());
+    }
+  }
+  std::ranges::stable_sort(found, [](const LostWork& left, const LostWork& right) {
+    return left.content.head.time > right.content.head.time;
+  });
+  return found;
+}
+
+void Forget(LostWork& work) {
+  std::error_code error;
+  std::filesystem::remove(work.source, error);
+  work.lock.Remove();
+}
+
+}  // namespace plexel

@@ -1,0 +1,75 @@
+#include "project/versions.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <system_error>
+
+#include "files/file_error.h"
+#include "files/file_lists.h"
+#include "files/number_text.h"
+#include "files/project_file.h"
+#include "files/system_files.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr const char* Extension = ".plexel";
+
+/// The same for the same name in every run and on every system.
+std::uint64_t FingerprintOf(std::string_view bytes) {
+  std::uint64_t hash = 0xCBF29CE484222325U;
+  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+  return hash;
+}
+
+/// A version is named by its time, in so many digits that names sort as times do.
+std::string NameOf(std::int64_t time) {
+  constexpr std::size_t digits = 16;
+  std::string name = std::to_string(std::max<std::int64_t>(time, 0));
+  return std::string(digits - std::min(digits, name.size()), '0') + name + Extension;
+}
+
+}  // namespace
+
+std::filesystem::path VersionStore::DirectoryOf(const std::filesystem::path& project) const {
+  std::error_code error;
+  std::filesystem::path whole = std::filesystem::weakly_canonical(project, error);
+  if (error) whole = std::filesystem::absolute(project, error).lexically_normal();
+  std::array<char, 16> digits{};
+  const auto [end, problem] =
+      std::to_chars(digits.data(), digits.data() + digits.size(), FingerprintOf(whole.string()), 16);
+  return directory_ / std::string(digits.data(), end);
+}
+
+std::vector<VersionStore::Version> VersionStore::List(const std::filesystem::path& project) const {
+  std::vector<Version> versions;
+  std::error_code error;
+  for (const std::filesystem::path& file : FilesWith(Extension, DirectoryOf(project), error)) {
+    if (const auto time = ParseNumber<std::int64_t>(file.stem().string())) versions.push_back({file, *time});
+  }
+  std::ranges::sort(versions, [](const Version& left, const Version& right) { return left.time > right.time; });
+  return versions;
+}
+
+void VersionStore::Keep(const std::filesystem::path& project, std::string_view content, std::int64_t time) const {
+  std::vector<Version> versions = List(project);
+  if (!versions.empty()) {
+    try {
+      if (ReadWholeFile(versions.front().file, ProjectLimit) == content) return;
+    } catch (const FileError&) {  // one that cannot be read is no reason to keep less
+    }
+    time = std::max(time, versions.front().time + 1);
+  }
+  const std::filesystem::path directory = DirectoryOf(project);
+  std::error_code error;
+  std::filesystem::create_directories(directory, error);
+  if (error) throw FileError(directory, 0, "cannot be made: " + error.message());
+  std::filesystem::permissions(directory, std::filesystem::perms::owner_all, error);
+  WriteWholeFile(directory / NameOf(time), content);
+  for (std::size_t index = Most - 1; index < versions.size(); ++index)
+    std::filesystem::remove(versions[index].file, error);
+}
+
+}  // namespace plexel

@@ -1,0 +1,211 @@
+#include "project/recovery.h"
+
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "files/file_error.h"
+#include "files/temporary_directory.h"
+#include "project/open_document.h"
+
+namespace plexel {
+namespace {
+
+using ::testing::HasSubstr;
+
+class Recovery : public OpenDocument {
+ protected:
+  void Watch() {
+    document->Listen([this](std::span<const std::size_t> places) { keeper.Changed(places); });
+    keeper.Watch(document.get());
+  }
+  void Note(const std::string& id, const std::string& text) {
+    Change({id.c_str()}, [&] { Element(id).ButtonNotes(text); });
+  }
+  bool FileStands() { return std::filesystem::exists(keeper.File()); }
+  std::string Content() {
+    std::ifstream file(keeper.File(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  RecoveryFile Kept() { return ParseRecovery(TextFile(keeper.File())); }
+
+  TemporaryDirectory directory;
+  RecoveryKeeper keeper{directory.Path() / "recovery", [] { return std::int64_t{1732250000}; }};
+};
+
+TEST_F(Recovery, AnUnmodifiedProjectHasNoFile) {
+  Watch();
+  keeper.Flush();
+  EXPECT_FALSE(FileStands());
+}
+
+TEST_F(Recovery, TheFileHoldsTheWholeProjectItsNameAndTheTime) {
+  const auto file = directory.Path() / "a % name\n.plexel";
+  document->Save(file);
+  Watch();
+  Note("F3", "unsaved");
+  EXPECT_TRUE(keeper.IsDue());
+  keeper.Flush();
+  EXPECT_FALSE(keeper.IsDue());
+  const RecoveryFile kept = Kept();
+  EXPECT_EQ(kept.head.file, file);
+  EXPECT_EQ(kept.head.time, 1732250000);
+  EXPECT_EQ(kept.project, document->Content());
+}
+
+TEST_F(Recovery, EveryLaterChangeReachesTheFile) {
+  Watch();
+  Note("F3", "a");
+  keeper.Flush();
+  Note("F4", "b");
+  PutBytes("F5", {0xFF, 0x1C, 0xFF});
+  Change({"F5"}, [&] { PutBytes("F5", {0xFF, 0x1B, 0xFF}); });
+  document->Undo();
+  keeper.Flush();
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
+TEST_F(Recovery, SmallPortionsMakeTheSameFile) {
+  Watch();
+  Note("F3", "a");
+  int portions = 1;
+  while (keeper.Work(7)) {
+    ++portions;
+    if (portions == 3) Note("F1", "between two portions");
+  }
+  EXPECT_GE(portions, 46 / 7);
+  keeper.Flush();
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
+TEST_F(Recovery, GoesWhenNothingDiffersAnyMore) {
+  Watch();
+  Note("F3", "a");
+  keeper.Flush();
+  EXPECT_TRUE(FileStands());
+  document->Undo();
+  keeper.Flush();
+  EXPECT_FALSE(FileStands());
+}
+
+TEST_F(Recovery, GoesWhenTheProjectIsSavedOrLeft) {
+  Watch();
+  Note("F3", "a");
+  keeper.Flush();
+  document->Save(directory.Path() / "a.plexel");
+  keeper.Saved();
+  keeper.Flush();
+  EXPECT_FALSE(FileStands());
+  Note("F3", "b");
+  keeper.Flush();
+  keeper.Watch(nullptr);
+  keeper.Flush();
+  EXPECT_FALSE(FileStands());
+}
+
+TEST_F(Recovery, AFailureIsToldAndTheNextWritingTriesAgain) {
+  Watch();
+  Note("F3", "a");
+  std::filesystem::create_directory(keeper.File());
+  keeper.Flush();
+  EXPECT_THAT(keeper.Problem(), HasSubstr("cannot be written"));
+  std::filesystem::remove(keeper.File());
+  Note("F3", "b");
+  keeper.Flush();
+  EXPECT_EQ(keeper.Problem(), "");
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
+TEST_F(Recovery, TwoProgramsDoNotShareAFile) {
+  RecoveryKeeper other(directory.Path() / "recovery", [] { return std::int64_t{}; });
+  EXPECT_NE(other.File(), keeper.File());
+}
+
+/// A program that is killed with unsaved work.
+class LostWorkFound : public Recovery {
+ protected:
+  /// Runs in a process of its own, which ends without any clean-up.
+  void InAProcessThatIsKilled(const std::function<void()>& act) {
+    const pid_t process = ::fork();
+    ASSERT_GE(process, 0);
+    if (process == 0) {
+      act();
+      ::_exit(0);
+    }
+    ::waitpid(process, nullptr, 0);
+  }
+  std::filesystem::path Store() { return directory.Path() / "recovery"; }
+  void PutLost(const std::string& name, std::int64_t time, const std::string& tail = {}) {
+    std::ofstream(Store() / name, std::ios::binary)
+        << FormatRecoveryHead({"/somewhere/" + name, time}) << FormatProject(document->Content()) << tail;
+  }
+  std::vector<std::string> damaged;
+};
+
+TEST_F(LostWorkFound, BehindAProgramThatWasKilled) {
+  InAProcessThatIsKilled([&] {
+    RecoveryKeeper killed(Store(), [] { return std::int64_t{7}; });
+    killed.Watch(document.get());
+    document->Listen([&](std::span<const std::size_t> places) { killed.Changed(places); });
+    Note("F3", "lost");
+    killed.Flush();
+    ::_exit(0);
+  });
+  std::vector<LostWork> lost = FindLostWork(Store(), damaged);
+  ASSERT_EQ(lost.size(), 1U);
+  EXPECT_EQ(lost.front().content.head.time, 7);
+  Note("F3", "lost");
+  EXPECT_EQ(lost.front().content.project, document->Content());
+  Forget(lost.front());
+  EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
+  EXPECT_TRUE(damaged.empty());
+}
+
+TEST_F(LostWorkFound, NotBehindAProgramThatRuns) {
+  Watch();
+  Note("F3", "mine");
+  keeper.Flush();
+  EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
+}
+
+TEST_F(LostWorkFound, TheLatestComesFirstAndIsOfferedOnce) {
+  PutLost("1-1.recovery", 10);
+  PutLost("1-2.recovery", 30);
+  PutLost("1-3.recovery", 20);
+  const std::vector<LostWork> lost = FindLostWork(Store(), damaged);
+  ASSERT_EQ(lost.size(), 3U);
+  EXPECT_EQ(lost[0].content.head.time, 30);
+  EXPECT_EQ(lost[2].content.head.time, 10);
+  EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
+}
+
+TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
+  PutLost("1-1.recovery", 10, "more");
+  std::ofstream(Store() / "1-2.recovery") << "[RECOVERY]\nFormat=1\nFile=%2\nTime=1\n";
+  std::ofstream(Store() / "1-3.recovery") << "[RECOVERY]\nFormat=2\n";
+  std::ofstream(Store() / "1-4.recovery") << "[RECOVERY]\nFormat=1\nFile=a\nTime=x\n";
+  std::ofstream(Store() / "1-5.recovery") << "[RECOVERY]\nFormat=1\nFile=a%00\nTime=1";
+  std::ofstream(Store() / "1-6.recovery") << "";
+  PutLost("1-7.recovery", 20);
+  EXPECT_EQ(FindLostWork(Store(), damaged).size(), 1U);
+  EXPECT_EQ(damaged.size(), 6U);
+  EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.recovery"));
+}
+
+TEST_F(LostWorkFound, EveryCutOfAFileIsDamage) {
+  PutLost("1-1.recovery", 10);
+  const std::string whole = [&] {
+    std::ifstream file(Store() / "1-1.recovery", std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  }();
+  for (std::size_t length = 0; length < whole.size(); length += 1 + length / 50) {
+    EXPECT_THROW(ParseRecovery(TextFile("cut", whole.substr(0, length))), FileError) << length;
+  }
+  EXPECT_NO_THROW(ParseRecovery(TextFile("whole", whole)));
+}
+
+}  // namespace
+}  // namespace plexel
