@@ -1,11 +1,10 @@
 #include "configdialog/frmConfigurationDialog.h"
 
-#include <span>
-
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/list_keys.h"
 #include "services/failure_styles.h"
 #include "services/led_functions.h"
+#include "services/led_offer.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
 
@@ -13,11 +12,10 @@ namespace plexel {
 
 void frmConfigurationDialog::FillLedLists() {
   EndQuietly([this] {
-    const bool fourLayers = IsTrue(CurrentElement().VantaEnabled());
-    for (int index = 1; index < LayerCount; ++index) LedTypeBox(index).Enabled(fourLayers);
-    const auto offered = fourLayers ? std::span<const enumLedType>(LedsOfFourLayers) : LedsOfOneLayer;
-    for (const enumLedType type : offered) {
-      if (TargetHas(*LedFunctions[type].query, CurrentElement().TargetSystem())) AddLedToLists(type);
+    const Boolean vantaEnabled = CurrentElement().VantaEnabled();
+    for (int index = 1; index < LayerCount; ++index) LedTypeBox(index).Enabled(IsTrue(vantaEnabled));
+    for (const enumLedType type : LedsFor(vantaEnabled)) {
+      if (TargetHasLed(type, CurrentElement().TargetSystem())) AddLedToLists(type);
     }
   });
 }

@@ -7,6 +7,7 @@
 #include "forms/form_directory.h"
 #include "platform/clean_up.h"
 #include "platform/platform.h"
+#include "services/code_limit.h"
 #include "services/dialogs.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
@@ -15,8 +16,6 @@
 namespace plexel {
 
 namespace {
-
-constexpr std::int32_t maxScanCodes = 43, maxScanCodesOfVanta = 22;
 
 /// A text for the user; what cannot be fetched stays empty.
 std::string TextOrNothing(std::int32_t number) {
@@ -85,7 +84,7 @@ void ctlPlexelBaseElement::OpenConfigurationDialog() {
   Module().udtSavedScanCodeInfo = TactisBaseElementScanCodeBuffer();
   if (ElementType() == Key) return;
   BecomeCurrent();
-  Module().lngMaxScanCodes = IsTrue(CurrentElement().VantaEnabled()) ? maxScanCodesOfVanta : maxScanCodes;
+  Module().lngMaxScanCodes = MaxScanCodesFor(CurrentElement().VantaEnabled());
   ShowChosenDialog();
   PassOver([&] { SendKeyDefinition(); });
 }

@@ -83,24 +83,6 @@ constexpr KeyName keyNames[] = {{0x08, "Backspace"},
                                 {0x91, "Scroll Lock"}};
 static_assert(std::ranges::is_sorted(keyNames, {}, &KeyName::virtualKey));
 
-/// The fixed name of a key; empty when the layout names it.
-std::string_view FixedName(std::int32_t virtualKey, std::int32_t scanCode, std::int32_t extended) {
-  switch (virtualKey) {
-    case 0x0D:
-      return extended == 1 ? "Numpad Enter" : "Return";
-    case 0x10:
-      return scanCode == scanCodeShiftLeft ? "Shift Left" : "Shift Right";
-    case 0x11:
-      return extended == 1 ? "Ctrl Right" : "Ctrl Left";
-    case 0x12:
-      return extended == 1 ? "Alt Gr" : "Alt";
-    default: {
-      const auto* found = std::ranges::lower_bound(keyNames, virtualKey, {}, &KeyName::virtualKey);
-      return found != std::end(keyNames) && found->virtualKey == virtualKey ? found->name : std::string_view();
-    }
-  }
-}
-
 /// The buffer that the layout writes 16-bit characters to and that is read back as 8-bit ones.
 class LayoutText {
  public:
@@ -167,12 +149,29 @@ std::string UnicodeName(KeyboardLayout& port, KeyboardLayout::Handle layout, std
 
 }  // namespace
 
+std::string_view FixedKeyName(std::int32_t lngVirtualKey, std::int32_t lngScanCode, std::int32_t lngExtended) {
+  switch (lngVirtualKey) {
+    case 0x0D:
+      return lngExtended == 1 ? "Numpad Enter" : "Return";
+    case 0x10:
+      return lngScanCode == scanCodeShiftLeft ? "Shift Left" : "Shift Right";
+    case 0x11:
+      return lngExtended == 1 ? "Ctrl Right" : "Ctrl Left";
+    case 0x12:
+      return lngExtended == 1 ? "Alt Gr" : "Alt";
+    default: {
+      const auto* found = std::ranges::lower_bound(keyNames, lngVirtualKey, {}, &KeyName::virtualKey);
+      return found != std::end(keyNames) && found->virtualKey == lngVirtualKey ? found->name : std::string_view();
+    }
+  }
+}
+
 std::string GetKeyName(std::int32_t lngVirtualKey, std::int32_t lngScanCode, std::int32_t lngExtended,
                        std::int32_t lngFamily) {
   return EndQuietlyWith(std::string(unknownKey), [&](std::string& name) {
     KeyboardLayout& port = Platform::Current().Layout();
     const KeyboardLayout::Handle layout = port.Current();
-    const std::string_view fixed = FixedName(lngVirtualKey, lngScanCode, lngExtended);
+    const std::string_view fixed = FixedKeyName(lngVirtualKey, lngScanCode, lngExtended);
     if (!fixed.empty()) {
       name = fixed;
     } else if (lngVirtualKey == virtualKeyDecimal) {

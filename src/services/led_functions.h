@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 
 #include "services/element_types.h"
 #include "services/surroundings.h"
@@ -43,6 +44,11 @@ inline constexpr auto LedsOfOneLayer = std::to_array<enumLedType>({UserLed, Temp
 inline constexpr auto LedsOfFourLayers =
     std::to_array<enumLedType>({HarddiskLed, PowerLed, CapsLockLed, NumLockLed, Layer1Led, Layer2Led, Layer3Led,
                                 Layer4Led, PanelLockedLed, ScrollLockLed, AlarmLed, RunLed});
+
+/// The functions that are offered, as far as the target system has them.
+inline std::span<const enumLedType> LedsFor(Boolean vantaEnabled) {
+  return IsTrue(vantaEnabled) ? std::span<const enumLedType>(LedsOfFourLayers) : LedsOfOneLayer;
+}
 
 /// Whether a function tells which layer is in force.
 constexpr bool TellsLayer(enumLedType type) { return type >= Layer1Led && type <= Layer4Led; }

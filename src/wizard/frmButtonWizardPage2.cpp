@@ -1,13 +1,12 @@
 #include "wizard/frmButtonWizardPage2.h"
 
-#include <span>
-
 #include "element/ctlPlexelBaseElement.h"
 #include "forms/form_directory.h"
 #include "platform/platform.h"
 #include "services/dialogs.h"
 #include "services/failure_styles.h"
 #include "services/led_functions.h"
+#include "services/led_offer.h"
 #include "services/module_state.h"
 #include "services/shared_services.h"
 
@@ -42,9 +41,8 @@ void frmButtonWizardPage2::OnQueryUnload(UnloadMode mode) {
 void frmButtonWizardPage2::FillLedFunctionList() {
   EndQuietly([this] {
     // The LEDs that tell the layer stay with the configuration dialog.
-    const bool fourLayers = IsTrue(CurrentElement().VantaEnabled());
-    for (const enumLedType type : fourLayers ? std::span<const enumLedType>(LedsOfFourLayers) : LedsOfOneLayer) {
-      if (TellsLayer(type) || !TargetHas(*LedFunctions[type].query, CurrentElement().TargetSystem())) continue;
+    for (const enumLedType type : LedsFor(CurrentElement().VantaEnabled())) {
+      if (TellsLayer(type) || !TargetHasLed(type, CurrentElement().TargetSystem())) continue;
       const Boolean used = CurrentElement().CheckIfLedIsAlreadyDefined(type, 1);
       if (IsTrue(used) && CurrentElement().LEDTypeLayer1() != type) continue;
       cmbLEDTypes.AddItem(LedTypeToText(type));
