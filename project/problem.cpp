@@ -1,0 +1,136 @@
+#include "project/problem.h"
+
+#include <algorithm>
+
+#include "project/key_code_names.h"
+#include "services/shared_services.h"
+#include "services/value_rows.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr auto rules = std::to_array<ProblemRuleRow>({
+    {ProblemRule::Held, "held", ProblemLevel::Error},
+    {ProblemRule::ReleasedFirst, "released-first", ProblemLevel::Warning},
+    {ProblemRule::UnknownBytes, "unknown-bytes", ProblemLevel::Warning},
+    {ProblemRule::NoBytes, "no-bytes", ProblemLevel::Error},
+    {ProblemRule::NoText, "no-text", ProblemLevel::Error},
+    {ProblemRule::GroupsDiffer, "groups-differ", ProblemLevel::Warning},
+    {ProblemRule::OverLimit, "over-limit", ProblemLevel::Error},
+    {ProblemRule::LedWithoutLamp, "led-without-lamp", ProblemLevel::Warning},
+    {ProblemRule::LedNotOffered, "led-not-offered", ProblemLevel::Warning},
+    {ProblemRule::LedTwice, "led-twice", ProblemLevel::Warning},
+    {ProblemRule::NumberTwice, "number-twice", ProblemLevel::Error},
+});
+static_assert(InOrderOfValues(rules, &ProblemRuleRow::rule));
+
+constexpr ProblemWords english = {
+    {
+        "%1 stays down on the machine behind press and release, and joins every further key",
+        "on %d %1 comes up without being down, which the machine passes over",
+        "on %d the machine gets %1, which is no key",
+        "on %d the machine gets nothing, although a text tells what it should get",
+        "on %d the machine gets something, although no text tells of it",
+        "on %d the machine gets what the bytes say: %2 for the %1 that the text tells",
+        "press and release hold %1 code bytes, more than the panel has room for in a layer",
+        "there is no LED that could show %1",
+        "the LED stays dark: the panel does not offer %1 here",
+        "%2 shows %1 too, so that one LED too many lights up",
+        {},
+    },
+    {"button number %1 is that of %2 too: the panel takes both for one key",
+     "LED number %1 is that of %2 too: the panel switches both at once",
+     "key number %1 is that of %2 too: the panel takes both for one key switch"},
+    {"press", "release"},
+};
+static_assert(std::tuple_size_v<decltype(english.patterns)> == rules.size());
+
+template <typename Values, typename Name>
+std::string Joined(const Values& values, std::string_view between, Name&& name) {
+  std::string text;
+  for (const auto value : values) {
+    if (!text.empty()) text += between;
+    text += name(value);
+  }
+  return text;
+}
+
+std::string Number(std::uint32_t value) { return std::to_string(static_cast<std::int32_t>(value)); }
+
+std::string LedName(std::uint32_t value) {
+  std::string name = LedTypeToText(static_cast<std::int32_t>(value));
+  return name.empty() ? Number(value) : name;
+}
+
+/// What a pattern tells beside itself.
+struct PatternWords {
+  std::string first, second;
+};
+
+PatternWords WordsOf(const Problem& problem, std::string_view with) {
+  const auto distinct = [&] {
+    std::vector<std::uint32_t> values = problem.values;
+    std::ranges::sort(values);
+    values.erase(std::unique(values.begin(), values.end()), values.end());
+    return values;
+  };
+  switch (problem.rule) {
+    case ProblemRule::Held:
+    case ProblemRule::ReleasedFirst:
+      return {Joined(problem.values, ", ", KeyNameOf), {}};
+    case ProblemRule::UnknownBytes:
+      return {Joined(problem.values, " ", CodeText), {}};
+    case ProblemRule::GroupsDiffer:
+      return {Number(problem.values.at(0)), Number(problem.values.at(1))};
+    case ProblemRule::OverLimit:
+      return {Number(problem.values.at(0)), {}};
+    case ProblemRule::LedWithoutLamp:
+    case ProblemRule::LedNotOffered:
+    case ProblemRule::LedTwice:
+      return {Joined(distinct(), ", ", LedName), std::string(with)};
+    case ProblemRule::NumberTwice:
+      return {Joined(problem.values, ", ", Number), std::string(with)};
+    case ProblemRule::NoBytes:
+    case ProblemRule::NoText:
+      break;
+  }
+  return {};
+}
+
+std::string_view PatternOf(const Problem& problem, const ProblemWords& words) {
+  if (problem.rule != ProblemRule::NumberTwice) return words.patterns[static_cast<std::size_t>(problem.rule)];
+  return words.numbers[static_cast<std::size_t>(problem.number.value_or(SharedNumber::Button))];
+}
+
+}  // namespace
+
+std::span<const ProblemRuleRow> ProblemRules() { return rules; }
+
+const ProblemRuleRow& RowOf(ProblemRule rule) { return rules[static_cast<std::size_t>(rule)]; }
+
+std::string_view NameOf(ProblemLevel level) { return level == ProblemLevel::Error ? "error" : "warning"; }
+
+std::string_view NameOf(Direction direction) { return direction == Direction::Press ? "press" : "release"; }
+
+const ProblemWords& EnglishProblemWords() { return english; }
+
+std::string ProblemText(const Problem& problem, std::string_view with, const ProblemWords& words) {
+  const PatternWords told = WordsOf(problem, with);
+  const std::string_view pattern = PatternOf(problem, words);
+  std::string text;
+  for (std::size_t place = 0; place < pattern.size(); ++place) {
+    const char next = place + 1 < pattern.size() ? pattern[place + 1] : '\0';
+    if (pattern[place] != '%' || (next != '1' && next != '2' && next != 'd')) {
+      text += pattern[place];
+      continue;
+    }
+    ++place;
+    if (next == '1') text += told.first;
+    if (next == '2') text += told.second;
+    if (next == 'd' && problem.direction) text += words.directions[static_cast<std::size_t>(*problem.direction)];
+  }
+  return text;
+}
+
+}  // namespace plexel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+#include "project/problem.h"
+
+namespace plexel {
+
+class ctlPlexelBaseElement;
+
+/// Whether elements of a kind have an LED, or are keys.
+constexpr bool HasLed(std::int32_t kind) { return kind == Led || kind == OvalLed || kind == RectLed; }
+constexpr bool IsKey(std::int32_t kind) { return kind >= Oval && kind <= RectLed; }
+
+/// Something that one element alone should hold: a hardware number, or the LED function of a layer.
+struct SharedValue {
+  enum class Kind : std::uint8_t { Led1, Led2, Led3, Led4, Button, LedNumber, KeyNumber };
+  Kind kind{};
+  std::uint32_t value = 0;
+  bool operator==(const SharedValue&) const = default;
+};
+
+/// What an element holds, each value once.
+std::vector<SharedValue> SharedValuesOf(const ctlPlexelBaseElement& element);
+
+/// Who holds which value.
+class SharedValues {
+ public:
+  using Elements = std::vector<std::uint32_t>;
+
+  void Add(std::uint32_t element, std::span<const SharedValue> values);
+  void Remove(std::uint32_t element, std::span<const SharedValue> values);
+  /// The elements that hold a value, in their order.
+  const Elements& Holders(const SharedValue& value) const;
+
+ private:
+  struct Hash {
+    std::size_t operator()(const SharedValue& value) const {
+      return std::hash<std::uint64_t>()(static_cast<std::uint64_t>(value.kind) << 32U | value.value);
+    }
+  };
+  std::unordered_map<SharedValue, Elements, Hash> holders_;
+};
+
+}  // namespace plexel
