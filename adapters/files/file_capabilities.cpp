@@ -29,6 +29,12 @@ FileCapabilities::FileCapabilities(const std::filesystem::path& directory) {
   for (const std::filesystem::path& table : TablesIn(directory)) ReadTable(table);
 }
 
+FileCapabilities FileCapabilities::OfTable(const std::filesystem::path& file) {
+  FileCapabilities capabilities;
+  capabilities.ReadTable(file);
+  return capabilities;
+}
+
 void FileCapabilities::ReadTable(const std::filesystem::path& path) {
   const TextFile file(path, Limit);
   IniWalk walk(file);

@@ -20,6 +20,9 @@ class FileCapabilities : public CapabilityService {
   /// FileError for a table that cannot be read or is damaged. A missing directory has no tables.
   explicit FileCapabilities(const std::filesystem::path& directory);
 
+  /// Knows the targets of one table. FileError when it cannot be read or is damaged.
+  static FileCapabilities OfTable(const std::filesystem::path& file);
+
   std::int32_t Ask(Capability query, std::string_view targetSystem) override;
   /// The names of the target systems, sorted.
   std::vector<std::string> Targets() const;

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "cli/exit_status.h"
-#include "cli/file_call.h"
 #include "cli/named_files.h"
+#include "cli/program_call.h"
 #include "project/difference.h"
 #include "project/json_text.h"
 #include "project/value_text.h"
@@ -13,20 +13,6 @@
 namespace plexel {
 
 namespace {
-
-const FileCallForm& Form() {
-  static const FileCallForm form{R"(usage: plexel diff [--json] A B
-
-Tells in what two projects differ: the panel, the stored properties and code buffers of each element, and the elements
-that only one of them has. A property that is not stored has its default. With --json one JSON object a line. "-" is
-standard input. Exit status: 0 no difference, 1 some, 2 the call is wrong or a file cannot be read.
-)",
-                                 2,
-                                 2,
-                                 {"--json"},
-                                 {}};
-  return form;
-}
 
 void AppendMember(std::string& line, std::string_view name, std::string_view json) {
   line += line.empty() ? '{' : ',';
@@ -74,9 +60,9 @@ std::string Shown(const std::string& name) {
   return quoted.size() == name.size() + 2 && name.find(' ') == std::string::npos && !name.empty() ? name : quoted;
 }
 
-std::string SentenceOf(const ProjectDifference& one, const FileCall& call) {
-  if (one.kind == DifferenceKind::OnlyFirst) return Shown(one.element) + ": only in " + call.files[0] + '\n';
-  if (one.kind == DifferenceKind::OnlySecond) return Shown(one.element) + ": only in " + call.files[1] + '\n';
+std::string SentenceOf(const ProjectDifference& one, const std::vector<std::string>& files) {
+  if (one.kind == DifferenceKind::OnlyFirst) return Shown(one.element) + ": only in " + files[0] + '\n';
+  if (one.kind == DifferenceKind::OnlySecond) return Shown(one.element) + ": only in " + files[1] + '\n';
   const auto typed = [&one](const std::optional<BagValue>& value) {
     if (!value) return std::string("not stored");
     const bool twoTypes = one.from && one.to && one.from->index() != one.to->index();
@@ -90,18 +76,19 @@ std::string SentenceOf(const ProjectDifference& one, const FileCall& call) {
   return line + '\n';
 }
 
-int Diff(const FileCall& call) {
-  const Project first = ReadInputProject(call.files[0]);
-  const Project second = ReadInputProject(call.files[1]);
-  const std::vector<ProjectDifference> differences = DifferencesOf(first, second);
-  std::string lines;
-  for (const ProjectDifference& one : differences) lines += call.Has("--json") ? LineOf(one) : SentenceOf(one, call);
-  WriteOutput("-", lines);
-  return differences.empty() ? AllSucceeded : SomeFailed;
-}
-
 }  // namespace
 
-int RunDiff(std::span<const std::string> arguments) { return RunFileCall(Form(), arguments, Diff); }
+int RunDiff(std::span<const std::string> arguments, const Streams& streams) {
+  const ProgramCall call(arguments, {"--json"});
+  call.RequireOthers(2, 2);
+  const std::vector<std::string>& files = call.Others();
+  const Project first = ReadInputProject(files[0], streams.input);
+  const Project second = ReadInputProject(files[1], streams.input);
+  const std::vector<ProjectDifference> differences = DifferencesOf(first, second);
+  std::string lines;
+  for (const ProjectDifference& one : differences) lines += call.Has("--json") ? LineOf(one) : SentenceOf(one, files);
+  WriteOutput(std::string(StandardStream), lines, streams.output);
+  return differences.empty() ? AllSucceeded : SomeFailed;
+}
 
 }  // namespace plexel

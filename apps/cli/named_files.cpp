@@ -1,7 +1,6 @@
 #include "cli/named_files.h"
 
 #include <array>
-#include <cstdio>
 
 #include "files/file_error.h"
 #include "files/system_files.h"
@@ -11,37 +10,35 @@ namespace plexel {
 
 namespace {
 
-constexpr std::string_view Standard = "-";
-
-std::string ReadStandardInput(std::size_t limit) {
+std::string ReadStream(std::istream& stream, std::size_t limit) {
   std::string content;
   std::array<char, std::size_t{64} << 10U> piece;
-  while (const std::size_t count = std::fread(piece.data(), 1, piece.size(), stdin)) {
-    content.append(piece.data(), count);
+  while (stream.read(piece.data(), piece.size()), stream.gcount() > 0) {
+    content.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
     if (content.size() > limit) {
       throw FileError(InputName("-"), 0, "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
     }
   }
-  if (std::ferror(stdin) != 0) throw FileError(InputName("-"), 0, "cannot be read");
+  if (stream.bad()) throw FileError(InputName("-"), 0, "cannot be read");
   return content;
 }
 
 }  // namespace
 
-std::filesystem::path InputName(const std::string& file) { return file == Standard ? "standard input" : file; }
+std::filesystem::path InputName(const std::string& file) { return file == StandardStream ? "standard input" : file; }
 
-std::string ReadInput(const std::string& file, std::size_t limit) {
-  return file == Standard ? ReadStandardInput(limit) : ReadWholeFile(file, limit);
+std::string ReadInput(const std::string& file, std::size_t limit, std::istream& standardInput) {
+  return file == StandardStream ? ReadStream(standardInput, limit) : ReadWholeFile(file, limit);
 }
 
-Project ReadInputProject(const std::string& file) {
-  return ParseProject(TextFile(InputName(file), ReadInput(file, ProjectLimit)));
+Project ReadInputProject(const std::string& file, std::istream& standardInput) {
+  return ParseProject(TextFile(InputName(file), ReadInput(file, ProjectLimit, standardInput)));
 }
 
-void WriteOutput(const std::string& file, std::string_view content) {
-  if (file != Standard) {
+void WriteOutput(const std::string& file, std::string_view content, std::ostream& standardOutput) {
+  if (file != StandardStream) {
     WriteWholeFile(file, content);
-  } else if (std::fwrite(content.data(), 1, content.size(), stdout) != content.size() || std::fflush(stdout) != 0) {
+  } else if (!standardOutput.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
     throw FileError("standard output", 0, "cannot be written");
   }
 }

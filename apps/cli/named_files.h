@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <istream>
+#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -10,15 +12,16 @@
 namespace plexel {
 
 /// Files as a call names them: "-" is standard input where a file is read, standard output where one is written.
+inline constexpr std::string_view StandardStream = "-";
 
 /// How a file that is read is called in messages.
 std::filesystem::path InputName(const std::string& file);
 /// The whole content; FileError when it cannot be read or is larger than `limit` bytes.
-std::string ReadInput(const std::string& file, std::size_t limit);
+std::string ReadInput(const std::string& file, std::size_t limit, std::istream& standardInput);
 /// A project; FileError when it is none.
-Project ReadInputProject(const std::string& file);
+Project ReadInputProject(const std::string& file, std::istream& standardInput);
 
 /// Replaces a file as a whole; FileError when that fails.
-void WriteOutput(const std::string& file, std::string_view content);
+void WriteOutput(const std::string& file, std::string_view content, std::ostream& standardOutput);
 
 }  // namespace plexel
