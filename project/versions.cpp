@@ -1,8 +1,6 @@
 #include "project/versions.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <system_error>
 
 #include "files/file_error.h"
@@ -10,19 +8,13 @@
 #include "files/number_text.h"
 #include "files/project_file.h"
 #include "files/system_files.h"
+#include "project/fingerprint.h"
 
 namespace plexel {
 
 namespace {
 
 constexpr const char* Extension = ".plexel";
-
-/// The same for the same name in every run and on every system.
-std::uint64_t FingerprintOf(std::string_view bytes) {
-  std::uint64_t hash = 0xCBF29CE484222325U;
-  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-  return hash;
-}
 
 /// A version is named by its time, in so many digits that names sort as times do.
 std::string NameOf(std::int64_t time) {
@@ -34,13 +26,7 @@ std::string NameOf(std::int64_t time) {
 }  // namespace
 
 std::filesystem::path VersionStore::DirectoryOf(const std::filesystem::path& project) const {
-  std::error_code error;
-  std::filesystem::path whole = std::filesystem::weakly_canonical(project, error);
-  if (error) whole = std::filesystem::absolute(project, error).lexically_normal();
-  std::array<char, 16> digits{};
-  const auto [end, problem] =
-      std::to_chars(digits.data(), digits.data() + digits.size(), FingerprintOf(whole.string()), 16);
-  return directory_ / std::string(digits.data(), end);
+  return directory_ / FingerprintOf(project);
 }
 
 std::vector<VersionStore::Version> VersionStore::List(const std::filesystem::path& project) const {

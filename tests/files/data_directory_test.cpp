@@ -52,5 +52,16 @@ TEST(ConfigurationDirectory, ARelativeConfigurationHomeDoesNotCount) {
   EXPECT_EQ(ConfigurationDirectory(), "/h/.config/plexel");
 }
 
+TEST(StateDirectory, LiesUnderTheStateHome) {
+  const Environment home("XDG_STATE_HOME", "/s");
+  EXPECT_EQ(StateDirectory(), "/s/plexel");
+}
+
+TEST(StateDirectory, ARelativeStateHomeDoesNotCount) {
+  const Environment state("XDG_STATE_HOME", "s");
+  const Environment home("HOME", "/h");
+  EXPECT_EQ(StateDirectory(), "/h/.local/state/plexel");
+}
+
 }  // namespace
 }  // namespace plexel

@@ -1,0 +1,53 @@
+#include "project/open_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <memory>
+
+#include "files/temporary_directory.h"
+
+namespace plexel {
+namespace {
+
+class OpenFiles : public ::testing::Test {
+ protected:
+  std::unique_ptr<OpenFile> Open(const std::string& name) {
+    return std::make_unique<OpenFile>(directory.Path() / "open", directory.Path() / name);
+  }
+  TemporaryDirectory directory;
+};
+
+TEST_F(OpenFiles, EachKnowsOfTheOther) {
+  const auto first = Open("a.plexel");
+  EXPECT_EQ(first->Others(), 0U);
+  auto second = Open("./a.plexel");
+  EXPECT_EQ(first->Others(), 1U);
+  EXPECT_EQ(second->Others(), 1U);
+  second.reset();
+  EXPECT_EQ(first->Others(), 0U);
+}
+
+TEST_F(OpenFiles, AnotherFileIsNothingToThem) {
+  const auto first = Open("a.plexel"), second = Open("b.plexel");
+  EXPECT_EQ(first->Others(), 0U);
+}
+
+TEST_F(OpenFiles, AProgramThatWasKilledHasNoFileOpen) {
+  const auto first = Open("a.plexel");
+  const pid_t process = ::fork();
+  if (process == 0) {
+    const auto left = Open("a.plexel");
+    ::_exit(first->Others() == 1 ? 0 : 1);
+  }
+  int status = 0;
+  ::waitpid(process, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(first->Others(), 0U);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path() / "open"), {}), 1);
+}
+
+}  // namespace
+}  // namespace plexel
