@@ -27,16 +27,16 @@ static_assert(InOrderOfValues(rules, &ProblemRuleRow::rule));
 
 constexpr ProblemWords english = {
     {
-        "%1 stays down on the machine behind press and release, and joins every further key",
-        "on %d %1 comes up without being down, which the machine passes over",
+        "%1 is still down after release: every further key reaches the machine together with it",
+        "on %d %1 comes up that is not down: the machine passes over it",
         "on %d the machine gets %1, which is no key",
-        "on %d the machine gets nothing, although a text tells what it should get",
-        "on %d the machine gets something, although no text tells of it",
-        "on %d the machine gets what the bytes say: %2 for the %1 that the text tells",
+        "a text stands, but on %d the machine gets nothing",
+        "no text stands, but on %d the machine gets bytes",
+        "the text for %d has %1 groups, but the machine gets %2",
         "press and release hold %1 code bytes, more than the panel has room for in a layer",
         "there is no LED that could show %1",
         "the LED stays dark: the panel does not offer %1 here",
-        "%2 shows %1 too, so that one LED too many lights up",
+        "%2 shows %1 too: both light up at once",
         {},
     },
     {"button number %1 is that of %2 too: the panel takes both for one key",

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <map>
 #include <random>
+#include <set>
 
 #include "element/ctlPlexelBaseElement.h"
 #include "world/world.h"
@@ -347,10 +347,21 @@ TEST_F(ProblemsTest, TextsTellWhatTheMachineGets) {
   const std::vector<Problem> all = problems.All();
   ASSERT_EQ(all.size(), 3u);
   EXPECT_EQ(problems.Text(all[0]),
-            "Ctrl Left stays down on the machine behind press and release, and joins every "
-            "further key");
-  EXPECT_EQ(problems.Text(all[1]), "on release d comes up without being down, which the machine passes over");
+            "Ctrl Left is still down after release: every further key reaches the machine together with it");
+  EXPECT_EQ(problems.Text(all[1]), "on release d comes up that is not down: the machine passes over it");
   EXPECT_EQ(problems.Text(all[2]), "button number 3 is that of E1 too: the panel takes both for one key");
+}
+
+TEST_F(ProblemsTest, EveryRuleHasANameALevelAndWords) {
+  const ProblemWords& words = EnglishProblemWords();
+  std::set<std::string_view> names, patterns(words.numbers.begin(), words.numbers.end());
+  for (const ProblemRuleRow& row : ProblemRules()) {
+    names.insert(row.name);
+    if (row.rule != Rule::NumberTwice) patterns.insert(words.patterns[static_cast<std::size_t>(row.rule)]);
+  }
+  EXPECT_EQ(names.size(), 11u);
+  EXPECT_EQ(patterns.size(), 13u);
+  EXPECT_FALSE(patterns.contains(""));
 }
 
 TEST_F(ProblemsTest, AnotherLanguageBringsItsOwnWords) {
