@@ -9,6 +9,7 @@
 #include "cli/exit_status.h"
 #include "cli/press_program.h"
 #include "cli/program_call.h"
+#include "cli/report_program.h"
 #include "cli/script_program.h"
 #include "files/file_error.h"
 
@@ -53,6 +54,11 @@ standard input
 with the place in it.
 )",
      RunImport},
+    {"report", "PROJECT --html FILE | --csv FILE | --svg FILE",
+     R"(writes what a project holds for people: --html a page with the panel's picture, a legend, a table and the problems,
+which prints well; --csv the table for a spreadsheet; --svg the picture alone. - is standard input or output.
+)",
+     RunReport},
     {"--help", "", "tells this; behind a word, that word alone\n", TellHelp},
     {"--version", "", "tells the version\n", TellVersion},
 });

@@ -1,0 +1,104 @@
+#include "project/report.h"
+
+#include "project/code_bytes.h"
+#include "project/problems.h"
+#include "services/shared_services.h"
+
+namespace plexel {
+
+namespace {
+
+constexpr std::int32_t HardwareKeys = 8, NoContact = -1;
+
+/// What an element of a kind has.
+struct KindRow {
+  enumTactisBaseElementType kind;
+  bool hasKey, hasLed, hasContacts;
+};
+constexpr std::array kinds = {KindRow{Led, false, true, false},    KindRow{Oval, true, false, false},
+                              KindRow{OvalLed, true, true, false}, KindRow{Rect, true, false, false},
+                              KindRow{RectLed, true, true, false}, KindRow{Key, false, false, true}};
+constexpr KindRow anyKind{Led, true, true, false};
+
+const KindRow& KindOf(enumTactisBaseElementType type) {
+  for (const KindRow& kind : kinds) {
+    if (kind.kind == type) return kind;
+  }
+  return anyKind;
+}
+
+std::string_view NameOf(enumTactisBaseElementType type, const ReportWords& words) {
+  return type >= Led && type <= Key ? words.kinds[static_cast<std::size_t>(type - Led)] : words.unknownKind;
+}
+
+std::string BytesOf(const udtTactisBaseElement_TACTIS_SCANCODE& codes) {
+  return codes.NextValue > 0 ? BytesText(codes, 0, static_cast<std::size_t>(codes.NextValue)) : std::string();
+}
+
+std::string ContactsOf(const ctlPlexelBaseElement& element) {
+  std::string numbers;
+  for (std::int32_t index = 0; index < HardwareKeys; ++index) {
+    const std::int32_t number = element.HardwareNumberKeyAt(index);
+    if (number != NoContact) numbers += (numbers.empty() ? "" : " ") + std::to_string(number);
+  }
+  return numbers;
+}
+
+/// "layer 2, press"; empty for a problem of no layer.
+std::string PlaceOf(const Problem& problem) {
+  std::string place;
+  for (const std::int32_t layer : problem.layers) {
+    place += place.empty() ? (problem.layers.size() == 1 ? "layer " : "layers ") : "+";
+    place += std::to_string(layer);
+  }
+  if (problem.direction) place += (place.empty() ? "" : ", ") + std::string(NameOf(*problem.direction));
+  return place;
+}
+
+std::vector<ReportProblem> ProblemsOf(const PanelDocument& document) {
+  const Problems problems(document);
+  std::vector<ReportProblem> told;
+  for (const Problem& problem : problems.All()) {
+    told.push_back({problems.Element(problem.element).Name(), PlaceOf(problem),
+                    std::string(NameOf(RowOf(problem.rule).level)), problems.Text(problem)});
+  }
+  return told;
+}
+
+}  // namespace
+
+const ReportWords& EnglishReportWords() {
+  static constexpr ReportWords words{{"LED", "round key", "round key with LED", "key", "key with LED", "key switch"},
+                                     "unknown"};
+  return words;
+}
+
+Report ReportOf(const PanelDocument& document, std::string name, const ReportWords& words) {
+  Report report;
+  report.panel = &document.ThePanel();
+  report.name = std::move(name);
+  for (const PanelDocument::Place& place : document.Places()) {
+    const ctlPlexelBaseElement& element = *place.element;
+    const KindRow& kind = KindOf(element.ElementType());
+    const udtTactisBaseElement_ScanCodeInfo record = element.TactisBaseElementScanCodeBuffer();
+    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+      ReportRow& row = report.rows.emplace_back();
+      row.element = element.Name();
+      row.kind = NameOf(element.ElementType(), words);
+      row.layer = layer;
+      row.press = element.PressKeyDefLayer(layer);
+      row.release = element.ReleaseKeyDefLayer(layer);
+      row.pressBytes = BytesOf(*PressBuffer(record, layer));
+      row.releaseBytes = BytesOf(*ReleaseBuffer(record, layer));
+      if (element.LEDTypeLayer(layer) != LedNotEnabled) row.led = LedTypeToText(element.LEDTypeLayer(layer));
+      if (kind.hasKey) row.buttonNumber = std::to_string(element.HardwareNumberButton());
+      if (kind.hasContacts) row.buttonNumber = ContactsOf(element);
+      if (kind.hasLed) row.ledNumber = std::to_string(element.HardwareNumberLed());
+      row.note = element.ButtonNotes();
+    }
+  }
+  report.problems = ProblemsOf(document);
+  return report;
+}
+
+}  // namespace plexel
