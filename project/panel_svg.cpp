@@ -37,6 +37,8 @@ std::string Colour(std::int32_t colour, double factor = 1) {
 
 class Picture {
  public:
+  explicit Picture(PanelPlaces places) : places_(places) {}
+
   std::string Draw(const Panel& panel) {
     for (const PanelPart& part : panel.parts) Put(part);
     const std::string size = std::to_string(panel.width) + ' ' + std::to_string(panel.height);
@@ -67,6 +69,7 @@ class Picture {
       if (one.kind == part.kind) (this->*one.draw)(part);
     }
     DrawLegend(part);
+    if (part.element && places_ == PanelPlaces::Shown && part.legend != part.element->id) DrawPlace(part);
     body_ += part.element ? "</g>\n" : "";
   }
 
@@ -168,12 +171,21 @@ class Picture {
     }
   }
 
+  /// Above the part, or at the panel's upper edge.
+  void DrawPlace(const PanelPart& part) {
+    constexpr double size = 10, gap = 2;
+    body_ += "<text" + Attribute("x", Middle(part.box.left, part.box.width)) +
+             Attribute("y", std::max(part.box.top - gap, size)) + Attribute("font-size", size) +
+             " text-anchor=\"middle\" fill=\"#4A5A69\">" + MarkupText(part.element->id) + "</text>\n";
+  }
+
+  const PanelPlaces places_;
   std::string lights_, body_;
   std::map<std::string, std::string> names_;
 };
 
 }  // namespace
 
-std::string PanelSvg(const Panel& panel) { return Picture().Draw(panel); }
+std::string PanelSvg(const Panel& panel, PanelPlaces places) { return Picture(places).Draw(panel); }
 
 }  // namespace plexel

@@ -61,7 +61,7 @@ class Page {
         "<meta name=\"viewport\" content=\"width=device-width\">\n" +
         Tag("title", title) + "\n<style>\n" + std::string(Style) + "</style>\n</head>\n<body>\n" + Tag("h1", title) +
         '\n' + Tag("p", report_.panel->title) + '\n';
-    out_ += "<figure>\n" + PanelSvg(*report_.panel) + "</figure>\n";
+    out_ += "<figure>\n" + PanelSvg(*report_.panel, PanelPlaces::Shown) + "</figure>\n";
     Legend();
     Table();
     Problems();

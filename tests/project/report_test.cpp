@@ -1,0 +1,204 @@
+#include "project/report.h"
+
+#include <gmock/gmock.h>
+
+#include "open_document.h"
+#include "project/panel_svg.h"
+#include "project/report_csv.h"
+#include "project/report_html.h"
+
+namespace plexel {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class ReportOfDocument : public OpenDocument {
+ protected:
+  ReportOfDocument() { world.Speak(); }
+  Report Made() { return ReportOf(*document, "a.plexel"); }
+  ReportRow RowOf(const std::string& id, std::int32_t layer) {
+    for (const ReportRow& row : Made().rows) {
+      if (row.element == id && row.layer == layer) return row;
+    }
+    throw std::logic_error("no row of " + id);
+  }
+};
+
+/// A report of one row on a panel of one key.
+struct OneRow {
+  explicit OneRow(const ReportRow& row) { report.rows.push_back(row); }
+  Panel panel;
+  Report report{"a.plexel", &panel, {}, {}};
+};
+
+ReportRow WithPress(const std::string& text) {
+  ReportRow row;
+  row.element = "F1";
+  row.layer = 1;
+  row.press = text;
+  return row;
+}
+
+std::string CsvField(const std::string& press) {
+  const std::string csv = ReportCsv(OneRow(WithPress(press)).report);
+  const std::size_t start = csv.find("F1,,1,") + 6;
+  return csv.substr(start, csv.rfind(",,,,,,,") - start);
+}
+
+TEST_F(ReportOfDocument, HasARowForEachElementAndLayer) {
+  const Report report = Made();
+  ASSERT_EQ(report.rows.size(), document->Places().size() * 4);
+  for (std::size_t index = 0; index < report.rows.size(); ++index) {
+    EXPECT_EQ(report.rows[index].element, document->Places()[index / 4].element->Name());
+    EXPECT_EQ(report.rows[index].layer, static_cast<std::int32_t>(index % 4 + 1));
+  }
+}
+
+TEST_F(ReportOfDocument, ARowTellsTextsBytesLedNumbersAndNote) {
+  Element("F1").PressKeyDefLayer(2, "[a\u2039]");
+  Element("F1").ReleaseKeyDefLayer(2, "[a\u203A]");
+  Element("F1").LEDTypeLayer(2, RunLed);
+  Element("F1").ButtonNotes("a note");
+  PutBytes("F1", {0xFF, 0xF0, 0x1C, 0xFF});
+  const ReportRow row = RowOf("F1", 2);
+  EXPECT_EQ(row.kind, "key with LED");
+  EXPECT_EQ(row.press, "[a\u2039]");
+  EXPECT_EQ(row.release, "[a\u203A]");
+  EXPECT_EQ(row.pressBytes, "");
+  EXPECT_EQ(row.releaseBytes, "FF F0 1C FF");
+  EXPECT_EQ(row.led, Text(10961));
+  EXPECT_EQ(row.buttonNumber, "11");
+  EXPECT_EQ(row.ledNumber, "14");
+  EXPECT_EQ(row.note, "a note");
+  EXPECT_EQ(RowOf("F1", 1).led, "");
+}
+
+TEST_F(ReportOfDocument, EachKindHasTheNumbersOfItsParts) {
+  EXPECT_EQ(RowOf("L1", 1).buttonNumber, "");
+  EXPECT_EQ(RowOf("L1", 1).ledNumber, "2");
+  EXPECT_EQ(RowOf("K1", 1).kind, "key switch");
+  EXPECT_EQ(RowOf("K1", 1).buttonNumber, "1 2");
+  EXPECT_EQ(RowOf("R1", 1).ledNumber, "");
+}
+
+TEST_F(ReportOfDocument, ProblemsAreTold) {
+  EXPECT_TRUE(Made().problems.empty());
+  Element("F1").PressKeyDefLayer(2, "[a\u2039]");
+  const Report report = Made();
+  ASSERT_FALSE(report.problems.empty());
+  EXPECT_EQ(report.problems[0].element, "F1");
+  EXPECT_THAT(report.problems[0].place, HasSubstr("layer 2"));
+  EXPECT_EQ(report.problems[0].level, "error");
+  EXPECT_THAT(ReportHtml(report), HasSubstr("<td class=\"error\">error</td>"));
+}
+
+TEST(ReportCsv, HasAMarkAHeadRowAndLinesInCrLf) {
+  ReportRow row = WithPress("[a]");
+  row.kind = "key";
+  row.releaseBytes = "FF 1C FF";
+  EXPECT_EQ(ReportCsv(OneRow(row).report),
+            "\uFEFFelement,kind,layer,press,release,press bytes,release bytes,led,button number,LED number,note\r\n"
+            "F1,key,1,[a],,,FF 1C FF,,,,\r\n");
+}
+
+TEST(ReportCsv, FieldsAreQuotedWhereTheyMustBe) {
+  EXPECT_EQ(CsvField("plain [x] ;"), "plain [x] ;");
+  EXPECT_EQ(CsvField("a,b"), "\"a,b\"");
+  EXPECT_EQ(CsvField("a\"b"), "\"a\"\"b\"");
+  EXPECT_EQ(CsvField("a\r\nb"), "\"a\r\nb\"");
+  EXPECT_EQ(CsvField("a\nb"), "\"a\nb\"");
+}
+
+TEST(ReportCsv, NoFieldIsAFormula) {
+  EXPECT_EQ(CsvField("=1+1"), "'=1+1");
+  EXPECT_EQ(CsvField("+1"), "'+1");
+  EXPECT_EQ(CsvField("-1"), "'-1");
+  EXPECT_EQ(CsvField("@A1"), "'@A1");
+  EXPECT_EQ(CsvField("\tx"), "'\tx");
+  EXPECT_EQ(CsvField("\rx"), "\"'\rx\"");
+  EXPECT_EQ(CsvField("=HYPERLINK(\"x\",\"y\")"), "\"'=HYPERLINK(\"\"x\"\",\"\"y\"\")\"");
+  EXPECT_EQ(CsvField("a=1"), "a=1");
+}
+
+TEST(ReportCsv, BrokenTextIsStillUtf8) { EXPECT_EQ(CsvField("a\xFF"), "a\uFFFD"); }
+
+constexpr const char* Hostile = "</td><script>alert(\"1\")</script>&'\x01\xFF";
+constexpr const char* Harmless = "&lt;/td&gt;&lt;script&gt;alert(&quot;1&quot;)&lt;/script&gt;&amp;&#39;\uFFFD\uFFFD";
+
+TEST(ReportHtml, NoTextBecomesMarkUp) {
+  ReportRow row;
+  for (std::string* text : {&row.element, &row.kind, &row.press, &row.release, &row.pressBytes, &row.releaseBytes,
+                            &row.led, &row.buttonNumber, &row.ledNumber, &row.note}) {
+    *text = Hostile;
+  }
+  OneRow one(row);
+  one.report.name = Hostile;
+  one.panel.title = Hostile;
+  one.panel.parts.emplace_back().legend = Hostile;
+  one.panel.parts.back().element.emplace().id = Hostile;
+  one.report.problems.push_back({Hostile, Hostile, Hostile, Hostile});
+  const std::string html = ReportHtml(one.report);
+  EXPECT_THAT(html, HasSubstr(Harmless));
+  EXPECT_THAT(html, Not(HasSubstr("<script")));
+  EXPECT_EQ(html.find('\x01'), std::string::npos);
+  EXPECT_EQ(html.find('\xFF'), std::string::npos);
+}
+
+TEST(ReportHtml, AnElementThatDoesTheSameOnAllLayersIsToldOnce) {
+  OneRow one(WithPress("[a]"));
+  for (int layer = 2; layer <= 4; ++layer) one.report.rows.push_back(one.report.rows.front());
+  EXPECT_THAT(ReportHtml(one.report), HasSubstr("<dt>F1</dt><dd>[a]</dd></div>"));
+  one.report.rows[2].press = "";
+  EXPECT_THAT(ReportHtml(one.report), HasSubstr("<dd>1: [a]</dd><dd>2: [a]</dd><dd>4: [a]</dd></div>"));
+}
+
+TEST(ReportHtml, AnElementWithoutAnythingStandsInTheTableAlone) {
+  const std::string html = ReportHtml(OneRow(WithPress("")).report);
+  EXPECT_THAT(html, Not(HasSubstr("<dt>")));
+  EXPECT_THAT(html, HasSubstr("<b>F1</b>"));
+}
+
+TEST(PanelSvg, EveryKindOfPartIsDrawn) {
+  Panel panel;
+  panel.width = 100;
+  panel.height = 50;
+  const std::string empty = PanelSvg(panel);
+  EXPECT_THAT(empty, StartsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 100 50\""));
+  for (const PanelPartKind kind : {PanelPartKind::Housing, PanelPartKind::Screen, PanelPartKind::Key,
+                                   PanelPartKind::RoundKey, PanelPartKind::KeySwitch, PanelPartKind::Led}) {
+    panel.parts.resize(1);
+    panel.parts[0].kind = kind;
+    panel.parts[0].box = {10, 10, 20, 20};
+    EXPECT_GT(PanelSvg(panel).size(), empty.size() + 50) << static_cast<int>(kind);
+  }
+}
+
+TEST(PanelSvg, ALegendHasALineForEachOfItsLines) {
+  Panel panel;
+  panel.parts.resize(1);
+  panel.parts[0].kind = PanelPartKind::Legend;
+  panel.parts[0].box = {0, 0, 40, 40};
+  panel.parts[0].legend = "a<\nb";
+  panel.parts[0].legendColor = 0x112233;
+  const std::string svg = PanelSvg(panel);
+  EXPECT_THAT(svg, HasSubstr("text-anchor=\"middle\" fill=\"#332211\">a&lt;</text>"));
+  EXPECT_THAT(svg, HasSubstr(">b</text>"));
+}
+
+TEST(PanelSvg, PlacesAreShownWhereTheLegendIsAnother) {
+  Panel panel;
+  panel.parts.resize(1);
+  panel.parts[0].kind = PanelPartKind::Key;
+  panel.parts[0].legend = "ESC";
+  panel.parts[0].element.emplace().id = "R1";
+  EXPECT_THAT(PanelSvg(panel), Not(HasSubstr(">R1</text>")));
+  EXPECT_THAT(PanelSvg(panel, PanelPlaces::Shown), HasSubstr(">R1</text>"));
+  panel.parts[0].legend = "R1";
+  const std::string svg = PanelSvg(panel, PanelPlaces::Shown);
+  EXPECT_EQ(svg.find(">R1</text>"), svg.rfind(">R1</text>"));
+}
+
+}  // namespace
+}  // namespace plexel
