@@ -9,7 +9,8 @@ constexpr const char* FallbackLanguage = "English";
 }  // namespace
 
 FileSurroundings::FileSurroundings(const std::filesystem::path& data, const std::filesystem::path& configuration)
-    : registry_(configuration / "registry.ini", std::string(PositionKey)),
+    : configuration_(configuration),
+      registry_(configuration / "registry.ini", std::string(PositionKey)),
       settings_(configuration / "settings.ini", data, registry_),
       language_(data / "languages"),
       capabilities_(data / "capabilities") {

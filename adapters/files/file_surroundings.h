@@ -31,10 +31,14 @@ class FileSurroundings : public Surroundings {
   /// Why the language that the settings name was not to be had at the start and English stands in for it.
   const std::optional<FileError>& LanguageProblem() const { return languageProblem_; }
 
+  /// The directory of the user's own files. It need not exist.
+  const std::filesystem::path& Configuration() const { return configuration_; }
+
   /// Changes the language of texts and settings. FileError when it cannot be read; the old one then stays.
   void ChooseLanguage(const std::string& name);
 
  private:
+  std::filesystem::path configuration_;
   FileRegistry registry_;
   FileSettings settings_;
   FileLanguage language_;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "qt/form_note.h"
+#include "qt/form_subject.h"
 
 namespace plexel {
 
@@ -23,6 +24,8 @@ class FormDesk {
   virtual void Deactivated(FormView& view) = 0;
   /// What the host says under the form now.
   virtual FormNote NoteOf(Form& form) = 0;
+  /// What the form is about.
+  virtual FormSubject SubjectOf(Form& form) = 0;
   /// Tells the user, and the log, of a failure that came out of one of his acts.
   virtual void Report(const std::string& what) = 0;
   /// Ends the form in front, whose showing then throws what came out of one of the user's acts.

@@ -15,6 +15,7 @@
 #include "qt/fonts.h"
 #include "qt/input_events.h"
 #include "qt/units.h"
+#include "qt/window_place.h"
 
 namespace plexel {
 
@@ -91,7 +92,10 @@ ControlView* FormView::ViewOf(const Control* control) const {
 
 void FormView::Show() {
   if (!form_.Placed() || !OnAnyScreen(form_)) PlaceOverOwner();
+  subject_ = desk_.SubjectOf(form_);
   Sync();
+  StepAside();
+  SyncWindow();
   window_->show();
   window_->activateWindow();
 }
@@ -101,6 +105,14 @@ void FormView::PlaceOverOwner() {
   const QRect around = owner != nullptr ? owner->frameGeometry() : window_->screen()->availableGeometry();
   const QPoint corner = around.center() - QPoint(ToPixels(form_.Width()), ToPixels(form_.Height())) / 2;
   Hand(form_).Move(ToTwips(std::max(0, corner.x())), ToTwips(std::max(0, corner.y())));
+}
+
+void FormView::StepAside() {
+  if (subject_.place.isEmpty()) return;
+  const QSize frame(ToPixels(form_.Width() - form_.ClientWidth()), ToPixels(form_.Height() - form_.ClientHeight()));
+  const QRect window(QPoint(ToPixels(form_.Left()), ToPixels(form_.Top())), window_->size() + frame);
+  const QScreen* const screen = QGuiApplication::screenAt(subject_.place.center());
+  if (screen != nullptr) aside_ = WayBeside(window, subject_.place, screen->availableGeometry());
 }
 
 void FormView::Hide() {
@@ -140,7 +152,8 @@ void FormView::SyncNote() {
 }
 
 void FormView::SyncWindow() {
-  const QString caption = ToQt(form_.Caption());
+  QString caption = ToQt(form_.Caption());
+  if (!subject_.name.isEmpty()) caption += " \u2013 " + subject_.name;
   if (window_->windowTitle() != caption) window_->setWindowTitle(caption);
   const QSize client(ToPixels(form_.ClientWidth()), ToPixels(form_.ClientHeight()));
   QSize whole = client;
@@ -151,7 +164,7 @@ void FormView::SyncWindow() {
     whole.rheight() += height;
   }
   if (window_->size() != whole || window_->minimumSize() != whole) window_->setFixedSize(whole);
-  const QPoint place(ToPixels(form_.Left()), ToPixels(form_.Top()));
+  const QPoint place = QPoint(ToPixels(form_.Left()), ToPixels(form_.Top())) + aside_;
   if (place == placed_ && window_->testAttribute(Qt::WA_Moved)) return;
   placed_ = place;
   window_->move(place);
@@ -281,6 +294,7 @@ void FormView::WindowMoved() {
   const QPoint place = window_->pos();
   if (!window_->isVisible() || place == placed_) return;
   placed_ = place;
+  aside_ = QPoint();
   CarryOnForm([place](Hand& hand) { hand.Move(ToTwips(place.x()), ToTwips(place.y())); });
 }
 

@@ -54,6 +54,8 @@ class FormView : public QObject, public UserActs {
   void MakeViews();
   void MakeViewOf(Control& control);
   void PlaceOverOwner();
+  /// Moves the window, and not the form, from what the form is about.
+  void StepAside();
   void SyncWindow();
   void SyncNote();
   void SyncFocus();
@@ -74,7 +76,9 @@ class FormView : public QObject, public UserActs {
   FormNote noted_;
   const Control* pressed_ = nullptr;
   bool leftToEditor_ = false;  ///< the key at hand is the text box's own to carry out
-  QPoint placed_;
+  FormSubject subject_;
+  QPoint aside_;   ///< how far the window stands from the place of the form, until the user moves it
+  QPoint placed_;  ///< of the window
 };
 
 }  // namespace plexel

@@ -1,5 +1,6 @@
 #include "qt/panel_painter.h"
 
+#include <QFontMetrics>
 #include <QLinearGradient>
 #include <QPainterPath>
 #include <QRadialGradient>
@@ -116,11 +117,15 @@ Qt::Alignment AlignmentOf(LegendAlignment alignment) {
   return Qt::AlignCenter;
 }
 
-void DrawLegend(QPainter& painter, const PanelPart& part) {
-  if (part.legend.empty()) return;
+QFont FontOf(const PanelPart& part) {
   QFont font = DialogFont();
   font.setPixelSize(std::max(1, part.legendSize));
-  painter.setFont(font);
+  return font;
+}
+
+void DrawLegend(QPainter& painter, const PanelPart& part) {
+  if (part.legend.empty()) return;
+  painter.setFont(FontOf(part));
   painter.setPen(ColourOf(part.legendColor));
   painter.drawText(BoxOf(part), AlignmentOf(part.legendAlignment) | Qt::TextDontClip, ToQt(part.legend));
 }
@@ -148,7 +153,35 @@ void DrawLine(QPainter& painter, const SurfaceLine& line) {
   painter.drawLine(PixelPoint(line.X1, line.Y1), PixelPoint(line.X2, line.Y2));
 }
 
+/// The tick, small in the upper right corner of a surface, on a ground of its own.
+void DrawCornerTick(QPainter& painter, const Surface& surface, bool round) {
+  if (!surface.linOK1.Visible) return;
+  constexpr double Share = 0.2, Smallest = 6, OfRound = 0.1;
+  const QPointF whole = PixelPoint(surface.Width, surface.Height);
+  const double least = std::min(whole.x(), whole.y()), size = std::max(Smallest, Share * least);
+  const double edge = size * 0.4 + (round ? OfRound * least : 0);
+  const QPointF corner(whole.x() - size - edge, edge);
+  const std::array points = {corner + QPointF(0, size * 0.55), corner + QPointF(size * 0.35, size * 0.9),
+                             corner + QPointF(size, size * 0.1)};
+  QPen pen(QColor(255, 255, 255, 220), size / 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  painter.setPen(pen);
+  painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+  pen.setColor(ColourOf(surface.linOK1.BorderColor));
+  pen.setWidthF(std::max(2.0, size / 5));
+  painter.setPen(pen);
+  painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+}
+
 }  // namespace
+
+QRect BoundsOf(const PanelPart& part) {
+  constexpr int Line = 1;
+  const QRect box = BoxOf(part).toRect().adjusted(-Line, -Line, Line, Line);
+  if (part.legend.empty()) return box;
+  const QRect text = QFontMetrics(FontOf(part))
+                         .boundingRect(BoxOf(part).toRect(), AlignmentOf(part.legendAlignment), ToQt(part.legend));
+  return box | text.adjusted(-Line, -Line, Line, Line);
+}
 
 void DrawPart(QPainter& painter, const PanelPart& part) {
   for (const PartDrawing& one : drawings) {
@@ -157,7 +190,7 @@ void DrawPart(QPainter& painter, const PanelPart& part) {
   DrawLegend(painter, part);
 }
 
-void DrawSurface(QPainter& painter, const Surface& surface) {
+void DrawSurface(QPainter& painter, const Surface& surface, TickPlace tick) {
   painter.setBrush(Qt::NoBrush);
   if (surface.shpOval.Visible) {
     painter.setPen(PenOf(surface.shpOval.BorderColor, surface.shpOval.BorderWidth));
@@ -167,9 +200,42 @@ void DrawSurface(QPainter& painter, const Surface& surface) {
     painter.setPen(PenOf(surface.shpRect.BorderColor, surface.shpRect.BorderWidth));
     painter.drawRect(ShapeRect(surface.shpRect));
   }
-  for (const SurfaceLine* line : {&surface.linX1, &surface.linX2, &surface.linOK1, &surface.linOK2}) {
-    DrawLine(painter, *line);
+  for (const SurfaceLine* line : {&surface.linX1, &surface.linX2}) DrawLine(painter, *line);
+  if (tick == TickPlace::Corner || tick == TickPlace::RoundCorner) {
+    DrawCornerTick(painter, surface, tick == TickPlace::RoundCorner);
   }
+  if (tick != TickPlace::AsDesigned) return;
+  for (const SurfaceLine* line : {&surface.linOK1, &surface.linOK2}) DrawLine(painter, *line);
+}
+
+void DrawChoice(QPainter& painter, const QRect& box, const QColor& colour) {
+  constexpr double Width = 2, Round = 4;
+  constexpr int Veil = 50;
+  QColor veil = colour;
+  veil.setAlpha(Veil);
+  painter.setPen(QPen(colour, Width));
+  painter.setBrush(veil);
+  painter.drawRoundedRect(QRectF(box).adjusted(-Width, -Width, Width, Width), Round, Round);
+}
+
+void DrawLabel(QPainter& painter, const QRect& box, const QString& text, qreal scale) {
+  constexpr double Size = 10, Smallest = 6, MostOfHeight = 0.34;
+  constexpr int Side = 3;
+  QFont font = DialogFont();
+  font.setPixelSize(static_cast<int>(std::max(Smallest, Size * scale)));
+  const QFontMetrics metrics(font);
+  QRect strip(box.left(), 0, box.width(), metrics.height());
+  if (text.isEmpty() || strip.height() > MostOfHeight * box.height()) return;
+  strip.moveBottom(box.bottom() - 1);
+  const QString shown = metrics.elidedText(text, Qt::ElideRight, strip.width() - 2 * Side);
+  QRect ground(0, 0, std::min(strip.width(), metrics.horizontalAdvance(shown) + 2 * Side), strip.height());
+  ground.moveCenter(strip.center());
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(255, 248, 214, 235));
+  painter.drawRoundedRect(ground, 2, 2);
+  painter.setFont(font);
+  painter.setPen(QColor(0x22, 0x38, 0x4F));
+  painter.drawText(strip, Qt::AlignCenter | Qt::TextSingleLine, shown);
 }
 
 }  // namespace plexel

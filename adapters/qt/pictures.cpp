@@ -43,4 +43,10 @@ QPixmap PicturePixmap(const std::string& name, const QSize& size, qreal ratio) {
   return pixmap;
 }
 
+QIcon PictureIcon(const std::string& name, const QSize& size) {
+  QIcon icon;
+  for (const qreal ratio : {1, 2, 3}) icon.addPixmap(PicturePixmap(name, size, ratio));
+  return icon;
+}
+
 }  // namespace plexel

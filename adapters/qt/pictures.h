@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QPainter>
 #include <QPixmap>
 #include <QRectF>
@@ -16,5 +17,7 @@ QSize PictureSize(const std::string& name);
 void DrawPicture(QPainter& painter, const std::string& name, const QRectF& target);
 /// A picture of a size in logical pixels, at the resolution of a screen of this ratio.
 QPixmap PicturePixmap(const std::string& name, const QSize& size, qreal ratio);
+/// A picture as an icon of a size in logical pixels, for screens of any ratio.
+QIcon PictureIcon(const std::string& name, const QSize& size);
 
 }  // namespace plexel

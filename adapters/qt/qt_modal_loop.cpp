@@ -128,6 +128,8 @@ FormNote QtModalLoop::NoteOf(Form& form) {
   return told;
 }
 
+FormSubject QtModalLoop::SubjectOf(Form& form) { return subject ? subject(form) : FormSubject(); }
+
 void QtModalLoop::Report(const std::string& what) {
   qWarning("%s", what.c_str());
   if (!onFailure || reporting_) return;

@@ -40,6 +40,7 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   void Activated(FormView& view) override;
   void Deactivated(FormView& view) override;
   FormNote NoteOf(Form& form) override;
+  FormSubject SubjectOf(Form& form) override;
   void Report(const std::string& what) override;
   void Abandon(std::exception_ptr thrown) override;
 
@@ -56,6 +57,8 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   std::function<void(const std::string& what)> onFailure;
   /// What the host says under an open form; asked whenever the forms show what their models say.
   std::function<FormNote(Form& form)> note;
+  /// What a form is about that opens.
+  std::function<FormSubject(Form& form)> subject;
 
  private:
   struct Open {

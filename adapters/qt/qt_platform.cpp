@@ -33,6 +33,7 @@ void QtPlatform::ButtonTexts(std::function<QString(MessageAnswer)> text) {
   ports_->messages.buttonText = std::move(text);
 }
 void QtPlatform::Notes(std::function<FormNote(Form&)> say) { ports_->modal.note = std::move(say); }
+void QtPlatform::Subjects(std::function<FormSubject(Form&)> tell) { ports_->modal.subject = std::move(tell); }
 bool QtPlatform::HasFullCapture() const { return ports_->capture != nullptr; }
 
 }  // namespace plexel

@@ -7,6 +7,7 @@
 
 #include "platform/platform.h"
 #include "qt/form_note.h"
+#include "qt/form_subject.h"
 
 class QWidget;
 
@@ -43,6 +44,8 @@ class QtPlatform : public Platform {
   void OnFailure(std::function<void(const std::string& what)> show);
   /// What the host says under an open form, asked behind each of the user's acts; without it nothing.
   void Notes(std::function<FormNote(Form& form)> say);
+  /// Tells what a form is about that opens, for the title and the place of its window; without it nothing.
+  void Subjects(std::function<FormSubject(Form& form)> tell);
   /// Gives the buttons of message boxes their texts in the user's language; without it they have the toolkit's.
   void ButtonTexts(std::function<QString(MessageAnswer)> text);
   /// Whether capture works as on an X server: every key arrives, and the desktop's task keys can be held back.

@@ -13,8 +13,9 @@ QString Quoted(const std::string& text) { return '"' + ToQt(text) + '"'; }
 
 }  // namespace
 
-void EditorHost::Tell(const ctlPlexelBaseElement& element, const char* event, const QString& arguments) {
-  if (onEvent) onEvent(ToQt(element.Name()) + ": " + event + '(' + arguments + ')');
+void EditorHost::Tell(const ctlPlexelBaseElement& element, Text words, const char* event, const QString& arguments) {
+  const QString name = ToQt(element.Name());
+  if (onEvent) onEvent(Say(words).arg(name), name + ": " + event + '(' + arguments + ')');
 }
 
 void EditorHost::PropertyChanged(ctlPlexelBaseElement& element, const Notice&) {
@@ -26,7 +27,9 @@ Boolean EditorHost::CheckIfLedIsAlreadyDefined(std::int32_t& LEDType, std::int32
 }
 
 void EditorHost::DirectInputStatusChanged(ctlPlexelBaseElement& element, Boolean& bDirectInputStatus) {
-  Tell(element, "DirectInputStatusChanged", QString::number(bDirectInputStatus.Value()));
+  const bool begins = IsTrue(bDirectInputStatus);
+  Tell(element, begins ? Text::EventRecording : Text::EventRecorded, "DirectInputStatusChanged",
+       QString::number(bDirectInputStatus.Value()));
 }
 
 void EditorHost::SendKeyDefinition(ctlPlexelBaseElement& element, KeyDefinition& definition) {
@@ -41,21 +44,23 @@ void EditorHost::SendKeyDefinition(ctlPlexelBaseElement& element, KeyDefinition&
        {definition.LEDTypeLayer1, definition.LEDTypeLayer2, definition.LEDTypeLayer3, definition.LEDTypeLayer4}) {
     arguments.append(QString::number(type));
   }
-  Tell(element, "SendKeyDefinition", arguments.join(", "));
+  Tell(element, Text::EventHandedOver, "SendKeyDefinition", arguments.join(", "));
 }
 
 void EditorHost::MouseClicked(ctlPlexelBaseElement& element, std::int16_t& Button, std::int16_t& Shift, float& x,
                               float& Y) {
   const QStringList arguments = {QString::number(Button), QString::number(Shift),
                                  QString::number(static_cast<double>(x)), QString::number(static_cast<double>(Y))};
-  Tell(element, "MouseClicked", arguments.join(", "));
+  Tell(element, Text::EventClicked, "MouseClicked", arguments.join(", "));
 }
 
 void EditorHost::MouseDblClicked(ctlPlexelBaseElement& element) {
-  Tell(element, "MouseDblClicked", QString());
+  Tell(element, Text::EventDoubleClicked, "MouseDblClicked", QString());
   if (onDoubleClick) onDoubleClick(element);
 }
 
-void EditorHost::ProjectModified(ctlPlexelBaseElement& element) { Tell(element, "ProjectModified", QString()); }
+void EditorHost::ProjectModified(ctlPlexelBaseElement& element) {
+  Tell(element, Text::EventModified, "ProjectModified", QString());
+}
 
 }  // namespace plexel

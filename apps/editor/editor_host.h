@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 
+#include "editor/texts.h"
 #include "element/element_host.h"
 #include "platform/window.h"
 
@@ -32,11 +33,11 @@ class EditorHost : public ElementHost {
   /// Whether an element of the panel shows the LED function in the layer.
   std::function<bool(std::int32_t type, std::int32_t layer)> ledIsDefined;
   std::function<void(ctlPlexelBaseElement&)> onDoubleClick;
-  /// One event in words, for the log.
-  std::function<void(const QString& line)> onEvent;
+  /// One event, for the log: in the user's words, and as the precise call.
+  std::function<void(const QString& words, const QString& call)> onEvent;
 
  private:
-  void Tell(const ctlPlexelBaseElement& element, const char* event, const QString& arguments);
+  void Tell(const ctlPlexelBaseElement& element, Text words, const char* event, const QString& arguments);
 };
 
 }  // namespace plexel

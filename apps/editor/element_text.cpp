@@ -54,6 +54,33 @@ QString LayerText(const ctlPlexelBaseElement& element, std::int32_t layer) {
   return parts.join("  ");
 }
 
+/// "[a\u2039\u203A][b\u2039]" as "a b\u2039".
+QString WithoutSignsOfStrokes(QString definition) {
+  const QString make = QString::fromUtf8("\u2039"), both = QString::fromUtf8("\u2039\u203A");
+  if (!definition.startsWith('[') || !definition.endsWith(']')) return definition;
+  definition = definition.sliced(1).replace(both + "][", " ").replace(make + "][", make + " ");
+  definition.replace(QString::fromUtf8("\u203A]["), QString::fromUtf8("\u203A "));
+  definition.chop(1);
+  return definition.endsWith(both) ? definition.chopped(both.size()) : definition;
+}
+
+QString ShortLayerText(const ctlPlexelBaseElement& element, std::int32_t layer) {
+  QStringList parts;
+  const QString press = WithoutSignsOfStrokes(ToQt(element.PressKeyDefLayer(layer)));
+  const QString release = WithoutSignsOfStrokes(ToQt(element.ReleaseKeyDefLayer(layer)));
+  if (!press.isEmpty()) parts.append(press);
+  if (!release.isEmpty()) parts.append("/ " + release);
+  const enumLedType led = element.LEDTypeLayer(layer);
+  if (led != LedNotEnabled) parts.append(Say(Text::LedShows).arg(ToQt(LedTypeToText(led))));
+  return parts.join(' ');
+}
+
+/// A definition as long as a tool tip has room for.
+QString Cut(const QString& text) {
+  constexpr qsizetype Most = 60;
+  return text.size() <= Most ? text : text.left(Most) + QString::fromUtf8("\u2026");
+}
+
 }  // namespace
 
 QString KindText(enumTactisBaseElementType type) { return Say(KindOf(type).text); }
@@ -75,6 +102,38 @@ QStringList DefinitionText(const ctlPlexelBaseElement& element) {
   }
   const bool alike = told.count(told.front()) == told.size() && !told.front().isEmpty();
   return alike ? QStringList(Say(Text::AllLayers).arg(told.front())) : layers;
+}
+
+bool IsDefinedOn(const ctlPlexelBaseElement& element, std::int32_t layer) {
+  if (layer != AllLayersShown) return !LayerText(element, layer).isEmpty();
+  return !DefinitionText(element).isEmpty();
+}
+
+QString LabelText(const ctlPlexelBaseElement& element, std::int32_t layer) {
+  if (layer != AllLayersShown) return ShortLayerText(element, layer);
+  QStringList told, layers;
+  for (std::int32_t one = 1; one <= LayerCount; ++one) {
+    told.append(ShortLayerText(element, one));
+    if (!told.back().isEmpty()) layers.append(QString::number(one) + ": " + told.back());
+  }
+  return told.count(told.front()) == told.size() ? told.front() : layers.join("  ");
+}
+
+QStringList TipText(const ctlPlexelBaseElement& element, const QString& legend) {
+  const KindRow& kind = KindOf(element.ElementType());
+  const QString name = ToQt(element.Name()), plain = legend.simplified();
+  QStringList text = {plain.isEmpty() || plain == name ? name : plain + " (" + name + ')', Say(kind.text)};
+  if (kind.hasContacts) return text;
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    QStringList parts;
+    const QString press = ToQt(element.PressKeyDefLayer(layer)), release = ToQt(element.ReleaseKeyDefLayer(layer));
+    if (!press.isEmpty()) parts.append(Say(Text::TipPress).arg(Cut(press)));
+    if (!release.isEmpty()) parts.append(Say(Text::TipRelease).arg(Cut(release)));
+    const enumLedType led = element.LEDTypeLayer(layer);
+    if (led != LedNotEnabled) parts.append(Say(Text::LedShows).arg(ToQt(LedTypeToText(led))));
+    text.append(Say(Text::Layer).arg(layer).arg(parts.isEmpty() ? Say(Text::NotDefined) : parts.join(", ")));
+  }
+  return text;
 }
 
 }  // namespace plexel

@@ -2,7 +2,7 @@
 
 #include <QDockWidget>
 
-class QPlainTextEdit;
+class QListWidget;
 class QPushButton;
 
 namespace plexel {
@@ -11,13 +11,19 @@ namespace plexel {
 class LogPanel : public QDockWidget {
  public:
   explicit LogPanel(QWidget* parent);
-  void Append(const QString& line);
+  /// An event in words, and as tool tip the precise call that it was; both plain text.
+  void Append(const QString& words, const QString& call = QString());
   /// Takes the texts of the language in force.
   void Retranslate();
+  /// The lines, with their times.
   QString Content() const;
+  /// The precise calls, a line each.
+  QString Calls() const;
 
  private:
-  QPlainTextEdit* lines_;
+  void CopyChosen() const;
+
+  QListWidget* lines_;
   QPushButton* clear_;
 };
 

@@ -7,14 +7,15 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
 
 #include "editor/element_text.h"
 #include "editor/elided_label.h"
 #include "editor/log_panel.h"
+#include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
 #include "files/data_directory.h"
 #include "qt/units.h"
@@ -22,13 +23,18 @@
 namespace plexel {
 
 MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help)
-    : component_(component), surroundings_(surroundings), platform_(platform), help_(help) {
+    : component_(component),
+      surroundings_(surroundings),
+      platform_(platform),
+      help_(help),
+      store_(surroundings.Configuration()) {
   MakeContent();
   MakeActions();
   ConnectElements();
   platform_.Register(*windowObject_, *this);
   platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
   platform_.Notes([this](Form& form) { return notes_.Of(form); });
+  platform_.Subjects([this](Form& form) { return SubjectOf(form); });
   help_.title = [] { return Say(Text::HelpTitle); };
   platform_.ButtonTexts([](MessageAnswer answer) {
     if (answer == MessageAnswer::Yes) return Say(Text::Yes);
@@ -39,6 +45,8 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
   constexpr QSize FirstSize(1100, 940);
   constexpr int Decoration = 60;
   resize(FirstSize.boundedTo(screen()->availableSize() - QSize(0, Decoration)));
+  RestoreWindow();
+  setAcceptDrops(true);
 }
 
 MainWindow::~MainWindow() {
@@ -46,6 +54,7 @@ MainWindow::~MainWindow() {
   document_.reset();
   platform_.OnFailure(nullptr);
   platform_.Notes(nullptr);
+  platform_.Subjects(nullptr);
   platform_.ButtonTexts(nullptr);
 }
 
@@ -54,12 +63,8 @@ void MainWindow::MakeContent() {
   auto* layout = new QVBoxLayout(content);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  scroll_ = new QScrollArea;
-  scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setWidgetResizable(true);
-  scroll_->setFocusPolicy(Qt::NoFocus);
-  view_ = new PanelView;
-  scroll_->setWidget(view_);
+  view_ = new PanelView(selection_);
+  scroll_ = new PanelScroll(view_);
   layout->addWidget(scroll_);
   limits_ = new QLabel;
   limits_->setContentsMargins(8, 4, 8, 4);
@@ -71,29 +76,33 @@ void MainWindow::MakeContent() {
   addDockWidget(Qt::BottomDockWidgetArea, log_);
   constexpr int LogHeight = 120;
   resizeDocks({log_}, {LogHeight}, Qt::Vertical);
+  log_->hide();
   status_ = new ElidedLabel;
   statusBar()->addWidget(status_, 1);
+  zoomFigure_ = new QToolButton;
+  zoomFigure_->setObjectName("ZoomFigure");
+  zoomFigure_->setAutoRaise(true);
+  zoomFigure_->setFocusPolicy(Qt::NoFocus);
+  connect(zoomFigure_, &QToolButton::clicked, this, [this] { Guarded([this] { ZoomNormal(); }); });
+  statusBar()->addPermanentWidget(zoomFigure_);
   statusBar()->setSizeGripEnabled(false);
 }
 
 void MainWindow::ConnectElements() {
-  host_.onChanged = [this](ctlPlexelBaseElement&) { view_->update(); };
+  host_.onChanged = [this](ctlPlexelBaseElement& element) { view_->ElementChanged(element); };
   host_.ledIsDefined = [this](std::int32_t type, std::int32_t layer) {
     return document_ && document_->LedIsDefined(type, layer);
   };
   host_.onDoubleClick = [this](ctlPlexelBaseElement& element) { OpenConfiguration(element); };
-  host_.onEvent = [this](const QString& line) { log_->Append(line); };
+  host_.onEvent = [this](const QString& words, const QString& call) { log_->Append(words, call); };
   view_->run = [this](const std::function<void()>& act) { Guarded(act); };
-  view_->onSelected = [this] {
+  selection_.Listen(*this, [this] {
     ShowStatus();
-    if (ctlPlexelBaseElement* const element = view_->Selected()) {
-      const QRect place = view_->PlaceRect(document_->PlaceOf(*element));
-      scroll_->ensureVisible(place.center().x(), place.center().y(), place.width(), place.height());
-    }
-  };
+    if (view_->Selected() != nullptr) scroll_->Reveal(selection_.Current());
+  });
   view_->onMenu = [this](const QPoint& place) { ShowElementMenu(place); };
   view_->onProperties = [this] { ShowProperties(); };
-  view_->onZoom = [this](int steps) { steps > 0 ? ZoomIn() : ZoomOut(); };
+  view_->onZoom = [this](int steps, const QPoint& about) { SetZoom(ZoomStep(steps), about); };
 }
 
 PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject_, DataDirectory() / "panels"}; }
@@ -104,6 +113,7 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   document_->Listen([this](std::span<const std::size_t>) { ShowChange(); });
   view_->Show(document_.get());
   view_->setFocus();
+  ShowZoom();
   ShowChange();
 }
 
@@ -125,6 +135,7 @@ bool MainWindow::NewProject(const std::string& panel) {
 bool MainWindow::OpenProject(const std::filesystem::path& file) {
   try {
     Take(PanelDocument::Open(file, Site()));
+    WasUsed(file);
     return true;
   } catch (const std::exception& failure) {
     Tell(Text::OpenFailed, failure.what());
@@ -135,6 +146,7 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
 bool MainWindow::SaveProject(const std::filesystem::path& file) {
   try {
     document_->Save(file);
+    WasUsed(file);
     ShowTitle();
     return true;
   } catch (const std::exception& failure) {
@@ -159,12 +171,6 @@ void MainWindow::OpenConfiguration(ctlPlexelBaseElement& element) {
   Change(StepKind::Configure, element, [hold = element.shared_from_this()] { hold->OpenConfigurationDialog(); });
 }
 
-void MainWindow::SetZoom(int percent) {
-  if (!document_) return;
-  Guarded([&] { document_->Zoom(percent); });
-  view_->Rescale();
-}
-
 void MainWindow::SettingsChanged() {
   if (document_) document_->Refresh();
   Retranslate();
@@ -175,7 +181,8 @@ QString MainWindow::StatusText() const { return status_->Content(); }
 
 void MainWindow::ShowStatus() {
   const ctlPlexelBaseElement* const element = view_->Selected();
-  const QStringList text = element == nullptr ? QStringList(Say(Text::NothingSelected)) : ElementText(*element);
+  QStringList text = element == nullptr ? QStringList(Say(Text::NothingSelected)) : ElementText(*element);
+  if (selection_.IsMany()) text.prepend(Say(Text::ChosenCount).arg(selection_.ChosenCount()));
   status_->SetText("  " + text.join("   \u00B7   "));
   status_->setToolTip(text.join('\n'));
   ShowConfigure();
@@ -206,7 +213,6 @@ void MainWindow::Guarded(const std::function<void()>& act) {
   } catch (...) {
     Tell(Text::Failed, "a handler has thrown what is no std::exception");
   }
-  view_->update();
 }
 
 void MainWindow::Tell(Text what, const QString& reason) {
@@ -225,6 +231,7 @@ void MainWindow::Tell(Text what, const QString& reason) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   bool leave = true;
   Guarded([&] { leave = MayLeaveProject(); });
+  if (leave) RememberWindow();
   event->setAccepted(leave);
 }
 

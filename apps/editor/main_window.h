@@ -4,10 +4,13 @@
 #include <QTranslator>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "editor/editor_host.h"
+#include "editor/editor_store.h"
 #include "editor/form_notes.h"
+#include "editor/selection.h"
 #include "editor/texts.h"
 #include "files/file_surroundings.h"
 #include "project/panel_document.h"
@@ -16,13 +19,18 @@
 
 class QLabel;
 class QMenu;
-class QScrollArea;
+class QActionGroup;
+class QComboBox;
+class QToolBar;
+class QToolButton;
 
 namespace plexel {
 
 class ElidedLabel;
 class LogPanel;
+class PanelScroll;
 class PanelView;
+class RecentMenu;
 
 /// The editor's window: one project, its panel, and everything that the user does with them.
 class MainWindow : public QMainWindow {
@@ -40,13 +48,20 @@ class MainWindow : public QMainWindow {
   PanelDocument* Document() const { return document_.get(); }
   PanelView& View() const { return *view_; }
   LogPanel& Log() const { return *log_; }
+  /// What the user means of the elements; shared by all that shows them.
+  Selection& TheSelection() { return selection_; }
   QString StatusText() const;
-  void SetZoom(int percent);
+  /// About the middle of what is to be seen of the panel, or another point of its picture.
+  void SetZoom(int percent, std::optional<QPoint> about = std::nullopt);
+  /// The layer that the picture tells of, 1 to 4, or AllLayersShown.
+  void ShowLayer(std::int32_t layer);
   /// Brings elements and texts into line with the settings.
   void SettingsChanged();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   struct Named {
@@ -55,9 +70,15 @@ class MainWindow : public QMainWindow {
   };
   void MakeActions();
   void MakeContent();
+  void MakeSelectMenu(QMenu& menu);
+  void MakeViewMenu(QMenu& menu);
+  void MakeToolBar();
   void ConnectElements();
   QAction* Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)());
   void Retranslate();
+  void RetranslateView();
+  void RetranslateTools();
+  QAction* ActionOf(Text text) const;
   /// The toolkit's own dialogs speak the user's language too, where its texts are installed.
   void UseToolkitTexts();
   PanelDocument::Site Site();
@@ -83,6 +104,13 @@ class MainWindow : public QMainWindow {
   void ZoomIn();
   void ZoomOut();
   void ZoomNormal();
+  void ZoomFit();
+  /// The next step of the zoom, up or down.
+  int ZoomStep(int steps) const;
+  void ShowZoom();
+  void SelectAll();
+  void SelectNone();
+  void SelectKinds(const std::vector<enumTactisBaseElementType>& kinds);
   void EditSettings();
   void ShowContents();
   void ShowAbout();
@@ -91,6 +119,13 @@ class MainWindow : public QMainWindow {
   void OpenConfiguration(ctlPlexelBaseElement& element);
   /// Behind every step: picture, status line, title and the names of the steps.
   void ShowChange();
+  /// Opens a file that the user picked elsewhere than in the dialog for it, when he wants to leave the open project.
+  void OpenPicked(const QString& file);
+  /// Keeps in mind a file that was opened or saved.
+  void WasUsed(const std::filesystem::path& file);
+  void RememberWindow();
+  void RestoreWindow();
+  FormSubject SubjectOf(const Form& form) const;
   void ShowStatus();
   /// Configuring is for elements that have something to configure.
   void ShowConfigure();
@@ -104,14 +139,22 @@ class MainWindow : public QMainWindow {
   FileSurroundings& surroundings_;
   QtPlatform& platform_;
   HelpWindow& help_;
+  EditorStore store_;
+  Selection selection_;
   EditorHost host_;
   std::shared_ptr<EditorWindowObject> windowObject_ = std::make_shared<EditorWindowObject>();
   std::unique_ptr<PanelDocument> document_;
   PanelView* view_ = nullptr;
-  QScrollArea* scroll_ = nullptr;
+  PanelScroll* scroll_ = nullptr;
   LogPanel* log_ = nullptr;
   ElidedLabel* status_ = nullptr;
   QLabel* limits_ = nullptr;
+  QToolButton* zoomFigure_ = nullptr;
+  QToolBar* tools_ = nullptr;
+  QActionGroup* layers_ = nullptr;
+  QComboBox* layerBox_ = nullptr;
+  QAction* labels_ = nullptr;
+  RecentMenu* recent_ = nullptr;
   FormNotes notes_;
   QAction *configure_ = nullptr, *undo_ = nullptr, *redo_ = nullptr;
   std::vector<Named> named_;

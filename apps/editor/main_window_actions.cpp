@@ -10,11 +10,12 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolBar>
 #include <algorithm>
-#include <array>
 
 #include "editor/log_panel.h"
 #include "editor/panel_view.h"
+#include "editor/recent_menu.h"
 #include "editor/settings_dialog.h"
 #include "editor/version.h"
 #include "files/file_error.h"
@@ -24,8 +25,6 @@
 namespace plexel {
 
 namespace {
-
-constexpr std::array zoomSteps = {25, 50, 75, 100, 125, 150, 200, 250, 300, 400};
 
 /// A panel as the user knows it; its name alone when its file cannot be read.
 QString PanelTitle(const std::filesystem::path& directory, const std::string& name) {
@@ -56,6 +55,10 @@ void MainWindow::MakeActions() {
   QMenu& file = addMenu(Text::MenuFile);
   Add(file, Text::New, QKeySequence::New, &MainWindow::AskNew);
   Add(file, Text::Open, QKeySequence::Open, &MainWindow::AskOpen);
+  recent_ = new RecentMenu(store_, this);
+  recent_->onOpen = [this](const QString& picked) { Guarded([&] { OpenPicked(picked); }); };
+  file.addMenu(recent_);
+  menus_.emplace_back(recent_, Text::MenuRecent);
   file.addSeparator();
   Add(file, Text::Save, QKeySequence::Save, &MainWindow::Save);
   Add(file, Text::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S, &MainWindow::SaveAs);
@@ -74,27 +77,26 @@ void MainWindow::MakeActions() {
   configure_ = Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);
   configure_->setObjectName("Configure");
   Add(element, Text::Properties, Qt::ALT | Qt::Key_Return, &MainWindow::ShowProperties);
-  QMenu& view = addMenu(Text::MenuView);
-  Add(view, Text::ZoomIn, QKeySequence::ZoomIn, &MainWindow::ZoomIn)
-      ->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
-  Add(view, Text::ZoomOut, Qt::CTRL | Qt::Key_Minus, &MainWindow::ZoomOut);
-  Add(view, Text::ZoomNormal, Qt::CTRL | Qt::Key_0, &MainWindow::ZoomNormal);
-  view.addSeparator();
-  view.addAction(log_->toggleViewAction());
-  named_.push_back({log_->toggleViewAction(), Text::ShowEvents});
+  element.addSeparator();
+  MakeSelectMenu(element);
+  MakeViewMenu(addMenu(Text::MenuView));
   QMenu& extras = addMenu(Text::MenuExtras);
   Add(extras, Text::Settings, QKeySequence::Preferences, &MainWindow::EditSettings);
   QMenu& help = addMenu(Text::MenuHelp);
   Add(help, Text::HelpContents, QKeySequence::HelpContents, &MainWindow::ShowContents);
   Add(help, Text::About, QKeySequence(), &MainWindow::ShowAbout);
+  MakeToolBar();
 }
 
 void MainWindow::Retranslate() {
   UseToolkitTexts();
   log_->Retranslate();
+  tools_->setWindowTitle(Say(Text::ShowToolBar).remove('&'));
   for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
   for (const Named& named : named_) named.action->setText(Say(named.text));
+  RetranslateTools();
   limits_->setText(Say(Text::CaptureIsPartial));
+  RetranslateView();
   ShowStatus();
   ShowTitle();
   ShowHistory();
@@ -127,7 +129,7 @@ void MainWindow::AskNew() {
 
 void MainWindow::AskOpen() {
   if (!MayLeaveProject()) return;
-  const QString file = QFileDialog::getOpenFileName(this, Say(Text::OpenTitle), QString(), Say(Text::FileFilter));
+  const QString file = QFileDialog::getOpenFileName(this, Say(Text::OpenTitle), store_.Folder(), Say(Text::FileFilter));
   if (!file.isEmpty()) OpenProject(file.toStdString());
 }
 
@@ -141,7 +143,7 @@ bool MainWindow::SaveOrAsk() {
 
 bool MainWindow::SaveAsked() {
   if (!document_) return false;
-  QFileDialog dialog(this, Say(Text::SaveTitle), QString(), Say(Text::FileFilter));
+  QFileDialog dialog(this, Say(Text::SaveTitle), store_.Folder(), Say(Text::FileFilter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("plexel");
   dialog.selectFile(ProjectName());
@@ -174,20 +176,6 @@ void MainWindow::ShowProperties() {
   if (element == nullptr) return;
   Change(StepKind::Properties, *element, [hold = element->shared_from_this()] { hold->OpenPropertiesDialog(); });
 }
-
-void MainWindow::ZoomIn() {
-  const auto* const next = std::find_if(zoomSteps.begin(), zoomSteps.end(),
-                                        [this](int step) { return document_ && step > document_->Zoom(); });
-  if (next != zoomSteps.end()) SetZoom(*next);
-}
-
-void MainWindow::ZoomOut() {
-  const auto next = std::find_if(zoomSteps.rbegin(), zoomSteps.rend(),
-                                 [this](int step) { return document_ && step < document_->Zoom(); });
-  if (next != zoomSteps.rend()) SetZoom(*next);
-}
-
-void MainWindow::ZoomNormal() { SetZoom(PanelDocument::NormalZoom); }
 
 void MainWindow::EditSettings() {
   SettingsDialog dialog(surroundings_, this);

@@ -1,40 +1,71 @@
 #include "editor/panel_view.h"
 
-#include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QRubberBand>
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
 
-#include "qt/input_events.h"
+#include "editor/element_text.h"
 #include "qt/panel_painter.h"
 #include "qt/units.h"
 
 namespace plexel {
 
 namespace {
-constexpr int Margin = 24;
-constexpr std::int16_t ReturnCharacter = 13;
+constexpr int MostDirty = 64;  // single places to be painted anew, before it is the whole view
+
+/// A LED alone has no legend that a tick could cover.
+TickPlace TickOf(enumTactisBaseElementType type) {
+  if (type == Led) return TickPlace::AsDesigned;
+  return type == Oval || type == OvalLed ? TickPlace::RoundCorner : TickPlace::Corner;
+}
 }  // namespace
 
-PanelView::PanelView(QWidget* parent) : QWidget(parent) {
+PanelView::PanelView(Selection& selection, QWidget* parent)
+    : QWidget(parent), selection_(selection), band_(new QRubberBand(QRubberBand::Rectangle, this)) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  selection_.Listen(*this, [this] { SelectionChanged(); });
 }
 
 void PanelView::Show(PanelDocument* document) {
   document_ = document;
-  selected_ = pressed_ = -1;
+  focused_ = pressed_ = -1;
+  panning_ = spaceHeld_ = false;
+  band_->hide();
+  placeOf_.clear();
+  const int count = document_ == nullptr ? 0 : static_cast<int>(document_->Places().size());
+  for (int place = 0; place < count; ++place) placeOf_[At(place).element.get()] = place;
+  marked_.assign(static_cast<std::size_t>(count), false);
+  MakeIndexes();
+  selection_.Reset(count);
   Rescale();
-  if (document_ != nullptr && !document_->Places().empty()) MoveFocus(0);
+  if (count > 0) Select(0);
+}
+
+void PanelView::MakeIndexes() {
+  std::vector<QRect> places, parts;
+  if (document_ != nullptr) {
+    for (const Place& place : document_->Places()) {
+      const PanelBox& box = place.part->box;
+      places.emplace_back(box.left, box.top, place.element->SizeX(), place.element->SizeY());
+    }
+    for (const PanelPart& part : document_->ThePanel().parts) parts.push_back(BoundsOf(part));
+  }
+  places_ = PlaceIndex(std::move(places));
+  parts_ = PlaceIndex(std::move(parts));
 }
 
 ctlPlexelBaseElement* PanelView::Selected() const {
-  return selected_ < 0 ? nullptr : document_->Places()[static_cast<std::size_t>(selected_)].element.get();
+  const int place = document_ == nullptr ? -1 : selection_.Current();
+  return place < 0 ? nullptr : At(place).element.get();
 }
 
+void PanelView::Select(int place) { selection_.Only(place); }
+
 void PanelView::Rescale() {
-  if (document_ == nullptr) return;
+  if (document_ == nullptr) return update();
   const Panel& panel = document_->ThePanel();
   const QSize size = QSize(panel.width, panel.height) * document_->Zoom() / 100;
   setMinimumSize(size + QSize(2 * Margin, 2 * Margin));
@@ -47,150 +78,121 @@ QPoint PanelView::Origin() const {
 }
 
 QRect PanelView::PlaceRect(int place) const {
-  const auto& [part, element] = document_->Places()[static_cast<std::size_t>(place)];
+  const auto& [part, element] = At(place);
   const Surface& surface = element->SurfaceObjects();
   const QPoint corner = Origin() + QPoint(part->box.left, part->box.top) * document_->Zoom() / 100;
   return {corner, QSize(ToPixels(surface.Width), ToPixels(surface.Height))};
 }
 
-int PanelView::PlaceAt(const QPoint& point) const {
-  if (document_ == nullptr) return -1;
-  for (int place = static_cast<int>(document_->Places().size()) - 1; place >= 0; --place) {
-    if (PlaceRect(place).contains(point)) return place;
-  }
-  return -1;
+QRect PanelView::OnPanel(const QRect& area) const {
+  const double scale = document_->Zoom() / 100.0;
+  const QRectF local = QRectF(area.translated(-Origin()));
+  const QRectF panel(local.topLeft() / scale, local.size() / scale);
+  return panel.toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
-void PanelView::paintEvent(QPaintEvent*) {
-  if (document_ == nullptr) return;
+std::vector<int> PanelView::PlacesIn(const QRect& area) const {
+  if (document_ == nullptr) return {};
+  std::vector<int> places = places_.Meeting(OnPanel(area));
+  std::erase_if(places, [&](int place) { return !PlaceRect(place).intersects(area); });
+  return places;
+}
+
+int PanelView::PlaceAt(const QPoint& point) const {
+  const std::vector<int> places = PlacesIn(QRect(point, QSize(1, 1)));
+  return places.empty() ? -1 : places.back();
+}
+
+void PanelView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
+  const QRect exposed = event->rect();
+  painter.fillRect(exposed, palette().window());
+  dirty_ = 0;
+  if (document_ == nullptr) return;
   painter.setRenderHint(QPainter::Antialiasing);
   const qreal scale = document_->Zoom() / 100.0;
   painter.save();
   painter.translate(Origin());
   painter.scale(scale, scale);
-  for (const PanelPart& part : document_->ThePanel().parts) DrawPart(painter, part);
+  for (const int part : parts_.Meeting(OnPanel(exposed))) {
+    DrawPart(painter, document_->ThePanel().parts[static_cast<std::size_t>(part)]);
+  }
   painter.restore();
-  for (int place = 0; place < static_cast<int>(document_->Places().size()); ++place) {
-    painter.save();
-    painter.translate(PlaceRect(place).topLeft());
-    DrawSurface(painter, document_->Places()[static_cast<std::size_t>(place)].element->SurfaceObjects());
-    painter.restore();
+  const int reach = ChoiceReach;
+  for (const int place : PlacesIn(exposed.adjusted(-reach, -reach, reach, reach))) PaintPlace(painter, place);
+}
+
+void PanelView::PaintPlace(QPainter& painter, int place) {
+  const ctlPlexelBaseElement& element = *At(place).element;
+  const QRect box = PlaceRect(place);
+  const bool told = layer_ == AllLayersShown || IsDefinedOn(element, layer_);
+  const TickPlace tick = told ? TickOf(element.ElementType()) : TickPlace::Nowhere;
+  painter.save();
+  painter.translate(box.topLeft());
+  DrawSurface(painter, element.SurfaceObjects(), tick);
+  painter.restore();
+  if (labels_ && element.ElementType() != Led)
+    DrawLabel(painter, box, LabelText(element, layer_), document_->Zoom() / 100.0);
+  if (marked_[static_cast<std::size_t>(place)]) DrawChoice(painter, box, palette().highlight().color());
+}
+
+void PanelView::UpdatePlace(int place) {
+  if (dirty_ > MostDirty) return;
+  if (++dirty_ > MostDirty) return update();
+  update(PlaceRect(place).adjusted(-ChoiceReach, -ChoiceReach, ChoiceReach, ChoiceReach));
+}
+
+void PanelView::ElementChanged(const ctlPlexelBaseElement& element) {
+  const auto place = placeOf_.find(&element);
+  if (place != placeOf_.end()) UpdatePlace(place->second);
+}
+
+void PanelView::Layer(std::int32_t layer) {
+  layer_ = layer;
+  update();
+}
+
+void PanelView::Labels(bool shown) {
+  labels_ = shown;
+  update();
+}
+
+void PanelView::SelectionChanged() {
+  if (document_ == nullptr) return;
+  // The current element alone is told by the mark of its focus.
+  const bool many = selection_.IsMany();
+  for (int place = 0; place < selection_.Count(); ++place) {
+    const bool marked = many && selection_.Has(place);
+    if (marked_[static_cast<std::size_t>(place)] == marked) continue;
+    marked_[static_cast<std::size_t>(place)] = marked;
+    UpdatePlace(place);
+  }
+  if (selection_.Current() != focused_) {
+    run([this] { MoveFocus(selection_.Current()); });
   }
 }
 
 void PanelView::MoveFocus(int place) {
-  if (place == selected_) return;
-  if (ctlPlexelBaseElement* const previous = Selected()) {
-    previous->UserControl_LostFocus();
-    previous->FocusVisible(False);
+  const int previous = std::exchange(focused_, place);
+  if (previous >= 0) {
+    UpdatePlace(previous);
+    const auto element = At(previous).element;
+    element->UserControl_LostFocus();
+    element->FocusVisible(False);
   }
-  selected_ = place;
-  if (ctlPlexelBaseElement* const next = Selected()) {
-    next->FocusVisible(True);
-    next->UserControl_GotFocus();
-  }
-  update();
-  if (onSelected) onSelected();
-}
-
-void PanelView::Select(int place) {
-  run([this, place] { MoveFocus(place); });
-}
-
-void PanelView::mousePressEvent(QMouseEvent* event) {
-  pressed_ = PlaceAt(event->pos());
-  if (pressed_ >= 0) Select(pressed_);
-}
-
-void PanelView::mouseReleaseEvent(QMouseEvent* event) {
-  const int place = std::exchange(pressed_, -1);
-  if (place < 0 || document_ == nullptr) return;
-  const QPoint inside = event->pos() - PlaceRect(place).topLeft();
-  const auto element = document_->Places()[static_cast<std::size_t>(place)].element;
-  const std::int16_t button = ButtonOf(event->button()), shift = ShiftOf(event->modifiers());
-  run([=] { element->UserControl_MouseUp(button, shift, ToTwips(inside.x()), ToTwips(inside.y())); });
-}
-
-void PanelView::mouseDoubleClickEvent(QMouseEvent* event) {
-  const int place = PlaceAt(event->pos());
-  if (place < 0 || event->button() != Qt::LeftButton) return mousePressEvent(event);
-  Select(place);
-  const auto element = document_->Places()[static_cast<std::size_t>(place)].element;
-  run([element] { element->UserControl_DblClick(); });
-}
-
-void PanelView::mouseMoveEvent(QMouseEvent* event) {
-  const int place = PlaceAt(event->pos());
-  setCursor(place < 0 ? Qt::ArrowCursor : Qt::PointingHandCursor);
-  setToolTip(place < 0 ? QString() : ToQt(document_->Places()[static_cast<std::size_t>(place)].part->element->id));
-}
-
-void PanelView::wheelEvent(QWheelEvent* event) {
-  if (!event->modifiers().testFlag(Qt::ControlModifier) || event->angleDelta().y() == 0) return event->ignore();
-  if (onZoom) onZoom(event->angleDelta().y() > 0 ? 1 : -1);
-}
-
-void PanelView::keyPressEvent(QKeyEvent* event) {
-  ctlPlexelBaseElement* const element = Selected();
-  QPoint direction;
-  switch (event->key()) {
-    case Qt::Key_Left:
-      direction = {-1, 0};
-      break;
-    case Qt::Key_Right:
-      direction = {1, 0};
-      break;
-    case Qt::Key_Up:
-      direction = {0, -1};
-      break;
-    case Qt::Key_Down:
-      direction = {0, 1};
-      break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (element == nullptr) return;
-      if (event->modifiers().testFlag(Qt::AltModifier)) return run(onProperties);
-      return run([hold = element->shared_from_this()] { hold->UserControl_KeyPress(ReturnCharacter); });
-    default:
-      return QWidget::keyPressEvent(event);
-  }
-  const int next = Neighbour(direction);
-  if (next >= 0) Select(next);
-}
-
-void PanelView::contextMenuEvent(QContextMenuEvent* event) {
-  if (document_ == nullptr) return;
-  const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-  const int place = byKey ? selected_ : PlaceAt(event->pos());
   if (place < 0) return;
-  Select(place);
-  pressed_ = -1;
-  if (onMenu) onMenu(byKey ? mapToGlobal(PlaceRect(place).center()) : event->globalPos());
+  UpdatePlace(place);
+  const auto element = At(place).element;
+  element->FocusVisible(True);
+  element->UserControl_GotFocus();
 }
 
-bool PanelView::focusNextPrevChild(bool next) {
-  const int count = document_ == nullptr ? 0 : static_cast<int>(document_->Places().size());
-  if (count == 0) return QWidget::focusNextPrevChild(next);
-  Select((selected_ + (next ? 1 : count - 1)) % count);
-  return true;
-}
-
-int PanelView::Neighbour(const QPoint& direction) const {
-  if (selected_ < 0) return -1;
-  const QPoint from = PlaceRect(selected_).center();
-  int best = -1, bestDistance = std::numeric_limits<int>::max();
-  for (int place = 0; place < static_cast<int>(document_->Places().size()); ++place) {
-    const QPoint way = PlaceRect(place).center() - from;
-    const int along = QPoint::dotProduct(way, direction);
-    const int across = std::abs(QPoint::dotProduct(way, QPoint(direction.y(), direction.x())));
-    if (place == selected_ || along <= 0 || across > 2 * along) continue;
-    const int distance = along + 2 * across;
-    if (distance >= bestDistance) continue;
-    best = place;
-    bestDistance = distance;
-  }
-  return best;
+void PanelView::ExtendTo(int place) {
+  const int anchor = selection_.Anchor() < 0 ? place : selection_.Anchor();
+  const QRect range = PlaceRect(anchor) | PlaceRect(place);
+  std::vector<int> places = PlacesIn(range);
+  std::erase_if(places, [&](int one) { return !range.contains(PlaceRect(one).center()); });
+  selection_.Choose(places, place);
 }
 
 }  // namespace plexel

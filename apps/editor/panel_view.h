@@ -2,37 +2,65 @@
 
 #include <QWidget>
 #include <functional>
+#include <unordered_map>
+#include <vector>
 
+#include "editor/place_index.h"
+#include "editor/selection.h"
 #include "project/panel_document.h"
+
+class QRubberBand;
 
 namespace plexel {
 
-/// The picture of a panel. One element has the focus; the user moves it with mouse, Tab and arrow keys, and everything
-/// else that he does on an element goes to that element.
+/// The picture of a panel. The current element of the selection has the focus; the user moves it with mouse, Tab and
+/// arrow keys, chooses more with the mouse and Ctrl or Shift, and everything else that he does on an element goes to
+/// that element. Only what has changed, of what is exposed, is painted.
 class PanelView : public QWidget {
  public:
-  explicit PanelView(QWidget* parent = nullptr);
+  /// The selection must outlive all use of the view; without a document the view leaves it alone.
+  explicit PanelView(Selection& selection, QWidget* parent = nullptr);
 
   /// Null takes the document away. The first element gets the focus.
   void Show(PanelDocument* document);
   /// The element with the focus, null when there is none.
   ctlPlexelBaseElement* Selected() const;
-  /// Gives the focus to the element of a place.
+  /// Makes the element of a place the current one, and the only one chosen.
   void Select(int place);
   /// Takes over a changed zoom.
   void Rescale();
   /// Where a place lies in the view.
   QRect PlaceRect(int place) const;
+  /// The places that meet a rectangle of the view, in the order of drawing.
+  std::vector<int> PlacesIn(const QRect& area) const;
+  /// The place under a point, -1 for none.
+  int PlaceAt(const QPoint& point) const;
+  /// An element looks different or holds something else.
+  void ElementChanged(const ctlPlexelBaseElement& element);
 
-  std::function<void()> onSelected;
+  /// The layer that ticks and labels tell of, 1 to 4, or AllLayersShown.
+  std::int32_t Layer() const { return layer_; }
+  void Layer(std::int32_t layer);
+  /// Whether keys have a label that tells what they are defined as.
+  bool Labels() const { return labels_; }
+  void Labels(bool shown);
+
+  /// Where the panel begins in the view.
+  QPoint Origin() const;
+  /// The room round the panel that the view keeps at least, pixels.
+  static constexpr int Margin = 24;
+
   std::function<void(const QPoint& globalPlace)> onMenu;
   std::function<void()> onProperties;
-  /// A step of the zoom, up or down.
-  std::function<void(int steps)> onZoom;
+  /// A step of the zoom, up or down, about a point of the view.
+  std::function<void(int steps, const QPoint& about)> onZoom;
+  /// The user draws the picture along.
+  std::function<void(const QPoint& way)> onPan;
   /// Runs what the user set off, and sees to its failures.
   std::function<void(const std::function<void()>&)> run;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -40,20 +68,53 @@ class PanelView : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
-  int PlaceAt(const QPoint& point) const;
-  QPoint Origin() const;
+  using Place = PanelDocument::Place;
+  const Place& At(int place) const { return document_->Places()[static_cast<std::size_t>(place)]; }
+  void MakeIndexes();
   /// The place that lies nearest in a direction, -1 for none.
   int Neighbour(const QPoint& direction) const;
+  /// Brings focus and marks into line with the selection.
+  void SelectionChanged();
   /// Moves the focus from element to element as a container does.
   void MoveFocus(int place);
+  /// Chooses what lies between the anchor of the choice and a place, which becomes the current one.
+  void ExtendTo(int place);
+  void PaintPlace(QPainter& painter, int place);
+  void UpdatePlace(int place);
+  /// A rectangle of the view as one of the panel at zoom 100, a little larger.
+  QRect OnPanel(const QRect& area) const;
 
+  void BeginBand(const QMouseEvent& event);
+  void MoveBand(const QPoint& to);
+  /// Keeps what the band has chosen, or what was chosen before.
+  void EndBand(bool keep);
+  bool BeginPan(const QMouseEvent& event);
+  void ShowCursor(const QPoint& at);
+  void ShowTip(const QPoint& at, const QPoint& globalPlace);
+
+  Selection& selection_;
   PanelDocument* document_ = nullptr;
-  int selected_ = -1;
+  std::unordered_map<const ctlPlexelBaseElement*, int> placeOf_;
+  PlaceIndex places_, parts_;  ///< at zoom 100
+  int focused_ = -1;           ///< the place whose element has the focus
+  std::vector<bool> marked_;   ///< which places the picture marks as chosen
+  int dirty_ = 0;              ///< how many places were to be painted anew since the last painting
+  std::int32_t layer_ = 0;
+  bool labels_ = false;
+
   int pressed_ = -1;
+  QRubberBand* band_ = nullptr;
+  QPoint bandFrom_;
+  std::vector<int> bandBase_;  ///< what was chosen at the band's beginning and stays
+  std::vector<int> chosenBefore_;
+  bool spaceHeld_ = false, panning_ = false;
+  QPoint panFrom_;  ///< on the screen
 };
 
 }  // namespace plexel

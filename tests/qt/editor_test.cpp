@@ -61,8 +61,8 @@ TEST_F(Editor, AClickMovesTheFocusAndRaisesItsEvents) {
   EXPECT_EQ(window.View().Selected(), &Element("F5"));
   EXPECT_EQ(Element("F5").FocusVisible(), True);
   EXPECT_TRUE(Element("F5").SurfaceObjects().shpRect.Visible);
-  EXPECT_TRUE(window.Log().Content().contains("F5: SendKeyDefinition("));
-  EXPECT_TRUE(window.Log().Content().contains("F5: MouseClicked(1, 0, "));
+  EXPECT_TRUE(window.Log().Calls().contains("F5: SendKeyDefinition("));
+  EXPECT_TRUE(window.Log().Calls().contains("F5: MouseClicked(1, 0, "));
 }
 
 TEST_F(Editor, OnlyOneElementShowsTheFocus) {
@@ -107,7 +107,7 @@ TEST_F(Editor, ADoubleClickOpensTheConfigurationDialog) {
   ActOnNextForm([&](Hand&, Form& form) { shown = form.Name(); });
   QTest::mouseDClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
   EXPECT_EQ(shown, dialogs::frmConfigurationDialog);
-  EXPECT_TRUE(window.Log().Content().contains("F5: MouseDblClicked()"));
+  EXPECT_TRUE(window.Log().Calls().contains("F5: MouseDblClicked()"));
 }
 
 TEST_F(Editor, AltReturnOpensTheProperties) {

@@ -37,7 +37,7 @@ def first_walk(tools, folder):
         dialog.start_capture()
         press(desktop, "LeftCtrl+a")
         dialog.ok()
-        wait_for("the tick on the key", lambda: tick(editor) > 20)
+        wait_for("the tick on the key", lambda: tick(editor) > 5)
         project = save_under_a_name(desktop, folder, editor, "walk")
         editor.quit()
         if b"PressKeyDefLayer1=string [Ctrl Left+a\x8b\x9b]" not in project.read_bytes():
@@ -45,7 +45,7 @@ def first_walk(tools, folder):
         compare(read_project(project), PLAN)
 
         editor = Editor(desktop, tools, project, panel="Large")
-        wait_for("the tick on the key of the opened project", lambda: tick(editor) > 20)
+        wait_for("the tick on the key of the opened project", lambda: tick(editor) > 5)
         desktop.click(editor.element(KEY).centre())
         desktop.tap(KEYS["Return"])
         dialog = editor.configuration_dialog(KEY)

@@ -1,0 +1,107 @@
+#include "editor/editor_store.h"
+
+#include <QMimeData>
+#include <fstream>
+
+#include "editor/recent_menu.h"
+#include "editor_fixture.h"
+
+namespace plexel::testing {
+namespace {
+
+class EditorStoreTest : public ::testing::Test {
+ protected:
+  std::filesystem::path Folder() { return folder.path().toStdString(); }
+  void Write(const std::string& content) { std::ofstream(Folder() / "editor.ini") << content; }
+  QTemporaryDir folder;
+};
+
+TEST_F(EditorStoreTest, KeepsTheLastTenFilesTheLatestFirst) {
+  {
+    EditorStore store(Folder());
+    for (int number = 0; number < 14; ++number) store.AddRecent("/a & b/" + QString::number(number) + ", c.plexel");
+    store.AddRecent("/a & b/7, c.plexel");
+  }
+  const QStringList files = EditorStore(Folder()).Recent();
+  ASSERT_EQ(files.size(), 10);
+  EXPECT_EQ(files.front(), "/a & b/7, c.plexel");
+  EXPECT_EQ(files.at(1), "/a & b/13, c.plexel");
+  EXPECT_EQ(files.count("/a & b/7, c.plexel"), 1);
+}
+
+TEST_F(EditorStoreTest, ForeignValuesArePassedOver) {
+  Write(
+      "[Window]\nGeometry=nothing of ours\nLayout=@ByteArray(x)\n[Files]\nRecent=relative, /a.plexel, /a.plexel\n"
+      "Folder=/there/is/no/such/folder\n");
+  EditorStore store(Folder());
+  EXPECT_EQ(store.Geometry(), QByteArray());
+  EXPECT_EQ(store.Recent(), QStringList("/a.plexel"));
+  EXPECT_EQ(store.Folder(), QString());
+}
+
+TEST_F(EditorStoreTest, ADamagedFileIsAnEmptyOne) {
+  Write(std::string("\0\x01\x02[[[=\n@@@\xFF\xFE", 14));
+  EditorStore store(Folder());
+  EXPECT_EQ(store.Recent(), QStringList());
+  store.AddRecent("/b.plexel");
+  EXPECT_EQ(store.Recent(), QStringList("/b.plexel"));
+}
+
+TEST_F(Editor, ADamagedStoreOpensTheWindowAsAtFirst) {
+  const QSize first = window.size();
+  std::ofstream(File("editor.ini")) << "[Window]\nGeometry=@ByteArray(junk)\nLayout=@ByteArray(junk)\n";
+  MainWindow another(component, surroundings, platform, help);
+  EXPECT_EQ(another.size(), first);
+}
+
+TEST_F(Editor, TheRecentFilesAreShownPlainAndCleared) {
+  ASSERT_TRUE(window.SaveProject(File("a&b.plexel")));
+  EditorStore store(File(""));
+  RecentMenu menu(store, nullptr);
+  ASSERT_GE(menu.actions().size(), 3);
+  EXPECT_TRUE(menu.actions().front()->text().startsWith("&1  a&&b.plexel"))
+      << menu.actions().front()->text().toStdString();
+  QString opened;
+  menu.onOpen = [&](const QString& file) { opened = file; };
+  menu.actions().front()->trigger();
+  EXPECT_EQ(opened.toStdString(), File("a&b.plexel").string());
+  menu.actions().back()->trigger();
+  EXPECT_EQ(store.Recent(), QStringList());
+}
+
+/// Carries a file over the window and lets it fall there.
+void Drop(MainWindow& window, const std::filesystem::path& file) {
+  QMimeData carried;
+  carried.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+  QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &drop);
+}
+
+TEST_F(Editor, AFileDroppedOnTheWindowIsOpened) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ASSERT_TRUE(window.NewProject("Small"));
+  Drop(window, File("a.plexel"));
+  QTest::qWait(20);
+  EXPECT_EQ(window.Document()->File(), File("a.plexel"));
+}
+
+TEST_F(Editor, AFileDroppedOnAChangedProjectAsksFirst) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ASSERT_TRUE(window.NewProject("Small"));
+  ChangeNotes("F1", "changed");
+  Drop(window, File("a.plexel"));
+  bool asked = false;
+  AnswerNextBox([&](QMessageBox& box) {
+    asked = true;
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  QTest::qWait(50);
+  EXPECT_TRUE(asked);
+  EXPECT_TRUE(window.Document()->File().empty());
+}
+
+}  // namespace
+}  // namespace plexel::testing
