@@ -102,6 +102,9 @@ void MainWindow::ConnectElements() {
   });
   view_->onMenu = [this](const QPoint& place) { ShowElementMenu(place); };
   view_->onProperties = [this] { ShowProperties(); };
+  view_->onReturn = [this](ctlPlexelBaseElement& element, const std::function<void()>& act) {
+    Change(StepKind::Configure, element, act);
+  };
   view_->onZoom = [this](int steps, const QPoint& about) { SetZoom(ZoomStep(steps), about); };
 }
 

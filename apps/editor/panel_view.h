@@ -52,6 +52,8 @@ class PanelView : public QWidget {
 
   std::function<void(const QPoint& globalPlace)> onMenu;
   std::function<void()> onProperties;
+  /// Return on an element, which answers to it by `act`.
+  std::function<void(ctlPlexelBaseElement& element, const std::function<void()>& act)> onReturn;
   /// A step of the zoom, up or down, about a point of the view.
   std::function<void(int steps, const QPoint& about)> onZoom;
   /// The user draws the picture along.

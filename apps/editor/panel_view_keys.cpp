@@ -31,7 +31,9 @@ void PanelView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Enter:
       if (element == nullptr) return;
       if (event->modifiers().testFlag(Qt::AltModifier)) return run(onProperties);
-      return run([hold = element->shared_from_this()] { hold->UserControl_KeyPress(ReturnCharacter); });
+      return run([this, hold = element->shared_from_this()] {
+        onReturn(*hold, [&hold] { hold->UserControl_KeyPress(ReturnCharacter); });
+      });
     case Qt::Key_Space:
       spaceHeld_ = true;
       return ShowCursor(mapFromGlobal(QCursor::pos()));

@@ -264,6 +264,14 @@ TEST_F(PictureOfAPanel, TheDialogNamesItsElementAndLeavesItInSight) {
   EXPECT_EQ(top, 1500);
 }
 
+TEST_F(PictureOfAPanel, WhatReturnChangesIsAStep) {
+  Click("F5");
+  ActOnNextForm([](Hand& hand, Form& form) { hand.Click(*form.Find("cmdOK")); });
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(window.Document()->Modified());
+  EXPECT_TRUE(window.Document()->Steps().CanUndo());
+}
+
 TEST_F(PictureOfAPanel, TheEventsAreOffAtFirstAndTellInWordsWhatTheCallWas) {
   EXPECT_FALSE(window.Log().isVisible());
   Click("F5");
