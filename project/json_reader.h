@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <string>
 #include <string_view>
 
 namespace plexel {
