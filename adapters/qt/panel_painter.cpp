@@ -156,9 +156,10 @@ void DrawLine(QPainter& painter, const SurfaceLine& line) {
 /// The tick, small in the upper right corner of a surface, on a ground of its own.
 void DrawCornerTick(QPainter& painter, const Surface& surface, bool round) {
   if (!surface.linOK1.Visible) return;
-  constexpr double Share = 0.2, Smallest = 6, OfRound = 0.1;
+  constexpr double Share = 0.2, RoundShare = 0.16, Smallest = 6, OfRound = 0.08;
   const QPointF whole = PixelPoint(surface.Width, surface.Height);
-  const double least = std::min(whole.x(), whole.y()), size = std::max(Smallest, Share * least);
+  const double least = std::min(whole.x(), whole.y());
+  const double size = std::max(Smallest, (round ? RoundShare : Share) * least);
   const double edge = size * 0.4 + (round ? OfRound * least : 0);
   const QPointF corner(whole.x() - size - edge, edge);
   const std::array points = {corner + QPointF(0, size * 0.55), corner + QPointF(size * 0.35, size * 0.9),
@@ -224,9 +225,9 @@ void DrawLabel(QPainter& painter, const QRect& box, const QString& text, qreal s
   QFont font = DialogFont();
   font.setPixelSize(static_cast<int>(std::max(Smallest, Size * scale)));
   const QFontMetrics metrics(font);
-  QRect strip(box.left(), 0, box.width(), metrics.height());
+  QRect strip(box.left() + Side, 0, box.width() - 2 * Side, metrics.height());
   if (text.isEmpty() || strip.height() > MostOfHeight * box.height()) return;
-  strip.moveBottom(box.bottom() - 1);
+  strip.moveBottom(box.bottom() - Side);
   const QString shown = metrics.elidedText(text, Qt::ElideRight, strip.width() - 2 * Side);
   QRect ground(0, 0, std::min(strip.width(), metrics.horizontalAdvance(shown) + 2 * Side), strip.height());
   ground.moveCenter(strip.center());

@@ -68,8 +68,11 @@ QString ShortLayerText(const ctlPlexelBaseElement& element, std::int32_t layer) 
   QStringList parts;
   const QString press = WithoutSignsOfStrokes(ToQt(element.PressKeyDefLayer(layer)));
   const QString release = WithoutSignsOfStrokes(ToQt(element.ReleaseKeyDefLayer(layer)));
-  if (!press.isEmpty()) parts.append(press);
-  if (!release.isEmpty()) parts.append("/ " + release);
+  // A key whose halves are stored apart is one key all the same.
+  const QString pressed = QString(press).remove(QString::fromUtf8("\u2039"));
+  const bool sameKeys = !press.isEmpty() && pressed == QString(release).remove(QString::fromUtf8("\u203A"));
+  if (!press.isEmpty()) parts.append(sameKeys ? pressed : press);
+  if (!release.isEmpty() && !sameKeys) parts.append("/ " + release);
   const enumLedType led = element.LEDTypeLayer(layer);
   if (led != LedNotEnabled) parts.append(Say(Text::LedShows).arg(ToQt(LedTypeToText(led))));
   return parts.join(' ');
