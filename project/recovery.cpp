@@ -48,6 +48,13 @@ void RecoveryKeeper::Watch(const PanelDocument* document) {
   due_ = true;
 }
 
+void RecoveryKeeper::Leave() {
+  document_ = nullptr;
+  stale_.clear();
+  sections_.clear();
+  due_ = false;
+}
+
 void RecoveryKeeper::Changed(std::span<const std::size_t> places) {
   for (const std::size_t place : places) {
     if (sections_.at(place) != nullptr) stale_.insert(place);

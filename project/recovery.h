@@ -35,6 +35,8 @@ class RecoveryKeeper {
   /// The project that is kept from now on, null for none; it must outlive the watching. The file of the one before is
   /// removed.
   void Watch(const PanelDocument* document);
+  /// Forgets the project, and lets its file stand as it is.
+  void Leave();
   /// Elements of the project have changed.
   void Changed(std::span<const std::size_t> places);
   /// The project was saved, or its file has changed.

@@ -5,6 +5,7 @@
 
 #include "component/component.h"
 #include "editor/call.h"
+#include "editor/end_signals.h"
 #include "editor/log_panel.h"
 #include "editor/main_window.h"
 #include "editor/version.h"
@@ -46,10 +47,11 @@ int Run(const QString& project) {
   QtPlatform platform(surroundings.UserRegistry(), help);
   Component component(platform, surroundings);
 
-  MainWindow window(component, surroundings, platform, help);
+  MainWindow window(component, surroundings, platform, help, StateDirectory());
   window.show();
+  const EndSignals ends([&window] { window.KeepWork(); });
   TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
-  const bool opened = !project.isEmpty() && window.OpenProject(project.toStdString());
+  const bool opened = window.OfferLostWork() || (!project.isEmpty() && window.OpenProject(project.toStdString()));
   if (!opened && !window.StartEmpty()) return 1;
   return QApplication::exec();
 }

@@ -15,6 +15,7 @@
 #include "editor/element_text.h"
 #include "editor/elided_label.h"
 #include "editor/log_panel.h"
+#include "editor/notice_bar.h"
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
 #include "files/data_directory.h"
@@ -22,15 +23,18 @@
 
 namespace plexel {
 
-MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help)
+MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help,
+                       const std::filesystem::path& state)
     : component_(component),
       surroundings_(surroundings),
       platform_(platform),
       help_(help),
-      store_(surroundings.Configuration()) {
+      store_(surroundings.Configuration()),
+      safekeeping_(state) {
   MakeContent();
   MakeActions();
   ConnectElements();
+  ConnectSafekeeping();
   platform_.Register(*windowObject_, *this);
   platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
   platform_.Notes([this](Form& form) { return notes_.Of(form); });
@@ -50,6 +54,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
 }
 
 MainWindow::~MainWindow() {
+  safekeeping_.Leave();
   view_->Show(nullptr);
   document_.reset();
   platform_.OnFailure(nullptr);
@@ -63,6 +68,8 @@ void MainWindow::MakeContent() {
   auto* layout = new QVBoxLayout(content);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
+  notice_ = new NoticeBar;
+  layout->addWidget(notice_);
   view_ = new PanelView(selection_);
   scroll_ = new PanelScroll(view_);
   layout->addWidget(scroll_);
@@ -111,6 +118,7 @@ void MainWindow::ConnectElements() {
 PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject_, DataDirectory() / "panels"}; }
 
 void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
+  safekeeping_.Watch(nullptr);
   view_->Show(nullptr);
   document_ = std::move(document);
   document_->Listen([this](std::span<const std::size_t>) { ShowChange(); });
@@ -118,6 +126,8 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   view_->setFocus();
   ShowZoom();
   ShowChange();
+  notice_->hide();
+  safekeeping_.Watch(document_.get());
 }
 
 bool MainWindow::StartEmpty() {
@@ -147,8 +157,12 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
 }
 
 bool MainWindow::SaveProject(const std::filesystem::path& file) {
+  if (!MayOverwrite(file)) return false;
   try {
+    safekeeping_.BeforeSave(file);
     document_->Save(file);
+    safekeeping_.Saved();
+    notice_->hide();
     WasUsed(file);
     ShowTitle();
     return true;
@@ -234,7 +248,10 @@ void MainWindow::Tell(Text what, const QString& reason) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   bool leave = true;
   Guarded([&] { leave = MayLeaveProject(); });
-  if (leave) RememberWindow();
+  if (leave) {
+    RememberWindow();
+    safekeeping_.Watch(nullptr);
+  }
   event->setAccepted(leave);
 }
 

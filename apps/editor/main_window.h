@@ -10,6 +10,7 @@
 #include "editor/editor_host.h"
 #include "editor/editor_store.h"
 #include "editor/form_notes.h"
+#include "editor/safekeeping.h"
 #include "editor/selection.h"
 #include "editor/texts.h"
 #include "files/file_surroundings.h"
@@ -28,6 +29,7 @@ namespace plexel {
 
 class ElidedLabel;
 class LogPanel;
+class NoticeBar;
 class PanelScroll;
 class PanelView;
 class RecentMenu;
@@ -35,7 +37,9 @@ class RecentMenu;
 /// The editor's window: one project, its panel, and everything that the user does with them.
 class MainWindow : public QMainWindow {
  public:
-  MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help);
+  /// `state` is the directory in which unsaved work and saved versions are kept.
+  MainWindow(Component& component, FileSurroundings& surroundings, QtPlatform& platform, HelpWindow& help,
+             const std::filesystem::path& state);
   ~MainWindow() override;
 
   /// A new project on the first panel; false when there is none that can be read.
@@ -55,6 +59,10 @@ class MainWindow : public QMainWindow {
   void SetZoom(int percent, std::optional<QPoint> about = std::nullopt);
   /// The layer that the picture tells of, 1 to 4, or AllLayersShown.
   void ShowLayer(std::int32_t layer);
+  /// Offers the work that earlier runs did not save. True when the user has brought some of it back.
+  bool OfferLostWork();
+  /// Brings unsaved work to the disk at once, for the next start to offer it.
+  void KeepWork() { safekeeping_.Keep(); }
   /// Brings elements and texts into line with the settings.
   void SettingsChanged();
 
@@ -90,6 +98,17 @@ class MainWindow : public QMainWindow {
   void ShowHistory();
   /// Runs a dialog that may change an element, as one step.
   void Change(StepKind kind, ctlPlexelBaseElement& element, const std::function<void()>& act);
+
+  void ConnectSafekeeping();
+  /// What the user may do about a file that somebody else has changed.
+  void TellFileChanged(PanelDocument::OnDisk now);
+  void KeepMine();
+  void TakeTheirs();
+  void ShowFileDifference();
+  /// False when the user does not want to write over a file that somebody else has changed.
+  bool MayOverwrite(const std::filesystem::path& file);
+  void ShowVersions();
+  void BringBack(LostWork& work);
 
   void AskNew();
   void AskOpen();
@@ -143,7 +162,9 @@ class MainWindow : public QMainWindow {
   Selection selection_;
   EditorHost host_;
   std::shared_ptr<EditorWindowObject> windowObject_ = std::make_shared<EditorWindowObject>();
+  Safekeeping safekeeping_;
   std::unique_ptr<PanelDocument> document_;
+  NoticeBar* notice_ = nullptr;
   PanelView* view_ = nullptr;
   PanelScroll* scroll_ = nullptr;
   LogPanel* log_ = nullptr;

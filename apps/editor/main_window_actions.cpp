@@ -62,6 +62,7 @@ void MainWindow::MakeActions() {
   file.addSeparator();
   Add(file, Text::Save, QKeySequence::Save, &MainWindow::Save);
   Add(file, Text::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S, &MainWindow::SaveAs);
+  Add(file, Text::Versions, QKeySequence(), &MainWindow::ShowVersions);
   file.addSeparator();
   QAction* const quit = file.addAction(QString(), this, &QWidget::close);
   quit->setShortcut(Qt::CTRL | Qt::Key_Q);

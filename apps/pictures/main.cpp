@@ -131,7 +131,7 @@ class PictureMaker {
   }
 
   void TakeEditor() {
-    MainWindow window(component_, surroundings_, platform_, help_);
+    MainWindow window(component_, surroundings_, platform_, help_, state_.path().toStdString());
     if (project_.empty()) {
       FillSamplePanel(window);
     } else if (!window.OpenProject(project_)) {
@@ -195,7 +195,7 @@ class PictureMaker {
   QDir target_;
   std::string project_;
   QString suffix_;
-  QTemporaryDir configuration_;
+  QTemporaryDir configuration_, state_;
   HelpWindow help_;
   EditorHost host_;
   FormNotes notes_;

@@ -71,7 +71,7 @@ class Editor : public ::testing::Test {
   HelpWindow help;
   OpenQtPlatform platform{surroundings.UserRegistry(), help};
   Component component{platform, surroundings};
-  MainWindow window{component, surroundings, platform, help};
+  MainWindow window{component, surroundings, platform, help, File("state")};
   QObject context;
 };
 

@@ -50,7 +50,7 @@ TEST_F(EditorStoreTest, ADamagedFileIsAnEmptyOne) {
 TEST_F(Editor, ADamagedStoreOpensTheWindowAsAtFirst) {
   const QSize first = window.size();
   std::ofstream(File("editor.ini")) << "[Window]\nGeometry=@ByteArray(junk)\nLayout=@ByteArray(junk)\n";
-  MainWindow another(component, surroundings, platform, help);
+  MainWindow another(component, surroundings, platform, help, File("state"));
   EXPECT_EQ(another.size(), first);
 }
 

@@ -35,7 +35,7 @@ ROOMS = [
     Room("adapters", "qt", 9, QT),
     Room("", "project", 10, r"nlohmann/json\.hpp"),
     Room("apps", "cli", 11, r"nlohmann/json\.hpp|" + POSIX),
-    Room("apps", "editor", 11, QT),
+    Room("apps", "editor", 11, QT + r"|fcntl\.h|unistd\.h"),
     Room("apps", "pictures", 12, QT),
 ]
 BY_NAME = {room.name: room for room in ROOMS}

@@ -1,0 +1,201 @@
+#include "editor/main_window.h"
+
+#include <QDateTime>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "editor/difference_text.h"
+#include "editor/difference_view.h"
+#include "editor/log_panel.h"
+#include "editor/notice_bar.h"
+#include "editor/versions_dialog.h"
+#include "files/file_error.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+namespace {
+
+/// What lost work differs in from the file that it belongs to; nothing when there is no such file to be read.
+std::optional<QString> AgainstItsFile(const RecoveryFile& lost) {
+  try {
+    if (lost.head.file.empty()) return std::nullopt;
+    return SummaryOf(DifferencesOf(ReadProject(lost.head.file), lost.project));
+  } catch (const FileError&) {
+    return std::nullopt;
+  }
+}
+
+enum class LostAnswer { BringBack, Discard, Later };
+
+LostAnswer AskAboutLost(const RecoveryFile& lost, QWidget* parent) {
+  QMessageBox box(parent);
+  box.setIcon(QMessageBox::Question);
+  box.setWindowTitle("Plexel");
+  box.setTextFormat(Qt::PlainText);
+  const QDateTime time = QDateTime::fromSecsSinceEpoch(lost.head.time);
+  box.setText(Say(Text::LostWorkFound).arg(QLocale().toString(time, QLocale::ShortFormat)));
+  QStringList lines = {lost.head.file.empty() ? Say(Text::LostWorkNew)
+                                              : Say(Text::LostWorkOf).arg(ToQt(lost.head.file.string()))};
+  if (const auto summary = AgainstItsFile(lost)) lines.append(*summary);
+  box.setInformativeText(lines.join('\n'));
+  QPushButton* const back = box.addButton(Say(Text::BringBack), QMessageBox::AcceptRole);
+  QPushButton* const discard = box.addButton(Say(Text::Discard), QMessageBox::DestructiveRole);
+  box.setEscapeButton(box.addButton(Say(Text::Later), QMessageBox::RejectRole));
+  box.setDefaultButton(back);
+  box.exec();
+  if (box.clickedButton() == back) return LostAnswer::BringBack;
+  return box.clickedButton() == discard ? LostAnswer::Discard : LostAnswer::Later;
+}
+
+bool Confirm(const QString& question, const QString& yes, QWidget* parent) {
+  QMessageBox box(parent);
+  box.setIcon(QMessageBox::Warning);
+  box.setWindowTitle("Plexel");
+  box.setTextFormat(Qt::PlainText);
+  box.setText(question);
+  QPushButton* const accept = box.addButton(yes, QMessageBox::DestructiveRole);
+  QPushButton* const reject = box.addButton(Say(Text::Cancel), QMessageBox::RejectRole);
+  box.setEscapeButton(reject);
+  box.setDefaultButton(reject);
+  box.exec();
+  return box.clickedButton() == accept;
+}
+
+}  // namespace
+
+void MainWindow::ConnectSafekeeping() {
+  safekeeping_.onFileChanged = [this](PanelDocument::OnDisk now) { TellFileChanged(now); };
+  safekeeping_.onOthers = [this](std::size_t others) {
+    if (others > 0) notice_->Tell(Say(Text::OthersHaveIt), {{Say(Text::OK), [this] { notice_->hide(); }}});
+  };
+  safekeeping_.onProblem = [this](const QString& reason) {
+    log_->Append(Say(Text::NotKept) + ' ' + reason);
+    notice_->Tell(Say(Text::NotKept) + ' ' + reason, {{Say(Text::OK), [this] { notice_->hide(); }}});
+  };
+}
+
+void MainWindow::TellFileChanged(PanelDocument::OnDisk now) {
+  const NoticeBar::Choice keep = {Say(Text::KeepMine), [this] { Guarded([this] { KeepMine(); }); }};
+  switch (now) {
+    case PanelDocument::OnDisk::Same:
+      notice_->hide();
+      break;
+    case PanelDocument::OnDisk::Gone:
+      document_->FileIsLost(document_->File());
+      ShowTitle();
+      notice_->Tell(Say(Text::FileGone).arg(ProjectName()), {{Say(Text::OK), [this] { notice_->hide(); }}});
+      break;
+    case PanelDocument::OnDisk::Other:
+      notice_->Tell(Say(Text::FileChanged).arg(ProjectName()),
+                    {keep,
+                     {Say(Text::TakeTheirs), [this] { Guarded([this] { TakeTheirs(); }); }},
+                     {Say(Text::ShowDifference), [this] { Guarded([this] { ShowFileDifference(); }); }}});
+      break;
+  }
+}
+
+void MainWindow::KeepMine() {
+  try {
+    document_->FileHolds(*PanelDocument::Open(document_->File(), Site()));
+  } catch (const FileError&) {
+    document_->FileIsLost(document_->File());
+  }
+  safekeeping_.Saved();
+  notice_->hide();
+  ShowChange();
+}
+
+void MainWindow::TakeTheirs() {
+  try {
+    const auto theirs = PanelDocument::Open(document_->File(), Site());
+    document_->FileHolds(*theirs);
+    document_->Become(StepKind::TakeOver, *theirs);
+  } catch (const FileError& failure) {
+    Tell(Text::CannotBecome, ToQt(std::string_view(failure.what())));
+    return;
+  }
+  safekeeping_.Saved();
+  notice_->hide();
+  ShowChange();
+}
+
+void MainWindow::ShowFileDifference() {
+  QDialog dialog(this);
+  dialog.setWindowTitle(Say(Text::DifferenceTitle));
+  auto* const layout = new QVBoxLayout(&dialog);
+  auto* const view = new DifferenceView(Text::ColumnMine, Text::ColumnTheirs);
+  layout->addWidget(view);
+  auto* const buttons = new QDialogButtonBox;
+  buttons->addButton(Say(Text::Close), QDialogButtonBox::RejectRole);
+  connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  layout->addWidget(buttons);
+  constexpr QSize firstSize(760, 420);
+  dialog.resize(firstSize);
+  view->Show(DifferencesOf(document_->Content(), ReadProject(document_->File())));
+  dialog.exec();
+}
+
+bool MainWindow::MayOverwrite(const std::filesystem::path& file) {
+  // Saving under another name has been asked for by the toolkit's dialog.
+  if (file != document_->File() || document_->FileNow() != PanelDocument::OnDisk::Other) return true;
+  return Confirm(Say(Text::AskOverwrite), Say(Text::Overwrite), this);
+}
+
+void MainWindow::ShowVersions() {
+  if (!document_) return;
+  VersionsDialog dialog(safekeeping_.Versions(), *document_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  try {
+    const std::filesystem::path version = dialog.Chosen();
+    document_->Become(StepKind::Restore, *PanelDocument::Of(ReadProject(version), version, Site()));
+  } catch (const FileError& failure) {
+    Tell(Text::CannotBecome, ToQt(std::string_view(failure.what())));
+  }
+}
+
+bool MainWindow::OfferLostWork() {
+  std::vector<std::string> damaged;
+  std::vector<LostWork> found = safekeeping_.FindLost(damaged);
+  bool brought = false;
+  for (LostWork& work : found) {
+    if (brought) break;  // a window has one project; the others are offered at the next start
+    const LostAnswer answer = AskAboutLost(work.content, this);
+    if (answer == LostAnswer::Discard && Confirm(Say(Text::AskDiscard), Say(Text::Discard), this)) Forget(work);
+    if (answer != LostAnswer::BringBack) continue;
+    BringBack(work);
+    brought = true;
+  }
+  if (!damaged.empty()) {
+    QStringList lines;
+    for (const std::string& one : damaged) lines.append(ToQt(one));
+    Tell(Text::LostWorkDamaged, lines.join('\n'));
+  }
+  return brought;
+}
+
+void MainWindow::BringBack(LostWork& work) {
+  const RecoveryFile& lost = work.content;
+  const auto whole = PanelDocument::Of(lost.project, work.source, Site());
+  std::unique_ptr<PanelDocument> document;
+  try {
+    if (!lost.head.file.empty()) {
+      document = PanelDocument::Open(lost.head.file, Site());
+      document->Become(StepKind::Recover, *whole);
+    }
+  } catch (const FileError&) {  // the file is gone or of another kind; the work stands without it
+    document.reset();
+  }
+  if (!document) {
+    document = PanelDocument::Of(lost.project, work.source, Site());
+    document->FileIsLost(lost.head.file);
+  }
+  Take(std::move(document));
+  Forget(work);
+}
+
+}  // namespace plexel

@@ -1,0 +1,213 @@
+#include "editor/safekeeping.h"
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "editor/notice_bar.h"
+#include "editor/versions_dialog.h"
+#include "editor_fixture.h"
+#include "files/file_error.h"
+
+namespace plexel::testing {
+namespace {
+
+/// The editor and what it keeps in the user's state directory.
+class Kept : public Editor {
+ protected:
+  std::size_t RecoveryFiles() {
+    std::size_t count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(File("state") / "recovery")) {
+      if (entry.path().extension() == ".recovery") ++count;
+    }
+    return count;
+  }
+  NoticeBar& Notice() { return *window.findChild<NoticeBar*>(); }
+  QPushButton* Choice(const QString& text) {
+    for (QPushButton* const button : Notice().findChildren<QPushButton*>()) {
+      if (button->text() == text) return button;
+    }
+    return nullptr;
+  }
+  /// Another program writes the project with other notes of F3.
+  void PutNotes(const std::filesystem::path& file, const std::string& notes) {
+    Project project = ReadProject(file);
+    for (ProjectElement& element : project.elements) {
+      if (element.place == "F3") element.bag.Store("ButtonNotes", notes);
+    }
+    WriteProject(file, project);
+  }
+  /// Answers the message box that comes next by the text of a button.
+  void AnswerNextBoxWith(const QString& text) {
+    AnswerNextBox([text](QMessageBox& box) {
+      for (QAbstractButton* const button : box.buttons()) {
+        if (button->text() == text) button->click();
+      }
+    });
+  }
+  /// What a second editor would find at its start, after this one was killed.
+  void LeaveLostWork() {
+    window.KeepWork();
+    for (const auto& entry : std::filesystem::directory_iterator(File("state") / "recovery")) {
+      if (entry.path().extension() == ".recovery") {
+        std::filesystem::copy_file(entry.path(), entry.path().parent_path() / "1-1.recovery");
+        return;
+      }
+    }
+  }
+};
+
+TEST_F(Kept, UnsavedWorkIsOnTheDiskWithinTenSecondsWithoutBeingAsked) {
+  ChangeNotes("F5", "unsaved");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return RecoveryFiles() == 1; }, 10'000));
+}
+
+TEST_F(Kept, SavingTakesTheRecoveryFileAway) {
+  ChangeNotes("F5", "unsaved");
+  window.KeepWork();
+  EXPECT_EQ(RecoveryFiles(), 1U);
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  window.KeepWork();
+  EXPECT_EQ(RecoveryFiles(), 0U);
+}
+
+TEST_F(Kept, LostWorkIsOfferedWithWhatItHoldsAndIsOneStep) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  ChangeNotes("F5", "");
+  ASSERT_TRUE(window.NewProject("Small"));
+  QString told;
+  AnswerNextBox([&](QMessageBox& box) {
+    told = box.informativeText();
+    box.defaultButton()->click();
+  });
+  EXPECT_TRUE(window.OfferLostWork());
+  EXPECT_TRUE(told.contains("a.plexel") && told.contains("F5")) << told.toStdString();
+  EXPECT_EQ(Element("F5").ButtonNotes(), "lost");
+  EXPECT_EQ(window.Document()->File(), File("a.plexel"));
+  EXPECT_TRUE(window.Document()->Modified());
+  EXPECT_EQ(window.Document()->Steps().ToUndo().name.kind, StepKind::Recover);
+  window.Document()->Undo();
+  EXPECT_FALSE(window.Document()->Modified());
+}
+
+TEST_F(Kept, LostWorkOfAProjectWhoseFileIsGoneStandsByItself) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  std::filesystem::remove(File("a.plexel"));
+  ASSERT_TRUE(window.NewProject("Small"));
+  AnswerNextBoxWith("Bring back");
+  EXPECT_TRUE(window.OfferLostWork());
+  EXPECT_EQ(Element("F5").ButtonNotes(), "lost");
+  EXPECT_TRUE(window.Document()->Modified());
+}
+
+TEST_F(Kept, LostWorkThatIsLeftForLaterIsOfferedAgain) {
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  int asked = 0;
+  for (int turn = 0; turn < 2; ++turn) {
+    AnswerNextBox([&](QMessageBox& box) {
+      ++asked;
+      QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(window.OfferLostWork());
+  }
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(Kept, AFileThatAnotherProgramChangesIsToldAtOnceAndTakenAsOneStep) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  PutNotes(File("a.plexel"), "theirs");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  ASSERT_NE(Choice("Take theirs"), nullptr);
+  Choice("Take theirs")->click();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "theirs");
+  EXPECT_FALSE(window.Document()->Modified());
+  EXPECT_FALSE(Notice().isVisible());
+  window.Document()->Undo();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "");
+}
+
+TEST_F(Kept, KeepingMineMakesTheTitleTellThatTheFileDiffers) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  PutNotes(File("a.plexel"), "theirs");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  Choice("Keep mine")->click();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "");
+  EXPECT_TRUE(window.isWindowModified());
+  EXPECT_FALSE(Notice().isVisible());
+}
+
+TEST_F(Kept, AFileThatIsRemovedIsToldAndTheProjectCountsAsModified) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  std::filesystem::remove(File("a.plexel"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  EXPECT_TRUE(window.isWindowModified());
+  EXPECT_TRUE(window.SaveProject(File("a.plexel")));
+  EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(Kept, SavingOverAFileThatChangedAsksFirst) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  PutNotes(File("a.plexel"), "theirs");
+  int asked = 0;
+  AnswerNextBox([&](QMessageBox& box) {
+    ++asked;
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  EXPECT_FALSE(window.SaveProject(File("a.plexel")));
+  EXPECT_EQ(asked, 1);
+  AnswerNextBoxWith("Write over it");
+  EXPECT_TRUE(window.SaveProject(File("a.plexel")));
+  const VersionStore versions(File("state") / "versions");
+  ASSERT_EQ(versions.List(File("a.plexel")).size(), 3U) << "mine, theirs, and mine again";
+}
+
+TEST_F(Kept, TheVersionsTellWhatDiffersAndComeBackAsOneStep) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ChangeNotes("F5", "second");
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  const VersionStore versions(File("state") / "versions");
+  VersionsDialog dialog(versions, *window.Document(), &window);
+  auto* const list = dialog.findChild<QListWidget*>("Versions");
+  ASSERT_EQ(list->count(), 2);
+  auto* const back = dialog.findChild<QPushButton*>("BringBack");
+  ASSERT_NE(back, nullptr);
+  EXPECT_FALSE(back->isEnabled()) << "the latest is what the project is now";
+  list->setCurrentRow(1);
+  EXPECT_TRUE(back->isEnabled());
+  auto* const differences = dialog.findChild<QTreeWidget*>();
+  ASSERT_EQ(differences->topLevelItemCount(), 1);
+  EXPECT_EQ(differences->topLevelItem(0)->text(0), "F5");
+  EXPECT_EQ(differences->topLevelItem(0)->text(1), "Notes");
+  EXPECT_EQ(differences->topLevelItem(0)->text(2), "second");
+  EXPECT_EQ(dialog.Chosen(), versions.List(File("a.plexel")).at(1).file);
+}
+
+TEST_F(Kept, ADamagedVersionIsToldAndCannotBeBroughtBack) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  const VersionStore versions(File("state") / "versions");
+  std::filesystem::resize_file(versions.List(File("a.plexel")).front().file, 40);
+  VersionsDialog dialog(versions, *window.Document(), &window);
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("BringBack")->isEnabled());
+}
+
+TEST_F(Kept, AStateDirectoryThatCannotBeMadeIsToldAndTheEditorGoesOn) {
+  WriteProject(File("blocked"), window.Document()->Content());
+  Safekeeping blocked(File("blocked"));
+  QString told;
+  blocked.onProblem = [&](const QString& reason) { told = reason; };
+  blocked.Watch(window.Document());
+  EXPECT_TRUE(told.contains("blocked")) << told.toStdString();
+  ChangeNotes("F5", "a");
+  blocked.Keep();
+}
+
+}  // namespace
+}  // namespace plexel::testing
