@@ -60,7 +60,7 @@ class Album:
 
     def menus(self):
         press(self.desktop, "LeftAlt Down")
-        for number in range(5):
+        for number in range(6):
             self.desktop.popup()
             self.take(f"menu-{number + 1}", self.desktop.window(MAIN))
             press(self.desktop, "Right")
@@ -146,11 +146,11 @@ class Album:
         self.own_window("open", 20202)
         press(self.desktop, "LeftCtrl+LeftShift+s")
         self.own_window("save-as", 20203)
-        press(self.desktop, "LeftAlt Right Right Right Down Return")
+        press(self.desktop, "LeftAlt Right Right Right Right Down Return")
         self.own_window("settings", 20500)
         press(self.desktop, "F1")
         self.own_window("help", 20600)
-        press(self.desktop, "LeftAlt Right Right Right Right Down Down Return")
+        press(self.desktop, "LeftAlt Right Right Right Right Right Down Down Return")
         self.own_window("about", 20142)
 
     def own_window(self, name, text):
