@@ -1,7 +1,5 @@
 #include "project/open_file.h"
 
-#include <unistd.h>
-
 #include <system_error>
 
 #include "files/file_error.h"
@@ -22,7 +20,8 @@ OpenFile::OpenFile(const std::filesystem::path& directory, const std::filesystem
   std::filesystem::create_directories(directory_, error);
   if (error) throw FileError(directory_, 0, "cannot be made: " + error.message());
   for (int number = 1; !lock_; ++number) {
-    mark_ = directory_ / (fingerprint_ + "-" + std::to_string(::getpid()) + "-" + std::to_string(number) + Extension);
+    mark_ =
+        directory_ / (fingerprint_ + "-" + std::to_string(ProcessNumber()) + "-" + std::to_string(number) + Extension);
     lock_ = ProcessLock::Try(mark_);
   }
 }

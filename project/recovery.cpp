@@ -1,7 +1,5 @@
 #include "project/recovery.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <numeric>
 #include <system_error>
@@ -27,7 +25,7 @@ RecoveryKeeper::RecoveryKeeper(const std::filesystem::path& directory, Clock clo
   if (error) throw FileError(directory, 0, "cannot be made: " + error.message());
   std::filesystem::permissions(directory, std::filesystem::perms::owner_all, error);
   for (int number = 1; !lock_; ++number) {
-    file_ = directory / (std::to_string(::getpid()) + "-" + std::to_string(number) + Extension);
+    file_ = directory / (std::to_string(ProcessNumber()) + "-" + std::to_string(number) + Extension);
     if (std::filesystem::exists(file_, error)) continue;
     lock_ = ProcessLock::Try(LockOf(file_));
   }

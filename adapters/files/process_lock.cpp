@@ -25,6 +25,8 @@ bool IsStill(const std::filesystem::path& file, int handle) {
 
 }  // namespace
 
+long ProcessNumber() { return ::getpid(); }
+
 std::optional<ProcessLock> ProcessLock::Try(const std::filesystem::path& file) {
   while (true) {
     const int handle = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);

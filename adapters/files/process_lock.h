@@ -5,6 +5,9 @@
 
 namespace plexel {
 
+/// The number of this process, which no other that runs on the machine has.
+long ProcessNumber();
+
 /// A lock that a process holds as long as it lives, however it ends: a file that is locked, not one that merely stands.
 class ProcessLock {
  public:
