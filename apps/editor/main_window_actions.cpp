@@ -105,9 +105,7 @@ void MainWindow::Retranslate() {
 
 void MainWindow::UseToolkitTexts() {
   QCoreApplication::removeTranslator(&toolkitTexts_);
-  const QLocale::Language language = LanguageOf(surroundings_.Language().Chosen());
-  const QLocale locale = language == QLocale::AnyLanguage ? QLocale::system() : QLocale(language);
-  if (toolkitTexts_.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+  if (toolkitTexts_.load(UserLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&toolkitTexts_);
   }
 }

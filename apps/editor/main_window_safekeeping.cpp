@@ -21,10 +21,10 @@ namespace plexel {
 namespace {
 
 /// What lost work differs in from the file that it belongs to; nothing when there is no such file to be read.
-std::optional<QString> AgainstItsFile(const RecoveryFile& lost) {
+std::optional<QString> AgainstItsFile(const RecoveryFile& lost, const PanelDocument::Site& site) {
   try {
     if (lost.head.file.empty()) return std::nullopt;
-    return SummaryOf(DifferencesOf(ReadProject(lost.head.file), lost.project));
+    return SummaryOf(DifferencesOf(PanelDocument::Open(lost.head.file, site)->Content(), lost.project));
   } catch (const FileError&) {
     return std::nullopt;
   }
@@ -32,16 +32,16 @@ std::optional<QString> AgainstItsFile(const RecoveryFile& lost) {
 
 enum class LostAnswer { BringBack, Discard, Later };
 
-LostAnswer AskAboutLost(const RecoveryFile& lost, QWidget* parent) {
+LostAnswer AskAboutLost(const RecoveryFile& lost, const PanelDocument::Site& site, QWidget* parent) {
   QMessageBox box(parent);
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle("Plexel");
   box.setTextFormat(Qt::PlainText);
   const QDateTime time = QDateTime::fromSecsSinceEpoch(lost.head.time);
-  box.setText(Say(Text::LostWorkFound).arg(QLocale().toString(time, QLocale::ShortFormat)));
+  box.setText(Say(Text::LostWorkFound).arg(UserLocale().toString(time, QLocale::ShortFormat)));
   QStringList lines = {lost.head.file.empty() ? Say(Text::LostWorkNew)
                                               : Say(Text::LostWorkOf).arg(ToQt(lost.head.file.string()))};
-  if (const auto summary = AgainstItsFile(lost)) lines.append(*summary);
+  if (const auto summary = AgainstItsFile(lost, site)) lines.append(*summary);
   box.setInformativeText(lines.join('\n'));
   QPushButton* const back = box.addButton(Say(Text::BringBack), QMessageBox::AcceptRole);
   QPushButton* const discard = box.addButton(Say(Text::Discard), QMessageBox::DestructiveRole);
@@ -136,7 +136,7 @@ void MainWindow::ShowFileDifference() {
   layout->addWidget(buttons);
   constexpr QSize firstSize(760, 420);
   dialog.resize(firstSize);
-  view->Show(DifferencesOf(document_->Content(), ReadProject(document_->File())));
+  view->Show(DifferencesOf(document_->Content(), PanelDocument::Open(document_->File(), Site())->Content()));
   dialog.exec();
 }
 
@@ -164,7 +164,7 @@ bool MainWindow::OfferLostWork() {
   bool brought = false;
   for (LostWork& work : found) {
     if (brought) break;  // a window has one project; the others are offered at the next start
-    const LostAnswer answer = AskAboutLost(work.content, this);
+    const LostAnswer answer = AskAboutLost(work.content, Site(), this);
     if (answer == LostAnswer::Discard && Confirm(Say(Text::AskDiscard), Say(Text::Discard), this)) Forget(work);
     if (answer != LostAnswer::BringBack) continue;
     BringBack(work);

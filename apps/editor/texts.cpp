@@ -17,6 +17,11 @@ QString Say(Text text) {
   return "@" + QString::number(number);
 }
 
+QLocale UserLocale() {
+  const QLocale::Language language = LanguageOf(GetLanguageName());
+  return language == QLocale::AnyLanguage ? QLocale::system() : QLocale(language);
+}
+
 QLocale::Language LanguageOf(const std::string& name) {
   for (int language = QLocale::C + 1; language <= QLocale::LastLanguage; ++language) {
     const auto known = static_cast<QLocale::Language>(language);

@@ -188,6 +188,8 @@ enum class Text : std::int32_t {
 /// The text of a number in the user's language.
 QString Say(Text text);
 
+/// How dates and numbers are written in the user's language.
+QLocale UserLocale();
 /// The language of an English name, AnyLanguage for an unknown one.
 QLocale::Language LanguageOf(const std::string& name);
 /// The name that a language has in itself; one that is unknown keeps its own.

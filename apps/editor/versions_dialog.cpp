@@ -30,7 +30,7 @@ VersionsDialog::VersionsDialog(const VersionStore& store, const PanelDocument& d
   summary_->setWordWrap(true);
   list_->setObjectName("Versions");
   for (const VersionStore::Version& version : versions_) {
-    list_->addItem(QLocale().toString(QDateTime::fromMSecsSinceEpoch(version.time), QLocale::ShortFormat));
+    list_->addItem(UserLocale().toString(QDateTime::fromMSecsSinceEpoch(version.time), QLocale::ShortFormat));
   }
   auto* const right = new QWidget;
   auto* const rightLayout = new QVBoxLayout(right);

@@ -25,7 +25,7 @@ class Kept : public Editor {
   NoticeBar& Notice() { return *window.findChild<NoticeBar*>(); }
   QPushButton* Choice(const QString& text) {
     for (QPushButton* const button : Notice().findChildren<QPushButton*>()) {
-      if (button->text() == text) return button;
+      if (button->text().remove('&') == text) return button;
     }
     return nullptr;
   }
@@ -130,6 +130,23 @@ TEST_F(Kept, AFileThatAnotherProgramChangesIsToldAtOnceAndTakenAsOneStep) {
   EXPECT_FALSE(Notice().isVisible());
   window.Document()->Undo();
   EXPECT_EQ(Element("F3").ButtonNotes(), "");
+}
+
+TEST_F(Kept, AfterTheirsWereTakenMineCanBeTakenBackAndSavedWithoutAQuestion) {
+  WriteProject(File("a.plexel"), Project{"Large", {}});
+  ASSERT_TRUE(window.OpenProject(File("a.plexel")));
+  ChangeNotes("F5", "mine");
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  WriteProject(File("a.plexel"), Project{"Large", {}});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  Choice("Take theirs")->click();
+  EXPECT_EQ(Element("F5").ButtonNotes(), "");
+  EXPECT_FALSE(window.isWindowModified());
+  window.Document()->Undo();
+  EXPECT_EQ(Element("F5").ButtonNotes(), "mine");
+  EXPECT_TRUE(window.isWindowModified());
+  EXPECT_TRUE(window.SaveProject(File("a.plexel")));
 }
 
 TEST_F(Kept, KeepingMineMakesTheTitleTellThatTheFileDiffers) {

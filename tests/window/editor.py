@@ -183,7 +183,10 @@ class Editor:
                        "QT_NO_XDG_DESKTOP_PORTAL": "1"}
         command = [tools_path(tools.editor)] + ([str(project)] if project else [])
         self.process = desktop.start(command, environment)
-        self.window = desktop.window(MAIN)
+        self.window = self.first_window()
+
+    def first_window(self):
+        return self.desktop.window(MAIN)
 
     # ---- the panel
 

@@ -10,6 +10,7 @@ from pathlib import Path
 import tests_focus
 import tests_keyboard
 import tests_pictures
+import tests_safekeeping
 import tests_special
 import tests_walk
 import tests_wizard
@@ -28,6 +29,10 @@ TESTS = {
     "held-key": tests_focus.held_key,
     "german-wizard": tests_wizard.german_wizard,
     "special-kinds": tests_special.special_kinds,
+    "undo": tests_safekeeping.undo_and_redo,
+    "killed": tests_safekeeping.killed,
+    "terminated": tests_safekeeping.terminated,
+    "changed-by-another": tests_safekeeping.changed_by_another,
     "english-pictures": tests_pictures.english_pictures,
     "german-pictures": tests_pictures.german_pictures,
 }

@@ -1,0 +1,105 @@
+"""What becomes of work that was not saved, and of a file that somebody else changes."""
+
+import signal
+
+from capture import compare
+from desktop import Desktop, Failed, Window, wait_for
+from editor import MAIN, Editor
+from keys import press
+from project import read_project, write_empty_project
+
+KEY = "F1"
+PLAN = {(KEY, 1, True): [("a", [("a", "1C F0 1C")])]}
+PATIENCE = 12  # seconds; unsaved work is on the disk after ten
+
+
+def recovery_files(desktop):
+    return list((desktop.folder / "home" / ".local" / "state" / "plexel" / "recovery").glob("*.recovery"))
+
+
+def record(editor):
+    dialog = editor.configure(KEY)
+    dialog.start_capture()
+    press(editor.desktop, "a")
+    dialog.ok()
+
+
+def undo_and_redo(tools, folder):
+    with Desktop(tools, folder) as desktop:
+        project = folder / "undo.plexel"
+        write_empty_project(project, "Small")
+        editor = Editor(desktop, tools, project)
+        record(editor)
+        compare(editor.save(), PLAN)
+        press(desktop, "LeftCtrl+z")
+        compare(editor.save(), {})
+        press(desktop, "LeftCtrl+y")
+        compare(editor.save(), PLAN)
+        editor.quit()
+
+
+def killed(tools, folder):
+    with Desktop(tools, folder) as desktop:
+        project = folder / "killed.plexel"
+        write_empty_project(project, "Small")
+        editor = Editor(desktop, tools, project)
+        record(editor)
+        wait_for("the recovery file", lambda: recovery_files(desktop), PATIENCE)
+        editor.process.send_signal(signal.SIGKILL)
+        editor.process.wait()
+        compare(read_project(project), {})
+
+        editor = StartedEditor(desktop, tools, project)
+        compare(editor.save(), PLAN)
+        wait_for("the recovery file to go", lambda: not recovery_files(desktop), PATIENCE)
+        editor.quit()
+
+
+def terminated(tools, folder):
+    with Desktop(tools, folder) as desktop:
+        project = folder / "terminated.plexel"
+        write_empty_project(project, "Small")
+        editor = Editor(desktop, tools, project)
+        record(editor)
+        editor.wait_modified(True)
+        editor.process.send_signal(signal.SIGTERM)
+        editor.wait_end()
+        if len(recovery_files(desktop)) != 1:
+            raise Failed("work that was not saved is not kept")
+        editor = StartedEditor(desktop, tools, project, language="German", settings={})
+        compare(editor.save(), PLAN)
+        editor.quit()
+
+
+class StartedEditor(Editor):
+    """An editor that asks about lost work before it shows a project; it is brought back."""
+
+    def first_window(self):
+        def question():
+            return next((one for one in self.desktop.windows() if one["title"] == "Plexel" and one["active"]), None)
+
+        found = wait_for("the question about lost work", question)
+        asked = Window(found["id"], *found["client"])
+        self.desktop.picture(self.tools.pictures / f"lost-work-{self.language}.png", asked)
+        press(self.desktop, "Return")
+        self.desktop.gone(asked)
+        return super().first_window()
+
+
+def changed_by_another(tools, folder):
+    for language, take in (("English", "LeftAlt+t"), ("German", "LeftAlt+n")):
+        with Desktop(tools, folder) as desktop:
+            project = folder / "changed.plexel"
+            write_empty_project(project, "Small")
+            empty = project.read_bytes()
+            editor = Editor(desktop, tools, project, language=language, settings={})
+            record(editor)
+            compare(editor.save(), PLAN)
+            project.write_bytes(empty)
+            editor.pause(2)  # nothing that can be waited for tells that nothing more comes
+            desktop.picture(tools.pictures / f"file-changed-{language}.png", desktop.window(MAIN))
+            press(desktop, take)
+            editor.pause(1)  # a button that is pressed by its letter acts a little later
+            press(desktop, "LeftCtrl+z")
+            compare(editor.save(), PLAN)
+            editor.quit()
