@@ -1,0 +1,100 @@
+#include "project/key_stroke.h"
+
+#include <gtest/gtest.h>
+
+#include "keyboard/key_table.h"
+#include "project/key_code_names.h"
+#include "project/search.h"
+#include "services/module_state.h"
+#include "world/world.h"
+
+namespace plexel {
+namespace {
+
+/// Kernel codes of keys.
+constexpr int KeyA = 30, KeyF13 = 183, Home = 102, Pad7 = 71, Left = 105, KeyDivide = 98;
+
+class Stroke : public ::testing::Test {
+ protected:
+  void Key(int evdev, bool down) {
+    const KeyPosition* const key = FindKeyPosition(evdev);
+    ASSERT_NE(key, nullptr) << evdev;
+    stroke.Take({key->virtualKeyNumLock, key->scanCode, key->extended, down, 0});
+  }
+  /// What is told of keys that go down one after the other and come up again.
+  std::string Pressed(std::initializer_list<int> keys) {
+    for (const int key : keys) Key(key, true);
+    EXPECT_FALSE(stroke.IsOver());
+    for (const int key : keys) Key(key, false);
+    EXPECT_TRUE(stroke.IsOver());
+    return KeySearch(stroke.Keys()).Text();
+  }
+  World world;
+  KeyStroke stroke;
+};
+
+TEST_F(Stroke, HasNotBegunWithoutAKey) {
+  EXPECT_FALSE(stroke.IsOver());
+  Key(KeyA, false);
+  EXPECT_FALSE(stroke.IsOver());
+  EXPECT_TRUE(stroke.Keys().empty());
+}
+
+TEST_F(Stroke, TellsKeysByWhatAPcGets) {
+  EXPECT_EQ(Pressed({KeyA}), "a");
+  EXPECT_EQ(Pressed({KeyF13}), "F13");
+  EXPECT_EQ(stroke.Keys(), std::vector<KeyCode>{0x08});
+}
+
+TEST_F(Stroke, GathersAChordUntilAllKeysAreUp) {
+  Key(evdev::LeftCtrl, true);
+  Key(KeyA, true);
+  Key(evdev::LeftCtrl, false);
+  EXPECT_FALSE(stroke.IsOver());
+  Key(KeyA, false);
+  EXPECT_TRUE(stroke.IsOver());
+  EXPECT_EQ(stroke.Keys(), (std::vector<KeyCode>{0x14, 0x1C}));
+}
+
+TEST_F(Stroke, BeginsAnewBehindTheLastRelease) {
+  Pressed({KeyA});
+  EXPECT_EQ(Pressed({KeyF13}), "F13");
+}
+
+TEST_F(Stroke, ARepeatChangesNothing) {
+  Key(KeyA, true);
+  EXPECT_EQ(Pressed({KeyA}), "a");
+}
+
+TEST_F(Stroke, TellsTheCursorBlockFromTheNumberPadWhateverNumLockAndShiftSay) {
+  for (const Boolean numLock : {False, True}) {
+    Module().bNumLockDown = numLock;
+    EXPECT_EQ(Pressed({Home}), KeyNameOf(0xE06C));
+    EXPECT_EQ(Pressed({Left}), KeyNameOf(0xE06B));
+    EXPECT_EQ(Pressed({Pad7}), KeyNameOf(0x6C));
+    EXPECT_EQ(Pressed({KeyDivide}), KeyNameOf(0xE04A));
+    EXPECT_EQ(Module().bNumLockDown, numLock) << "what is in force stays";
+  }
+  EXPECT_EQ(Pressed({evdev::LeftShift, Home}), "Shift Left + " + KeyNameOf(0xE06C));
+}
+
+TEST_F(Stroke, KeysThatChangeWithModifiersAreThoseThatCaptureStores) {
+  EXPECT_EQ(Pressed({evdev::Print}), KeyNameOf(0xE07C));
+  Pressed({evdev::LeftAlt, evdev::Print});
+  EXPECT_EQ(stroke.Keys(), (std::vector<KeyCode>{0x11, 0x84}));
+  EXPECT_EQ(Pressed({evdev::Pause}), KeyNameOf(PauseKey));
+  EXPECT_EQ(Pressed({evdev::RightCtrl, evdev::Pause}), "Ctrl Right + " + KeyNameOf(0xE07E));
+}
+
+TEST_F(Stroke, EveryNamedKeyOfAKeyboardIsHeardAsOneKey) {
+  for (const KeyPosition& key : KeyPositions()) {
+    KeyStroke alone;
+    alone.Take({key.virtualKeyNumLock, key.scanCode, key.extended, true, 0});
+    alone.Take({key.virtualKeyNumLock, key.scanCode, key.extended, false, 0});
+    EXPECT_TRUE(alone.IsOver());
+    EXPECT_LE(alone.Keys().size(), 1U) << key.evdev;
+  }
+}
+
+}  // namespace
+}  // namespace plexel
