@@ -2,40 +2,52 @@
 
 #include <algorithm>
 
-#include "scancodes/key_translation.h"
-#include "services/module_state.h"
+#include "scancodes/scan_code_table.h"
 
 namespace plexel {
 
 namespace {
 
+using namespace scan_code_table;
+
 /// Print is translated under a scan code of its own.
 constexpr std::int32_t virtualKeyPrint = 0x2C, scanCodeOfPrint = 0;
+constexpr std::int32_t virtualKeyDivide = 0x6F, virtualKeyNumLock = 0x90;
 constexpr KeyCode LeftCtrl = 0x14, RightCtrl = 0xE014, LeftAlt = 0x11, RightAlt = 0xE011;
+constexpr std::uint8_t extendedPrefix = 0xE0;
 
-/// The modifiers by which a key is translated, until its end.
-class Modifiers {
- public:
-  /// Shift and Num Lock change only the false shifts around a key, not the key.
-  Modifiers(bool ctrl, bool alt) {
-    ModuleState& state = Module();
-    state.bShiftDown = state.bNumLockDown = False;
-    state.bCtrlDown = ctrl ? True : False;
-    state.bAltDown = alt ? True : False;
+/// Of the variants of a key the one without false shifts.
+std::size_t VariantOf(const Row& row, const KeyEvent& event, bool ctrl, bool alt) {
+  switch (row.rule) {
+    case Rule::Sided:
+      return event.extended ? variant::Right : variant::Left;
+    case Rule::Cursor:
+      return event.virtualKey == row.navigationKey ? variant::CursorPlain : variant::CursorPad;
+    case Rule::Divide:
+      return event.virtualKey == virtualKeyDivide ? variant::DividePlain : variant::DivideMainBlock;
+    case Rule::Print:
+      return alt ? variant::PrintAlt : variant::PrintPlain;
+    case Rule::NumLock:
+      if (event.virtualKey == virtualKeyNumLock) return variant::NumLockKey;
+      return ctrl ? variant::PauseCtrl : variant::PausePlain;
+    case Rule::None:
+    case Rule::Fixed:
+      break;
   }
-  ~Modifiers() {
-    Module().bShiftDown = shift_;
-    Module().bNumLockDown = numLock_;
-    Module().bCtrlDown = ctrl_;
-    Module().bAltDown = alt_;
-  }
-  Modifiers(const Modifiers&) = delete;
-  Modifiers& operator=(const Modifiers&) = delete;
+  return variant::Only;
+}
 
- private:
-  const Boolean shift_ = Module().bShiftDown, numLock_ = Module().bNumLockDown, ctrl_ = Module().bCtrlDown,
-                alt_ = Module().bAltDown;
-};
+/// The keys that go down by the bytes of a key.
+std::vector<KeyReport> ReportsOf(const KeySequences& sequences) {
+  udtTactisBaseElement_TACTIS_SCANCODE buffer;
+  const auto put = [&](std::uint8_t byte) { buffer.Value[static_cast<std::size_t>(++buffer.NextValue)] = byte; };
+  if (sequences.form == Form::Extended) put(extendedPrefix);
+  if (sequences.form != Form::Listed) put(sequences.code);
+  for (std::size_t place = 0; place < sequences.make.count; ++place) put(sequences.make.codes[place]);
+  std::vector<KeyReport> reports;
+  KeyReader().Read(buffer, Direction::Press, reports);
+  return reports;
+}
 
 }  // namespace
 
@@ -55,20 +67,12 @@ void KeyStroke::Take(const KeyEvent& event) {
 
 void KeyStroke::Add(const KeyEvent& event) {
   const auto has = [this](KeyCode code) { return std::ranges::find(keys_, code) != keys_.end(); };
-  KeyCodes codes;
-  {
-    const Modifiers modifiers(has(LeftCtrl) || has(RightCtrl), has(LeftAlt) || has(RightAlt));
-    TranslateScanCode(event.virtualKey == virtualKeyPrint ? scanCodeOfPrint : event.scanCode, event.virtualKey,
-                      event.extended ? 1 : 0, codes);
-  }
-  udtTactisBaseElement_TACTIS_SCANCODE buffer;
-  for (std::int32_t place = 0; place < codes.make.length; ++place) {
-    buffer.Value[static_cast<std::size_t>(++buffer.NextValue)] =
-        static_cast<std::uint8_t>(codes.make.codes[static_cast<std::size_t>(place)]);
-  }
-  std::vector<KeyReport> reports;
-  KeyReader().Read(buffer, Direction::Press, reports);
-  for (const KeyReport& report : reports) {
+  const auto scanCode =
+      static_cast<std::size_t>(event.virtualKey == virtualKeyPrint ? scanCodeOfPrint : event.scanCode);
+  if (scanCode >= table.size() || table[scanCode].rule == Rule::None) return;
+  const Row& row = table[scanCode];
+  const bool ctrl = has(LeftCtrl) || has(RightCtrl), alt = has(LeftAlt) || has(RightAlt);
+  for (const KeyReport& report : ReportsOf(row.variants[VariantOf(row, event, ctrl, alt)])) {
     if (report.deed == KeyDeed::Down && !has(report.code)) keys_.push_back(report.code);
   }
 }
