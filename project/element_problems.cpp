@@ -3,13 +3,9 @@
 #include <algorithm>
 
 #include "element/ctlPlexelBaseElement.h"
-#include "platform/clean_up.h"
-#include "platform/failure.h"
+#include "project/definition.h"
 #include "project/shared_values.h"
-#include "scancodes/element_codes.h"
-#include "services/code_limit.h"
 #include "services/led_offer.h"
-#include "services/module_state.h"
 
 namespace plexel {
 
@@ -85,23 +81,12 @@ class Check {
   }
 
   void CheckRoom(std::int32_t layer) {
-    if (HasRoom(layer)) return;
+    if (HasRoomFor(record_, layer, element_.VantaEnabled())) return;
     std::ptrdiff_t count = 0;
     for (const Buffer* buffer : {PressBuffer(record_, layer), ReleaseBuffer(record_, layer)}) {
       count += std::ranges::count_if(CountingBytes(*buffer), [](std::uint8_t byte) { return byte != Buffer::EndMark; });
     }
     Find(ProblemRule::OverLimit, layer, {static_cast<std::uint32_t>(count)});
-  }
-
-  /// A buffer whose NextValue lies behind its end has no room either.
-  bool HasRoom(std::int32_t layer) const {
-    const AtEnd restored([limit = Module().lngMaxScanCodes] { Module().lngMaxScanCodes = limit; });
-    Module().lngMaxScanCodes = MaxScanCodesFor(element_.VantaEnabled());
-    try {
-      return HasRoomForCodes(layer, record_, 0);
-    } catch (const Failure&) {
-      return false;
-    }
   }
 
   void CheckLed(std::int32_t layer) {
