@@ -2,35 +2,27 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "forms/characters.h"
 #include "project/key_code_names.h"
+#include "project/time_line.h"
 
 namespace plexel {
 
 namespace {
 
-/// As KeyDeed has them.
-constexpr std::array<std::string_view, 5> signs = {"▼", "▲", "▽", "◆", "?"};
-constexpr std::string_view heldSign = "━";
+/// As TimeMark has them.
+constexpr std::array<std::string_view, 7> signs = {"▼", "▲", "▽", "◆", "?", "━", " "};
 constexpr std::string_view pressTitle = "press", releaseTitle = "release", between = " │ ";
 
-std::string NameOfRow(const KeyReport& report) {
-  if (report.deed == KeyDeed::Panel) return std::string(PanelFunctionNameOf(report.code));
-  if (report.deed == KeyDeed::Unknown) return "unknown " + CodeText(report.code);
-  return KeyNameOf(report.code);
+std::string NameOf(const TimeRow& row) {
+  if (row.kind == KeyDeed::Panel) return std::string(PanelFunctionNameOf(row.code));
+  if (row.kind == KeyDeed::Unknown) return "unknown " + CodeText(row.code);
+  return KeyNameOf(row.code);
 }
-
-/// A key, a panel function or an unknown byte.
-struct Row {
-  std::string name;
-  std::string press, release;
-  bool isDown = false;
-  void Add(Direction at, std::string_view sign) { (at == Direction::Press ? press : release) += sign; }
-  void AddState(Direction at) { Add(at, isDown ? heldSign : " "); }
-};
 
 std::size_t CountOf(std::string_view text) { return static_cast<std::size_t>(characters::Count(text)); }
 
@@ -40,20 +32,15 @@ std::string Padded(std::string text, std::size_t width) {
   return text;
 }
 
-std::vector<Row> RowsOf(const LayerReading& reading) {
-  std::vector<Row> rows;
-  for (const KeyReport& report : reading.reports) {
-    std::string name = NameOfRow(report);
-    if (std::ranges::find(rows, name, &Row::name) == rows.end()) rows.push_back({std::move(name), {}, {}, false});
-  }
-  return rows;
-}
+std::string_view SignOf(TimeMark mark) { return signs[static_cast<std::size_t>(mark)]; }
 
-/// Draws up to the end of a direction that has too few events for its title.
-void FillUp(std::vector<Row>& rows, Direction at, std::size_t drawn, std::size_t width) {
-  for (; drawn < width; ++drawn) {
-    for (Row& row : rows) row.AddState(at);
-  }
+/// The marks of one direction, drawn on up to a width; `before` is the state ahead of them.
+std::string Drawn(std::span<const TimeMark> marks, TimeMark before, std::size_t width) {
+  std::string text;
+  for (const TimeMark mark : marks) text += SignOf(mark);
+  const TimeMark state = Behind(marks.empty() ? before : marks.back());
+  for (std::size_t drawn = marks.size(); drawn < width; ++drawn) text += SignOf(state);
+  return text;
 }
 
 }  // namespace
@@ -61,35 +48,20 @@ void FillUp(std::vector<Row>& rows, Direction at, std::size_t drawn, std::size_t
 std::string TimeLine(const LayerReading& reading) {
   if (reading.reports.empty()) return "nothing is sent\n";
   const auto presses = static_cast<std::size_t>(std::ranges::count(reading.reports, Direction::Press, &KeyReport::at));
-  const std::size_t releases = reading.reports.size() - presses;
   const std::size_t pressWidth = std::max(presses, pressTitle.size());
-  const std::size_t releaseWidth = std::max(releases, releaseTitle.size());
+  const std::size_t releaseWidth = std::max(reading.reports.size() - presses, releaseTitle.size());
 
-  std::vector<Row> rows = RowsOf(reading);
-  bool pressing = true;
-  for (const KeyReport& report : reading.reports) {
-    if (pressing && report.at == Direction::Release) FillUp(rows, Direction::Press, presses, pressWidth);
-    pressing = report.at == Direction::Press;
-    const std::string name = NameOfRow(report);
-    for (Row& row : rows) {
-      if (row.name != name) {
-        row.AddState(report.at);
-        continue;
-      }
-      row.Add(report.at, signs[static_cast<std::size_t>(report.deed)]);
-      row.isDown = report.deed == KeyDeed::Down || report.deed == KeyDeed::Repeat;
-    }
-  }
-  if (pressing) FillUp(rows, Direction::Press, presses, pressWidth);
-  FillUp(rows, Direction::Release, releases, releaseWidth);
-
+  const std::vector<TimeRow> rows = TimeRows(reading.reports);
   std::size_t nameWidth = 0;
-  for (const Row& row : rows) nameWidth = std::max(nameWidth, CountOf(row.name));
+  for (const TimeRow& row : rows) nameWidth = std::max(nameWidth, CountOf(NameOf(row)));
   std::string text = std::string(nameWidth + 2, ' ') + Padded(std::string(pressTitle), pressWidth) +
                      std::string(between) + std::string(releaseTitle) + '\n';
-  for (const Row& row : rows) {
-    std::string line = Padded(row.name, nameWidth + 2) + row.press + std::string(between) + row.release;
-    if (row.isDown) line += "  stays down";
+  for (const TimeRow& row : rows) {
+    const std::span marks(row.marks);
+    const TimeMark pressed = presses == 0 ? TimeMark::Idle : marks[presses - 1];
+    std::string line = Padded(NameOf(row), nameWidth + 2) + Drawn(marks.first(presses), TimeMark::Idle, pressWidth) +
+                       std::string(between) + Drawn(marks.subspan(presses), pressed, releaseWidth);
+    if (Behind(row.marks.back()) == TimeMark::Held) line += "  stays down";
     line.erase(line.find_last_not_of(' ') + 1);
     text += line + '\n';
   }
