@@ -57,7 +57,7 @@ void FirstLayer(const LayerSet& layers, Holds&& holds, Find&& find) {
 
 }  // namespace
 
-LayerSet::LayerSet(std::initializer_list<std::int32_t> layers) : bits_(0) {
+LayerSet::LayerSet(const std::vector<std::int32_t>& layers) : bits_(0) {
   for (const std::int32_t layer : layers) bits_ |= 1U << static_cast<unsigned>(layer);
 }
 

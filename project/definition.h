@@ -19,7 +19,8 @@ class LayerSet {
   /// All four layers.
   LayerSet() = default;
   /// Some layers, 1 to 4 each.
-  LayerSet(std::initializer_list<std::int32_t> layers);
+  LayerSet(std::initializer_list<std::int32_t> layers) : LayerSet(std::vector<std::int32_t>(layers)) {}
+  explicit LayerSet(const std::vector<std::int32_t>& layers);
   bool Has(std::int32_t layer) const { return (bits_ & (1U << static_cast<unsigned>(layer))) != 0; }
   bool IsAll() const { return bits_ == All; }
 

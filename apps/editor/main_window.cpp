@@ -107,6 +107,10 @@ void MainWindow::ConnectElements() {
     ShowStatus();
     if (view_->Selected() != nullptr) scroll_->Reveal(selection_.Current());
   });
+  view_->onDrag = [this](int place) { Guarded([&] { BeginDrag(place); }); };
+  view_->onDrop = [this](int from, int onto, const QString& text, bool swap) {
+    Guarded([&] { Drop(from, onto, text, swap); });
+  };
   view_->onMenu = [this](const QPoint& place) { ShowElementMenu(place); };
   view_->onProperties = [this] { ShowProperties(); };
   view_->onReturn = [this](ctlPlexelBaseElement& element, const std::function<void()>& act) {

@@ -15,6 +15,7 @@
 #include "editor/texts.h"
 #include "files/file_surroundings.h"
 #include "project/panel_document.h"
+#include "project/pasting.h"
 #include "qt/help_window.h"
 #include "qt/qt_platform.h"
 
@@ -91,6 +92,21 @@ class MainWindow : public QMainWindow {
   void UseToolkitTexts();
   PanelDocument::Site Site();
   void Take(std::unique_ptr<PanelDocument> document);
+
+  /// The places that an act of the user is for.
+  std::vector<std::size_t> MeantPlaces() const;
+  void Copy();
+  void Paste();
+  void PasteText(const QString& text, const std::vector<std::size_t>& places);
+  void SwapChosen();
+  void Clear();
+  void CopyLayers();
+  /// Asks about what would be lost, and does the rest.
+  void DoPasting(Pasting pasting, StepKind kind);
+  void BeginDrag(int place);
+  void Drop(int from, int onto, const QString& text, bool swap);
+  /// How long a hint stands in the status bar, milliseconds.
+  static constexpr int MessageTime = 5000;
 
   void Undo();
   void Redo();

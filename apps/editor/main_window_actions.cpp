@@ -73,6 +73,12 @@ void MainWindow::MakeActions() {
   undo_->setObjectName("Undo");
   redo_->setObjectName("Redo");
   redo_->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+  edit.addSeparator();
+  Add(edit, Text::Copy, QKeySequence::Copy, &MainWindow::Copy);
+  Add(edit, Text::Paste, QKeySequence::Paste, &MainWindow::Paste);
+  Add(edit, Text::Swap, QKeySequence(), &MainWindow::SwapChosen);
+  Add(edit, Text::Clear, QKeySequence::Delete, &MainWindow::Clear);
+  Add(edit, Text::CopyLayers, QKeySequence(), &MainWindow::CopyLayers);
   QMenu& element = addMenu(Text::MenuElement);
   elementMenu_ = &element;
   configure_ = Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);

@@ -25,6 +25,7 @@ PanelView::PanelView(Selection& selection, QWidget* parent)
     : QWidget(parent), selection_(selection), band_(new QRubberBand(QRubberBand::Rectangle, this)) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
+  setAcceptDrops(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   selection_.Listen(*this, [this] { SelectionChanged(); });
 }

@@ -58,6 +58,11 @@ class PanelView : public QWidget {
   std::function<void(int steps, const QPoint& about)> onZoom;
   /// The user draws the picture along.
   std::function<void(const QPoint& way)> onPan;
+  /// The user draws an element away; returns when it was dropped or given up.
+  std::function<void(int place)> onDrag;
+  /// A text was dropped on the element of a place; `from` is the place of this view from where it was drawn, -1 for
+  /// elsewhere.
+  std::function<void(int from, int onto, const QString& text, bool swap)> onDrop;
   /// Runs what the user set off, and sees to its failures.
   std::function<void(const std::function<void()>&)> run;
 
@@ -73,6 +78,9 @@ class PanelView : public QWidget {
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
@@ -97,6 +105,7 @@ class PanelView : public QWidget {
   /// Keeps what the band has chosen, or what was chosen before.
   void EndBand(bool keep);
   bool BeginPan(const QMouseEvent& event);
+  bool BeginDrag(const QMouseEvent& event);
   void ShowCursor(const QPoint& at);
   void ShowTip(const QPoint& at, const QPoint& globalPlace);
 
@@ -110,7 +119,8 @@ class PanelView : public QWidget {
   std::int32_t layer_ = 0;
   bool labels_ = false;
 
-  int pressed_ = -1;
+  int pressed_ = -1, dragged_ = -1;
+  QPoint pressedAt_;
   QRubberBand* band_ = nullptr;
   QPoint bandFrom_;
   std::vector<int> bandBase_;  ///< what was chosen at the band's beginning and stays

@@ -40,6 +40,7 @@ void PanelView::mousePressEvent(QMouseEvent* event) {
   if (document_ == nullptr || BeginPan(*event)) return;
   EndBand(true);
   pressed_ = PlaceAt(event->pos());
+  pressedAt_ = event->pos();
   const bool left = event->button() == Qt::LeftButton;
   if (pressed_ < 0) return left ? BeginBand(*event) : void();
   if (left && event->modifiers().testFlag(Qt::ControlModifier)) return selection_.Toggle(pressed_);
@@ -81,6 +82,7 @@ void PanelView::mouseMoveEvent(QMouseEvent* event) {
   if (band_->isVisible()) {
     return event->buttons().testFlag(Qt::LeftButton) ? MoveBand(event->pos()) : EndBand(true);
   }
+  if (BeginDrag(*event)) return;
   ShowCursor(event->pos());
 }
 
