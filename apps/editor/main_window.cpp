@@ -18,6 +18,8 @@
 #include "editor/notice_bar.h"
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
+#include "editor/trial_dock.h"
+#include "editor/trial_mode.h"
 #include "files/data_directory.h"
 #include "qt/units.h"
 
@@ -32,6 +34,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
       store_(surroundings.Configuration()),
       safekeeping_(state) {
   MakeContent();
+  MakeTrial();
   MakeActions();
   ConnectElements();
   ConnectSafekeeping();
@@ -50,10 +53,12 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
   constexpr int Decoration = 60;
   resize(FirstSize.boundedTo(screen()->availableSize() - QSize(0, Decoration)));
   RestoreWindow();
+  trialDock_->hide();
   setAcceptDrops(true);
 }
 
 MainWindow::~MainWindow() {
+  Try(false);
   safekeeping_.Leave();
   view_->Show(nullptr);
   document_.reset();
@@ -122,10 +127,14 @@ void MainWindow::ConnectElements() {
 PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject_, DataDirectory() / "panels"}; }
 
 void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
+  Try(false);
   safekeeping_.Watch(nullptr);
   view_->Show(nullptr);
   document_ = std::move(document);
-  document_->Listen([this](std::span<const std::size_t>) { ShowChange(); });
+  document_->Listen([this](std::span<const std::size_t>) {
+    Try(false);  // what was tried is no longer what stands there
+    ShowChange();
+  });
   view_->Show(document_.get());
   view_->setFocus();
   ShowZoom();
@@ -212,7 +221,7 @@ void MainWindow::ShowStatus() {
 void MainWindow::ShowConfigure() {
   const ctlPlexelBaseElement* const element = view_->Selected();
   const bool keySwitch = element != nullptr && element->ElementType() == Key;
-  configure_->setEnabled(element != nullptr && !keySwitch);
+  configure_->setEnabled(element != nullptr && !keySwitch && !trial_->IsOn());
   configure_->setText(Say(keySwitch ? Text::ConfigureKeySwitch : Text::Configure));
 }
 

@@ -34,6 +34,8 @@ class NoticeBar;
 class PanelScroll;
 class PanelView;
 class RecentMenu;
+class TrialDock;
+class TrialMode;
 
 /// The editor's window: one project, its panel, and everything that the user does with them.
 class MainWindow : public QMainWindow {
@@ -60,6 +62,9 @@ class MainWindow : public QMainWindow {
   void SetZoom(int percent, std::optional<QPoint> about = std::nullopt);
   /// The layer that the picture tells of, 1 to 4, or AllLayersShown.
   void ShowLayer(std::int32_t layer);
+  /// Begins or leaves the mode in which elements are pressed and let go, and nothing of the project changes.
+  void Try(bool on);
+  TrialMode& Trying() const { return *trial_; }
   /// Offers the work that earlier runs did not save. True when the user has brought some of it back.
   bool OfferLostWork();
   /// Brings unsaved work to the disk at once, for the next start to offer it.
@@ -83,6 +88,10 @@ class MainWindow : public QMainWindow {
   void MakeViewMenu(QMenu& menu);
   void MakeToolBar();
   void ConnectElements();
+  void MakeTrial();
+  void AddTrial(QMenu& menu);
+  /// Brings what acts on elements into line with the mode.
+  void ShowEditing();
   QAction* Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)());
   void Retranslate();
   void RetranslateView();
@@ -192,6 +201,10 @@ class MainWindow : public QMainWindow {
   QComboBox* layerBox_ = nullptr;
   QAction* labels_ = nullptr;
   RecentMenu* recent_ = nullptr;
+  TrialDock* trialDock_ = nullptr;
+  std::unique_ptr<TrialMode> trial_;
+  std::vector<QAction*> restingActions_;  ///< entries that do not act while elements are tried
+  QAction* try_ = nullptr;
   FormNotes notes_;
   QAction *configure_ = nullptr, *undo_ = nullptr, *redo_ = nullptr;
   std::vector<Named> named_;

@@ -17,6 +17,7 @@
 #include "editor/panel_view.h"
 #include "editor/recent_menu.h"
 #include "editor/settings_dialog.h"
+#include "editor/trial_mode.h"
 #include "editor/version.h"
 #include "files/file_error.h"
 #include "qt/units.h"
@@ -98,6 +99,7 @@ void MainWindow::MakeActions() {
 void MainWindow::Retranslate() {
   UseToolkitTexts();
   log_->Retranslate();
+  trial_->Retranslate();
   tools_->setWindowTitle(Say(Text::ShowToolBar).remove('&'));
   for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
   for (const Named& named : named_) named.action->setText(Say(named.text));

@@ -3,6 +3,7 @@
 #include <QAction>
 
 #include "editor/step_text.h"
+#include "editor/trial_mode.h"
 
 namespace plexel {
 
@@ -23,8 +24,8 @@ void MainWindow::Redo() {
 
 void MainWindow::ShowHistory() {
   const bool canUndo = document_ && document_->Steps().CanUndo(), canRedo = document_ && document_->Steps().CanRedo();
-  undo_->setEnabled(canUndo);
-  redo_->setEnabled(canRedo);
+  undo_->setEnabled(canUndo && !trial_->IsOn());
+  redo_->setEnabled(canRedo && !trial_->IsOn());
   undo_->setText(canUndo ? Entry(Text::UndoStep, document_->Steps().ToUndo()) : Say(Text::Undo));
   redo_->setText(canRedo ? Entry(Text::RedoStep, document_->Steps().ToRedo()) : Say(Text::Redo));
 }

@@ -19,12 +19,12 @@ struct Tool {
   const char* picture;
   bool endsGroup;
 };
-constexpr std::array tools = {Tool{Text::New, "new", false},          Tool{Text::Open, "open", false},
-                              Tool{Text::Save, "save", true},         Tool{Text::Undo, "undo", false},
-                              Tool{Text::Redo, "redo", true},         Tool{Text::Copy, "copy", false},
-                              Tool{Text::Paste, "paste", true},       Tool{Text::Configure, "configure", true},
-                              Tool{Text::ZoomOut, "zoom-out", false}, Tool{Text::ZoomIn, "zoom-in", false},
-                              Tool{Text::ZoomFit, "zoom-fit", true}};
+constexpr std::array tools = {Tool{Text::New, "new", false},        Tool{Text::Open, "open", false},
+                              Tool{Text::Save, "save", true},       Tool{Text::Undo, "undo", false},
+                              Tool{Text::Redo, "redo", true},       Tool{Text::Copy, "copy", false},
+                              Tool{Text::Paste, "paste", true},     Tool{Text::Configure, "configure", true},
+                              Tool{Text::Try, "try", true},         Tool{Text::ZoomOut, "zoom-out", false},
+                              Tool{Text::ZoomIn, "zoom-in", false}, Tool{Text::ZoomFit, "zoom-fit", true}};
 constexpr QSize IconSize(22, 22);
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "editor/log_panel.h"
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
+#include "editor/trial_mode.h"
 
 namespace plexel {
 
@@ -80,6 +81,8 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
     store_.Labels(shown);
   });
   menu.addSeparator();
+  AddTrial(menu);
+  menu.addSeparator();
   tools_ = addToolBar(QString());
   menu.addAction(tools_->toggleViewAction());
   named_.push_back({tools_->toggleViewAction(), Text::ShowToolBar});
@@ -101,6 +104,7 @@ void MainWindow::RetranslateView() {
 
 void MainWindow::ShowLayer(std::int32_t layer) {
   view_->Layer(layer);
+  if (trial_->IsOn()) trial_->ChooseLayer(std::max(1, layer));
   layers_->actions().at(layer)->setChecked(true);
   layerBox_->setCurrentIndex(layer);
 }

@@ -206,6 +206,20 @@ enum class Text : std::int32_t {
   LayerFrom = 20895,
   LayersOnto = 20896,
   DragTip = 20897,
+  Try = 21100,
+  TrialTitle = 21101,
+  TrialPress = 21102,
+  TrialRelease = 21103,
+  TrialAll = 21104,
+  TrialUnknown = 21105,
+  TrialAct = 21106,
+  TrialBytes = 21107,
+  TrialCommands = 21108,
+  TrialLayer = 21109,
+  TrialStays = 21110,
+  TrialLetGo = 21111,
+  TrialText = 21112,
+  TrialHint = 21113,
 };
 
 /// The text of a number in the user's language.

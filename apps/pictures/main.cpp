@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
@@ -14,6 +15,8 @@
 #include "editor/main_window.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
+#include "editor/trial_layer.h"
+#include "editor/trial_mode.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
@@ -142,6 +145,7 @@ class PictureMaker {
     window.show();
     QCoreApplication::processEvents();
     Save(window, "editor");
+    TakeTrial(window);
     SettingsDialog settings(surroundings_, &window);
     settings.show();
     QCoreApplication::processEvents();
@@ -149,6 +153,47 @@ class PictureMaker {
     help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents);
     QCoreApplication::processEvents();
     if (help_.Window()) Save(*help_.Window(), "help");
+  }
+
+  /// Some keys pressed one after the other: one with a shortcut, one that is never released, and one that is held and
+  /// calls a layer, whose LED is lit.
+  void TakeTrial(MainWindow& window) {
+    auto& places = window.Document()->Places();
+    std::vector<std::size_t> keys;
+    for (std::size_t place = 0; place < places.size(); ++place) {
+      if (places[place].element->ElementType() == RectLed) keys.push_back(place);
+    }
+    if (keys.size() < 3) return;
+    places[keys[0]].element->LEDTypeLayer1(CapsLockLed);
+    places[keys[2]].element->LEDTypeLayer2(Layer2Led);
+    PutBytes(*places[keys[0]].element, {0x58, 0xF0, 0x58, 0x12, 0x33, 0xF0, 0x33, 0xF0, 0x12, 0x43, 0xF0, 0x43}, {});
+    PutBytes(*places[keys[1]].element, {0x14, 0x1C, 0xF0, 0x1C}, {});
+    PutBytes(*places[keys[2]].element, {0xF1}, {});
+    window.Try(true);
+    TrialLayer& layer = window.Trying().Layer();
+    for (const std::size_t place : {keys[0], keys[1], keys[2]}) {
+      const bool last = place == keys[2];
+      for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        if (last && type == QEvent::MouseButtonRelease) continue;
+        const QPointF at = layer.PlaceRect(place).center();
+        QMouseEvent event(type, at, layer.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&layer, &event);
+      }
+    }
+    QCoreApplication::processEvents();
+    Save(window, "trial");
+    window.Try(false);
+  }
+
+  static void PutBytes(ctlPlexelBaseElement& element, std::initializer_list<std::uint8_t> press,
+                       std::initializer_list<std::uint8_t> release) {
+    auto record = element.TactisBaseElementScanCodeBuffer();
+    record.strLayer1PressScanCode = record.strLayer1ReleaseScanCode = InitialCodes();
+    for (const auto& [bytes, codes] :
+         {std::pair(press, &record.strLayer1PressScanCode), std::pair(release, &record.strLayer1ReleaseScanCode)}) {
+      for (const std::uint8_t byte : bytes) codes->Value[static_cast<std::size_t>(++codes->NextValue)] = byte;
+    }
+    element.TactisBaseElementScanCodeBuffer(record);
   }
 
   static void FillSamplePanel(MainWindow& window) {
