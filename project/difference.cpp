@@ -92,6 +92,7 @@ class Comparison {
  public:
   std::vector<ProjectDifference> Run(const Project& first, const Project& second) {
     if (first.panel != second.panel) Add(DifferenceKind::Panel, {}, first.panel, second.panel);
+    if (first.panelText != second.panelText) Add(DifferenceKind::PanelText, {}, first.panelText, second.panelText);
     std::unordered_map<std::string_view, const ProjectElement*> others;
     for (const ProjectElement& element : second.elements) others.emplace(element.place, &element);
     for (const ProjectElement& element : first.elements) {

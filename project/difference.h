@@ -9,9 +9,9 @@
 
 namespace plexel {
 
-/// What a difference is about: the panel in the head, a stored property, a code buffer, or an element that the other
-/// project lacks.
-enum class DifferenceKind { Panel, Property, Codes, OnlyFirst, OnlySecond };
+/// What a difference is about: the panel in the head, the text of the panel that is carried (empty for none), a stored
+/// property, a code buffer, or an element that the other project lacks.
+enum class DifferenceKind { Panel, PanelText, Property, Codes, OnlyFirst, OnlySecond };
 
 /// One thing in which two projects differ.
 struct ProjectDifference {

@@ -8,9 +8,9 @@ namespace plexel::exchange_words {
 /// The words of a project as a JSON document, for its writer and its reader; data/schema/project.schema.json tells the
 /// same to other programs.
 
-inline constexpr std::string_view Format = "format", Panel = "panel", Name = "name", Elements = "elements",
-                                  Place = "place", Properties = "properties", Codes = "codes", Buffer = "buffer",
-                                  Next = "next", Bytes = "bytes";
+inline constexpr std::string_view Format = "format", Panel = "panel", Name = "name", Text = "text",
+                                  Elements = "elements", Place = "place", Properties = "properties", Codes = "codes",
+                                  Buffer = "buffer", Next = "next", Bytes = "bytes";
 inline constexpr int FormatVersion = 1;
 
 /// The types of a value are those of a project file. Floats that JSON has no number for are texts.

@@ -16,10 +16,6 @@ namespace plexel {
 
 namespace {
 
-Panel ReadNamedPanel(const std::string& name, const std::filesystem::path& directory) {
-  return ReadPanel(PanelFile(directory, name));
-}
-
 std::size_t HashOf(std::string_view content) { return std::hash<std::string_view>()(content); }
 
 /// Gives the bag of an element the values that it has at rest, for those that selecting and zooming change.
@@ -31,7 +27,8 @@ void PutAtRest(FlatBag& bag) {
 }  // namespace
 
 std::unique_ptr<PanelDocument> PanelDocument::New(const std::string& panelName, const Site& site) {
-  std::unique_ptr<PanelDocument> document(new PanelDocument(panelName, ReadNamedPanel(panelName, site.panelDirectory)));
+  const std::filesystem::path file = PanelFile(site.panelDirectory, panelName);
+  std::unique_ptr<PanelDocument> document(new PanelDocument(panelName, ReadPanelText(file), file));
   for (const PanelPart& part : document->panel_.parts) {
     if (part.element) document->AddNew(part, site);
   }
@@ -50,8 +47,11 @@ std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& 
 
 std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const std::filesystem::path& origin,
                                                  const Site& site) {
+  const bool carries = !project.panelText.empty();
+  const std::filesystem::path panel = carries ? origin : PanelFile(site.panelDirectory, project.panel);
   std::unique_ptr<PanelDocument> document(
-      new PanelDocument(project.panel, ReadNamedPanel(project.panel, site.panelDirectory)));
+      new PanelDocument(project.panel, carries ? project.panelText : ReadPanelText(panel), panel));
+  document->carriesPanel_ = carries;
   std::unordered_map<std::string_view, const PanelPart*> left;
   for (const PanelPart& part : document->panel_.parts) {
     if (part.element) left.emplace(part.element->id, &part);
@@ -129,6 +129,7 @@ ProjectElement PanelDocument::ElementContent(std::size_t place) const {
 Project PanelDocument::Content() const {
   Project project;
   project.panel = panelName_;
+  project.panelText = CarriedPanel();
   project.elements.reserve(places_.size());
   for (std::size_t place = 0; place < places_.size(); ++place) project.elements.push_back(ElementContent(place));
   return project;
@@ -141,6 +142,13 @@ void PanelDocument::Save(const std::filesystem::path& file) {
   hash_ = HashOf(text);
   unsaved_.clear();
   fileIsOther_ = false;
+}
+
+std::vector<PanelDifference> PanelDocument::InstalledPanelDiffers(const std::filesystem::path& panelDirectory) const {
+  const std::filesystem::path file = PanelFile(panelDirectory, panelName_);
+  std::error_code error;
+  if (!std::filesystem::exists(file, error)) return {};
+  return DifferencesOf(panel_, ReadPanel(file));
 }
 
 PanelDocument::OnDisk PanelDocument::FileNow() const {

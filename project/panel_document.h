@@ -13,6 +13,7 @@
 #include "files/panel_file.h"
 #include "files/project_file.h"
 #include "project/history.h"
+#include "project/panel_difference.h"
 
 namespace plexel {
 
@@ -54,6 +55,14 @@ class PanelDocument {
   /// What Save writes of one element.
   ProjectElement ElementContent(std::size_t place) const;
   const std::string& PanelName() const { return panelName_; }
+  /// Whether the project takes its panel along, so that it opens where the panel is not installed.
+  bool CarriesPanel() const { return carriesPanel_; }
+  void CarriesPanel(bool value) { carriesPanel_ = value; }
+  /// The text of the panel that is taken along; empty for none.
+  std::string CarriedPanel() const { return carriesPanel_ ? panelText_ : std::string(); }
+  /// What the panel and the installed one of its name differ in; nothing when none of the name is installed. FileError
+  /// when the installed one cannot be read.
+  std::vector<PanelDifference> InstalledPanelDiffers(const std::filesystem::path& panelDirectory) const;
 
   const Panel& ThePanel() const { return panel_; }
   const std::vector<Place>& Places() const { return places_; }
@@ -98,7 +107,9 @@ class PanelDocument {
   bool LedIsDefined(std::int32_t type, std::int32_t layer) const;
 
  private:
-  PanelDocument(std::string panelName, Panel panel) : panelName_(std::move(panelName)), panel_(std::move(panel)) {}
+  /// The panel is read from its text.
+  PanelDocument(std::string panelName, std::string panelText, const std::filesystem::path& origin)
+      : panelName_(std::move(panelName)), panelText_(std::move(panelText)), panel_(ParsePanel(origin, panelText_)) {}
   void AddNew(const PanelPart& part, const Site& site);
   void AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site);
   /// What a saved element does not bring along.
@@ -113,7 +124,8 @@ class PanelDocument {
   /// Behind a change of elements: keeps account of what the file does not hold, and tells the listeners.
   void Account(const Step& step);
 
-  std::string panelName_;
+  std::string panelName_, panelText_;
+  bool carriesPanel_ = false;
   const Panel panel_;
   std::vector<Place> places_;
   std::filesystem::path file_;

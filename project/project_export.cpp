@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "files/project_syntax.h"
+#include "files/text_lines.h"
 #include "project/code_bytes.h"
 #include "project/exchange_words.h"
 #include "project/json_text.h"
@@ -25,6 +26,7 @@ class Exporter {
     Member(2, words::Panel);
     out_ += "{\"" + std::string(words::Name) + "\": ";
     AppendJsonText(out_, project.panel);
+    PutPanelText(project.panelText);
     out_ += "},\n";
     Member(2, words::Elements);
     List(2, '[', ']', project.elements, [this](const ProjectElement& element) { Put(element); });
@@ -33,6 +35,19 @@ class Exporter {
   }
 
  private:
+  /// The lines of a panel that is carried.
+  void PutPanelText(std::string_view text) {
+    if (text.empty()) return;
+    out_ += ", \"" + std::string(words::Text) + "\": ";
+    std::vector<std::string_view> lines;
+    LineWalk walk(text);
+    for (std::string_view line; walk.Next(line);) lines.push_back(line);
+    List(2, '[', ']', lines, [this](std::string_view line) {
+      Indent(4);
+      AppendJsonText(out_, line);
+    });
+  }
+
   void Indent(std::size_t depth) { out_.append(depth, ' '); }
   void Member(std::size_t depth, std::string_view name) {
     Indent(depth);

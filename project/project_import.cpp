@@ -206,6 +206,16 @@ ProjectElement ReadElement(const Spot& spot, PlaceSet& places) {
   return element;
 }
 
+void ReadPanelText(const Spot& spot, Project& project) {
+  spot.ForEachItem([&project](const Spot& item) {
+    const std::string line = item.Text();
+    if (line.find_first_of("\r\n") != std::string::npos) item.Refuse("must be one line");
+    RequireShort(item, [&line] { return Project{{}, {}, line}; });
+    project.panelText.append(line) += '\n';
+  });
+  if (project.panelText.empty()) spot.Refuse("must have a line");
+}
+
 }  // namespace
 
 Project ImportProject(const std::filesystem::path& file, std::string_view content) {
@@ -214,11 +224,12 @@ Project ImportProject(const std::filesystem::path& file, std::string_view conten
   root.AllowOnly({words::Format, words::Panel, words::Elements});
   root.Member(words::Format).Whole<std::int32_t>(words::FormatVersion, words::FormatVersion);
   const Spot panel = root.Member(words::Panel);
-  panel.AllowOnly({words::Name});
+  panel.AllowOnly({words::Name, words::Text});
   Project project;
   const Spot name = panel.Member(words::Name);
   project.panel = name.Text();
   RequireShort(name, [&] { return project; });
+  if (const std::optional<Spot> text = panel.Find(words::Text)) ReadPanelText(*text, project);
   PlaceSet places;
   root.Member(words::Elements).ForEachItem([&](const Spot& spot) {
     project.elements.push_back(ReadElement(spot, places));

@@ -90,7 +90,7 @@ void RecoveryKeeper::HandOver() {
   RecoveryWriter::Pieces pieces;
   pieces.reserve(sections_.size() + 3);
   pieces.push_back(piece(FormatRecoveryHead({document_->File(), clock_()})));
-  pieces.push_back(piece(ProjectWriter::Head(document_->PanelName(), sections_.size())));
+  pieces.push_back(piece(ProjectWriter::Head(document_->PanelName(), sections_.size(), document_->CarriedPanel())));
   pieces.insert(pieces.end(), sections_.begin(), sections_.end());
   pieces.push_back(piece(std::string(ProjectWriter::Tail)));
   writer_->Write(std::move(pieces));

@@ -12,7 +12,7 @@ namespace plexel {
 namespace {
 
 constexpr std::size_t Limit = std::size_t{8} << 20U;
-constexpr std::size_t MostParts = 10000;
+constexpr std::size_t MostParts = 50000;
 constexpr std::string_view StyleSection = "STYLE ";
 
 /// What a section draws and which elements may lie on it.
@@ -232,6 +232,20 @@ const PanelPart* Panel::Find(std::string_view elementId) const {
 
 Panel ReadPanel(const std::filesystem::path& path) {
   const TextFile file(path, Limit);
+  return Reader(file).Read();
+}
+
+std::string ReadPanelText(const std::filesystem::path& path) {
+  const TextFile file(path, Limit);
+  std::string text;
+  LineWalk lines = file.Lines();
+  for (std::string_view line; lines.Next(line);) text.append(line) += '\n';
+  return text;
+}
+
+Panel ParsePanel(const std::filesystem::path& origin, std::string text) {
+  if (text.size() > Limit) throw FileError(origin, 0, "the panel is too large");
+  const TextFile file(origin, std::move(text));
   return Reader(file).Read();
 }
 

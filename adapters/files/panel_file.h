@@ -70,6 +70,10 @@ struct Panel {
 
 /// Reads a panel file, see docs/formats.md. FileError with the line for anything that is no whole and proper panel.
 Panel ReadPanel(const std::filesystem::path& file);
+/// The text of a panel file, lines ended by LF. FileError when it cannot be read.
+std::string ReadPanelText(const std::filesystem::path& file);
+/// Reads such a text; `origin` is named in a FileError.
+Panel ParsePanel(const std::filesystem::path& origin, std::string text);
 
 /// The file of a panel's name in a directory. FileError for a name that is no plain file name.
 std::filesystem::path PanelFile(const std::filesystem::path& directory, const std::string& name);

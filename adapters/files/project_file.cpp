@@ -44,7 +44,7 @@ void PutCodes(const std::vector<SavedCodes>& codes, udtTactisBaseElement_ScanCod
 }
 
 std::string FormatProject(const Project& project) {
-  ProjectWriter writer(project.panel, project.elements.size());
+  ProjectWriter writer(project.panel, project.elements.size(), project.panelText);
   for (const ProjectElement& element : project.elements) writer.Add(element);
   return writer.Finish();
 }
@@ -53,6 +53,7 @@ Project ParseProject(const TextFile& file) {
   ProjectReader reader(file);
   Project project;
   project.panel = reader.Panel();
+  project.panelText = reader.PanelText();
   for (ProjectElement element; reader.Next(element);) project.elements.push_back(std::move(element));
   return project;
 }

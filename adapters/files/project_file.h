@@ -35,6 +35,9 @@ struct Project {
   std::string panel;  ///< name of the panel
   /// The elements in the order of the file.
   std::vector<ProjectElement> elements;
+  /// The text of the panel file, with which the project travels; UTF-8, lines ended by LF. Empty when it is not
+  /// carried.
+  std::string panelText = {};
   bool operator==(const Project&) const = default;
 };
 

@@ -93,12 +93,12 @@ std::string ProjectReader::Decode(std::string_view bytes) const {
 void ProjectReader::ReadHeader() {
   if (!NextLine() || !AtSection() || SectionName() != ProjectSection)
     Refuse("this is no project: [PROJECT] is missing");
-  bool format = false, marks = false, panel = false;
+  bool format = false, marks = false, panel = false, carries = false;
   bool more = NextLine();
   for (; more && !AtSection(); more = NextLine()) {
     SplitKey();
     if (key_ == FormatKey && !format) {
-      if (value_ != FormatVersion) Refuse("the format \"" + Excerpt(value_) + "\" is unknown");
+      carries = CarriesPanel();
       format = true;
     } else if (key_ == MarksKey && !marks) {
       if (value_ != Marks) Refuse("the file has been saved in another code page; a project is Windows-1252");
@@ -114,8 +114,30 @@ void ProjectReader::ReadHeader() {
     }
   }
   if (!format || !marks || !panel || !count_) Refuse("Format, Marks, Panel and Elements must stand below [PROJECT]");
+  if (carries) more = ReadPanelText(more);
   places_ = PlaceSet(std::min<std::size_t>(*count_, file_.Text().size() / ElementSection.size()));
   TakeSection(more);
+}
+
+bool ProjectReader::CarriesPanel() const {
+  if (value_ == PlainFormat || value_ == PanelFormat) return value_ == PanelFormat;
+  if (const auto number = ParseNumber<std::uint32_t>(value_);
+      number && std::to_string(*number) == value_ && *number > 2) {
+    Refuse("the format " + std::string(value_) + " is newer than this program, which knows " +
+           std::string(PlainFormat) + " and " + std::string(PanelFormat));
+  }
+  Refuse("the format \"" + Excerpt(value_) + "\" is unknown");
+}
+
+bool ProjectReader::ReadPanelText(bool more) {
+  if (!more || SectionName() != PanelSection) Refuse("[PANEL] is missing");
+  for (more = NextLine(); more && !AtSection(); more = NextLine()) {
+    SplitKey();
+    if (key_ != LineKey) Refuse("\"" + Excerpt(key_) + "\" is unknown here");
+    panelText_.append(Decode(value_)) += '\n';
+  }
+  if (panelText_.empty()) Refuse("[PANEL] is empty");
+  return more;
 }
 
 /// Stands at a section or at the end of the file.

@@ -18,6 +18,8 @@ class ProjectReader {
   explicit ProjectReader(const TextFile& file);
 
   const std::string& Panel() const { return panel_; }
+  /// The text of the panel that the project carries; empty for none.
+  const std::string& PanelText() const { return panelText_; }
   /// How many elements the header tells of.
   std::uint32_t Count() const { return *count_; }
   /// The next element; false behind the last one, when the end of the file has been found whole.
@@ -32,6 +34,9 @@ class ProjectReader {
   void SplitKey();
   std::string Decode(std::string_view bytes) const;
   void ReadHeader();
+  /// Whether the format is one with a panel; refuses an unknown one.
+  bool CarriesPanel() const;
+  bool ReadPanelText(bool more);
   void TakeSection(bool more);
   void CheckEnd();
   void ReadValue(ProjectElement& element);
@@ -45,7 +50,7 @@ class ProjectReader {
   LineWalk lines_;
   std::string_view line_, key_, value_;
   std::optional<std::uint32_t> count_;
-  std::string panel_;
+  std::string panel_, panelText_;
   std::string place_;  ///< of the element whose section comes next
   PlaceSet places_;
   std::size_t given_ = 0;

@@ -11,11 +11,14 @@ namespace plexel::project_syntax {
 /// The words of a project file, for its reader and its writer.
 
 inline constexpr std::string_view ProjectSection = "PROJECT";
+inline constexpr std::string_view PanelSection = "PANEL";
 inline constexpr std::string_view ElementSection = "ELEMENT ";
 inline constexpr std::string_view EndSection = "END";
 
 inline constexpr std::string_view FormatKey = "Format", MarksKey = "Marks", PanelKey = "Panel", CountKey = "Elements";
-inline constexpr std::string_view FormatVersion = "1";
+inline constexpr std::string_view LineKey = "Line";
+/// A project without the text of its panel, and one that carries it.
+inline constexpr std::string_view PlainFormat = "1", PanelFormat = "2";
 /// The make and the break mark in the code page of the file: they tell a file that was converted to another one.
 inline constexpr std::string_view Marks = "\x8B\x9B";
 

@@ -24,14 +24,26 @@ constexpr std::size_t ShortestRun = 4;
 
 }  // namespace
 
-ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count) : left_(count), places_(count) {
-  out_.reserve(count * UsualBytes);
-  Append("[PROJECT]\nFormat=1\nMarks=\x8B\x9B\nPanel=");
+ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count, std::string_view panelText)
+    : left_(count), places_(count) {
+  out_.reserve(count * UsualBytes + panelText.size());
+  Append("[PROJECT]\nFormat=");
+  Append(panelText.empty() ? PlainFormat : PanelFormat);
+  Append("\nMarks=\x8B\x9B\nPanel=");
   AppendProjectText(out_, panel, {});
   EndLine();
   Append("Elements=");
   AppendNumber(count);
   EndLine();
+  if (panelText.empty()) return;
+  Append("\n[PANEL]\n");
+  lineStart_ = out_.size();
+  LineWalk lines(panelText);
+  for (std::string_view line; lines.Next(line);) {
+    Append("Line=");
+    AppendProjectText(out_, line);
+    EndLine();
+  }
 }
 
 std::string ProjectWriter::Finish() {

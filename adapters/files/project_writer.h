@@ -12,13 +12,15 @@ namespace plexel {
 /// TextFile::LongestLine, Failure (Index) for a place that stands twice or a buffer that does not exist.
 class ProjectWriter {
  public:
-  /// `count` is the number of elements that will be added.
-  ProjectWriter(std::string_view panel, std::size_t count);
+  /// `count` is the number of elements that will be added; `panelText` is the text of the panel file, empty for none.
+  ProjectWriter(std::string_view panel, std::size_t count, std::string_view panelText = {});
   void Add(const ProjectElement& element);
   /// The text of one element, as it stands in a project.
   static std::string Section(const ProjectElement& element);
   /// The text ahead of the elements, and behind them.
-  static std::string Head(std::string_view panel, std::size_t count) { return ProjectWriter(panel, count).out_; }
+  static std::string Head(std::string_view panel, std::size_t count, std::string_view panelText) {
+    return ProjectWriter(panel, count, panelText).out_;
+  }
   static constexpr std::string_view Tail = "\n[END]\n";
   /// The whole text. Failure (Index) when the elements added are not as many as were told.
   std::string Finish();

@@ -34,6 +34,8 @@ std::string LineOf(const ProjectDifference& one) {
   const bool only = one.kind == DifferenceKind::OnlyFirst || one.kind == DifferenceKind::OnlySecond;
   if (one.kind == DifferenceKind::Panel) {
     AppendMember(line, "project", "\"Panel\"");
+  } else if (one.kind == DifferenceKind::PanelText) {
+    AppendMember(line, "project", "\"PanelText\"");
   } else {
     AppendMember(line, "element", Quoted(one.element));
   }
@@ -63,6 +65,7 @@ std::string Shown(const std::string& name) {
 std::string SentenceOf(const ProjectDifference& one, const std::vector<std::string>& files) {
   if (one.kind == DifferenceKind::OnlyFirst) return Shown(one.element) + ": only in " + files[0] + '\n';
   if (one.kind == DifferenceKind::OnlySecond) return Shown(one.element) + ": only in " + files[1] + '\n';
+  if (one.kind == DifferenceKind::PanelText) return "Panel text: the projects carry different ones\n";
   const auto typed = [&one](const std::optional<BagValue>& value) {
     if (!value) return std::string("not stored");
     const bool twoTypes = one.from && one.to && one.from->index() != one.to->index();

@@ -5,7 +5,9 @@ namespace plexel {
 OpenProjects::Source OpenProjects::Read(const std::filesystem::path& file,
                                         const std::filesystem::path& panelDirectory) {
   Source source{file, ReadProject(file), {}};
-  const Panel panel = ReadPanel(PanelFile(panelDirectory, source.project.panel));
+  const std::string& carried = source.project.panelText;
+  const Panel panel =
+      carried.empty() ? ReadPanel(PanelFile(panelDirectory, source.project.panel)) : ParsePanel(file, carried);
   for (const PanelPart& part : panel.parts) {
     if (part.element) source.places.push_back(part.element->id);
   }

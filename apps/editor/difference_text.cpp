@@ -67,6 +67,9 @@ DifferenceText TextOf(const ProjectDifference& difference) {
     case DifferenceKind::Panel:
       text.what = Say(Text::PanelOf);
       break;
+    case DifferenceKind::PanelText:
+      text.what = Say(Text::CarriedPanelOf);
+      return text;
     case DifferenceKind::OnlyFirst:
     case DifferenceKind::OnlySecond:
       text.what = Say(Text::WholeElement);

@@ -141,6 +141,7 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   ShowChange();
   notice_->hide();
   safekeeping_.Watch(document_.get());
+  TellPanelChanged();
 }
 
 bool MainWindow::StartEmpty() {
@@ -173,6 +174,7 @@ bool MainWindow::SaveProject(const std::filesystem::path& file) {
   if (!MayOverwrite(file)) return false;
   try {
     safekeeping_.BeforeSave(file);
+    document_->CarriesPanel(true);
     document_->Save(file);
     safekeeping_.Saved();
     notice_->hide();

@@ -133,6 +133,9 @@ class MainWindow : public QMainWindow {
   /// False when the user does not want to write over a file that somebody else has changed.
   bool MayOverwrite(const std::filesystem::path& file);
   void ShowVersions();
+  /// Tells when the installed panel is not the one that the project carries.
+  void TellPanelChanged();
+  void UseInstalledPanel();
   void BringBack(LostWork& work);
 
   void AskNew();

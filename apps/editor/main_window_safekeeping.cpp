@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "editor/difference_text.h"
 #include "editor/difference_view.h"
@@ -66,7 +67,57 @@ bool Confirm(const QString& question, const QString& yes, QWidget* parent) {
   return box.clickedButton() == accept;
 }
 
+struct PanelText {
+  PanelDifference::Kind kind;
+  Text text;
+};
+constexpr PanelText panelTexts[] = {
+    {PanelDifference::Kind::Settings, Text::PanelSettings}, {PanelDifference::Kind::Drawing, Text::PanelDrawing},
+    {PanelDifference::Kind::Added, Text::PanelAdded},       {PanelDifference::Kind::Removed, Text::PanelRemoved},
+    {PanelDifference::Kind::Place, Text::PanelPlace},       {PanelDifference::Kind::Type, Text::PanelType},
+    {PanelDifference::Kind::Numbers, Text::PanelNumbers}};
+
+/// The first differences of a panel, in words.
+QString Words(const std::vector<PanelDifference>& differences) {
+  constexpr std::size_t most = 8;
+  QStringList words;
+  for (std::size_t index = 0; index < std::min(most, differences.size()); ++index) {
+    for (const PanelText& one : panelTexts) {
+      if (one.kind != differences[index].kind) continue;
+      const QString pattern = Say(one.text);
+      words.append(pattern.contains("%1") ? pattern.arg(ToQt(differences[index].element)) : pattern);
+    }
+  }
+  return words.join(", ") + (differences.size() > most ? ", \u2026" : "");
+}
+
 }  // namespace
+
+void MainWindow::TellPanelChanged() {
+  if (!document_->CarriesPanel()) return;
+  try {
+    const auto differences = document_->InstalledPanelDiffers(Site().panelDirectory);
+    if (differences.empty()) return;
+    notice_->Tell(Say(Text::PanelHasChanged).arg(ToQt(document_->PanelName()), Words(differences)),
+                  {{Say(Text::KeepCarriedPanel), [this] { notice_->hide(); }},
+                   {Say(Text::UseInstalledPanel), [this] { Guarded([this] { UseInstalledPanel(); }); }}});
+  } catch (const FileError& failure) {
+    log_->Append(ToQt(std::string_view(failure.what())));
+  }
+}
+
+void MainWindow::UseInstalledPanel() {
+  Project project = document_->Content();
+  project.panelText.clear();
+  try {
+    const std::filesystem::path file = document_->File();
+    std::unique_ptr<PanelDocument> document = PanelDocument::Of(project, file, Site());
+    document->FileIsLost(file);
+    Take(std::move(document));
+  } catch (const FileError& failure) {
+    Tell(Text::CannotBecome, ToQt(std::string_view(failure.what())));
+  }
+}
 
 void MainWindow::ConnectSafekeeping() {
   safekeeping_.onFileChanged = [this](PanelDocument::OnDisk now) { TellFileChanged(now); };

@@ -141,7 +141,7 @@ TEST_F(PopupMenu, ATableThatCannotBeShownInsertsNothing) {
 }
 
 TEST_F(PopupMenu, EachDialogEntryShowsItsDialogOwnedByThisOne) {
-  Open([this](frmConfigurationDialog& dialog, Hand& hand) {
+  Open([](frmConfigurationDialog& dialog, Hand& hand) {
     Pick(dialog, hand, 1, 1, dialog.MNU_SPECIALKEY);
     Pick(dialog, hand, 1, 1, dialog.MNU_POPUP_WINDOWSKEY);
     Pick(dialog, hand, 1, 1, dialog.MNU_POPUP_NONSTANDARDCODE);

@@ -150,7 +150,10 @@ TEST(ProjectFile, AFileSavedAsUtf8IsToldSo) {
 }
 
 TEST(ProjectFile, AnUnknownFormatIsToldSo) {
-  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n")->what(), HasSubstr("f:2: the format \"2\" is unknown"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=x\n")->what(), HasSubstr("f:2: the format \"x\" is unknown"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=02\n")->what(), HasSubstr("f:2: the format \"02\" is unknown"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=3\n")->what(),
+              HasSubstr("f:2: the format 3 is newer than this program, which knows 1 and 2"));
 }
 
 TEST(ProjectFile, AHeaderWithoutAllItsKeysIsRefused) {
@@ -318,6 +321,30 @@ TEST_F(ProjectOfElements, AnElementsBagComesBackThroughAFile) {
   EXPECT_EQ(again->SizeX(), 33);
   EXPECT_EQ(again->PressKeyDefLayer1(), "[a\u2039\u203A]");
   EXPECT_EQ(again->ButtonNotes(), "two\nlines");
+}
+
+TEST(ProjectFile, APanelThatIsCarriedComesBackLineByLine) {
+  Project project{"P", {{"F1", {}, {}}}, "[PANEL]\n\nTitle=Gro\u00DF \u4E2D \n  blanks  \n# \\ a comment\n[END]\n"};
+  const std::string text = FormatProject(project);
+  EXPECT_THAT(text, HasSubstr("Format=2\n"));
+  EXPECT_EQ(ParseProject(TextFile("f", text)), project);
+}
+
+TEST(ProjectFile, APanelThatIsNotCarriedLeavesTheFormatAsItWas) {
+  const std::string text = FormatProject(Project{"P", {}, {}});
+  EXPECT_THAT(text, HasSubstr("Format=1\n"));
+  EXPECT_EQ(text.find("[PANEL]"), std::string::npos);
+}
+
+TEST(ProjectFile, APanelStandsWhereTheFormatTellsAndNowhereElse) {
+  const std::string rest = "Marks=\x8B\x9B\nPanel=P\nElements=0\n";
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[END]\n")->what(), HasSubstr("[PANEL] is missing"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\n[END]\n")->what(), HasSubstr("[PANEL] is empty"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\nWord=a\n[END]\n")->what(),
+              HasSubstr("\"Word\" is unknown here"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=1\n" + rest + "[PANEL]\nLine=a\n[END]\n")->what(),
+              HasSubstr("there is no section [PANEL]"));
+  EXPECT_TRUE(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\nLine=a\n"));
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ std::string ToText(const std::optional<BagValue>& value) {
 std::vector<std::string> Between(const Project& first, const Project& second) {
   std::vector<std::string> lines;
   for (const ProjectDifference& one : DifferencesOf(first, second)) {
-    constexpr const char* kinds[] = {"panel", "property", "codes", "only first", "only second"};
+    constexpr const char* kinds[] = {"panel", "panel text", "property", "codes", "only first", "only second"};
     std::string line = kinds[static_cast<std::size_t>(one.kind)];
     for (const std::string& part : {one.element, one.name}) line += part.empty() ? "" : " " + part;
     if (one.from || one.to) line += ": " + ToText(one.from) + " -> " + ToText(one.to);
@@ -56,6 +56,12 @@ Project WithPlaces(std::initializer_list<const char*> places) {
 }
 
 TEST(Difference, AProjectDoesNotDifferFromItself) { EXPECT_THAT(Between(SampleProject(), SampleProject()), IsEmpty()); }
+
+TEST(Difference, CarriedPanelsThatDifferAreOneDifference) {
+  Project first, second;
+  second.panelText = "[PANEL]\n";
+  EXPECT_THAT(Between(first, second), ElementsAre("panel text: string \"\" -> string \"[PANEL]\\n\""));
+}
 
 TEST(Difference, ThePanelComesFirst) {
   Project first = With("SizeX", std::int16_t{1}), second = With("SizeX", std::int16_t{2});

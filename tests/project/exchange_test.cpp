@@ -45,6 +45,21 @@ TEST(Exchange, ADocumentComesBackByteForByte) {
   EXPECT_EQ(ExportProject(Import(document)), document);
 }
 
+TEST(Exchange, APanelThatIsCarriedComesBack) {
+  Project project = SampleProject();
+  project.panelText = "[PANEL]\n\nTitle=\u00DF \"x\"\n";
+  const std::string document = ExportProject(project);
+  EXPECT_THAT(document, HasSubstr("\"Title=\u00DF \\\"x\\\"\""));
+  EXPECT_EQ(Import(document), project);
+  const auto withText = [](const std::string& text) {
+    return R"({"format":1,"panel":{"name":"P","text":)" + text + R"(},"elements":[]})";
+  };
+  EXPECT_THAT(FaultOf(withText("[]")), HasSubstr("/panel/text: must have a line"));
+  EXPECT_THAT(FaultOf(withText("\"a\"")), HasSubstr("/panel/text: must be a list"));
+  EXPECT_THAT(FaultOf(withText(R"(["a","b\nc"])")), HasSubstr("/panel/text/1: must be one line"));
+  EXPECT_THAT(FaultOf(withText("[1]")), HasSubstr("/panel/text/0: must be"));
+}
+
 TEST(Exchange, ADocumentShowsOnePropertyOrBufferALine) {
   Project project = WithValue("SizeX", std::int16_t{72});
   project.panel = "Small";

@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "files/file_error.h"
@@ -103,6 +104,53 @@ TEST_F(FileOnDisk, ElementsKeepTheOrderOfTheFileAndThoseOfThePanelAloneFollow) {
   EXPECT_EQ(opened->Places().front().element->Name(), last);
   EXPECT_EQ(opened->Places()[opened->Places().size() - 2].element->Name(), first);
   EXPECT_EQ(opened->Places().back().element->Name(), missing);
+}
+
+TEST_F(FileOnDisk, AProjectThatCarriesItsPanelOpensWhereThePanelIsNotInstalled) {
+  document->CarriesPanel(true);
+  document->Save(file);
+  PanelDocument::Site elsewhere = Site();
+  elsewhere.panelDirectory = "/nowhere";
+  const auto opened = PanelDocument::Open(file, elsewhere);
+  EXPECT_TRUE(opened->CarriesPanel());
+  EXPECT_EQ(opened->Places().size(), document->Places().size());
+  EXPECT_EQ(opened->Content(), document->Content());
+  EXPECT_TRUE(opened->InstalledPanelDiffers("/nowhere").empty());
+}
+
+TEST_F(FileOnDisk, AProjectThatDoesNotCarryItsPanelIsSavedAsItWas) {
+  const auto opened = PanelDocument::Open(file, Site());
+  EXPECT_FALSE(opened->CarriesPanel());
+  EXPECT_EQ(opened->Content(), ReadProject(file));
+}
+
+TEST_F(FileOnDisk, AnInstalledPanelThatHasChangedIsToldElementByElement) {
+  document->CarriesPanel(true);
+  EXPECT_TRUE(document->InstalledPanelDiffers(DataDirectory() / "panels").empty());
+  Panel first = document->ThePanel(), second = first;
+  const auto part = [&second](const std::string& id) -> PanelPart& {
+    for (PanelPart& one : second.parts) {
+      if (one.element && one.element->id == id) return one;
+    }
+    throw std::logic_error("no part " + id);
+  };
+  using Kind = PanelDifference::Kind;
+  second.height += 1;
+  part("F1").box.left += 1;
+  part("F2").element->type = part("F2").element->type == Rect ? RectLed : Rect;
+  part("F3").element->hardwareNumberButton = 99;
+  part("F5").element->id = "X";
+  const auto differences = DifferencesOf(first, second);
+  EXPECT_EQ(differences.front(), (PanelDifference{Kind::Settings, ""}));
+  EXPECT_EQ(differences.back(), (PanelDifference{Kind::Added, "X"}));
+  for (const PanelDifference& wanted : {PanelDifference{Kind::Place, "F1"}, PanelDifference{Kind::Type, "F2"},
+                                        PanelDifference{Kind::Numbers, "F3"}, PanelDifference{Kind::Removed, "F5"}}) {
+    EXPECT_NE(std::find(differences.begin(), differences.end(), wanted), differences.end()) << wanted.element;
+  }
+  EXPECT_EQ(differences.size(), 6U);
+  second = first;
+  second.parts.front().fillColor ^= 1;
+  EXPECT_EQ(DifferencesOf(first, second), (std::vector<PanelDifference>{{Kind::Drawing, ""}}));
 }
 
 }  // namespace
