@@ -73,29 +73,34 @@ const ReportWords& EnglishReportWords() {
   return words;
 }
 
+std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element, const ReportWords& words) {
+  std::array<ReportRow, LayerCount> rows;
+  const KindRow& kind = KindOf(element.ElementType());
+  const udtTactisBaseElement_ScanCodeInfo record = element.TactisBaseElementScanCodeBuffer();
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    ReportRow& row = rows[static_cast<std::size_t>(layer - 1)];
+    row.element = element.Name();
+    row.kind = NameOf(element.ElementType(), words);
+    row.layer = layer;
+    row.press = element.PressKeyDefLayer(layer);
+    row.release = element.ReleaseKeyDefLayer(layer);
+    row.pressBytes = BytesOf(*PressBuffer(record, layer));
+    row.releaseBytes = BytesOf(*ReleaseBuffer(record, layer));
+    if (element.LEDTypeLayer(layer) != LedNotEnabled) row.led = LedTypeToText(element.LEDTypeLayer(layer));
+    if (kind.hasKey) row.buttonNumber = std::to_string(element.HardwareNumberButton());
+    if (kind.hasContacts) row.buttonNumber = ContactsOf(element);
+    if (kind.hasLed) row.ledNumber = std::to_string(element.HardwareNumberLed());
+    row.note = element.ButtonNotes();
+  }
+  return rows;
+}
+
 Report ReportOf(const PanelDocument& document, std::string name, const ReportWords& words) {
   Report report;
   report.panel = &document.ThePanel();
   report.name = std::move(name);
   for (const PanelDocument::Place& place : document.Places()) {
-    const ctlPlexelBaseElement& element = *place.element;
-    const KindRow& kind = KindOf(element.ElementType());
-    const udtTactisBaseElement_ScanCodeInfo record = element.TactisBaseElementScanCodeBuffer();
-    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-      ReportRow& row = report.rows.emplace_back();
-      row.element = element.Name();
-      row.kind = NameOf(element.ElementType(), words);
-      row.layer = layer;
-      row.press = element.PressKeyDefLayer(layer);
-      row.release = element.ReleaseKeyDefLayer(layer);
-      row.pressBytes = BytesOf(*PressBuffer(record, layer));
-      row.releaseBytes = BytesOf(*ReleaseBuffer(record, layer));
-      if (element.LEDTypeLayer(layer) != LedNotEnabled) row.led = LedTypeToText(element.LEDTypeLayer(layer));
-      if (kind.hasKey) row.buttonNumber = std::to_string(element.HardwareNumberButton());
-      if (kind.hasContacts) row.buttonNumber = ContactsOf(element);
-      if (kind.hasLed) row.ledNumber = std::to_string(element.HardwareNumberLed());
-      row.note = element.ButtonNotes();
-    }
+    for (ReportRow& row : RowsOf(*place.element, words)) report.rows.push_back(std::move(row));
   }
   report.problems = ProblemsOf(document);
   return report;

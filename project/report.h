@@ -48,6 +48,10 @@ struct ReportWords {
 };
 const ReportWords& EnglishReportWords();
 
+/// The rows of one element, by its layers.
+std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element,
+                                         const ReportWords& words = EnglishReportWords());
+
 /// The report of a document, which must outlive it; `name` is how people call the project.
 Report ReportOf(const PanelDocument& document, std::string name, const ReportWords& words = EnglishReportWords());
 

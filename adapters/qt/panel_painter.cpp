@@ -209,6 +209,16 @@ void DrawSurface(QPainter& painter, const Surface& surface, TickPlace tick) {
   for (const SurfaceLine* line : {&surface.linOK1, &surface.linOK2}) DrawLine(painter, *line);
 }
 
+void DrawFound(QPainter& painter, const QRect& box) {
+  const QColor ground(0xFF, 0xC0, 0x2E, 0x5A), edge(0xE0, 0x8A, 0x00);
+  constexpr qreal width = 2;
+  painter.save();
+  painter.setPen(QPen(edge, width));
+  painter.setBrush(ground);
+  painter.drawRoundedRect(QRectF(box).adjusted(width / 2, width / 2, -width / 2, -width / 2), 3, 3);
+  painter.restore();
+}
+
 void DrawChoice(QPainter& painter, const QRect& box, const QColor& colour) {
   constexpr double Width = 2, Round = 4;
   constexpr int Veil = 50;

@@ -22,6 +22,8 @@ void DrawSurface(QPainter& painter, const Surface& surface, TickPlace tick = Tic
 /// The mark of a chosen element, round a box in logical pixels, and how far it reaches beyond the box.
 void DrawChoice(QPainter& painter, const QRect& box, const QColor& colour);
 inline constexpr int ChoiceReach = 3;
+/// The mark of an element that a search has found, inside its box in logical pixels.
+void DrawFound(QPainter& painter, const QRect& box);
 /// A label along the lower edge of a box in logical pixels, on a light ground, elided. `scale` is that of the picture.
 /// Nothing is drawn where it would cover the middle of the box.
 void DrawLabel(QPainter& painter, const QRect& box, const QString& text, qreal scale);

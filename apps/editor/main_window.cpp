@@ -16,6 +16,7 @@
 #include "editor/elided_label.h"
 #include "editor/log_panel.h"
 #include "editor/notice_bar.h"
+#include "editor/overview_panel.h"
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
 #include "editor/trial_dock.h"
@@ -37,6 +38,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
   MakeTrial();
   MakeActions();
   ConnectElements();
+  ConnectOverview();
   ConnectSafekeeping();
   platform_.Register(*windowObject_, *this);
   platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
@@ -60,6 +62,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
 MainWindow::~MainWindow() {
   Try(false);
   safekeeping_.Leave();
+  overview_->Show(nullptr);
   view_->Show(nullptr);
   document_.reset();
   platform_.OnFailure(nullptr);
@@ -89,6 +92,10 @@ void MainWindow::MakeContent() {
   constexpr int LogHeight = 120;
   resizeDocks({log_}, {LogHeight}, Qt::Vertical);
   log_->hide();
+  overview_ = new OverviewPanel(selection_, this);
+  addDockWidget(Qt::BottomDockWidgetArea, overview_);
+  tabifyDockWidget(log_, overview_);
+  overview_->hide();
   status_ = new ElidedLabel;
   statusBar()->addWidget(status_, 1);
   zoomFigure_ = new QToolButton;
@@ -129,13 +136,16 @@ PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject
 void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   Try(false);
   safekeeping_.Watch(nullptr);
+  overview_->Show(nullptr);
   view_->Show(nullptr);
   document_ = std::move(document);
-  document_->Listen([this](std::span<const std::size_t>) {
+  document_->Listen([this](std::span<const std::size_t> places) {
     Try(false);  // what was tried is no longer what stands there
     ShowChange();
+    overview_->Changed(places);
   });
   view_->Show(document_.get());
+  overview_->Show(document_.get());
   view_->setFocus();
   ShowZoom();
   ShowChange();

@@ -30,6 +30,7 @@ namespace plexel {
 
 class ElidedLabel;
 class LogPanel;
+class OverviewPanel;
 class NoticeBar;
 class PanelScroll;
 class PanelView;
@@ -55,6 +56,7 @@ class MainWindow : public QMainWindow {
   PanelDocument* Document() const { return document_.get(); }
   PanelView& View() const { return *view_; }
   LogPanel& Log() const { return *log_; }
+  OverviewPanel& Overview() const { return *overview_; }
   /// What the user means of the elements; shared by all that shows them.
   Selection& TheSelection() { return selection_; }
   QString StatusText() const;
@@ -92,6 +94,7 @@ class MainWindow : public QMainWindow {
   void AddTrial(QMenu& menu);
   /// Brings what acts on elements into line with the mode.
   void ShowEditing();
+  void ConnectOverview();
   QAction* Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)());
   void Retranslate();
   void RetranslateView();
@@ -158,6 +161,8 @@ class MainWindow : public QMainWindow {
   void SelectAll();
   void SelectNone();
   void SelectKinds(const std::vector<enumTactisBaseElementType>& kinds);
+  void Find();
+  void FindByPressing();
   void EditSettings();
   void ShowContents();
   void ShowAbout();
@@ -196,6 +201,7 @@ class MainWindow : public QMainWindow {
   PanelView* view_ = nullptr;
   PanelScroll* scroll_ = nullptr;
   LogPanel* log_ = nullptr;
+  OverviewPanel* overview_ = nullptr;
   ElidedLabel* status_ = nullptr;
   QLabel* limits_ = nullptr;
   QToolButton* zoomFigure_ = nullptr;

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "editor/log_panel.h"
+#include "editor/overview_panel.h"
 #include "editor/panel_view.h"
 #include "editor/recent_menu.h"
 #include "editor/settings_dialog.h"
@@ -80,6 +81,9 @@ void MainWindow::MakeActions() {
   Add(edit, Text::Swap, QKeySequence(), &MainWindow::SwapChosen);
   Add(edit, Text::Clear, QKeySequence::Delete, &MainWindow::Clear);
   Add(edit, Text::CopyLayers, QKeySequence(), &MainWindow::CopyLayers);
+  edit.addSeparator();
+  Add(edit, Text::Find, QKeySequence::Find, &MainWindow::Find);
+  Add(edit, Text::FindByPressing, Qt::CTRL | Qt::SHIFT | Qt::Key_F, &MainWindow::FindByPressing);
   QMenu& element = addMenu(Text::MenuElement);
   elementMenu_ = &element;
   configure_ = Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);
@@ -100,6 +104,7 @@ void MainWindow::Retranslate() {
   UseToolkitTexts();
   log_->Retranslate();
   trial_->Retranslate();
+  overview_->Retranslate();
   tools_->setWindowTitle(Say(Text::ShowToolBar).remove('&'));
   for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
   for (const Named& named : named_) named.action->setText(Say(named.text));

@@ -11,6 +11,7 @@
 
 #include "editor/element_text.h"
 #include "editor/log_panel.h"
+#include "editor/overview_panel.h"
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
 #include "editor/trial_mode.h"
@@ -86,6 +87,8 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
   tools_ = addToolBar(QString());
   menu.addAction(tools_->toggleViewAction());
   named_.push_back({tools_->toggleViewAction(), Text::ShowToolBar});
+  menu.addAction(overview_->toggleViewAction());
+  named_.push_back({overview_->toggleViewAction(), Text::ShowOverview});
   menu.addAction(log_->toggleViewAction());
   named_.push_back({log_->toggleViewAction(), Text::ShowEvents});
 }

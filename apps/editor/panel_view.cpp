@@ -39,6 +39,7 @@ void PanelView::Show(PanelDocument* document) {
   const int count = document_ == nullptr ? 0 : static_cast<int>(document_->Places().size());
   for (int place = 0; place < count; ++place) placeOf_[At(place).element.get()] = place;
   marked_.assign(static_cast<std::size_t>(count), false);
+  found_.assign(static_cast<std::size_t>(count), false);
   MakeIndexes();
   selection_.Reset(count);
   Rescale();
@@ -134,6 +135,7 @@ void PanelView::PaintPlace(QPainter& painter, int place) {
   painter.restore();
   if (labels_ && element.ElementType() != Led)
     DrawLabel(painter, box, LabelText(element, layer_), document_->Zoom() / 100.0);
+  if (found_[static_cast<std::size_t>(place)]) DrawFound(painter, box);
   if (marked_[static_cast<std::size_t>(place)]) DrawChoice(painter, box, palette().highlight().color());
 }
 
@@ -155,6 +157,14 @@ void PanelView::Layer(std::int32_t layer) {
 
 void PanelView::Labels(bool shown) {
   labels_ = shown;
+  update();
+}
+
+void PanelView::Found(const std::vector<int>& places) {
+  std::vector<bool> found(found_.size(), false);
+  for (const int place : places) found[static_cast<std::size_t>(place)] = true;
+  if (found == found_) return;
+  found_ = std::move(found);
   update();
 }
 

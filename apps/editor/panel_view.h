@@ -45,6 +45,9 @@ class PanelView : public QWidget {
   bool Labels() const { return labels_; }
   void Labels(bool shown);
 
+  /// Marks the places that a search has found, ascending; none takes the marks away.
+  void Found(const std::vector<int>& places);
+
   /// Where the panel begins in the view.
   QPoint Origin() const;
   /// The room round the panel that the view keeps at least, pixels.
@@ -115,6 +118,7 @@ class PanelView : public QWidget {
   PlaceIndex places_, parts_;  ///< at zoom 100
   int focused_ = -1;           ///< the place whose element has the focus
   std::vector<bool> marked_;   ///< which places the picture marks as chosen
+  std::vector<bool> found_;    ///< which places a search has found
   int dirty_ = 0;              ///< how many places were to be painted anew since the last painting
   std::int32_t layer_ = 0;
   bool labels_ = false;

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -13,6 +14,7 @@
 #include "editor/editor_host.h"
 #include "editor/form_notes.h"
 #include "editor/main_window.h"
+#include "editor/overview_panel.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
 #include "editor/trial_layer.h"
@@ -145,6 +147,7 @@ class PictureMaker {
     window.show();
     QCoreApplication::processEvents();
     Save(window, "editor");
+    TakeOverview(window);
     TakeTrial(window);
     SettingsDialog settings(surroundings_, &window);
     settings.show();
@@ -196,6 +199,17 @@ class PictureMaker {
     element.TactisBaseElementScanCodeBuffer(record);
   }
 
+  /// The overview with what a search has found.
+  void TakeOverview(MainWindow& window) {
+    window.Overview().show();
+    window.resizeDocks({&window.Overview()}, {OverviewHeight}, Qt::Vertical);
+    window.Overview().findChild<QLineEdit*>("FindWords")->setText("ctrl");
+    QCoreApplication::processEvents();
+    Save(window, "overview");
+    window.Overview().findChild<QLineEdit*>("FindWords")->clear();
+    window.Overview().hide();
+  }
+
   static void FillSamplePanel(MainWindow& window) {
     window.NewProject("Large");
     int place = 0;
@@ -236,6 +250,8 @@ class PictureMaker {
       element->OpenPropertiesDialog();
     }
   }
+
+  static constexpr int OverviewHeight = 340;
 
   QDir target_;
   std::string project_;

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "services/dialogs.h"
+#include "services/notes_limit.h"
 
 namespace plexel {
 
@@ -126,7 +127,7 @@ void frmConfigurationDialog::DesignNotesPage() {
   txtButtonNotes.Place(contentLeft, 600, contentWidth, 1635);
   txtButtonNotes.MultiLine(true);
   Label1.Names(txtButtonNotes);
-  txtButtonNotes.MaxLength(1000);
+  txtButtonNotes.MaxLength(NotesLimit);
   StatusBar1.Place(contentLeft, 2280, contentWidth, 300);
 }
 
