@@ -1,6 +1,7 @@
 #include "qt/element_accessible.h"
 
 #include <QAccessibleWidget>
+#include <QTimer>
 
 #include "qt/element_widget.h"
 
@@ -23,7 +24,9 @@ class AccessibleElement : public QAccessibleWidget {
   QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
   void doAction(const QString& action) override {
     if (action != pressAction()) return QAccessibleWidget::doAction(action);
-    static_cast<ElementWidget*>(widget())->OpenConfigurationDialog();
+    // The dialog would hold up whoever asks until it has closed.
+    auto* const element = static_cast<ElementWidget*>(widget());
+    if (element->isEnabled()) QTimer::singleShot(0, element, [element] { element->OpenConfigurationDialog(); });
   }
 };
 

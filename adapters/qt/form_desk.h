@@ -22,6 +22,8 @@ class FormDesk {
   /// The window of a form has got, or lost, the keys of the desktop.
   virtual void Activated(FormView& view) = 0;
   virtual void Deactivated(FormView& view) = 0;
+  /// The window over which a form stands has gone: the form ends as by its close box, and so do those above it.
+  virtual void OwnerGone(FormView& view) = 0;
   /// What the host says under the form now.
   virtual FormNote NoteOf(Form& form) = 0;
   /// What the form is about.

@@ -58,6 +58,13 @@ FormView::FormView(Form& form, QWidget* owner, FormDesk& desk) : form_(form), de
                           Qt::WindowCloseButtonHint);
   window_->setObjectName(ToQt(form.Name()));
   window_->installEventFilter(this);
+  if (owner != nullptr) {
+    // The toolkit would delete the window with its owner.
+    connect(owner, &QObject::destroyed, this, [this] {
+      window_->setParent(nullptr, window_->windowFlags());
+      desk_.OwnerGone(*this);
+    });
+  }
   MakeViews();
 }
 

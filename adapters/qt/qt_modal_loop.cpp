@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <algorithm>
 
 #include "platform/clean_up.h"
 #include "platform/failure.h"
@@ -116,6 +117,12 @@ void QtModalLoop::Abandon(std::exception_ptr thrown) {
   if (open_.empty()) return Report("an act failed behind the end of its form");
   if (!*open_.back().thrown) *open_.back().thrown = std::move(thrown);
   open_.back().loop->quit();
+}
+
+void QtModalLoop::OwnerGone(FormView& view) {
+  const auto first =
+      std::find_if(open_.begin(), open_.end(), [&view](const Open& one) { return one.view.get() == &view; });
+  std::for_each(first, open_.end(), [](const Open& one) { one.loop->quit(); });
 }
 
 FormNote QtModalLoop::NoteOf(Form& form) {

@@ -43,6 +43,7 @@ class QtModalLoop : public ModalLoop, public FormDesk {
   FormSubject SubjectOf(Form& form) override;
   void Report(const std::string& what) override;
   void Abandon(std::exception_ptr thrown) override;
+  void OwnerGone(FormView& view) override;
 
   /// Tells which widget stands for a window of the host; dialogs belong to the widget's window as it is then.
   void Register(const Window& window, QWidget& widget) { hostWindows_.emplace_back(&window, &widget); }

@@ -184,7 +184,8 @@ bool MainWindow::SaveProject(const std::filesystem::path& file) {
   if (!MayOverwrite(file)) return false;
   try {
     safekeeping_.BeforeSave(file);
-    document_->CarriesPanel(true);
+    // What is saved unchanged keeps every byte of its file.
+    if (document_->Modified() || document_->File().empty()) document_->CarriesPanel(true);
     document_->Save(file);
     safekeeping_.Saved();
     notice_->hide();

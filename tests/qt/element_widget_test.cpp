@@ -361,11 +361,26 @@ TEST_F(Widgets, HelpingProgramsHearALegendAndTheDefinitions) {
   EXPECT_EQ(accessible->text(QAccessible::Name), "the host's name");
 }
 
-TEST_F(Widgets, PressingAnElementFromAHelpingProgramOpensItsDialog) {
+TEST_F(Widgets, PressingAnElementFromAHelpingProgramOpensItsDialogAndHoldsItUpForNothing) {
+  const auto press = [this] {
+    QAccessible::queryAccessibleInterface(&first)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+  };
+  press();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   std::string name;
   ActOnNextForm([&](Hand&, Form& form) { name = form.Name(); });
-  QAccessible::queryAccessibleInterface(&first)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !name.empty(); }));
   EXPECT_EQ(name, dialogs::frmConfigurationDialog);
+}
+
+TEST_F(Widgets, ADisabledElementIsNotPressedByAHelpingProgram) {
+  first.setEnabled(false);
+  QAccessible::queryAccessibleInterface(&first)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  bool opened = false;
+  QTimer::singleShot(20, &first, [&] { opened = QApplication::activeModalWidget() != nullptr; });
+  QTest::qWait(50);
+  EXPECT_FALSE(opened);
 }
 
 TEST_F(Widgets, TheToolTipTellsTheDefinitionsUnlessTheHostSetsOne) {

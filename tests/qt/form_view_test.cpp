@@ -240,6 +240,25 @@ TEST_F(FormViewTest, AFormOpensOverItsOwner) {
   });
 }
 
+TEST_F(FormViewTest, AWindowThatGoesUnderItsDialogsEndsThem) {
+  struct HostWindow : Window {
+    std::string WindowName() const override { return "HostForm"; }
+  } host;
+  auto widget = std::make_unique<QWidget>();
+  widget->show();
+  platform.Register(host, *widget);
+  SampleForm inner;
+  form.ok.OnClick = [&] {
+    QTimer::singleShot(0, &context, [&] { widget.reset(); });
+    inner.ShowModal(&form);
+  };
+  QTimer::singleShot(0, &context, [&] { Click(*platform.Modal().Topmost(), form.ok); });
+  form.ShowModal(&host);
+  EXPECT_FALSE(inner.IsShown());
+  EXPECT_FALSE(form.IsShown());
+  EXPECT_EQ(platform.Modal().Topmost(), nullptr);
+}
+
 TEST_F(FormViewTest, NoFormIsOpenAfterTheLastHasClosed) {
   WhileShown([](FormView&) {});
   EXPECT_EQ(platform.Modal().Topmost(), nullptr);
