@@ -17,19 +17,22 @@ def recovery_files(desktop):
     return list((desktop.folder / "home" / ".local" / "state" / "plexel" / "recovery").glob("*.recovery"))
 
 
-def record(editor):
+def recorded(desktop, tools, folder, **how):
+    """An editor with a key that was recorded and not saved yet, on a project that was empty."""
+    project = folder / "a.plexel"
+    write_empty_project(project, "Small")
+    editor = Editor(desktop, tools, project, **how)
     dialog = editor.configure(KEY)
     dialog.start_capture()
-    press(editor.desktop, "a")
+    press(desktop, "a")
     dialog.ok()
+    editor.wait_modified(True)
+    return editor
 
 
 def undo_and_redo(tools, folder):
     with Desktop(tools, folder) as desktop:
-        project = folder / "undo.plexel"
-        write_empty_project(project, "Small")
-        editor = Editor(desktop, tools, project)
-        record(editor)
+        editor = recorded(desktop, tools, folder)
         compare(editor.save(), PLAN)
         press(desktop, "LeftCtrl+z")
         compare(editor.save(), {})
@@ -40,16 +43,13 @@ def undo_and_redo(tools, folder):
 
 def killed(tools, folder):
     with Desktop(tools, folder) as desktop:
-        project = folder / "killed.plexel"
-        write_empty_project(project, "Small")
-        editor = Editor(desktop, tools, project)
-        record(editor)
+        editor = recorded(desktop, tools, folder)
         wait_for("the recovery file", lambda: recovery_files(desktop), PATIENCE)
         editor.process.send_signal(signal.SIGKILL)
         editor.process.wait()
-        compare(read_project(project), {})
+        compare(read_project(editor.project), {})
 
-        editor = StartedEditor(desktop, tools, project)
+        editor = StartedEditor(desktop, tools, editor.project)
         compare(editor.save(), PLAN)
         wait_for("the recovery file to go", lambda: not recovery_files(desktop), PATIENCE)
         editor.quit()
@@ -57,16 +57,12 @@ def killed(tools, folder):
 
 def terminated(tools, folder):
     with Desktop(tools, folder) as desktop:
-        project = folder / "terminated.plexel"
-        write_empty_project(project, "Small")
-        editor = Editor(desktop, tools, project)
-        record(editor)
-        editor.wait_modified(True)
+        editor = recorded(desktop, tools, folder)
         editor.process.send_signal(signal.SIGTERM)
         editor.wait_end()
         if len(recovery_files(desktop)) != 1:
             raise Failed("work that was not saved is not kept")
-        editor = StartedEditor(desktop, tools, project, language="German", settings={})
+        editor = StartedEditor(desktop, tools, editor.project, language="German", settings={})
         compare(editor.save(), PLAN)
         editor.quit()
 
@@ -89,13 +85,10 @@ class StartedEditor(Editor):
 def changed_by_another(tools, folder):
     for language, take in (("English", "LeftAlt+t"), ("German", "LeftAlt+n")):
         with Desktop(tools, folder) as desktop:
-            project = folder / "changed.plexel"
-            write_empty_project(project, "Small")
-            empty = project.read_bytes()
-            editor = Editor(desktop, tools, project, language=language, settings={})
-            record(editor)
+            editor = recorded(desktop, tools, folder, language=language, settings={})
+            empty = editor.project.read_bytes()
             compare(editor.save(), PLAN)
-            project.write_bytes(empty)
+            editor.project.write_bytes(empty)
             editor.pause(2)  # nothing that can be waited for tells that nothing more comes
             desktop.picture(tools.pictures / f"file-changed-{language}.png", desktop.window(MAIN))
             press(desktop, take)
