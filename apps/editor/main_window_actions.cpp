@@ -20,6 +20,7 @@
 #include "editor/settings_dialog.h"
 #include "editor/trial_mode.h"
 #include "editor/version.h"
+#include "editor/virtual_panel.h"
 #include "files/file_error.h"
 #include "qt/units.h"
 #include "services/shared_services.h"
@@ -105,6 +106,7 @@ void MainWindow::Retranslate() {
   log_->Retranslate();
   trial_->Retranslate();
   overview_->Retranslate();
+  if (virtualPanel_) virtualPanel_->Retranslate();
   tools_->setWindowTitle(Say(Text::ShowToolBar).remove('&'));
   for (const auto& [menu, text] : menus_) menu->setTitle(Say(text));
   for (const Named& named : named_) named.action->setText(Say(named.text));

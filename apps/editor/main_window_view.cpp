@@ -83,6 +83,7 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
   });
   menu.addSeparator();
   AddTrial(menu);
+  AddVirtualPanel(menu);
   menu.addSeparator();
   tools_ = addToolBar(QString());
   menu.addAction(tools_->toggleViewAction());

@@ -277,6 +277,14 @@ enum class Text : std::int32_t {
   ProblemKeyTwice = 21082,
   ProblemPress = 21083,
   ProblemRelease = 21084,
+  VirtualPanel = 21120,
+  VirtualNeedsX = 21121,
+  VirtualTitle = 21122,
+  VirtualHint = 21123,
+  VirtualCommand = 21124,
+  VirtualNoKey = 21125,
+  VirtualLost = 21126,
+  VirtualXOnly = 21127,
 };
 
 /// The text of a number in the user's language.

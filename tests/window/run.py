@@ -12,6 +12,7 @@ import tests_keyboard
 import tests_pictures
 import tests_safekeeping
 import tests_special
+import tests_virtual
 import tests_walk
 import tests_wizard
 from desktop import Failed
@@ -33,6 +34,9 @@ TESTS = {
     "killed": tests_safekeeping.killed,
     "terminated": tests_safekeeping.terminated,
     "changed-by-another": tests_safekeeping.changed_by_another,
+    "virtual-panel": tests_virtual.reaches_the_program_in_front,
+    "virtual-panel-killed": tests_virtual.killed,
+    "virtual-panel-terminated": tests_virtual.terminated,
     "english-pictures": tests_pictures.english_pictures,
     "german-pictures": tests_pictures.german_pictures,
 }

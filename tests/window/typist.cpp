@@ -128,6 +128,12 @@ class Typist {
     return held;
   }
 
+  std::string Received() {
+    std::string received;
+    for (const std::string& key : desktop_.ReceivedKeys()) received += (received.empty() ? "" : " ") + key;
+    return received;
+  }
+
   std::string Windows() {
     std::string told;
     for (const WindowFacts& facts : desktop_.Windows()) told += (told.empty() ? "" : ",") + Told(facts);
@@ -175,6 +181,7 @@ class Typist {
       {"tap", [this](auto& words) { return Tap(words); }},
       {"chord", [this](auto& words) { return Chord(words); }},
       {"held", [this](auto&) { return Held(); }},
+      {"received", [this](auto&) { return Received(); }},
       {"grabbed", [this](auto&) { return std::string(desktop_.KeyboardIsGrabbed() ? "true" : "false"); }},
       {"pace",
        [this](auto& words) {

@@ -154,7 +154,8 @@ void XDesktop::Ask(xcb_window_t window, std::string_view message, std::array<std
 
 void XDesktop::Open(const std::string& title, const Box& box) {
   const xcb_window_t window = xcb_generate_id(connection_);
-  const std::array<std::uint32_t, 2> values = {screen_->white_pixel, XCB_EVENT_MASK_KEY_PRESS};
+  const std::array<std::uint32_t, 2> values = {screen_->white_pixel,
+                                               XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE};
   xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window, screen_->root, static_cast<std::int16_t>(box.left),
                     static_cast<std::int16_t>(box.top), static_cast<std::uint16_t>(box.width),
                     static_cast<std::uint16_t>(box.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, screen_->root_visual,
@@ -163,6 +164,17 @@ void XDesktop::Open(const std::string& title, const Box& box) {
                       static_cast<std::uint32_t>(title.size()), title.data());
   xcb_map_window(connection_, window);
   xcb_flush(connection_);
+}
+
+std::vector<std::string> XDesktop::ReceivedKeys() {
+  std::vector<std::string> keys;
+  while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) {
+    const int type = event->response_type & 0x7F;
+    if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE) continue;
+    const int keycode = reinterpret_cast<const xcb_key_press_event_t&>(*event).detail;
+    keys.push_back((type == XCB_KEY_PRESS ? '+' : '-') + std::to_string(keycode - FirstKeycode));
+  }
+  return keys;
 }
 
 void XDesktop::Activate(xcb_window_t window) { Ask(window, "_NET_ACTIVE_WINDOW", {FromTheUser, XCB_CURRENT_TIME}); }

@@ -47,8 +47,11 @@ class XDesktop {
   bool KeyboardIsGrabbed();
 
   std::vector<WindowFacts> Windows();
-  /// Puts up a plain window of its own.
+  /// Puts up a plain window of its own, which hears keys.
   void Open(const std::string& title, const Box& box);
+  /// The keys that its own windows have heard since this was asked last, as "+30" and "-30", evdev codes that go down
+  /// and come up.
+  std::vector<std::string> ReceivedKeys();
   /// Asks the window manager to bring a window to the front with the focus.
   void Activate(xcb_window_t window);
   /// Asks the window manager to close a window, as its close box does.

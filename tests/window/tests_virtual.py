@@ -1,0 +1,118 @@
+"""The virtual panel: its keys reach the program in front, and none stays down behind the editor."""
+
+import json
+import signal
+import subprocess
+
+from desktop import Box, Desktop, Failed, PATIENCE, wait_for
+from editor import Editor, tools_path
+from keys import KEYS, press
+from project import write_empty_project
+
+RECEIVER = "Receiver"
+A, LEFT_CTRL = KEYS["a"], KEYS["LeftCtrl"]
+
+
+def write_project(tools, file):
+    """F1 sends a, and F2 leaves the left Ctrl key down."""
+    write_empty_project(file, "Small")
+    codes = {"F1": ("FF 1C FF", 2, "FF F0 1C FF", 3), "F2": ("FF 14 FF", 2, "FF", 0)}
+    lines = [f"open {file}"]
+    for name, (pressed, press_length, released, release_length) in codes.items():
+        record = {"strLayer1PressScanCode": {"Value": pressed, "NextValue": press_length},
+                  "strLayer1ReleaseScanCode": {"Value": released, "NextValue": release_length}}
+        lines += [f"use {name}", "put " + json.dumps(record)]
+    told = subprocess.run([tools_path(tools.script), "script"], input="\n".join([*lines, "save", ""]),
+                          capture_output=True, text=True, encoding="utf-8", timeout=PATIENCE).stdout
+    if '"ok":false' in told:
+        raise Failed(f"the project cannot be made: {told}")
+
+
+class VirtualPanel:
+    """The editor with its virtual panel, and another program in front."""
+
+    def __init__(self, desktop, tools, project, language="English"):
+        self.desktop = desktop
+        self.editor = Editor(desktop, tools, project, language=language, settings={})
+        title = self.editor.texts[21122].split("%1")[0]
+        press(desktop, "F6")
+
+        def shown():
+            return next((one for one in desktop.windows() if one["title"].startswith(title)), None)
+
+        self.window = wait_for("the virtual panel", shown)
+        if self.window["active"]:
+            raise Failed("the virtual panel takes the focus")
+        desktop.do(f"open-window 20 20 300 200 {RECEIVER}")
+        self.receiver = desktop.window(RECEIVER)
+        self.place = self.still()
+
+    def still(self):
+        """Where the panel lies, once the window manager has put it."""
+        seen = []
+
+        def same():
+            found = next(one for one in self.desktop.windows() if one["id"] == self.window["id"])
+            seen.append(found["client"])
+            self.editor.pause(0.1)
+            return len(seen) > 1 and seen[-1] == seen[-2] and seen[-1]
+
+        return wait_for("the place of the virtual panel", same)
+
+    def middle(self, name):
+        left, top, width, height = self.editor.panel.elements[name]
+        return self.place[0] + round(left + width / 2), self.place[1] + round(top + height / 2)
+
+    def wait_received(self, wanted):
+        received = []
+
+        def all_there():
+            received.extend(self.desktop.do("received").split())
+            return received == wanted
+
+        try:
+            wait_for("keys", all_there, 10)
+        except Failed:
+            raise Failed(f"received {received}, wanted {wanted}") from None
+
+    def wait_held(self, keys):
+        wanted = " ".join(str(key) for key in keys)
+        wait_for(f"the held keys to be '{wanted}'", lambda: self.desktop.do("held") == wanted, 10)
+
+
+def reaches_the_program_in_front(tools, folder):
+    for language in ("English", "German"):
+        with Desktop(tools, folder) as desktop:
+            project = folder / "virtual.plexel"
+            write_project(tools, project)
+            panel = VirtualPanel(desktop, tools, project, language)
+            desktop.click(panel.middle("F1"))
+            panel.wait_received([f"+{A}", f"-{A}"])
+            desktop.click(panel.middle("F2"))
+            panel.wait_held([LEFT_CTRL])
+            desktop.window(RECEIVER)  # still in front
+            desktop.picture(tools.pictures / f"virtual-panel-{language}.png", Box(*panel.place))
+            desktop.do(f"close {panel.window['id']}")
+            panel.wait_held([])
+            desktop.do(f"activate {desktop.window_id('Plexel')}")
+            panel.editor.quit()
+
+
+def ended(tools, folder, how):
+    with Desktop(tools, folder) as desktop:
+        project = folder / "virtual.plexel"
+        write_project(tools, project)
+        panel = VirtualPanel(desktop, tools, project)
+        desktop.click(panel.middle("F2"))
+        panel.wait_held([LEFT_CTRL])
+        panel.editor.process.send_signal(how)
+        panel.editor.process.wait(PATIENCE)
+        panel.wait_held([])
+
+
+def killed(tools, folder):
+    ended(tools, folder, signal.SIGKILL)
+
+
+def terminated(tools, folder):
+    ended(tools, folder, signal.SIGTERM)
