@@ -1,11 +1,9 @@
 """The virtual panel: its keys reach the program in front, and none stays down behind the editor."""
 
-import json
 import signal
-import subprocess
 
 from desktop import Box, Desktop, Failed, PATIENCE, wait_for
-from editor import Editor, tools_path
+from editor import Editor
 from keys import KEYS, press
 from project import write_empty_project
 
@@ -13,19 +11,25 @@ RECEIVER = "Receiver"
 A, LEFT_CTRL = KEYS["a"], KEYS["LeftCtrl"]
 
 
-def write_project(tools, file):
+ELEMENTS = """[ELEMENT F1]
+ZoomFactor=int16 100
+SizeX=int16 72
+strLayer1PressScanCode=codes 2 FF1CFF*43
+strLayer1ReleaseScanCode=codes 3 FFF01CFF*42
+
+[ELEMENT F2]
+ZoomFactor=int16 100
+SizeX=int16 72
+strLayer1PressScanCode=codes 2 FF14FF*43
+
+"""
+
+
+def write_project(file):
     """F1 sends a, and F2 leaves the left Ctrl key down."""
     write_empty_project(file, "Small")
-    codes = {"F1": ("FF 1C FF", 2, "FF F0 1C FF", 3), "F2": ("FF 14 FF", 2, "FF", 0)}
-    lines = [f"open {file}"]
-    for name, (pressed, press_length, released, release_length) in codes.items():
-        record = {"strLayer1PressScanCode": {"Value": pressed, "NextValue": press_length},
-                  "strLayer1ReleaseScanCode": {"Value": released, "NextValue": release_length}}
-        lines += [f"use {name}", "put " + json.dumps(record)]
-    told = subprocess.run([tools_path(tools.script), "script"], input="\n".join([*lines, "save", ""]),
-                          capture_output=True, text=True, encoding="utf-8", timeout=PATIENCE).stdout
-    if '"ok":false' in told:
-        raise Failed(f"the project cannot be made: {told}")
+    empty = file.read_bytes()
+    file.write_bytes(empty.replace(b"Elements=0\n", b"Elements=2\n\n" + ELEMENTS.encode()))
 
 
 class VirtualPanel:
@@ -84,7 +88,7 @@ def reaches_the_program_in_front(tools, folder):
     for language in ("English", "German"):
         with Desktop(tools, folder) as desktop:
             project = folder / "virtual.plexel"
-            write_project(tools, project)
+            write_project(project)
             panel = VirtualPanel(desktop, tools, project, language)
             desktop.click(panel.middle("F1"))
             panel.wait_received([f"+{A}", f"-{A}"])
@@ -101,7 +105,7 @@ def reaches_the_program_in_front(tools, folder):
 def ended(tools, folder, how):
     with Desktop(tools, folder) as desktop:
         project = folder / "virtual.plexel"
-        write_project(tools, project)
+        write_project(project)
         panel = VirtualPanel(desktop, tools, project)
         desktop.click(panel.middle("F2"))
         panel.wait_held([LEFT_CTRL])
