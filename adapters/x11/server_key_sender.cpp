@@ -1,9 +1,9 @@
-#include "keyboard/key_sender.h"
-
 #include <xcb/xtest.h>
 
 #include <cstdint>
 #include <cstdlib>
+
+#include "keyboard/key_sender.h"
 
 namespace plexel {
 
