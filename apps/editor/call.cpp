@@ -26,7 +26,7 @@ constexpr std::array toolkitOptions = {
     ToolkitOption{"qwindowicon", true},     ToolkitOption{"session", true},
     ToolkitOption{"reverse", false},        ToolkitOption{"nograb", false}};
 
-Call Wrong(const QString& reason) { return {QString(), WrongCall, "plexel-editor: " + reason + '\n'}; }
+Call Wrong(const QString& reason) { return {{}, {}, WrongCall, "plexel-editor: " + reason + '\n'}; }
 
 }  // namespace
 
@@ -37,6 +37,7 @@ Call Understand(int argc, char** argv) {
   parser.setApplicationDescription("Configures the keys and LEDs of operator panels.");
   parser.addOption({{"h", "help"}, "Displays this help."});
   parser.addOption({{"v", "version"}, "Displays the version."});
+  parser.addOption({"pdf", "Writes a report of the project to FILE, without a window.", "FILE"});
   parser.addPositionalArgument("project", "The project file to open.", "[PROJECT]");
   for (const ToolkitOption& row : toolkitOptions) {
     QCommandLineOption option(row.name);
@@ -45,11 +46,13 @@ Call Understand(int argc, char** argv) {
     parser.addOption(option);
   }
   if (!parser.parse(QCoreApplication::arguments())) return Wrong(parser.errorText());
-  if (parser.isSet("help")) return {QString(), 0, parser.helpText()};
-  if (parser.isSet("version")) return {QString(), 0, QString("Plexel ") + ProgramVersion + '\n'};
+  if (parser.isSet("help")) return {{}, {}, 0, parser.helpText()};
+  if (parser.isSet("version")) return {{}, {}, 0, QString("Plexel ") + ProgramVersion + '\n'};
   const QStringList projects = parser.positionalArguments();
   if (projects.size() > 1) return Wrong("one project at most");
-  return {projects.value(0), std::nullopt, QString()};
+  if (parser.isSet("pdf") && projects.isEmpty()) return Wrong("--pdf wants a project");
+  if (parser.isSet("pdf") && parser.value("pdf").isEmpty()) return Wrong("--pdf wants a file");
+  return {projects.value(0), parser.value("pdf"), std::nullopt, QString()};
 }
 
 }  // namespace plexel

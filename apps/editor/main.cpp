@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QProxyStyle>
 #include <iostream>
@@ -10,8 +11,10 @@
 #include "editor/key_guard.h"
 #include "editor/log_panel.h"
 #include "editor/main_window.h"
+#include "editor/report_pdf.h"
 #include "editor/version.h"
 #include "files/data_directory.h"
+#include "files/system_files.h"
 #include "qt/fonts.h"
 #include "qt/pictures.h"
 #include "qt/units.h"
@@ -58,6 +61,19 @@ int Run(const QString& project) {
   return QApplication::exec();
 }
 
+/// Writes a report of a project, without a window.
+int WritePdf(const Call& call) {
+  FileSurroundings surroundings(DataDirectory(), ConfigurationDirectory());
+  HelpWindow help;
+  QtPlatform platform(surroundings.UserRegistry(), help);
+  Component component(platform, surroundings);
+  EditorHost host;
+  const PanelDocument::Site site{component, host, std::make_shared<EditorWindowObject>(), DataDirectory() / "panels"};
+  const auto document = PanelDocument::Open(call.project.toStdString(), site);
+  WriteWholeFile(call.pdf.toStdString(), ReportPdf(*document, QFileInfo(call.project).fileName()));
+  return 0;
+}
+
 }  // namespace
 
 }  // namespace plexel
@@ -69,6 +85,7 @@ int main(int argc, char** argv) {
     (*call.status == 0 ? std::cout : std::cerr) << call.answer.toStdString();
     return *call.status;
   }
+  if (!call.pdf.isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
   // Of a desktop that has both, the X server is taken: it tells more of the keyboard.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
@@ -80,9 +97,10 @@ int main(int argc, char** argv) {
   QApplication::setFont(plexel::DialogFont());
   QApplication::setWindowIcon(plexel::PicturePixmap("plexel", plexel::IconSize, 2));
   try {
-    return plexel::Run(call.project);
+    return call.pdf.isEmpty() ? plexel::Run(call.project) : plexel::WritePdf(call);
   } catch (const std::exception& failure) {
     std::cerr << "plexel-editor: " << failure.what() << '\n';
+    if (!call.pdf.isEmpty()) return 1;
     QMessageBox::critical(nullptr, "Plexel", QString::fromUtf8(failure.what()));
     return 1;
   }

@@ -54,6 +54,10 @@ class MainWindow : public QMainWindow {
   bool OpenProject(const std::filesystem::path& file);
   bool SaveProject(const std::filesystem::path& file);
   bool NewProject(const std::string& panel);
+  /// Takes over what a JSON document holds for the same panel, as one step. On a failure the user is told.
+  bool Import(const std::filesystem::path& file);
+  /// Writes the project for others: "json", "pdf", "html", "csv" or "svg". On a failure the user is told.
+  bool Export(const QString& suffix, const std::filesystem::path& file);
 
   PanelDocument* Document() const { return document_.get(); }
   PanelView& View() const { return *view_; }
@@ -100,6 +104,9 @@ class MainWindow : public QMainWindow {
   /// Brings what acts on elements into line with the mode.
   void ShowEditing();
   void ConnectOverview();
+  void MakeExchangeMenu(QMenu& menu);
+  void AskImport();
+  void AskExport(const QString& suffix);
   QAction* Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)());
   void Retranslate();
   void RetranslateView();

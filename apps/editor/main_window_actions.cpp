@@ -67,6 +67,8 @@ void MainWindow::MakeActions() {
   Add(file, Text::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S, &MainWindow::SaveAs);
   Add(file, Text::Versions, QKeySequence(), &MainWindow::ShowVersions);
   file.addSeparator();
+  MakeExchangeMenu(file);
+  file.addSeparator();
   QAction* const quit = file.addAction(QString(), this, &QWidget::close);
   quit->setShortcut(Qt::CTRL | Qt::Key_Q);
   named_.push_back({quit, Text::Quit});
