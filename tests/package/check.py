@@ -228,7 +228,7 @@ class Package:
         build = self.fresh("static")
         run("cmake", "-S", SOURCE, "-B", build, "-G", "Ninja", "-DBUILD_SHARED_LIBS=OFF", "-DCMAKE_CXX_COMPILER=" + self.compiler)
         words = run("pkg-config", "--libs", "plexel-qt", env={"PKG_CONFIG_PATH": os.path.join(build, "pkgconfig")}).split()
-        wanted = ["-lplexel-qt", "-lplexel-files", "-lplexel", "-lQt6Svg", "-lxkbcommon-x11", "-lxcb"]
+        wanted = ["-lplexel-qt", "-lplexel-files", "-lplexel", "-lQt6Svg", "-lxkbcommon-x11", "-lxcb-xtest", "-lxcb"]
         expect(not set(wanted) - set(words), str(words))
         expect(words.index("-lplexel-qt") < words.index("-lplexel-files") < words.index("-lplexel"), str(words))
 
