@@ -41,6 +41,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
   MakeActions();
   ConnectElements();
   ConnectOverview();
+  ConnectReading();
   ConnectSafekeeping();
   platform_.Register(*windowObject_, *this);
   platform_.OnFailure([this](const std::string& what) { Tell(Text::Failed, ToQt(what)); });
@@ -67,6 +68,7 @@ MainWindow::~MainWindow() {
   safekeeping_.Leave();
   overview_->Show(nullptr);
   view_->Show(nullptr);
+  problems_.Show(nullptr);
   document_.reset();
   platform_.OnFailure(nullptr);
   platform_.Notes(nullptr);
@@ -90,6 +92,7 @@ void MainWindow::MakeContent() {
   limits_->setVisible(!platform_.HasFullCapture());
   layout->addWidget(limits_);
   setCentralWidget(content);
+  MakeReading();
   log_ = new LogPanel(this);
   addDockWidget(Qt::BottomDockWidgetArea, log_);
   constexpr int LogHeight = 120;
@@ -101,6 +104,7 @@ void MainWindow::MakeContent() {
   overview_->hide();
   status_ = new ElidedLabel;
   statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(problemCount_);
   zoomFigure_ = new QToolButton;
   zoomFigure_->setObjectName("ZoomFigure");
   zoomFigure_->setAutoRaise(true);
@@ -142,14 +146,17 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   safekeeping_.Watch(nullptr);
   overview_->Show(nullptr);
   view_->Show(nullptr);
+  problems_.Show(nullptr);
   document_ = std::move(document);
   document_->Listen([this](std::span<const std::size_t> places) {
     Try(false);  // what was tried is no longer what stands there
+    problems_.Changed(places);
     ShowChange();
     overview_->Changed(places);
   });
   view_->Show(document_.get());
   overview_->Show(document_.get());
+  problems_.Show(document_.get());
   view_->setFocus();
   ShowZoom();
   ShowChange();

@@ -10,6 +10,7 @@
 #include "editor/editor_host.h"
 #include "editor/editor_store.h"
 #include "editor/form_notes.h"
+#include "editor/live_problems.h"
 #include "editor/safekeeping.h"
 #include "editor/selection.h"
 #include "editor/texts.h"
@@ -34,6 +35,7 @@ class OverviewPanel;
 class NoticeBar;
 class PanelScroll;
 class PanelView;
+class ProblemPanel;
 class RecentMenu;
 class TrialDock;
 class TrialMode;
@@ -63,6 +65,8 @@ class MainWindow : public QMainWindow {
   PanelView& View() const { return *view_; }
   LogPanel& Log() const { return *log_; }
   OverviewPanel& Overview() const { return *overview_; }
+  ProblemPanel& ProblemList() const { return *problemList_; }
+  const LiveProblems& TheProblems() const { return problems_; }
   /// What the user means of the elements; shared by all that shows them.
   Selection& TheSelection() { return selection_; }
   QString StatusText() const;
@@ -95,6 +99,15 @@ class MainWindow : public QMainWindow {
   void MakeSelectMenu(QMenu& menu);
   void MakeViewMenu(QMenu& menu);
   void MakeToolBar();
+  void MakeReading();
+  void ConnectReading();
+  void RetranslateReading();
+  /// Counts the problems in the status bar.
+  void ShowProblemCount();
+  /// Opens where a problem of an element is mended.
+  void OpenProblem(int place, const Problem& problem);
+  /// Moves the keyboard from the picture to the panels beside it, and on.
+  void GoToNextArea();
   void ConnectElements();
   void MakeTrial();
   void AddTrial(QMenu& menu);
@@ -209,11 +222,14 @@ class MainWindow : public QMainWindow {
   std::shared_ptr<EditorWindowObject> windowObject_ = std::make_shared<EditorWindowObject>();
   Safekeeping safekeeping_;
   std::unique_ptr<PanelDocument> document_;
+  LiveProblems problems_;
   NoticeBar* notice_ = nullptr;
   PanelView* view_ = nullptr;
   PanelScroll* scroll_ = nullptr;
   LogPanel* log_ = nullptr;
   OverviewPanel* overview_ = nullptr;
+  ProblemPanel* problemList_ = nullptr;
+  QToolButton* problemCount_ = nullptr;
   ElidedLabel* status_ = nullptr;
   QLabel* limits_ = nullptr;
   QToolButton* zoomFigure_ = nullptr;

@@ -115,6 +115,7 @@ void MainWindow::Retranslate() {
   RetranslateTools();
   limits_->setText(Say(Text::CaptureIsPartial));
   RetranslateView();
+  RetranslateReading();
   ShowStatus();
   ShowTitle();
   ShowHistory();

@@ -14,6 +14,7 @@
 #include "editor/overview_panel.h"
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
+#include "editor/problem_panel.h"
 #include "editor/trial_mode.h"
 
 namespace plexel {
@@ -90,8 +91,11 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
   named_.push_back({tools_->toggleViewAction(), Text::ShowToolBar});
   menu.addAction(overview_->toggleViewAction());
   named_.push_back({overview_->toggleViewAction(), Text::ShowOverview});
+  menu.addAction(problemList_->toggleViewAction());
   menu.addAction(log_->toggleViewAction());
   named_.push_back({log_->toggleViewAction(), Text::ShowEvents});
+  menu.addSeparator();
+  Add(menu, Text::NextArea, Qt::Key_F6, &MainWindow::GoToNextArea);
 }
 
 void MainWindow::RetranslateView() {

@@ -6,12 +6,17 @@
 #include <algorithm>
 
 #include "editor/element_text.h"
+#include "editor/problem_texts.h"
 #include "qt/panel_painter.h"
+#include "qt/pictures.h"
 #include "qt/units.h"
 
 namespace plexel {
 
 namespace {
+constexpr int SmallestBadge = 11, LargestBadge = 14;
+/// How far marks and badges reach beyond a place.
+constexpr int Reach = std::max(ChoiceReach, LargestBadge * 2 / 5 + 1);
 constexpr int MostDirty = 64;  // single places to be painted anew, before it is the whole view
 
 /// A LED alone has no legend that a tick could cover.
@@ -120,8 +125,9 @@ void PanelView::paintEvent(QPaintEvent* event) {
     DrawPart(painter, document_->ThePanel().parts[static_cast<std::size_t>(part)]);
   }
   painter.restore();
-  const int reach = ChoiceReach;
-  for (const int place : PlacesIn(exposed.adjusted(-reach, -reach, reach, reach))) PaintPlace(painter, place);
+  const std::vector<int> places = PlacesIn(exposed.adjusted(-Reach, -Reach, Reach, Reach));
+  for (const int place : places) PaintPlace(painter, place);
+  for (const int place : places) PaintBadge(painter, place);
 }
 
 void PanelView::PaintPlace(QPainter& painter, int place) {
@@ -139,10 +145,25 @@ void PanelView::PaintPlace(QPainter& painter, int place) {
   if (marked_[static_cast<std::size_t>(place)]) DrawChoice(painter, box, palette().highlight().color());
 }
 
+QRect PanelView::BadgeRect(int place) const {
+  const int size = std::clamp(LargestBadge * document_->Zoom() / 100, SmallestBadge, LargestBadge);
+  const QPoint corner = PlaceRect(place).topLeft() - QPoint(size, size) * 2 / 5;
+  return {corner, QSize(size, size)};
+}
+
+void PanelView::PaintBadge(QPainter& painter, int place) {
+  const auto level = problemOf ? problemOf(place) : std::nullopt;
+  if (level) DrawPicture(painter, ProblemPicture(*level), BadgeRect(place));
+}
+
+void PanelView::BadgesChanged(std::span<const std::size_t> places) {
+  for (const std::size_t place : places) UpdatePlace(static_cast<int>(place));
+}
+
 void PanelView::UpdatePlace(int place) {
   if (dirty_ > MostDirty) return;
   if (++dirty_ > MostDirty) return update();
-  update(PlaceRect(place).adjusted(-ChoiceReach, -ChoiceReach, ChoiceReach, ChoiceReach));
+  update(PlaceRect(place).adjusted(-Reach, -Reach, Reach, Reach));
 }
 
 void PanelView::ElementChanged(const ctlPlexelBaseElement& element) {

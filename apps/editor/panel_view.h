@@ -1,13 +1,17 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
 #include "editor/place_index.h"
 #include "editor/selection.h"
 #include "project/panel_document.h"
+#include "project/problem.h"
 
 class QRubberBand;
 
@@ -52,6 +56,14 @@ class PanelView : public QWidget {
   QPoint Origin() const;
   /// The room round the panel that the view keeps at least, pixels.
   static constexpr int Margin = 24;
+
+  /// The graver level of the problems of a place, for its badge, and what its tool tip tells of them.
+  std::function<std::optional<ProblemLevel>(int place)> problemOf;
+  std::function<QStringList(int place)> problemTexts;
+  /// Where a place has its badge.
+  QRect BadgeRect(int place) const;
+  /// The badges of some places may be others; the places ascend.
+  void BadgesChanged(std::span<const std::size_t> places);
 
   std::function<void(const QPoint& globalPlace)> onMenu;
   std::function<void()> onProperties;
@@ -99,6 +111,7 @@ class PanelView : public QWidget {
   /// Chooses what lies between the anchor of the choice and a place, which becomes the current one.
   void ExtendTo(int place);
   void PaintPlace(QPainter& painter, int place);
+  void PaintBadge(QPainter& painter, int place);
   void UpdatePlace(int place);
   /// A rectangle of the view as one of the panel at zoom 100, a little larger.
   QRect OnPanel(const QRect& area) const;

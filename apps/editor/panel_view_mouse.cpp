@@ -33,7 +33,10 @@ void PanelView::ShowTip(const QPoint& at, const QPoint& globalPlace) {
   if (place < 0) return QToolTip::hideText();
   // What the texts hold is shown as it is: none of it is taken for mark-up.
   const QString text = TipText(*At(place).element, ToQt(At(place).part->legend)).join('\n').toHtmlEscaped();
-  QToolTip::showText(globalPlace, "<p style='white-space:pre'>" + text + "</p>", this, PlaceRect(place));
+  QString tip = "<p style='white-space:pre'>" + text + "</p>";
+  const QStringList problems = problemTexts ? problemTexts(place) : QStringList();
+  for (const QString& problem : problems) tip += "<p style='white-space:pre-wrap'>" + problem.toHtmlEscaped() + "</p>";
+  QToolTip::showText(globalPlace, tip, this, PlaceRect(place));
 }
 
 void PanelView::mousePressEvent(QMouseEvent* event) {

@@ -1,0 +1,95 @@
+#include "editor/live_problems.h"
+
+#include <QStringList>
+#include <algorithm>
+
+#include "element/ctlPlexelBaseElement.h"
+#include "project/panel_document.h"
+#include "qt/units.h"
+
+namespace plexel {
+
+void LiveProblems::Show(const PanelDocument* document) {
+  document_ = document;
+  Forget({});
+  if (document_ != nullptr) {
+    try {
+      problems_ = std::make_unique<Problems>(*document_);
+      counts_.resize(problems_->ElementCount());
+      for (std::size_t place = 0; place < counts_.size(); ++place) Count(place);
+    } catch (const std::exception& failure) {
+      Forget(failure.what());
+    }
+  }
+  if (onReset) onReset();
+}
+
+void LiveProblems::Forget(const QString& failure) {
+  problems_.reset();
+  counts_.clear();
+  failure_ = failure;
+}
+
+void LiveProblems::Changed(std::span<const std::size_t> places) {
+  if (document_ == nullptr) return;
+  if (!problems_) return Show(document_);
+  std::vector<std::size_t> touched;
+  try {
+    for (const std::size_t place : places) {
+      const std::vector<std::size_t> some = problems_->Recheck(problems_->Element(place));
+      touched.insert(touched.end(), some.begin(), some.end());
+    }
+  } catch (const std::exception& failure) {
+    Forget(failure.what());
+    if (onReset) onReset();
+    return;
+  }
+  std::ranges::sort(touched);
+  touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
+  for (const std::size_t place : touched) Count(place);
+  if (onChanged) onChanged(touched);
+}
+
+void LiveProblems::Retranslate() {
+  words_ = std::make_unique<ToldWords>();
+  Show(document_);
+}
+
+void LiveProblems::Count(std::size_t place) {
+  ProblemCounts counts;
+  for (const Problem& problem : problems_->Of(place)) {
+    ++(RowOf(problem.rule).level == ProblemLevel::Error ? counts.errors : counts.warnings);
+  }
+  counts_[place] = counts;
+}
+
+ProblemCounts LiveProblems::Counts() const {
+  return problems_ ? ProblemCounts{problems_->Errors(), problems_->Warnings()} : ProblemCounts();
+}
+
+std::optional<ProblemLevel> LiveProblems::LevelOf(int place) const {
+  if (place < 0 || place >= PlaceCount()) return std::nullopt;
+  const ProblemCounts counts = CountsOf(place);
+  if (counts.errors > 0) return ProblemLevel::Error;
+  return counts.warnings > 0 ? std::optional(ProblemLevel::Warning) : std::nullopt;
+}
+
+std::vector<Problem> LiveProblems::Of(int place) const {
+  return problems_ ? problems_->Of(static_cast<std::size_t>(place)) : std::vector<Problem>();
+}
+
+QString LiveProblems::TextOf(const Problem& problem) const {
+  return WithVisibleControls(ToQt(problems_->Text(problem, words_->Problems())));
+}
+
+QString LiveProblems::WholeText(const Problem& problem) const {
+  QStringList ahead = {LevelText(RowOf(problem.rule).level), LayersInWords(problem)};
+  ahead.removeAll(QString());
+  return ahead.join(", ") + ": " + TextOf(problem);
+}
+
+QString LiveProblems::ElementOf(const Problem& problem) const {
+  return WithVisibleControls(ToQt(problems_->Element(problem.element).Name()));
+}
+
+}  // namespace plexel

@@ -1,0 +1,82 @@
+#include "editor/main_window.h"
+
+#include <QToolButton>
+#include <array>
+
+#include "editor/panel_view.h"
+#include "editor/problem_panel.h"
+
+namespace plexel {
+
+void MainWindow::MakeReading() {
+  problemList_ = new ProblemPanel(problems_, selection_, this);
+  addDockWidget(Qt::BottomDockWidgetArea, problemList_);
+  constexpr int ListHeight = 190;
+  resizeDocks({problemList_}, {ListHeight}, Qt::Vertical);
+  problemCount_ = new QToolButton;
+  problemCount_->setObjectName("ProblemCount");
+  problemCount_->setAutoRaise(true);
+  problemCount_->setFocusPolicy(Qt::NoFocus);
+  connect(problemCount_, &QToolButton::clicked, this, [this] {
+    problemList_->show();
+    problemList_->raise();
+    problemList_->Enter();
+  });
+}
+
+void MainWindow::ConnectReading() {
+  problems_.onReset = [this] {
+    problemList_->Reset();
+    ShowProblemCount();
+    view_->update();
+  };
+  problems_.onChanged = [this](std::span<const std::size_t> places) {
+    problemList_->Update(places);
+    ShowProblemCount();
+    view_->BadgesChanged(places);
+  };
+  problemList_->onOpen = [this](int place, const Problem& problem) { Guarded([&] { OpenProblem(place, problem); }); };
+  view_->problemOf = [this](int place) { return problems_.LevelOf(place); };
+  view_->problemTexts = [this](int place) {
+    QStringList told;
+    for (const Problem& problem : problems_.Of(place)) told.append(problems_.WholeText(problem));
+    return told;
+  };
+}
+
+void MainWindow::RetranslateReading() {
+  problemList_->Retranslate();
+  problems_.Retranslate();
+  problemCount_->setToolTip(Say(Text::ProblemsTip));
+}
+
+void MainWindow::ShowProblemCount() {
+  problemCount_->setText(problems_.Failure().isEmpty() ? CountText(problems_.Counts()) : Say(Text::Problems) + ": ?");
+}
+
+void MainWindow::OpenProblem(int place, const Problem& problem) {
+  selection_.Only(place);
+  const bool isKeySwitch = view_->Selected()->ElementType() == Key;
+  if (problem.rule == ProblemRule::NumberTwice || isKeySwitch) return ShowProperties();
+  Configure();
+}
+
+void MainWindow::GoToNextArea() {
+  struct Area {
+    QWidget* whole;
+    std::function<void()> enter;
+  };
+  const std::array areas = {Area{view_, [this] { view_->setFocus(Qt::ShortcutFocusReason); }},
+                            Area{problemList_, [this] { problemList_->Enter(); }}};
+  const QWidget* const focus = focusWidget();
+  std::size_t at = 0;
+  for (std::size_t area = 0; area < areas.size(); ++area) {
+    if (areas[area].whole->isAncestorOf(focus)) at = area;
+  }
+  do {
+    at = (at + 1) % areas.size();
+  } while (!areas[at].whole->isVisible());
+  areas[at].enter();
+}
+
+}  // namespace plexel
