@@ -86,6 +86,8 @@ QString Cut(const QString& text) {
 
 }  // namespace
 
+QStringList NumbersText(const ctlPlexelBaseElement& element) { return Numbers(element, KindOf(element.ElementType())); }
+
 QString KindText(enumTactisBaseElementType type) { return Say(KindOf(type).text); }
 
 QStringList ElementText(const ctlPlexelBaseElement& element) {

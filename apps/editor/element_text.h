@@ -10,6 +10,8 @@ namespace plexel {
 QString KindText(enumTactisBaseElementType type);
 /// What the status line tells of an element: its name, kind, hardware numbers and definitions, one entry each.
 QStringList ElementText(const ctlPlexelBaseElement& element);
+/// The hardware numbers of an element as the properties tell them, one entry each.
+QStringList NumbersText(const ctlPlexelBaseElement& element);
 /// What an element is defined as, one entry a layer, or one for all where they are alike; empty when it is not defined.
 QStringList DefinitionText(const ctlPlexelBaseElement& element);
 

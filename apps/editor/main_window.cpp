@@ -14,6 +14,7 @@
 
 #include "editor/element_text.h"
 #include "editor/elided_label.h"
+#include "editor/inspector.h"
 #include "editor/key_guard.h"
 #include "editor/log_panel.h"
 #include "editor/notice_bar.h"
@@ -54,7 +55,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
     return Say(answer == MessageAnswer::Cancel ? Text::Cancel : Text::OK);
   });
   Retranslate();
-  constexpr QSize FirstSize(1100, 940);
+  constexpr QSize FirstSize(1360, 940);
   constexpr int Decoration = 60;
   resize(FirstSize.boundedTo(screen()->availableSize() - QSize(0, Decoration)));
   RestoreWindow();
@@ -68,6 +69,7 @@ MainWindow::~MainWindow() {
   safekeeping_.Leave();
   overview_->Show(nullptr);
   view_->Show(nullptr);
+  inspector_->Show(nullptr);
   problems_.Show(nullptr);
   document_.reset();
   platform_.OnFailure(nullptr);
@@ -146,6 +148,7 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   safekeeping_.Watch(nullptr);
   overview_->Show(nullptr);
   view_->Show(nullptr);
+  inspector_->Show(nullptr);
   problems_.Show(nullptr);
   document_ = std::move(document);
   document_->Listen([this](std::span<const std::size_t> places) {
@@ -157,6 +160,7 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   view_->Show(document_.get());
   overview_->Show(document_.get());
   problems_.Show(document_.get());
+  inspector_->Show(document_.get());
   view_->setFocus();
   ShowZoom();
   ShowChange();

@@ -30,6 +30,7 @@ class QToolButton;
 namespace plexel {
 
 class ElidedLabel;
+class Inspector;
 class LogPanel;
 class OverviewPanel;
 class NoticeBar;
@@ -66,6 +67,7 @@ class MainWindow : public QMainWindow {
   LogPanel& Log() const { return *log_; }
   OverviewPanel& Overview() const { return *overview_; }
   ProblemPanel& ProblemList() const { return *problemList_; }
+  Inspector& TheInspector() const { return *inspector_; }
   const LiveProblems& TheProblems() const { return problems_; }
   /// What the user means of the elements; shared by all that shows them.
   Selection& TheSelection() { return selection_; }
@@ -229,6 +231,7 @@ class MainWindow : public QMainWindow {
   LogPanel* log_ = nullptr;
   OverviewPanel* overview_ = nullptr;
   ProblemPanel* problemList_ = nullptr;
+  Inspector* inspector_ = nullptr;
   QToolButton* problemCount_ = nullptr;
   ElidedLabel* status_ = nullptr;
   QLabel* limits_ = nullptr;

@@ -13,6 +13,7 @@
 #include <QToolBar>
 #include <algorithm>
 
+#include "editor/inspector.h"
 #include "editor/log_panel.h"
 #include "editor/overview_panel.h"
 #include "editor/panel_view.h"
@@ -44,7 +45,12 @@ QString PanelTitle(const std::filesystem::path& directory, const std::string& na
 QAction* MainWindow::Add(QMenu& menu, Text text, const QKeySequence& keys, void (MainWindow::*act)()) {
   QAction* const action = menu.addAction(QString());
   action->setShortcut(keys);
-  connect(action, &QAction::triggered, this, [this, act] { Guarded([this, act] { (this->*act)(); }); });
+  connect(action, &QAction::triggered, this, [this, act] {
+    Guarded([this, act] {
+      inspector_->Commit();
+      (this->*act)();
+    });
+  });
   named_.push_back({action, text});
   return action;
 }
@@ -169,6 +175,7 @@ bool MainWindow::SaveAsked() {
 }
 
 bool MainWindow::MayLeaveProject() {
+  inspector_->Commit();
   if (!document_ || !document_->Modified()) return true;
   QMessageBox box(this);
   box.setIcon(QMessageBox::Question);

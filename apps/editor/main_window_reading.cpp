@@ -3,6 +3,7 @@
 #include <QToolButton>
 #include <array>
 
+#include "editor/inspector.h"
 #include "editor/panel_view.h"
 #include "editor/problem_panel.h"
 
@@ -13,6 +14,10 @@ void MainWindow::MakeReading() {
   addDockWidget(Qt::BottomDockWidgetArea, problemList_);
   constexpr int ListHeight = 190;
   resizeDocks({problemList_}, {ListHeight}, Qt::Vertical);
+  inspector_ = new Inspector(selection_, problems_, this);
+  addDockWidget(Qt::RightDockWidgetArea, inspector_);
+  constexpr int InspectorWidth = 260;
+  resizeDocks({inspector_}, {InspectorWidth}, Qt::Horizontal);
   problemCount_ = new QToolButton;
   problemCount_->setObjectName("ProblemCount");
   problemCount_->setAutoRaise(true);
@@ -27,15 +32,36 @@ void MainWindow::MakeReading() {
 void MainWindow::ConnectReading() {
   problems_.onReset = [this] {
     problemList_->Reset();
+    inspector_->Refresh();
     ShowProblemCount();
     view_->update();
   };
   problems_.onChanged = [this](std::span<const std::size_t> places) {
     problemList_->Update(places);
+    inspector_->Refresh();
     ShowProblemCount();
     view_->BadgesChanged(places);
   };
   problemList_->onOpen = [this](int place, const Problem& problem) { Guarded([&] { OpenProblem(place, problem); }); };
+  inspector_->onConfigure = [this] {
+    Guarded([this] {
+      Try(false);
+      Configure();
+    });
+  };
+  inspector_->onProperties = [this] {
+    Guarded([this] {
+      Try(false);
+      ShowProperties();
+    });
+  };
+  inspector_->onProblem = problemList_->onOpen;
+  inspector_->onNotes = [this](int place, const std::string& notes) {
+    Guarded([&] {
+      ctlPlexelBaseElement& element = *document_->Places()[static_cast<std::size_t>(place)].element;
+      Change(StepKind::Notes, element, [&] { element.ButtonNotes(notes); });
+    });
+  };
   view_->problemOf = [this](int place) { return problems_.LevelOf(place); };
   view_->problemTexts = [this](int place) {
     QStringList told;
@@ -46,6 +72,7 @@ void MainWindow::ConnectReading() {
 
 void MainWindow::RetranslateReading() {
   problemList_->Retranslate();
+  inspector_->Retranslate();
   problems_.Retranslate();
   problemCount_->setToolTip(Say(Text::ProblemsTip));
 }
@@ -55,6 +82,7 @@ void MainWindow::ShowProblemCount() {
 }
 
 void MainWindow::OpenProblem(int place, const Problem& problem) {
+  Try(false);
   selection_.Only(place);
   const bool isKeySwitch = view_->Selected()->ElementType() == Key;
   if (problem.rule == ProblemRule::NumberTwice || isKeySwitch) return ShowProperties();
@@ -67,6 +95,7 @@ void MainWindow::GoToNextArea() {
     std::function<void()> enter;
   };
   const std::array areas = {Area{view_, [this] { view_->setFocus(Qt::ShortcutFocusReason); }},
+                            Area{inspector_, [this] { inspector_->Enter(); }},
                             Area{problemList_, [this] { problemList_->Enter(); }}};
   const QWidget* const focus = focusWidget();
   std::size_t at = 0;

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "editor/element_text.h"
+#include "editor/inspector.h"
 #include "editor/log_panel.h"
 #include "editor/overview_panel.h"
 #include "editor/panel_scroll.h"
@@ -91,6 +92,7 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
   named_.push_back({tools_->toggleViewAction(), Text::ShowToolBar});
   menu.addAction(overview_->toggleViewAction());
   named_.push_back({overview_->toggleViewAction(), Text::ShowOverview});
+  menu.addAction(inspector_->toggleViewAction());
   menu.addAction(problemList_->toggleViewAction());
   menu.addAction(log_->toggleViewAction());
   named_.push_back({log_->toggleViewAction(), Text::ShowEvents});

@@ -7,6 +7,7 @@
 namespace plexel {
 
 NoticeBar::NoticeBar() : text_(new QLabel), layout_(new QHBoxLayout(this)) {
+  setObjectName("notice");
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::ToolTipBase);

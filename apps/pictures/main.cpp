@@ -142,7 +142,7 @@ class PictureMaker {
     } else if (!window.OpenProject(project_)) {
       throw std::runtime_error(project_ + " cannot be opened");
     }
-    window.resize(1100, 940);
+    window.resize(1360, 940);
     window.View().Select(20);
     window.show();
     QCoreApplication::processEvents();
@@ -214,12 +214,16 @@ class PictureMaker {
     window.NewProject("Large");
     int place = 0;
     for (const PanelDocument::Place& one : window.Document()->Places()) {
-      if (++place % 3 == 0 && one.element->ElementType() == RectLed) {
-        one.element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
-        one.element->LEDTypeLayer1(UserLed);
-      }
+      if (++place % 3 != 0 || one.element->ElementType() != RectLed) continue;
+      one.element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
+      PutBytes(*one.element, {0x14, 0x1C, 0xF0, 0x1C, 0xF0, 0x14}, {});
+      one.element->ButtonNotes("Selects everything on the page.");
     }
-    window.Document()->Refresh();
+    // One of them never lets a key go, and shows what the panel does not offer.
+    ctlPlexelBaseElement& wrong = *window.Document()->Places()[WrongPlace].element;
+    PutBytes(wrong, {0x14, 0x1C, 0xF0, 0x1C}, {});
+    wrong.LEDTypeLayer1(UserLed);
+    window.SettingsChanged();
   }
 
   void TakeWizard() {
@@ -252,6 +256,8 @@ class PictureMaker {
   }
 
   static constexpr int OverviewHeight = 340;
+
+  static constexpr std::size_t WrongPlace = 20;  ///< of the sample: a key with problems
 
   QDir target_;
   std::string project_;

@@ -22,7 +22,7 @@ class Kept : public Editor {
     }
     return count;
   }
-  NoticeBar& Notice() { return *window.findChild<NoticeBar*>(); }
+  NoticeBar& Notice() { return dynamic_cast<NoticeBar&>(*window.findChild<QFrame*>("notice")); }
   QPushButton* Choice(const QString& text) {
     for (QPushButton* const button : Notice().findChildren<QPushButton*>()) {
       if (button->text().remove('&') == text) return button;
