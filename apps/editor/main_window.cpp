@@ -102,7 +102,6 @@ void MainWindow::MakeContent() {
   log_->hide();
   overview_ = new OverviewPanel(selection_, this);
   addDockWidget(Qt::BottomDockWidgetArea, overview_);
-  tabifyDockWidget(log_, overview_);
   overview_->hide();
   status_ = new ElidedLabel;
   statusBar()->addWidget(status_, 1);

@@ -98,6 +98,8 @@ class MainWindow : public QMainWindow {
   };
   void MakeActions();
   void MakeContent();
+  /// What lies below the picture shares one place, and what is asked for comes to the front.
+  void GatherDocks();
   void MakeSelectMenu(QMenu& menu);
   void MakeViewMenu(QMenu& menu);
   void MakeToolBar();

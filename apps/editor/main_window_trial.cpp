@@ -34,6 +34,7 @@ void MainWindow::MakeTrial() {
   trialDock_ = new TrialDock(this);
   addDockWidget(Qt::BottomDockWidgetArea, trialDock_);
   trialDock_->hide();
+  GatherDocks();
   trial_ = std::make_unique<TrialMode>(*view_, *trialDock_, selection_);
   trial_->onLeave = [this] { Try(false); };
   trial_->onChange = [this] { view_->Layer(trial_->State().Layer()); };

@@ -3,11 +3,14 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QMenu>
+#include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 
 #include "editor/element_text.h"
 #include "editor/inspector.h"
@@ -16,6 +19,7 @@
 #include "editor/panel_scroll.h"
 #include "editor/panel_view.h"
 #include "editor/problem_panel.h"
+#include "editor/trial_dock.h"
 #include "editor/trial_mode.h"
 
 namespace plexel {
@@ -38,6 +42,18 @@ QString LayerText(std::int32_t layer) {
 }
 
 }  // namespace
+
+void MainWindow::GatherDocks() {
+  setTabPosition(Qt::BottomDockWidgetArea, QTabWidget::North);
+  for (QDockWidget* const dock : std::initializer_list<QDockWidget*>{log_, overview_, trialDock_}) {
+    tabifyDockWidget(problemList_, dock);
+  }
+  for (QDockWidget* const dock : std::initializer_list<QDockWidget*>{problemList_, log_, overview_, trialDock_}) {
+    connect(dock->toggleViewAction(), &QAction::triggered, dock, [dock](bool shown) {
+      if (shown) dock->raise();
+    });
+  }
+}
 
 void MainWindow::MakeSelectMenu(QMenu& menu) {
   QMenu* const select = menu.addMenu(QString());

@@ -37,6 +37,7 @@ void TrialMode::Enter(const PanelDocument& document, std::int32_t layer) {
   layer_->show();
   layer_->setFocus();
   dock_.show();
+  dock_.raise();
   Changed();
 }
 
