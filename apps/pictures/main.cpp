@@ -201,7 +201,7 @@ class PictureMaker {
 
   /// The overview with what a search has found.
   void TakeOverview(MainWindow& window) {
-    window.Overview().show();
+    window.Overview().Find();
     window.resizeDocks({&window.Overview()}, {OverviewHeight}, Qt::Vertical);
     window.Overview().findChild<QLineEdit*>("FindWords")->setText("ctrl");
     QCoreApplication::processEvents();
