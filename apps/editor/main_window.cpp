@@ -68,6 +68,7 @@ MainWindow::~MainWindow() {
   Try(false);
   safekeeping_.Leave();
   overview_->Show(nullptr);
+  overview_->onFound = nullptr;  // it hides when the window takes its children along
   view_->Show(nullptr);
   inspector_->Show(nullptr);
   problems_.Show(nullptr);
