@@ -57,7 +57,7 @@ MainWindow::MainWindow(Component& component, FileSurroundings& surroundings, QtP
   Retranslate();
   constexpr QSize FirstSize(1360, 940);
   constexpr int Decoration = 60;
-  resize(FirstSize.boundedTo(screen()->availableSize() - QSize(0, Decoration)));
+  resize(FirstSize.boundedTo(screen()->availableSize() - QSize(Decoration, Decoration)));
   RestoreWindow();
   trialDock_->hide();
   setAcceptDrops(true);

@@ -16,7 +16,7 @@ void MainWindow::AddVirtualPanel(QMenu& menu) {
   const bool hasX = XConnection() != nullptr;
   QAction* const action = menu.addAction(QString());
   action->setObjectName("VirtualPanel");
-  action->setShortcut(Qt::Key_F6);
+  action->setShortcut(Qt::SHIFT | Qt::Key_F5);
   action->setEnabled(hasX);
   named_.push_back({action, hasX ? Text::VirtualPanel : Text::VirtualNeedsX});
   connect(action, &QAction::triggered, this, [this] { Guarded([this] { ShowVirtualPanel(); }); });

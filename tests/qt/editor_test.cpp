@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <set>
 
 #include "editor/log_panel.h"
@@ -415,6 +416,18 @@ TEST_F(Editor, EveryMenuAndEntryHasALetterOfItsOwnInBothLanguages) {
     expectOwnLetters(window.menuBar()->actions());
     for (const QAction* const menu : window.menuBar()->actions()) expectOwnLetters(menu->menu()->actions());
   }
+}
+
+TEST_F(Editor, NoKeyStandsForTwoEntries) {
+  std::map<QString, QString> entries;
+  for (const QAction* const action : window.findChildren<QAction*>()) {
+    for (const QKeySequence& keys : action->shortcuts()) {
+      const auto [taken, isNew] = entries.emplace(keys.toString(), action->text());
+      EXPECT_TRUE(isNew) << keys.toString().toStdString() << ": " << taken->second.toStdString() << " and "
+                         << action->text().toStdString();
+    }
+  }
+  EXPECT_GT(entries.size(), 20U);
 }
 
 TEST_F(Editor, ATopicOfTheHelpIsShownAndAMissingOneOpensNothing) {

@@ -83,7 +83,7 @@ class StartedEditor(Editor):
 
 
 def changed_by_another(tools, folder):
-    for language, take in (("English", "LeftAlt+t"), ("German", "LeftAlt+n")):
+    for language, take in (("English", "LeftAlt+t"), ("German", "LeftAlt+r")):
         with Desktop(tools, folder) as desktop:
             editor = recorded(desktop, tools, folder, language=language, settings={})
             empty = editor.project.read_bytes()

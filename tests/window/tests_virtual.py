@@ -39,7 +39,7 @@ class VirtualPanel:
         self.desktop = desktop
         self.editor = Editor(desktop, tools, project, language=language, settings={})
         title = self.editor.texts[21122].split("%1")[0]
-        press(desktop, "F6")
+        press(desktop, "LeftShift+F5")
 
         def shown():
             return next((one for one in desktop.windows() if one["title"].startswith(title)), None)
