@@ -42,6 +42,7 @@ void MakePanel(std::int64_t count) {
     file << "\n[KEY]\nPlace=" << number % row * pitch << ' ' << number / row * pitch << ' ' << size << ' ' << size
          << "\nElement=K" << number << "\nElementType=5\nHardwareNumberButton=" << number + 1 << "\n";
   }
+  file << "\n[END]\n";
 }
 
 ElementRecord Definition() {
