@@ -16,15 +16,23 @@ namespace {
 
 using ::testing::HasSubstr;
 
-class Recovery : public OpenDocument {
+class UnsavedWork : public OpenDocument {
  protected:
-  void Watch() {
-    document->Listen([this](std::span<const std::size_t> places) { keeper.Changed(places); });
-    keeper.Watch(document.get());
-  }
   void Note(const std::string& id, const std::string& text) {
     Change({id.c_str()}, [&] { Element(id).ButtonNotes(text); });
   }
+  void Watch(RecoveryKeeper& keeper) {
+    document->Listen([&keeper](std::span<const std::size_t> places) { keeper.Changed(places); });
+    keeper.Watch(document.get());
+  }
+  std::filesystem::path Store() { return directory.Path() / "recovery"; }
+
+  TemporaryDirectory directory;
+};
+
+class Recovery : public UnsavedWork {
+ protected:
+  void Watch() { UnsavedWork::Watch(keeper); }
   bool FileStands() { return std::filesystem::exists(keeper.File()); }
   std::string Content() {
     std::ifstream file(keeper.File(), std::ios::binary);
@@ -32,8 +40,7 @@ class Recovery : public OpenDocument {
   }
   RecoveryFile Kept() { return ParseRecovery(TextFile(keeper.File())); }
 
-  TemporaryDirectory directory;
-  RecoveryKeeper keeper{directory.Path() / "recovery", [] { return std::int64_t{1732250000}; }};
+  RecoveryKeeper keeper{Store(), [] { return std::int64_t{1732250000}; }};
 };
 
 TEST_F(Recovery, AnUnmodifiedProjectHasNoFile) {
@@ -120,15 +127,22 @@ TEST_F(Recovery, AFailureIsToldAndTheNextWritingTriesAgain) {
 }
 
 TEST_F(Recovery, TwoProgramsDoNotShareAFile) {
-  RecoveryKeeper other(directory.Path() / "recovery", [] { return std::int64_t{}; });
+  RecoveryKeeper other(Store(), [] { return std::int64_t{}; });
   EXPECT_NE(other.File(), keeper.File());
 }
 
 /// A program that is killed with unsaved work.
-class LostWorkFound : public Recovery {
+class LostWorkFound : public UnsavedWork {
  protected:
-  /// Runs in a process of its own, which ends without any clean-up.
+  void SetUp() override {
+    UnsavedWork::SetUp();
+    std::filesystem::create_directory(Store());
+  }
+  /// Runs in a process of its own, which ends without any clean-up. A keeper's thread of this process may hold a lock
+  /// of the allocator, which nobody would let go of there: hence none may be.
   void InAProcessThatIsKilled(const std::function<void()>& act) {
+    const std::filesystem::directory_iterator threads("/proc/self/task");
+    ASSERT_EQ(std::distance(begin(threads), end(threads)), 1);
     const pid_t process = ::fork();
     ASSERT_GE(process, 0);
     if (process == 0) {
@@ -137,7 +151,6 @@ class LostWorkFound : public Recovery {
     }
     ::waitpid(process, nullptr, 0);
   }
-  std::filesystem::path Store() { return directory.Path() / "recovery"; }
   void PutLost(const std::string& name, std::int64_t time, const std::string& tail = {}) {
     std::ofstream(Store() / name, std::ios::binary)
         << FormatRecoveryHead({"/somewhere/" + name, time}) << FormatProject(document->Content()) << tail;
@@ -148,8 +161,7 @@ class LostWorkFound : public Recovery {
 TEST_F(LostWorkFound, BehindAProgramThatWasKilled) {
   InAProcessThatIsKilled([&] {
     RecoveryKeeper killed(Store(), [] { return std::int64_t{7}; });
-    killed.Watch(document.get());
-    document->Listen([&](std::span<const std::size_t> places) { killed.Changed(places); });
+    Watch(killed);
     Note("F3", "lost");
     killed.Flush();
     ::_exit(0);
@@ -165,7 +177,8 @@ TEST_F(LostWorkFound, BehindAProgramThatWasKilled) {
 }
 
 TEST_F(LostWorkFound, NotBehindAProgramThatRuns) {
-  Watch();
+  RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
+  Watch(keeper);
   Note("F3", "mine");
   keeper.Flush();
   EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
