@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 #include <string_view>
 #include <system_error>
 #include <unordered_map>
@@ -185,11 +186,23 @@ void PanelDocument::FileIsLost(const std::filesystem::path& file) {
   file_ = file;
   hash_ = 0;
   fileIsOther_ = true;
+  try {
+    hash_ = HashOf(ReadWholeFile(file_, ProjectLimit));
+  } catch (const FileError&) {  // what cannot be read is not known either
+  }
 }
 
 void PanelDocument::RequireSamePanel(const PanelDocument& other) const {
-  if (other.panelName_ == panelName_ && other.places_.size() == places_.size()) return;
-  throw FileError(other.file_, 0, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
+  if (other.panelName_ != panelName_) {
+    throw FileError(other.file_, 0, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
+  }
+  const auto names = [](const PanelDocument& document) {
+    std::set<std::string_view> all;
+    for (const Place& place : document.places_) all.insert(place.element->Name());
+    return all;
+  };
+  if (names(other) == names(*this)) return;
+  throw FileError(other.file_, 0, "its panel \"" + panelName_ + "\" has other elements than the one that is open");
 }
 
 template <typename Visit>

@@ -77,12 +77,14 @@ class PanelDocument {
   /// The file compared with what this document read or wrote last. Only for a document with a file.
   enum class OnDisk { Same, Other, Gone };
   OnDisk FileNow() const;
-  /// Takes over all values of a project on the same panel, as one step; FileError for another panel.
+  /// Takes over all values of a project on the same panel, as one step; FileError for another panel, or for one of the
+  /// same name with other elements.
   void Become(StepKind kind, const PanelDocument& other);
   /// Takes a project that was just read from a file as what that file holds; the values here stay. FileError for
   /// another panel.
   void FileHolds(const PanelDocument& other);
-  /// The file is gone, or holds something else: the project counts as modified until it is saved.
+  /// The file is gone, or holds something else, which is known from now on: the project counts as modified until it is
+  /// saved.
   void FileIsLost(const std::filesystem::path& file);
 
   /// Runs what may change the elements of some places, and keeps what it has changed as one step; no step when nothing

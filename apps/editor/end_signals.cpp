@@ -17,7 +17,7 @@ namespace {
 std::array<int, 2> channel = {-1, -1};
 constexpr std::array endings = {SIGTERM, SIGINT, SIGHUP};
 
-extern "C" void Heard(int) {
+extern "C" void TellSignal(int) {
   const int error = errno;
   const char byte = 0;
   [[maybe_unused]] const ssize_t written = ::write(channel[1], &byte, 1);
@@ -31,11 +31,12 @@ EndSignals::EndSignals(std::function<void()> keep) : keep_(std::move(keep)) {
   notifier_ = std::make_unique<QSocketNotifier>(channel[0], QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, [this] {
     notifier_->setEnabled(false);
+    heard_ = true;
     keep_();
     QApplication::exit(0);
   });
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) { keep_(); });
-  for (const int ending : endings) std::signal(ending, Heard);
+  for (const int ending : endings) std::signal(ending, TellSignal);
 }
 
 EndSignals::~EndSignals() {

@@ -16,9 +16,13 @@ class EndSignals : public QObject {
   explicit EndSignals(std::function<void()> keep);
   ~EndSignals() override;
 
+  /// Whether a signal has ended the program: an event loop must not be entered any more.
+  bool Heard() const { return heard_; }
+
  private:
   std::function<void()> keep_;
   std::unique_ptr<QSocketNotifier> notifier_;
+  bool heard_ = false;
 };
 
 }  // namespace plexel

@@ -58,7 +58,7 @@ int Run(const QString& project) {
   TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
   const bool opened = window.OfferLostWork() || (!project.isEmpty() && window.OpenProject(project.toStdString()));
   if (!opened && !window.StartEmpty()) return 1;
-  return QApplication::exec();
+  return ends.Heard() ? 0 : QApplication::exec();
 }
 
 /// Writes a report of a project, without a window.

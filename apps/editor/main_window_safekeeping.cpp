@@ -218,8 +218,12 @@ bool MainWindow::OfferLostWork() {
     const LostAnswer answer = AskAboutLost(work.content, Site(), this);
     if (answer == LostAnswer::Discard && Confirm(Say(Text::AskDiscard), Say(Text::Discard), this)) Forget(work);
     if (answer != LostAnswer::BringBack) continue;
-    BringBack(work);
-    brought = true;
+    try {
+      BringBack(work);
+      brought = true;
+    } catch (const FileError& failure) {
+      Tell(Text::CannotBecome, ToQt(std::string_view(failure.what())));
+    }
   }
   if (!damaged.empty()) {
     QStringList lines;

@@ -145,7 +145,12 @@ void Safekeeping::CheckFile() {
   if (told_ == state) return;
   const bool first = !told_;
   told_ = state;
-  if ((now != PanelDocument::OnDisk::Same || !first) && onFileChanged) onFileChanged(now);
+  if (now == PanelDocument::OnDisk::Same && first) return;
+  if (onFileChanged) onFileChanged(now);
+  if (keeper_) {  // what the project holds may be nowhere else any more
+    keeper_->Saved();
+    Note();
+  }
 }
 
 }  // namespace plexel

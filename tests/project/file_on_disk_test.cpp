@@ -92,6 +92,25 @@ TEST_F(FileOnDisk, TheProjectOfAnotherPanelIsRefused) {
   EXPECT_FALSE(document->Modified());
 }
 
+TEST_F(FileOnDisk, APanelOfTheSameNameWithOtherElementsIsRefused) {
+  document->CarriesPanel(true);
+  Project project = document->Content();
+  const auto rename = [](std::string& text, const std::string& from, const std::string& to) {
+    const std::size_t place = text.find(from);
+    ASSERT_NE(place, std::string::npos);
+    text.replace(place, from.size(), to);
+  };
+  rename(project.panelText, "Element=F3\n", "Element=X3\n");
+  for (ProjectElement& element : project.elements) {
+    if (element.place == "F3") element.place = "X3";
+  }
+  const auto other = PanelDocument::Of(project, file, Site());
+  ASSERT_EQ(other->Places().size(), document->Places().size());
+  EXPECT_THROW(document->Become(StepKind::Restore, *other), FileError);
+  EXPECT_THROW(document->FileHolds(*other), FileError);
+  EXPECT_FALSE(document->Steps().CanUndo());
+}
+
 TEST_F(FileOnDisk, ElementsKeepTheOrderOfTheFileAndThoseOfThePanelAloneFollow) {
   Project project = ReadProject(file);
   const std::string first = project.elements.front().place, last = project.elements.back().place;

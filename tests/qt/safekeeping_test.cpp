@@ -3,6 +3,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <fstream>
+#include <iterator>
 
 #include "editor/notice_bar.h"
 #include "editor/versions_dialog.h"
@@ -168,6 +170,43 @@ TEST_F(Kept, AFileThatIsRemovedIsToldAndTheProjectCountsAsModified) {
   EXPECT_TRUE(window.isWindowModified());
   EXPECT_TRUE(window.SaveProject(File("a.plexel")));
   EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(Kept, AProjectWhoseFileIsGoneIsKeptInTheRecoveryFile) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  EXPECT_EQ(RecoveryFiles(), 0U);
+  std::filesystem::remove(File("a.plexel"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return RecoveryFiles() == 1; }, 10'000));
+}
+
+TEST_F(Kept, KeepingMineAgainstADamagedFileIsAskedOnce) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  std::filesystem::resize_file(File("a.plexel"), 30);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  Choice("Keep mine")->click();
+  EXPECT_TRUE(window.isWindowModified());
+  QTest::qWait(800);
+  EXPECT_FALSE(Notice().isVisible());
+}
+
+TEST_F(Kept, LostWorkOnAPanelThatIsMissingIsToldAndStays) {
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  const auto lost = File("state") / "recovery" / "1-1.recovery";
+  std::ifstream file(lost, std::ios::binary);
+  std::string text{std::istreambuf_iterator<char>(file), {}};
+  text.replace(text.find("Panel=Large"), 11, "Panel=Ghost");
+  std::ofstream(lost, std::ios::binary) << text;
+  QString told;
+  AnswerNextBox([&](QMessageBox& box) {
+    AnswerNextBox([&](QMessageBox& next) { told = next.informativeText(); });
+    box.defaultButton()->click();
+  });
+  EXPECT_FALSE(window.OfferLostWork());
+  EXPECT_TRUE(told.contains("Ghost")) << told.toStdString();
+  EXPECT_TRUE(std::filesystem::exists(lost));
 }
 
 TEST_F(Kept, SavingOverAFileThatChangedAsksFirst) {
