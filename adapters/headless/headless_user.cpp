@@ -1,6 +1,7 @@
 #include "headless/headless_user.h"
 
 #include <iterator>
+#include <stdexcept>
 #include <string>
 
 #include "forms/hand.h"
@@ -11,7 +12,7 @@ namespace plexel {
 
 Form& HeadlessUser::Dialog() const {
   Form* const form = platform_.Modal().Topmost();
-  if (form == nullptr) throw Failure(FailureKind::ObjectNotSet, "no dialog is open");
+  if (form == nullptr) throw std::logic_error("no dialog is open");
   return *form;
 }
 
@@ -20,7 +21,7 @@ Kind& HeadlessUser::Named(std::string_view control) const {
   const Form& form = Dialog();
   auto* const found = dynamic_cast<Kind*>(form.Find(control));
   if (found == nullptr) {
-    throw Failure(FailureKind::NoSuchMember, form.Name() + " has no such control: " + std::string(control));
+    throw std::logic_error(form.Name() + " has no such control: " + std::string(control));
   }
   return *found;
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -87,16 +88,24 @@ TEST_F(User, PressesKeysTogetherAndLetsGoOfThem) {
   EXPECT_EQ(form.told, (std::vector<std::string>{"down 17/2", "down 65/2"}));
 }
 
-TEST_F(User, AWrongNameIsAFailure) {
+TEST_F(User, AWrongNameIsAMistakeOfTheProgram) {
   Show([](HeadlessUser user) {
-    EXPECT_EQ(KindOf([&] { user.Click("cmdNone"); }), FailureKind::NoSuchMember);
-    EXPECT_EQ(KindOf([&] { user.Click("cmdButton", 1, 1); }), FailureKind::NoSuchMember);
-    EXPECT_EQ(KindOf([&] { user.Type("msgGrid", "a"); }), FailureKind::NoSuchMember);
+    EXPECT_THROW(user.Click("cmdNone"), std::logic_error);
+    EXPECT_THROW(user.Click("cmdButton", 1, 1), std::logic_error);
+    EXPECT_THROW(user.Type("msgGrid", "a"), std::logic_error);
   });
 }
 
+TEST_F(User, AWrongNameReachesWhoOpenedTheConfigurationDialog) {
+  const auto element = component.Create("A", host);
+  element->ElementType(Rect);
+  platform.Modal().onRun = [this](Form&) { HeadlessUser(platform).Click("cmdNone"); };
+  EXPECT_THROW(element->OpenConfigurationDialog(), std::logic_error);
+  EXPECT_TRUE(platform.Modal().Shown().empty());
+}
+
 TEST_F(User, WithoutADialogThereIsNothingToActOn) {
-  EXPECT_EQ(KindOf([this] { HeadlessUser(platform).Click("cmdButton"); }), FailureKind::ObjectNotSet);
+  EXPECT_THROW(HeadlessUser(platform).Click("cmdButton"), std::logic_error);
 }
 
 }  // namespace
