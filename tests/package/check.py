@@ -17,6 +17,7 @@ INTERNAL = ["services/module_state.h", "element/packed_codes.h", "element/proper
 LIBRARIES = {"plexel": [], "plexel-headless": ["plexel"], "plexel-files": ["plexel"],
              "plexel-qt": ["plexel", "plexel-files", "Qt6Widgets"]}
 CONSOLE_OUTPUT = "F1 is new\n[Ctrl Left+a‹›]\nFF 14 1C F0 1C F0 14 FF\n"
+PROJECT_OUTPUT = "[Ctrl Left+Alt+F5‹] FF 14 11 03 FF\n[Ctrl Left+Alt+F5›] FF F0 03 F0 11 F0 14 FF\n"
 
 
 class Wrong(Exception):
@@ -142,6 +143,15 @@ class Package:
         output = run(self.example("console"))
         expect(output == CONSOLE_OUTPUT, output)
 
+    def project(self):
+        """The project example configures a key, saves it and finds it again."""
+        file = self.path("keys.plexel")
+        output = run(self.example("project"), file)
+        expect(output == PROJECT_OUTPUT, output)
+        with open(file, "rb") as saved:
+            expect(b"strLayer2ReleaseScanCode" in saved.read(), "the project has no codes")
+        expect(len(text_of("examples/project/main.cpp").splitlines()) < 80, "the example has grown")
+
     def qt(self):
         """The example with windows loads a project and saves what it has of it, which is loaded again as it was."""
         program = self.example("qt")
@@ -169,12 +179,15 @@ class Package:
     def host(self):
         """What docs/host.md shows of programs are parts of the examples, first the whole of the console example, and the
         messages that it explains are those of the libraries and of the package."""
-        console, qt = stripped("examples/console/main.cpp"), stripped("examples/qt/main.cpp")
+        console, *parted = [stripped("examples/%s/main.cpp" % name) for name in ["console", "project", "qt"]]
         first, *others = shown("docs/host.md", "cpp")
         expect(first == console[2:], "docs/host.md shows another program than examples/console")
-        expect(len(others) >= 5, "docs/host.md shows %d parts of examples/qt" % len(others))
+        for source in parted:
+            expect(any(stands_in(lines, source) for lines in others), "docs/host.md shows no part of an example")
         for lines in others:
-            expect(stands_in(lines, qt), "examples/qt does not say:\n" + "\n".join(lines))
+            expect(any(stands_in(lines, source) for source in parted), "no example says:\n" + "\n".join(lines))
+        for header in re.findall(r"`([a-z]+/[A-Za-z_]+\.h)`", text_of("docs/host.md")):
+            expect(any(os.path.exists(os.path.join(SOURCE, room, header)) for room in ["src", "adapters"]), "no header " + header)
         expect(shown("docs/host.md", "cmake")[0] == stripped("examples/console/CMakeLists.txt"), "the CMakeLists.txt is another one")
         expect("\n%s```" % CONSOLE_OUTPUT in text_of("docs/host.md"), "docs/host.md tells another outcome")
         messages = re.findall(r"^\| `([^@`][^`]*)` \|", text_of("docs/host.md").split("## Common mistakes")[1], re.MULTILINE)
