@@ -30,6 +30,12 @@ enum class ProblemRule : std::uint8_t {
 
 enum class ProblemLevel : std::uint8_t { Error, Warning };
 
+/// How many problems of each level something has.
+struct ProblemCounts {
+  std::size_t errors = 0, warnings = 0;
+  bool operator==(const ProblemCounts&) const = default;
+};
+
 /// What is told about a rule.
 struct ProblemRuleRow {
   ProblemRule rule;

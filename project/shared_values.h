@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -23,6 +25,12 @@ struct SharedValue {
   bool operator==(const SharedValue&) const = default;
 };
 
+struct SharedValueHash {
+  std::size_t operator()(const SharedValue& value) const {
+    return std::hash<std::uint64_t>()(static_cast<std::uint64_t>(value.kind) << 32U | value.value);
+  }
+};
+
 /// What an element holds, each value once.
 std::vector<SharedValue> SharedValuesOf(const ctlPlexelBaseElement& element);
 
@@ -37,12 +45,7 @@ class SharedValues {
   const Elements& Holders(const SharedValue& value) const;
 
  private:
-  struct Hash {
-    std::size_t operator()(const SharedValue& value) const {
-      return std::hash<std::uint64_t>()(static_cast<std::uint64_t>(value.kind) << 32U | value.value);
-    }
-  };
-  std::unordered_map<SharedValue, Elements, Hash> holders_;
+  std::unordered_map<SharedValue, Elements, SharedValueHash> holders_;
 };
 
 }  // namespace plexel

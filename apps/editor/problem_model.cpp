@@ -40,7 +40,8 @@ void ProblemModel::Fill() {
   last_ = {};
   rows_.clear();
   for (int place = 0; place < problems_.PlaceCount(); ++place) {
-    if (!problems_.LevelOf(place)) continue;
+    const auto level = problems_.LevelOf(place);
+    if (!level || (errorsOnly_ && *level != ProblemLevel::Error)) continue;
     const std::vector<Row> rows = RowsOf(static_cast<std::size_t>(place));
     rows_.insert(rows_.end(), rows.begin(), rows.end());
   }
@@ -53,13 +54,18 @@ void ProblemModel::Update(std::span<const std::size_t> places) {
 }
 
 std::vector<ProblemModel::Row> ProblemModel::RowsOf(std::size_t place) const {
-  const std::vector<Problem>& problems = ProblemsOf(place);
   std::vector<Row> rows;
+  const auto add = [&](std::size_t index) {
+    rows.push_back({static_cast<std::uint32_t>(place), static_cast<std::uint32_t>(index)});
+  };
+  if (!errorsOnly_) {
+    const ProblemCounts counts = problems_.CountsOf(static_cast<int>(place));
+    for (std::size_t index = 0; index < counts.errors + counts.warnings; ++index) add(index);
+    return rows;
+  }
+  const std::vector<Problem>& problems = ProblemsOf(place);
   for (std::size_t index = 0; index < problems.size(); ++index) {
-    const bool isError = RowOf(problems[index].rule).level == ProblemLevel::Error;
-    if (isError || !errorsOnly_) {
-      rows.push_back({static_cast<std::uint32_t>(place), static_cast<std::uint32_t>(index)});
-    }
+    if (RowOf(problems[index].rule).level == ProblemLevel::Error) add(index);
   }
   return rows;
 }

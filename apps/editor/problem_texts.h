@@ -1,18 +1,12 @@
 #pragma once
 
 #include <QString>
-#include <cstddef>
 #include <string>
 
 #include "project/problem.h"
 
 namespace plexel {
 
-/// How many problems of each level something has.
-struct ProblemCounts {
-  std::size_t errors = 0, warnings = 0;
-  bool operator==(const ProblemCounts&) const = default;
-};
 /// "3 errors, 1 warning"; what is none is not named, unless both are.
 QString CountText(const ProblemCounts& counts);
 

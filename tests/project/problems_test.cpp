@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <initializer_list>
 #include <random>
 #include <set>
@@ -390,6 +391,43 @@ TEST_F(ProblemsTest, ARecheckTellsWhoWasTouched) {
   EXPECT_EQ(problems.Of(2).size(), 2u);
 }
 
+TEST_F(ProblemsTest, ARecheckOfManyTellsWhoWasTouched) {
+  for (int count = 0; count < 40; ++count) Add(Led).LEDTypeLayer1(UserLed);
+  for (int count = 0; count < 3; ++count) Add(Led);
+  Problems problems(Order());
+  elements[40]->LEDTypeLayer1(UserLed);
+  elements[41]->LEDTypeLayer2(AlarmLed);
+  elements[42]->LEDTypeLayer2(AlarmLed);
+  EXPECT_EQ(problems.Recheck(std::array<std::size_t, 3>{42, 40, 41}), (std::vector<std::size_t>{40, 41, 42}));
+  elements[5]->LEDTypeLayer1(LedNotEnabled);
+  elements[20]->LEDTypeLayer1(LedNotEnabled);
+  EXPECT_EQ(problems.Recheck(std::array<std::size_t, 2>{20, 5}).size(), 36u) << "all from the sixth to the last";
+  EXPECT_EQ(problems.All(), Problems(Order()).All());
+}
+
+TEST_F(ProblemsTest, AnElementHasAsManyAsAreCountedOfIt) {
+  for (int count = 0; count < 3; ++count) {
+    Add(RectLed).LEDTypeLayer1(UserLed);
+    elements.back()->LEDTypeLayer2(UserLed);
+    elements.back()->HardwareNumberButton(1);
+    elements.back()->HardwareNumberLed(2);
+    elements.back()->PressKeyDefLayer(1, "[a\u2039]");
+  }
+  const Problems problems(Order());
+  EXPECT_EQ(problems.Of(2).size(), 7u);
+  ProblemCounts sum;
+  for (std::size_t element = 0; element < 3; ++element) {
+    ProblemCounts found;
+    for (const Problem& problem : problems.Of(element)) {
+      ++(RowOf(problem.rule).level == ProblemLevel::Error ? found.errors : found.warnings);
+    }
+    EXPECT_EQ(problems.CountsOf(element), found);
+    sum.errors += found.errors;
+    sum.warnings += found.warnings;
+  }
+  EXPECT_EQ(sum, (ProblemCounts{problems.Errors(), problems.Warnings()}));
+}
+
 /// Change by change the list stays the one that a check of all finds.
 TEST_F(ProblemsTest, StayThoseOfAWholeCheckThroughRandomChanges) {
   const auto seed = std::random_device()();
@@ -400,8 +438,7 @@ TEST_F(ProblemsTest, StayThoseOfAWholeCheckThroughRandomChanges) {
   };
   for (int count = 0; count < 60; ++count) Add(static_cast<enumTactisBaseElementType>(1 + pick(5)));
   Problems problems(Order());
-  for (int change = 0; change < 400; ++change) {
-    ctlPlexelBaseElement& element = *elements[static_cast<std::size_t>(pick(59))];
+  const auto change = [&](ctlPlexelBaseElement& element) {
     switch (pick(5)) {
       case 0:
         element.LEDTypeLayer(1 + pick(3), static_cast<enumLedType>(12 + pick(2)));
@@ -421,9 +458,20 @@ TEST_F(ProblemsTest, StayThoseOfAWholeCheckThroughRandomChanges) {
       default:
         element.PressKeyDefLayer(1 + pick(3), pick(1) == 0 ? "" : "[a\u2039]");
     }
-    problems.Recheck(element);
+  };
+  for (int round = 0; round < 400; ++round) {
+    std::vector<std::size_t> changed;
+    for (int count = pick(3); count >= 0; --count) {
+      changed.push_back(static_cast<std::size_t>(pick(59)));
+      change(*elements[changed.back()]);
+    }
+    if (changed.size() == 1) {
+      problems.Recheck(*elements[changed.front()]);
+    } else {
+      problems.Recheck(changed);
+    }
     const Problems whole(Order());
-    ASSERT_EQ(problems.All(), whole.All()) << "change " << change;
+    ASSERT_EQ(problems.All(), whole.All()) << "round " << round;
     ASSERT_EQ(problems.Errors(), whole.Errors());
     ASSERT_EQ(problems.Warnings(), whole.Warnings());
   }
