@@ -1,7 +1,6 @@
 #include "editor/live_problems.h"
 
 #include <QStringList>
-#include <algorithm>
 
 #include "element/ctlPlexelBaseElement.h"
 #include "project/panel_document.h"
@@ -15,8 +14,6 @@ void LiveProblems::Show(const PanelDocument* document) {
   if (document_ != nullptr) {
     try {
       problems_ = std::make_unique<Problems>(*document_);
-      counts_.resize(problems_->ElementCount());
-      for (std::size_t place = 0; place < counts_.size(); ++place) Count(place);
     } catch (const std::exception& failure) {
       Forget(failure.what());
     }
@@ -26,7 +23,6 @@ void LiveProblems::Show(const PanelDocument* document) {
 
 void LiveProblems::Forget(const QString& failure) {
   problems_.reset();
-  counts_.clear();
   failure_ = failure;
 }
 
@@ -35,18 +31,12 @@ void LiveProblems::Changed(std::span<const std::size_t> places) {
   if (!problems_) return Show(document_);
   std::vector<std::size_t> touched;
   try {
-    for (const std::size_t place : places) {
-      const std::vector<std::size_t> some = problems_->Recheck(problems_->Element(place));
-      touched.insert(touched.end(), some.begin(), some.end());
-    }
+    touched = problems_->Recheck(places);
   } catch (const std::exception& failure) {
     Forget(failure.what());
     if (onReset) onReset();
     return;
   }
-  std::ranges::sort(touched);
-  touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
-  for (const std::size_t place : touched) Count(place);
   if (onChanged) onChanged(touched);
 }
 
@@ -55,16 +45,12 @@ void LiveProblems::Retranslate() {
   Show(document_);
 }
 
-void LiveProblems::Count(std::size_t place) {
-  ProblemCounts counts;
-  for (const Problem& problem : problems_->Of(place)) {
-    ++(RowOf(problem.rule).level == ProblemLevel::Error ? counts.errors : counts.warnings);
-  }
-  counts_[place] = counts;
-}
-
 ProblemCounts LiveProblems::Counts() const {
   return problems_ ? ProblemCounts{problems_->Errors(), problems_->Warnings()} : ProblemCounts();
+}
+
+ProblemCounts LiveProblems::CountsOf(int place) const {
+  return problems_ ? problems_->CountsOf(static_cast<std::size_t>(place)) : ProblemCounts();
 }
 
 std::optional<ProblemLevel> LiveProblems::LevelOf(int place) const {
@@ -78,9 +64,11 @@ std::vector<Problem> LiveProblems::Of(int place) const {
   return problems_ ? problems_->Of(static_cast<std::size_t>(place)) : std::vector<Problem>();
 }
 
-QString LiveProblems::TextOf(const Problem& problem) const {
-  return WithVisibleControls(ToQt(problems_->Text(problem, words_->Problems())));
+std::string LiveProblems::PlainText(const Problem& problem) const {
+  return problems_->Text(problem, words_->Problems());
 }
+
+QString LiveProblems::TextOf(const Problem& problem) const { return WithVisibleControls(ToQt(PlainText(problem))); }
 
 QString LiveProblems::WholeText(const Problem& problem) const {
   QStringList ahead = {LevelText(RowOf(problem.rule).level), LayersInWords(problem)};

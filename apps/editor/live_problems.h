@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "editor/problem_texts.h"
@@ -25,14 +26,16 @@ class LiveProblems {
 
   /// Why problems are not known; empty when they are.
   const QString& Failure() const { return failure_; }
-  int PlaceCount() const { return static_cast<int>(counts_.size()); }
+  int PlaceCount() const { return problems_ ? static_cast<int>(problems_->ElementCount()) : 0; }
   ProblemCounts Counts() const;
-  ProblemCounts CountsOf(int place) const { return counts_.at(static_cast<std::size_t>(place)); }
+  ProblemCounts CountsOf(int place) const;
   /// The graver level of those of a place.
   std::optional<ProblemLevel> LevelOf(int place) const;
   std::vector<Problem> Of(int place) const;
   /// What would happen on the machine; plain text.
   QString TextOf(const Problem& problem) const;
+  /// The same with control characters as they are.
+  std::string PlainText(const Problem& problem) const;
   /// The same with level and layers ahead, for where no columns tell them.
   QString WholeText(const Problem& problem) const;
   QString ElementOf(const Problem& problem) const;
@@ -43,12 +46,10 @@ class LiveProblems {
   std::function<void(std::span<const std::size_t> places)> onChanged;
 
  private:
-  void Count(std::size_t place);
   void Forget(const QString& failure);
 
   const PanelDocument* document_ = nullptr;
   std::unique_ptr<Problems> problems_;
-  std::vector<ProblemCounts> counts_;  ///< by place
   std::unique_ptr<ToldWords> words_ = std::make_unique<ToldWords>();
   QString failure_;
 };

@@ -101,7 +101,7 @@ void MainWindow::MakeContent() {
   constexpr int LogHeight = 120;
   resizeDocks({log_}, {LogHeight}, Qt::Vertical);
   log_->hide();
-  overview_ = new OverviewPanel(selection_, this);
+  overview_ = new OverviewPanel(selection_, problems_, this);
   addDockWidget(Qt::BottomDockWidgetArea, overview_);
   overview_->hide();
   status_ = new ElidedLabel;
@@ -155,11 +155,10 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
     Try(false);  // what was tried is no longer what stands there
     problems_.Changed(places);
     ShowChange();
-    overview_->Changed(places);
   });
   view_->Show(document_.get());
-  overview_->Show(document_.get());
   problems_.Show(document_.get());
+  overview_->Show(document_.get());
   inspector_->Show(document_.get());
   view_->setFocus();
   ShowZoom();

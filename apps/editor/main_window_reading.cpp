@@ -4,6 +4,7 @@
 #include <array>
 
 #include "editor/inspector.h"
+#include "editor/overview_panel.h"
 #include "editor/panel_view.h"
 #include "editor/problem_panel.h"
 
@@ -32,12 +33,14 @@ void MainWindow::MakeReading() {
 void MainWindow::ConnectReading() {
   problems_.onReset = [this] {
     problemList_->Reset();
+    overview_->ProblemsReset();
     inspector_->Refresh();
     ShowProblemCount();
     view_->update();
   };
   problems_.onChanged = [this](std::span<const std::size_t> places) {
     problemList_->Update(places);
+    overview_->Changed(places);
     inspector_->Refresh();
     ShowProblemCount();
     view_->BadgesChanged(places);

@@ -42,7 +42,6 @@ std::string SortKey(std::string_view text) {
 
 void OverviewModel::Show(const PanelDocument* document) {
   document_ = document;
-  problems_ = document == nullptr ? nullptr : std::make_unique<Problems>(*document);
   entries_.clear();
   entries_.resize(document == nullptr ? 0 : document->Places().size());
   if (!told_) told_ = std::make_unique<ToldWords>();
@@ -56,19 +55,17 @@ void OverviewModel::Retranslate() {
   emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
 }
 
+void OverviewModel::ProblemsReset() {
+  std::ranges::fill(entries_, std::nullopt);
+  Arrange();
+}
+
 void OverviewModel::Changed(std::span<const std::size_t> places) {
   if (document_ == nullptr) return;
-  std::vector<std::size_t> concerned(places.begin(), places.end());
-  for (const std::size_t place : places) {
-    const std::vector<std::size_t> looked = problems_->Recheck(*document_->Places()[place].element);
-    concerned.insert(concerned.end(), looked.begin(), looked.end());
-  }
-  std::ranges::sort(concerned);
-  concerned.erase(std::unique(concerned.begin(), concerned.end()), concerned.end());
-  for (const std::size_t place : concerned) entries_[place].reset();
+  for (const std::size_t place : places) entries_[place].reset();
   // An edit leaves its row where it stands; rows come and go with what is found.
   bool same = true;
-  for (const std::size_t place : concerned) {
+  for (const std::size_t place : places) {
     for (int line = static_cast<int>(place) * LayerCount; same && line < static_cast<int>(place + 1) * LayerCount;
          ++line) {
       same = IsFound(line) == (rowOf_[static_cast<std::size_t>(line)] >= 0);
@@ -130,10 +127,10 @@ const OverviewModel::Entry& OverviewModel::At(int place) const {
 void OverviewModel::AddProblems(int place, Entry& entry) const {
   const auto add = [&](std::size_t layer, const Problem& problem) {
     std::string& text = entry.problems[layer];
-    text += (text.empty() ? "" : "\n") + problems_->Text(problem, told_->Problems());
+    text += (text.empty() ? "" : "\n") + problems_.PlainText(problem);
     if (plexel::RowOf(problem.rule).level == ProblemLevel::Error) entry.hasError[layer] = true;
   };
-  for (const Problem& problem : problems_->Of(static_cast<std::size_t>(place))) {
+  for (const Problem& problem : problems_.Of(place)) {
     if (problem.layers.empty()) add(0, problem);
     for (const std::int32_t layer : problem.layers) add(static_cast<std::size_t>(layer - 1), problem);
   }

@@ -8,9 +8,9 @@
 #include <span>
 #include <vector>
 
+#include "editor/live_problems.h"
 #include "editor/told_words.h"
 #include "project/panel_document.h"
-#include "project/problems.h"
 #include "project/search.h"
 
 namespace plexel {
@@ -30,12 +30,16 @@ class OverviewModel : public QAbstractTableModel {
     ProblemColumn,
     ColumnCount
   };
-  using QAbstractTableModel::QAbstractTableModel;
+  /// The problems are those of the document that is shown, and must outlive all use of the model.
+  explicit OverviewModel(const LiveProblems& problems, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), problems_(problems) {}
 
   /// Takes a document, which must outlive its use here; null takes it away.
   void Show(const PanelDocument* document);
-  /// The elements of some places have changed.
+  /// The elements of some places have changed, or their problems; the places ascend.
   void Changed(std::span<const std::size_t> places);
+  /// All problems are other ones.
+  void ProblemsReset();
   /// Takes the texts of the language in force.
   void Retranslate();
 
@@ -85,9 +89,9 @@ class OverviewModel : public QAbstractTableModel {
   void Arrange();
   void SortLines(std::vector<int>& lines) const;
 
+  const LiveProblems& problems_;
   const PanelDocument* document_ = nullptr;
   std::unique_ptr<ToldWords> told_;
-  std::unique_ptr<Problems> problems_;
   mutable std::vector<std::optional<Entry>> entries_;  ///< by place
   std::vector<int> order_;                             ///< by row the line: four to a place, layer by layer
   std::vector<int> rowOf_;                             ///< by line, -1 for one that is not there

@@ -22,8 +22,8 @@
 
 namespace plexel {
 
-OverviewPanel::OverviewPanel(Selection& selection, QWidget* parent)
-    : QDockWidget(parent), table_(new OverviewTable(model_, selection)) {
+OverviewPanel::OverviewPanel(Selection& selection, const LiveProblems& problems, QWidget* parent)
+    : QDockWidget(parent), model_(problems), table_(new OverviewTable(model_, selection)) {
   setObjectName("overview");
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
@@ -46,7 +46,6 @@ QWidget* OverviewPanel::MakeTools() {
   layout->setContentsMargins(0, 0, 0, 0);
   words_ = new QLineEdit;
   words_->setObjectName("FindWords");
-  words_->setClearButtonEnabled(true);
   words_->installEventFilter(this);
   connect(words_, &QLineEdit::textChanged, this, [this] { LookForWords(); });
   press_ = new QToolButton;
@@ -106,6 +105,10 @@ void OverviewPanel::Changed(std::span<const std::size_t> places) {
   if (!stale_) model_.Changed(places);
 }
 
+void OverviewPanel::ProblemsReset() {
+  if (!stale_) model_.ProblemsReset();
+}
+
 void OverviewPanel::Retranslate() {
   setWindowTitle(Say(Text::Overview));
   words_->setPlaceholderText(Say(Text::FindWords));
@@ -160,6 +163,7 @@ void OverviewPanel::ShowFound() {
 
 void OverviewPanel::showEvent(QShowEvent* event) {
   QDockWidget::showEvent(event);
+  words_->setClearButtonEnabled(true);  // the toolkit looks through the desktop's icons for it, which takes its time
   if (!stale_) return ShowFound();
   stale_ = false;
   model_.Show(document_);

@@ -21,13 +21,15 @@ class OverviewTable;
 /// that is pressed. While it is hidden it does nothing.
 class OverviewPanel : public QDockWidget {
  public:
-  /// The selection must outlive it.
-  OverviewPanel(Selection& selection, QWidget* parent);
+  /// Selection and problems must outlive it.
+  OverviewPanel(Selection& selection, const LiveProblems& problems, QWidget* parent);
 
   /// Takes a document, which must outlive its use here; null takes it away.
   void Show(PanelDocument* document);
-  /// Elements have changed by a step.
+  /// Elements have changed by a step, or their problems have; the places ascend.
   void Changed(std::span<const std::size_t> places);
+  /// All problems are other ones.
+  void ProblemsReset();
   void Retranslate();
   /// Comes into sight, ready for words.
   void Find();
