@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "element/element_access.h"
+#include "element/packed_codes.h"
 #include "files/project_reader.h"
 #include "files/project_writer.h"
 #include "files/system_files.h"
@@ -41,9 +43,11 @@ Elements Load(const std::filesystem::path& file) {
   for (ProjectElement saved; reader.Next(saved);) {
     const auto element = bench::TheWorld().component.Read(saved.place, bench::TheWorld().host, saved.bag);
     if (!saved.codes.empty()) {
-      udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
+      udtTactisBaseElement_ScanCodeInfo record;
       PutCodes(saved.codes, record);
-      element->TactisBaseElementScanCodeBuffer(record);
+      std::vector<std::uint8_t> packed;
+      PackCodes(record, packed);
+      ElementAccess::Codes(*element, std::move(packed));
     }
     elements.push_back(element);
   }

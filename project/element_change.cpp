@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "element/packed_codes.h"
+#include "element/element_access.h"
 
 namespace plexel {
 
@@ -20,19 +20,6 @@ bool IsKept(const PropertyRow& row) {
          std::ranges::find(ofTheScreen, row.name) == std::end(ofTheScreen);
 }
 
-std::vector<std::uint8_t> CodesOf(const ctlPlexelBaseElement& element) {
-  std::vector<std::uint8_t> codes;
-  PackCodes(element.TactisBaseElementScanCodeBuffer(), codes);
-  return codes;
-}
-
-/// Through the record, which carries the bytes; the properties that it carries stay.
-void PutCodes(ctlPlexelBaseElement& element, const std::vector<std::uint8_t>& codes) {
-  udtTactisBaseElement_ScanCodeInfo record = element.TactisBaseElementScanCodeBuffer();
-  UnpackCodes(codes, record);
-  element.TactisBaseElementScanCodeBuffer(record);
-}
-
 }  // namespace
 
 ElementValues ValuesOf(const ctlPlexelBaseElement& element) {
@@ -41,7 +28,7 @@ ElementValues ValuesOf(const ctlPlexelBaseElement& element) {
   for (const PropertyRow& row : PropertyTable()) {
     values.properties.push_back(IsKept(row) ? Get(element, row) : PropertyData{});
   }
-  values.codes = CodesOf(element);
+  values.codes = ElementAccess::Codes(element);
   return values;
 }
 
@@ -60,8 +47,8 @@ void ElementChange::Exchange(ctlPlexelBaseElement& element) {
     value = std::move(held);
   }
   if (codes_) {
-    std::vector<std::uint8_t> held = CodesOf(element);
-    PutCodes(element, *codes_);
+    std::vector<std::uint8_t> held = ElementAccess::Codes(element);
+    ElementAccess::Codes(element, *codes_);
     *codes_ = std::move(held);
   }
   element.ShowDefined(element.ShowDefined());
@@ -76,7 +63,7 @@ void ElementChange::Precede(const ElementChange& earlier, const ctlPlexelBaseEle
   std::erase_if(merged, [&](const auto& one) { return one.second == Get(element, PropertyTable()[one.first]); });
   properties_ = std::move(merged);
   if (earlier.codes_) codes_ = earlier.codes_;
-  if (codes_ && *codes_ == CodesOf(element)) codes_.reset();
+  if (codes_ && *codes_ == ElementAccess::Codes(element)) codes_.reset();
 }
 
 }  // namespace plexel

@@ -7,6 +7,8 @@
 #include <system_error>
 #include <unordered_map>
 
+#include "element/element_access.h"
+#include "element/packed_codes.h"
 #include "files/file_error.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
@@ -23,6 +25,15 @@ std::size_t HashOf(std::string_view content) { return std::hash<std::string_view
 void PutAtRest(FlatBag& bag) {
   bag.Store("FocusVisible", False);
   bag.Store("ZoomFactor", std::int16_t{PanelDocument::NormalZoom});
+}
+
+std::vector<std::uint8_t> Packed(const std::vector<SavedCodes>& codes) {
+  std::vector<std::uint8_t> packed;
+  if (codes.empty()) return packed;
+  udtTactisBaseElement_ScanCodeInfo record;
+  PutCodes(codes, record);
+  PackCodes(record, packed);
+  return packed;
 }
 
 }  // namespace
@@ -98,9 +109,7 @@ void PanelDocument::AddNew(const PanelPart& part, const Site& site) {
 
 void PanelDocument::AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site) {
   const auto element = site.component.Read(saved.place, site.host, saved.bag);
-  udtTactisBaseElement_ScanCodeInfo record = element->TactisBaseElementScanCodeBuffer();
-  PutCodes(saved.codes, record);
-  element->TactisBaseElementScanCodeBuffer(record);
+  ElementAccess::Codes(*element, Packed(saved.codes));
   element->FocusVisible(False);
   element->ZoomFactor(static_cast<std::int16_t>(zoom_));
   SetWhatIsNotSaved(*element, part, site);

@@ -14,6 +14,10 @@ class ElementAccess {
   }
   /// Whether all eight definition texts are empty.
   static bool IsDefinitionEmpty(const ctlPlexelBaseElement& element) { return element.IsDefinitionEmpty(); }
+  /// The bytes of the eight code buffers, as PackCodes makes them.
+  static const std::vector<std::uint8_t>& Codes(const ctlPlexelBaseElement& element) { return element.codes_; }
+  /// Takes such bytes over as the record's setter does, where all else in the record is as the element has it.
+  static void Codes(ctlPlexelBaseElement& element, std::vector<std::uint8_t> packed);
 };
 
 }  // namespace plexel

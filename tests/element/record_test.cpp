@@ -1,3 +1,5 @@
+#include "element/element_access.h"
+#include "element/packed_codes.h"
 #include "element/property_table.h"
 #include "element_fixture.h"
 
@@ -168,6 +170,25 @@ TEST_F(ElementRecord, AFailingContainerEndsWritingItQuietlyWithTheSequencesStore
   EXPECT_EQ(element->HardwareNumberKey(), 20);
   EXPECT_EQ(element->HardwareNumberKey1(), -1);
   EXPECT_EQ(element->TactisBaseElementScanCodeBuffer().strLayer1PressScanCode.NextValue, 1);
+}
+
+TEST_F(ElementRecord, ItsBytesAloneAreTakenOverAsTheWholeRecordIs) {
+  element->TactisBaseElementScanCodeBuffer(Filled());
+  Info other = element->TactisBaseElementScanCodeBuffer();
+  PressBuffer(other, 2)->Value[7] = 0x1C;
+  ReleaseBuffer(other, 3)->NextValue = 5;
+  host.Forget();
+  element->TactisBaseElementScanCodeBuffer(other);
+  const Values told = host.Notices();
+  element->TactisBaseElementScanCodeBuffer(Filled());
+  host.Forget();
+  std::vector<std::uint8_t> packed;
+  PackCodes(other, packed);
+  ElementAccess::Codes(*element, packed);
+  EXPECT_EQ(element->TactisBaseElementScanCodeBuffer(), other);
+  EXPECT_EQ(ElementAccess::Codes(*element), packed);
+  EXPECT_FALSE(told.empty());
+  EXPECT_EQ(host.Notices(), told);
 }
 
 }  // namespace
