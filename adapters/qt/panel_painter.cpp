@@ -123,13 +123,6 @@ QFont FontOf(const PanelPart& part) {
   return font;
 }
 
-void DrawLegend(QPainter& painter, const PanelPart& part) {
-  if (part.legend.empty()) return;
-  painter.setFont(FontOf(part));
-  painter.setPen(ColourOf(part.legendColor));
-  painter.drawText(BoxOf(part), AlignmentOf(part.legendAlignment) | Qt::TextDontClip, ToQt(part.legend));
-}
-
 QPointF PixelPoint(float x, float y) {
   return QPointF(static_cast<double>(x), static_cast<double>(y)) / static_cast<double>(TwipsPerLogicalPixel);
 }
@@ -153,24 +146,19 @@ void DrawLine(QPainter& painter, const SurfaceLine& line) {
   painter.drawLine(PixelPoint(line.X1, line.Y1), PixelPoint(line.X2, line.Y2));
 }
 
-/// The tick, small in the upper right corner of a surface, on a ground of its own.
-void DrawCornerTick(QPainter& painter, const Surface& surface, bool round) {
-  if (!surface.linOK1.Visible) return;
+/// Where the tick in a corner stands.
+QRectF CornerTickBox(const Surface& surface, TickPlace tick) {
   constexpr double Share = 0.2, RoundShare = 0.16, Smallest = 6, OfRound = 0.08;
+  const bool round = tick == TickPlace::RoundCorner;
   const QPointF whole = PixelPoint(surface.Width, surface.Height);
   const double least = std::min(whole.x(), whole.y());
   const double size = std::max(Smallest, (round ? RoundShare : Share) * least);
   const double edge = size * 0.4 + (round ? OfRound * least : 0);
-  const QPointF corner(whole.x() - size - edge, edge);
-  const std::array points = {corner + QPointF(0, size * 0.55), corner + QPointF(size * 0.35, size * 0.9),
-                             corner + QPointF(size, size * 0.1)};
-  QPen pen(QColor(255, 255, 255, 220), size / 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-  painter.setPen(pen);
-  painter.drawPolyline(points.data(), static_cast<int>(points.size()));
-  pen.setColor(ColourOf(surface.linOK1.BorderColor));
-  pen.setWidthF(std::max(2.0, size / 5));
-  painter.setPen(pen);
-  painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+  return {whole.x() - size - edge, edge, size, size};
+}
+
+bool HasCornerTick(const Surface& surface, TickPlace tick) {
+  return surface.linOK1.Visible && (tick == TickPlace::Corner || tick == TickPlace::RoundCorner);
 }
 
 }  // namespace
@@ -185,10 +173,22 @@ QRect BoundsOf(const PanelPart& part) {
 }
 
 void DrawPart(QPainter& painter, const PanelPart& part) {
+  DrawBody(painter, part);
+  DrawLegend(painter, part);
+}
+
+void DrawBody(QPainter& painter, const PanelPart& part) {
   for (const PartDrawing& one : drawings) {
     if (one.kind == part.kind) one.draw(painter, part);
   }
-  DrawLegend(painter, part);
+}
+
+void DrawLegend(QPainter& painter, const PanelPart& part) {
+  if (part.legend.empty()) return;
+  // A painter that has the font keeps it, and with it what the toolkit has loaded of it.
+  if (const QFont font = FontOf(part); painter.font() != font) painter.setFont(font);
+  painter.setPen(ColourOf(part.legendColor));
+  painter.drawText(BoxOf(part), AlignmentOf(part.legendAlignment) | Qt::TextDontClip, ToQt(part.legend));
 }
 
 void DrawSurface(QPainter& painter, const Surface& surface, TickPlace tick) {
@@ -202,11 +202,32 @@ void DrawSurface(QPainter& painter, const Surface& surface, TickPlace tick) {
     painter.drawRect(ShapeRect(surface.shpRect));
   }
   for (const SurfaceLine* line : {&surface.linX1, &surface.linX2}) DrawLine(painter, *line);
-  if (tick == TickPlace::Corner || tick == TickPlace::RoundCorner) {
-    DrawCornerTick(painter, surface, tick == TickPlace::RoundCorner);
-  }
+  DrawCornerTick(painter, surface, tick);
   if (tick != TickPlace::AsDesigned) return;
   for (const SurfaceLine* line : {&surface.linOK1, &surface.linOK2}) DrawLine(painter, *line);
+}
+
+/// On a ground of its own.
+void DrawCornerTick(QPainter& painter, const Surface& surface, TickPlace tick) {
+  if (!HasCornerTick(surface, tick)) return;
+  const QRectF box = CornerTickBox(surface, tick);
+  const double size = box.width();
+  const std::array points = {box.topLeft() + QPointF(0, size * 0.55), box.topLeft() + QPointF(size * 0.35, size * 0.9),
+                             box.topLeft() + QPointF(size, size * 0.1)};
+  QPen pen(QColor(255, 255, 255, 220), size / 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  painter.setPen(pen);
+  painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+  pen.setColor(ColourOf(surface.linOK1.BorderColor));
+  pen.setWidthF(std::max(2.0, size / 5));
+  painter.setPen(pen);
+  painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+}
+
+QRectF CornerTickBounds(const Surface& surface, TickPlace tick) {
+  if (!HasCornerTick(surface, tick)) return {};
+  const QRectF box = CornerTickBox(surface, tick);
+  const double line = std::max(2.0, box.width() / 2.6);
+  return box.adjusted(-line, -line, line, line);
 }
 
 void DrawFound(QPainter& painter, const QRect& box) {

@@ -110,8 +110,14 @@ QStringList DefinitionText(const ctlPlexelBaseElement& element) {
 }
 
 bool IsDefinedOn(const ctlPlexelBaseElement& element, std::int32_t layer) {
-  if (layer != AllLayersShown) return !LayerText(element, layer).isEmpty();
-  return !DefinitionText(element).isEmpty();
+  if (layer == AllLayersShown) {
+    for (std::int32_t one = 1; one <= LayerCount; ++one) {
+      if (IsDefinedOn(element, one)) return true;
+    }
+    return false;
+  }
+  return !element.PressKeyDefLayer(layer).empty() || !element.ReleaseKeyDefLayer(layer).empty() ||
+         element.LEDTypeLayer(layer) != LedNotEnabled;
 }
 
 QString LabelText(const ctlPlexelBaseElement& element, std::int32_t layer) {

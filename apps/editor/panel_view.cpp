@@ -19,6 +19,9 @@ constexpr int SmallestBadge = 11, LargestBadge = 14;
 constexpr int Reach = std::max(ChoiceReach, LargestBadge * 2 / 5 + 1);
 constexpr int MostDirty = 64;  // single places to be painted anew, before it is the whole view
 
+/// Sprites of other things than bodies.
+constexpr std::int32_t TickSprite = 100, BadgeSprite = 200;
+
 /// A LED alone has no legend that a tick could cover.
 TickPlace TickOf(enumTactisBaseElementType type) {
   if (type == Led) return TickPlace::AsDesigned;
@@ -112,33 +115,68 @@ int PanelView::PlaceAt(const QPoint& point) const {
 
 void PanelView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  const QRect exposed = event->rect();
-  painter.fillRect(exposed, palette().window());
+  painter.fillRect(event->rect(), palette().window());
   dirty_ = 0;
   if (document_ == nullptr) return;
   painter.setRenderHint(QPainter::Antialiasing);
-  const qreal scale = document_->Zoom() / 100.0;
-  painter.save();
-  painter.translate(Origin());
-  painter.scale(scale, scale);
-  for (const int part : parts_.Meeting(OnPanel(exposed))) {
-    DrawPart(painter, document_->ThePanel().parts[static_cast<std::size_t>(part)]);
+  // A picture that is drawn along an edge and another shows two strips, and not all between them.
+  std::vector<int> parts, places;
+  const auto add = [](std::vector<int>& all, const std::vector<int>& some) {
+    all.insert(all.end(), some.begin(), some.end());
+  };
+  for (const QRect& exposed : event->region()) {
+    add(parts, parts_.Meeting(OnPanel(exposed)));
+    add(places, PlacesIn(exposed.adjusted(-Reach, -Reach, Reach, Reach)));
   }
-  painter.restore();
-  const std::vector<int> places = PlacesIn(exposed.adjusted(-Reach, -Reach, Reach, Reach));
+  for (std::vector<int>* const numbers : {&parts, &places}) {
+    std::ranges::sort(*numbers);
+    numbers->erase(std::unique(numbers->begin(), numbers->end()), numbers->end());
+  }
+  PaintParts(painter, parts);
   for (const int place : places) PaintPlace(painter, place);
   for (const int place : places) PaintBadge(painter, place);
 }
 
+void PanelView::PaintParts(QPainter& painter, const std::vector<int>& parts) {
+  const qreal scale = document_->Zoom() / 100.0;
+  const QPointF origin = Origin();
+  const QTransform onView = painter.transform();
+  const QTransform onPanel = QTransform(onView).translate(origin.x(), origin.y()).scale(scale, scale);
+  for (const int number : parts) {
+    const PanelPart& part = document_->ThePanel().parts[static_cast<std::size_t>(number)];
+    const PanelBox& box = part.box;
+    painter.setTransform(onView);
+    sprites_.Draw(painter,
+                  {static_cast<std::int32_t>(part.kind), box.width, box.height, part.fillColor, part.lineColor,
+                   part.cornerRadius},
+                  origin + QPointF(box.left, box.top) * scale, scale, QRectF(-1, -1, box.width + 2, box.height + 2),
+                  [&](QPainter& onto) {
+                    PanelPart body = part;
+                    body.box.left = body.box.top = 0;
+                    DrawBody(onto, body);
+                  });
+    if (part.legend.empty()) continue;
+    painter.setTransform(onPanel);
+    DrawLegend(painter, part);
+  }
+  painter.setTransform(onView);
+}
+
 void PanelView::PaintPlace(QPainter& painter, int place) {
   const ctlPlexelBaseElement& element = *At(place).element;
+  const Surface& surface = element.SurfaceObjects();
   const QRect box = PlaceRect(place);
   const bool told = layer_ == AllLayersShown || IsDefinedOn(element, layer_);
   const TickPlace tick = told ? TickOf(element.ElementType()) : TickPlace::Nowhere;
   painter.save();
   painter.translate(box.topLeft());
-  DrawSurface(painter, element.SurfaceObjects(), tick);
+  DrawSurface(painter, surface, tick == TickPlace::AsDesigned ? tick : TickPlace::Nowhere);
   painter.restore();
+  const QRectF tickBounds = CornerTickBounds(surface, tick);
+  if (!tickBounds.isEmpty()) {
+    sprites_.Draw(painter, {TickSprite + static_cast<int>(tick), box.width(), box.height(), surface.linOK1.BorderColor},
+                  box.topLeft(), 1, tickBounds, [&](QPainter& onto) { DrawCornerTick(onto, surface, tick); });
+  }
   if (labels_ && element.ElementType() != Led)
     DrawLabel(painter, box, LabelText(element, layer_), document_->Zoom() / 100.0);
   if (found_[static_cast<std::size_t>(place)]) DrawFound(painter, box);
@@ -153,7 +191,11 @@ QRect PanelView::BadgeRect(int place) const {
 
 void PanelView::PaintBadge(QPainter& painter, int place) {
   const auto level = problemOf ? problemOf(place) : std::nullopt;
-  if (level) DrawPicture(painter, ProblemPicture(*level), BadgeRect(place));
+  if (!level) return;
+  const QRect box = BadgeRect(place);
+  sprites_.Draw(painter, {BadgeSprite + static_cast<int>(*level), box.width()}, box.topLeft(), 1,
+                QRectF(QPointF(), box.size()),
+                [&](QPainter& onto) { DrawPicture(onto, ProblemPicture(*level), QRectF(QPointF(), box.size())); });
 }
 
 void PanelView::BadgesChanged(std::span<const std::size_t> places) {
@@ -167,6 +209,7 @@ void PanelView::UpdatePlace(int place) {
 }
 
 void PanelView::ElementChanged(const ctlPlexelBaseElement& element) {
+  if (dirty_ > MostDirty) return;
   const auto place = placeOf_.find(&element);
   if (place != placeOf_.end()) UpdatePlace(place->second);
 }

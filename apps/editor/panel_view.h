@@ -10,6 +10,7 @@
 
 #include "editor/place_index.h"
 #include "editor/selection.h"
+#include "editor/sprites.h"
 #include "project/panel_document.h"
 #include "project/problem.h"
 
@@ -110,6 +111,7 @@ class PanelView : public QWidget {
   void MoveFocus(int place);
   /// Chooses what lies between the anchor of the choice and a place, which becomes the current one.
   void ExtendTo(int place);
+  void PaintParts(QPainter& painter, const std::vector<int>& parts);
   void PaintPlace(QPainter& painter, int place);
   void PaintBadge(QPainter& painter, int place);
   void UpdatePlace(int place);
@@ -129,6 +131,7 @@ class PanelView : public QWidget {
   PanelDocument* document_ = nullptr;
   std::unordered_map<const ctlPlexelBaseElement*, int> placeOf_;
   PlaceIndex places_, parts_;  ///< at zoom 100
+  Sprites sprites_;            ///< of bodies, ticks and badges
   int focused_ = -1;           ///< the place whose element has the focus
   std::vector<bool> marked_;   ///< which places the picture marks as chosen
   std::vector<bool> found_;    ///< which places a search has found

@@ -289,5 +289,23 @@ TEST_F(PictureOfAPanel, TheToolBarHasPicturesAndTips) {
   }
 }
 
+TEST_F(PictureOfAPanel, WhatIsDrawnAnewInPiecesIsTheWholePicture) {
+  PanelView& view = window.View();
+  window.SetZoom(75);
+  const QImage whole = view.grab().toImage();
+  QImage pieces(whole.size(), whole.format());
+  pieces.setDevicePixelRatio(whole.devicePixelRatio());
+  constexpr int edge = 130;
+  for (int top = 0; top < view.height(); top += edge) {
+    for (int left = 0; left < view.width(); left += edge) {
+      const QRect inner(left, top, edge / 2, edge / 2);
+      const QRegion angle = QRegion(QRect(left, top, edge, edge)) - inner;
+      view.render(&pieces, angle.boundingRect().topLeft(), angle);
+      view.render(&pieces, inner.topLeft(), inner);
+    }
+  }
+  EXPECT_EQ(pieces.copy(0, 0, whole.width(), whole.height()), whole);
+}
+
 }  // namespace
 }  // namespace plexel::testing
