@@ -54,6 +54,10 @@ class ComboWidget : public QComboBox {
     update();
   }
 
+  /// The form says how large it is: no entry is measured for it.
+  QSize sizeHint() const override { return size(); }
+  QSize minimumSizeHint() const override { return {}; }
+
   void showPopup() override {
     // Every entry is one line of text: the list measures one and not all.
     if (auto* const list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
@@ -85,7 +89,6 @@ class ComboWidget : public QComboBox {
 ComboView::ComboView(ComboBox& model, QWidget& parent, UserActs& acts)
     : ControlView(model), model_(model), box_(new ComboWidget(&parent)), items_(new ItemsModel(model, *box_)) {
   box_->setModel(items_);
-  box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   QObject::connect(box_, &QComboBox::activated, box_, [this, &acts](int index) {
     acts.Carry(model_, [this, index](Hand& hand) { hand.Select(model_, index); });
   });

@@ -14,7 +14,7 @@ int FontPixels(double points) {
 
 QFont DialogFont() {
   constexpr double DialogPoints = 9;
-  static const bool liberation = QFontDatabase::families().contains("Liberation Sans");
+  static const bool liberation = QFontDatabase::hasFamily("Liberation Sans");
   QFont font = liberation ? QFont("Liberation Sans") : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
   font.setStyleHint(QFont::SansSerif);
   font.setPixelSize(FontPixels(DialogPoints));
