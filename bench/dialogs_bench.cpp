@@ -1,4 +1,4 @@
-// From the call to the pixels: dialogs shown as native widgets on the toolkit's offscreen platform, drawn, and closed.
+// From the call to the pixels: dialogs shown as native widgets and drawn. That they are closed again is not timed.
 // The peer is a dialog of the toolkit with as many widgets, made by hand.
 
 #include "services/dialogs.h"
@@ -20,33 +20,16 @@
 #include <functional>
 #include <memory>
 
-#include "component/component.h"
-#include "files/data_directory.h"
-#include "files/file_surroundings.h"
+#include "desktop.h"
 #include "forms/form_directory.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
-#include "qt/help_window.h"
-#include "qt/qt_ports.h"
-#include "world.h"
+#include "thread_time.h"
 
 namespace {
 
 using namespace plexel;
-
-/// The desktop as the dialogs see it.
-struct Desktop {
-  explicit Desktop(const std::filesystem::path& data = DataDirectory())
-      : surroundings(data, configuration.path().toStdString()),
-        platform(surroundings.UserRegistry(), help),
-        component(platform, surroundings) {}
-  QTemporaryDir configuration;
-  HelpWindow help;
-  FileSurroundings surroundings;
-  OpenQtPlatform platform;
-  Component component;
-  bench::SilentHost host;
-};
+using bench::Desktop;
 
 void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, bool wizard) {
   Desktop desktop;
@@ -55,14 +38,17 @@ void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, b
   element->TargetSystem("Standard");
   element->WizardOn(wizard);
   std::int64_t pixels = 0;
+  double start = 0;
   // A page handles waiting events while it loads, ahead of being shown.
   std::function<void()> drawAndClose = [&] {
     FormView* const view = desktop.platform.Modal().Topmost();
     if (view == nullptr) return QTimer::singleShot(0, drawAndClose);
     pixels += view->Window().grab().width();
+    state.SetIterationTime(bench::ThreadSeconds() - start);
     view->Model().Unload();
   };
   for (auto _ : state) {
+    start = bench::ThreadSeconds();
     QTimer::singleShot(0, drawAndClose);
     element->OpenConfigurationDialog();
   }
@@ -72,9 +58,9 @@ void OpenDrawAndClose(benchmark::State& state, enumTactisBaseElementType type, b
 void ConfigurationDialogToPixels(benchmark::State& state) { OpenDrawAndClose(state, RectLed, false); }
 void WizardKeyPageToPixels(benchmark::State& state) { OpenDrawAndClose(state, RectLed, true); }
 void WizardLedPageToPixels(benchmark::State& state) { OpenDrawAndClose(state, Led, true); }
-BENCHMARK(ConfigurationDialogToPixels)->Unit(benchmark::kMillisecond);
-BENCHMARK(WizardKeyPageToPixels)->Unit(benchmark::kMillisecond);
-BENCHMARK(WizardLedPageToPixels)->Unit(benchmark::kMillisecond);
+BENCHMARK(ConfigurationDialogToPixels)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(WizardKeyPageToPixels)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(WizardLedPageToPixels)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 /// The program's data with a file of named sequences of 10 MB in place of its own.
 class LargeData {
@@ -127,6 +113,7 @@ BENCHMARK_CAPTURE(LargeSequenceFileToPixels, again, false)->Unit(benchmark::kMil
 
 void PeerDialogByHandToPixels(benchmark::State& state) {
   for (auto _ : state) {
+    const double start = bench::ThreadSeconds();
     QDialog dialog;
     auto* layout = new QGridLayout(&dialog);
     for (int row = 0; row < 8; ++row) {
@@ -136,22 +123,14 @@ void PeerDialogByHandToPixels(benchmark::State& state) {
       layout->addWidget(new QPushButton("button"), row, 3);
     }
     layout->addWidget(new QTableWidget(5, 3), 8, 0, 1, 4);
-    QTimer::singleShot(0, &dialog, [&dialog] {
+    QTimer::singleShot(0, &dialog, [&] {
       benchmark::DoNotOptimize(dialog.grab().width());
+      state.SetIterationTime(bench::ThreadSeconds() - start);
       dialog.accept();
     });
     dialog.exec();
   }
 }
-BENCHMARK(PeerDialogByHandToPixels)->Unit(benchmark::kMillisecond);
+BENCHMARK(PeerDialogByHandToPixels)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 }  // namespace
-
-int main(int count, char** words) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(count, words);
-  QApplication::setFont(DialogFont());
-  benchmark::Initialize(&count, words);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

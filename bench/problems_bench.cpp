@@ -2,6 +2,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <numeric>
+
 #include "made_elements.h"
 
 namespace {
@@ -52,6 +54,22 @@ void RecheckAfterOneChange(benchmark::State& state, bool alike) {
 }
 BENCHMARK_CAPTURE(RecheckAfterOneChange, sound, false)->Arg(20000)->Unit(benchmark::kMicrosecond)->MinTime(1);
 BENCHMARK_CAPTURE(RecheckAfterOneChange, all_alike, true)->Arg(20000)->Unit(benchmark::kMicrosecond)->MinTime(1);
+
+/// Checks again behind a change of all elements, as behind a paste onto all of them.
+void RecheckAfterAChangeOfAll(benchmark::State& state, bool alike) {
+  const bench::Elements elements = MakeProject(state.range(0), alike);
+  Problems problems(OrderOf(elements));
+  std::vector<std::size_t> all(elements.size());
+  std::iota(all.begin(), all.end(), std::size_t{0});
+  bool shown = alike;
+  for (auto _ : state) {
+    shown = !shown;
+    for (const auto& element : elements) element->LEDTypeLayer1(shown ? UserLed : LedNotEnabled);
+    benchmark::DoNotOptimize(problems.Recheck(all).size());
+  }
+}
+BENCHMARK_CAPTURE(RecheckAfterAChangeOfAll, sound, false)->Arg(20000)->Unit(benchmark::kMillisecond)->MinTime(1);
+BENCHMARK_CAPTURE(RecheckAfterAChangeOfAll, all_alike, true)->Arg(20000)->Unit(benchmark::kMillisecond)->MinTime(1);
 
 /// The peer takes every record and looks at each of its code bytes, and no more.
 void PeerLooksAtAllBytes(benchmark::State& state) {

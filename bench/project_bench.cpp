@@ -10,6 +10,7 @@
 #include <numeric>
 #include <string>
 
+#include "made_project.h"
 #include "project/panel_document.h"
 #include "project/pasting.h"
 #include "project/problems.h"
@@ -19,6 +20,9 @@
 namespace {
 
 using namespace plexel;
+using bench::MadeDefinition;
+using bench::MakePanel;
+using bench::MakeProject;
 
 /// The directory of the made panels, files and recovery files of this process.
 std::filesystem::path Directory() {
@@ -31,40 +35,6 @@ std::filesystem::path Directory() {
 }
 
 PanelDocument::Site Site() { return {bench::TheWorld().component, bench::TheWorld().host, nullptr, Directory()}; }
-
-/// A panel of so many keys in rows of 200.
-void MakePanel(std::int64_t count) {
-  constexpr std::int64_t row = 200, pitch = 40, size = 36;
-  std::ofstream file(Directory() / "bench.panel");
-  file << "[PANEL]\nTitle=Bench\nWidth=" << row * pitch << "\nHeight=" << (count / row + 1) * pitch
-       << "\nTargetSystem=Extended\nDeviceType=1\nVantaEnabled=no\n";
-  for (std::int64_t number = 0; number < count; ++number) {
-    file << "\n[KEY]\nPlace=" << number % row * pitch << ' ' << number / row * pitch << ' ' << size << ' ' << size
-         << "\nElement=K" << number << "\nElementType=5\nHardwareNumberButton=" << number + 1 << "\n";
-  }
-  file << "\n[END]\n";
-}
-
-ElementRecord Definition() {
-  ElementRecord record = EmptyDefinition();
-  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-    PressBuffer(record, layer)->Value = {0xFF, 0x14, 0x1C, 0xF0, 0x1C, 0xF0, 0x14, 0xFF};
-    PressBuffer(record, layer)->NextValue = 7;
-  }
-  record.strLayer1PressString = record.strLayer2PressString = record.strLayer3PressString =
-      record.strLayer4PressString = "[Ctrl Left+a\u2039\u203A]";
-  record.strBaseElementNotes = "start of the machine";
-  return record;
-}
-
-/// A new project on a made panel, all elements defined.
-std::unique_ptr<PanelDocument> MakeProject(std::int64_t count) {
-  MakePanel(count);
-  auto document = PanelDocument::New("bench", Site());
-  for (const PanelDocument::Place& place : document->Places()) Define(*place.element, Definition());
-  document->CarriesPanel(true);
-  return document;
-}
 
 std::vector<std::size_t> AllPlaces(const PanelDocument& document) {
   std::vector<std::size_t> places(document.Places().size());
@@ -81,7 +51,7 @@ double ResidentMegabytes() {
 
 void OpenProject(benchmark::State& state) {
   const std::filesystem::path file = Directory() / "open.plexel";
-  MakeProject(state.range(0))->Save(file);
+  MakeProject(Site(), state.range(0))->Save(file);
   for (auto _ : state) {
     auto document = PanelDocument::Open(file, Site());
     state.PauseTiming();
@@ -101,7 +71,7 @@ int CountEntry(void* user, const char*, const char*, const char*) {
 /// The peer reads the lines of the same file, and no more.
 void PeerInihReadsTheProject(benchmark::State& state) {
   const std::filesystem::path file = Directory() / "peer.plexel";
-  MakeProject(state.range(0))->Save(file);
+  MakeProject(Site(), state.range(0))->Save(file);
   for (auto _ : state) {
     std::size_t entries = 0;
     ini_parse(file.c_str(), CountEntry, &entries);
@@ -112,9 +82,9 @@ BENCHMARK(PeerInihReadsTheProject)->Arg(20000)->Unit(benchmark::kMillisecond)->M
 
 /// Takes a paste onto all elements back, and does it again untimed.
 void UndoOfAPasteOntoAll(benchmark::State& state) {
-  MakePanel(state.range(0));
+  MakePanel(Directory(), state.range(0));
   const auto document = PanelDocument::New("bench", Site());
-  Pasting(*document, {Definition()}, AllPlaces(*document)).Do(StepKind::Paste);
+  Pasting(*document, {MadeDefinition()}, AllPlaces(*document)).Do(StepKind::Paste);
   for (auto _ : state) {
     document->Undo();
     state.PauseTiming();
@@ -127,9 +97,9 @@ BENCHMARK(UndoOfAPasteOntoAll)->Arg(20000)->Unit(benchmark::kMillisecond)->MinTi
 
 /// The peer gives all elements the same record, and keeps nothing.
 void PeerSetsAllRecords(benchmark::State& state) {
-  MakePanel(state.range(0));
+  MakePanel(Directory(), state.range(0));
   const auto document = PanelDocument::New("bench", Site());
-  const ElementRecord record = Definition();
+  const ElementRecord record = MadeDefinition();
   for (auto _ : state) {
     for (const PanelDocument::Place& place : document->Places()) place.element->SetTactisBaseElementDefinition(record);
   }
@@ -139,7 +109,7 @@ BENCHMARK(PeerSetsAllRecords)->Arg(20000)->Unit(benchmark::kMillisecond)->MinTim
 /// One portion of the texts of a recovery file; the longest portion of a whole writing stands beside.
 void RecoveryPortion(benchmark::State& state) {
   constexpr std::size_t portion = 200;
-  const auto document = MakeProject(state.range(0));
+  const auto document = MakeProject(Site(), state.range(0));
   RecoveryKeeper keeper(Directory() / "recovery", [] { return std::int64_t{1}; });
   keeper.Watch(document.get());
   document->FileIsLost({});
