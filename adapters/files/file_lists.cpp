@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "files/file_error.h"
+
 namespace plexel {
 
 std::vector<std::filesystem::path> FilesWith(std::string_view extension, const std::filesystem::path& directory,
@@ -12,6 +14,16 @@ std::vector<std::filesystem::path> FilesWith(std::string_view extension, const s
     if (entries->path().extension() == extension) files.push_back(entries->path());
   }
   std::sort(files.begin(), files.end());
+  return files;
+}
+
+std::vector<std::filesystem::path> ExistingFilesWith(std::string_view extension,
+                                                     const std::filesystem::path& directory) {
+  std::error_code error;
+  std::vector<std::filesystem::path> files = FilesWith(extension, directory, error);
+  if (error && error != std::errc::no_such_file_or_directory) {
+    throw FileError(directory, 0, "cannot be read: " + error.message());
+  }
   return files;
 }
 

@@ -13,6 +13,10 @@ namespace plexel {
 std::vector<std::filesystem::path> FilesWith(std::string_view extension, const std::filesystem::path& directory,
                                              std::error_code& error);
 
+/// The same. A directory that does not exist has none; FileError when it cannot be read.
+std::vector<std::filesystem::path> ExistingFilesWith(std::string_view extension,
+                                                     const std::filesystem::path& directory);
+
 /// The names of those files without the extension, sorted. A directory that cannot be read has none, or those found.
 std::vector<std::string> NamesOfFilesWith(std::string_view extension, const std::filesystem::path& directory);
 

@@ -85,12 +85,27 @@ int Fill(FilePort& port, int handle, std::string_view content) {
   return error != 0 ? error : closed;
 }
 
+/// Where links lead, of which the last one leads nowhere yet.
+std::filesystem::path EndOfLinks(const std::filesystem::path& file) {
+  constexpr int most = 40;  // as many as systems follow
+  std::filesystem::path target = file;
+  for (int links = 0; std::filesystem::is_symlink(target); ++links) {
+    if (links == most) throw FileError(file, 0, "cannot be written: " + ReasonOf(ELOOP));
+    target = target.parent_path() / std::filesystem::read_symlink(target);
+  }
+  return target;
+}
+
 /// The file behind a name; refuses what must not be replaced by a rename.
 std::filesystem::path TargetOf(const std::filesystem::path& file) {
   struct stat status {};
   if (::stat(file.c_str(), &status) != 0) {
     if (errno != ENOENT) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
-    return file;
+    try {
+      return EndOfLinks(file);
+    } catch (const std::filesystem::filesystem_error& failure) {
+      throw FileError(file, 0, "cannot be written: " + failure.code().message());
+    }
   }
   if (!S_ISREG(status.st_mode)) throw FileError(file, 0, "cannot be written: it is no regular file");
   if (::access(file.c_str(), W_OK) != 0) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
@@ -159,6 +174,16 @@ std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit) 
 std::string ReadFileStart(const std::filesystem::path& file, std::size_t limit) {
   bool complete = false;
   return ReadUpTo(file, limit, complete);
+}
+
+void MakeOwnDirectory(const std::filesystem::path& directory) {
+  const auto make = [&directory] { return ::mkdir(directory.c_str(), 0700) == 0 || errno == EEXIST ? 0 : errno; };
+  int error = make();
+  if (error == ENOENT && directory.has_parent_path() && directory.parent_path() != directory) {
+    MakeOwnDirectory(directory.parent_path());
+    error = make();
+  }
+  if (error != 0) throw FileError(directory, 0, "cannot be made: " + ReasonOf(error));
 }
 
 void WriteWholeFile(const std::filesystem::path& file, std::string_view content, FilePort& port) {

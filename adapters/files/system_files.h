@@ -35,9 +35,12 @@ std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit);
 /// The same, but of a larger file its first `limit` bytes.
 std::string ReadFileStart(const std::filesystem::path& file, std::size_t limit);
 
+/// Makes a directory for the user alone, and those above it, where they are missing. FileError when that fails.
+void MakeOwnDirectory(const std::filesystem::path& directory);
+
 /// Replaces a file as a whole: the content is written beside it, flushed and renamed. On any failure the old file
-/// stands as it was, nothing is left beside it, and a FileError tells the reason. A link is followed; what is no
-/// regular file, or may not be written, is refused.
+/// stands as it was, nothing is left beside it, and a FileError tells the reason. A link is followed, also
+/// where it leads to no file yet; what is no regular file, or may not be written, is refused.
 void WriteWholeFile(const std::filesystem::path& file, std::string_view content, FilePort& port = SystemFiles());
 
 }  // namespace plexel

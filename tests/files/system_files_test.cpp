@@ -96,6 +96,41 @@ TEST(WriteWholeFile, ALinkStaysALink) {
   EXPECT_EQ(Content(file), "new");
 }
 
+TEST(WriteWholeFile, ALinkThatLeadsToNoFileYetStaysALink) {
+  const TemporaryDirectory directory;
+  std::filesystem::create_directory(directory / "folder");
+  std::filesystem::create_symlink("folder/file", directory / "second");
+  std::filesystem::create_symlink(directory / "second", directory / "first");
+  WriteWholeFile(directory / "first", "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(directory / "first"));
+  EXPECT_TRUE(std::filesystem::is_symlink(directory / "second"));
+  EXPECT_EQ(Content(directory / "folder/file"), "new");
+}
+
+TEST(WriteWholeFile, ALinkThatLeadsInACircleIsRefused) {
+  const TemporaryDirectory directory;
+  std::filesystem::create_symlink("b", directory / "a");
+  std::filesystem::create_symlink("a", directory / "b");
+  EXPECT_TRUE(FileErrorOf([&] { WriteWholeFile(directory / "a", "new"); }));
+  EXPECT_TRUE(std::filesystem::is_symlink(directory / "a"));
+}
+
+TEST(MakeOwnDirectory, MakesAllThatIsMissingForTheUserAlone) {
+  const TemporaryDirectory directory;
+  MakeOwnDirectory(directory / "a/b");
+  MakeOwnDirectory(directory / "a/b");
+  struct stat status {};
+  ASSERT_EQ(::stat((directory / "a").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0700U);
+  EXPECT_TRUE(std::filesystem::is_directory(directory / "a/b"));
+}
+
+TEST(MakeOwnDirectory, AFileInItsPlaceIsAnError) {
+  const TemporaryDirectory directory;
+  directory.Put("file", "");
+  EXPECT_TRUE(FileErrorOf([&] { MakeOwnDirectory(directory / "file/a"); }));
+}
+
 TEST(WriteWholeFile, PermissionsOfTheOldFileStay) {
   const TemporaryDirectory directory;
   const auto file = directory.Put("file", "old");
