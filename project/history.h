@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "element/property_bag.h"
 #include "project/element_change.h"
 
 namespace plexel {
@@ -31,12 +33,23 @@ struct StepName {
   bool operator==(const StepName&) const = default;
 };
 
+/// A stored value whose key no element knows.
+struct ForeignValue {
+  std::string key;
+  BagValue value;
+  /// Floats by their bits: what is no number equals itself.
+  bool operator==(const ForeignValue& other) const;
+};
+/// Those of one element, in the order of the file.
+using ForeignValues = std::vector<ForeignValue>;
+
 /// One step: of each element that it changed the values that lead to its other side.
 struct Step {
   /// The values of one element, by its place in the project.
   struct Part {
     std::size_t place;
     ElementChange change;
+    std::optional<ForeignValues> foreign = {};  ///< all of them, where they differ
   };
   StepName name;
   std::vector<Part> parts;  ///< ascending by place

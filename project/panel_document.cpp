@@ -36,6 +36,48 @@ std::vector<std::uint8_t> Packed(const std::vector<SavedCodes>& codes) {
   return packed;
 }
 
+const ForeignValues& ForeignAt(const std::map<std::size_t, ForeignValues>& foreign, std::size_t place) {
+  static const ForeignValues none;
+  const auto found = foreign.find(place);
+  return found == foreign.end() ? none : found->second;
+}
+
+/// Whether an act ends in a Failure.
+template <typename Act>
+bool Fails(Act&& act) {
+  try {
+    act();
+    return false;
+  } catch (const Failure&) {
+    return true;
+  }
+}
+
+/// A bag that knows how far an element has read it. An element stops at the first value that it cannot take.
+class WatchedBag : public PropertyBag {
+ public:
+  explicit WatchedBag(const FlatBag& bag) : bag_(bag) {}
+  const BagValue* Find(std::string_view key) const override { return bag_.Find(key); }
+  const BagValue* FindOwn(std::size_t place, std::string_view key) const override {
+    last_ = place;
+    return bag_.FindOwn(place, key);
+  }
+  void Store(std::string_view, BagValue) override {}
+  void Remove(std::string_view) override {}
+  /// The key at which the reading ended too early; empty for none.
+  std::string_view StoppedAt() const {
+    if (last_ + 1 == StoredKeyCount) {  // behind the last one, a number, nothing tells whether it was taken
+      const BagValue* const value = bag_.FindOwn(last_, StoredKey(last_));
+      if (value == nullptr || !Fails([value] { static_cast<void>(BagToInt32(*value)); })) return {};
+    }
+    return StoredKey(last_);
+  }
+
+ private:
+  const FlatBag& bag_;
+  mutable std::size_t last_ = 0;
+};
+
 }  // namespace
 
 std::unique_ptr<PanelDocument> PanelDocument::New(const std::string& panelName, const Site& site) {
@@ -80,6 +122,7 @@ std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const s
   for (const PanelPart& part : document->panel_.parts) {
     if (part.element && left.contains(part.element->id)) document->AddNew(part, site);
   }
+  document->fileForeign_ = document->foreign_;
   if (!site.keepsSettings) document->Refresh();
   return document;
 }
@@ -108,11 +151,17 @@ void PanelDocument::AddNew(const PanelPart& part, const Site& site) {
 }
 
 void PanelDocument::AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site) {
-  const auto element = site.component.Read(saved.place, site.host, saved.bag);
+  const WatchedBag bag(saved.bag);
+  const auto element = site.component.Read(saved.place, site.host, bag);
+  if (!bag.StoppedAt().empty()) unread_.push_back(saved.place + ": " + std::string(bag.StoppedAt()));
   ElementAccess::Codes(*element, Packed(saved.codes));
   element->FocusVisible(False);
   element->ZoomFactor(static_cast<std::int16_t>(zoom_));
   SetWhatIsNotSaved(*element, part, site);
+  saved.bag.ForEach([](std::string_view, const BagValue&) {},
+                    [this](std::string_view key, const BagValue& value) {
+                      foreign_[places_.size()].push_back({std::string(key), value});
+                    });
   places_.push_back({&part, element});
 }
 
@@ -132,6 +181,9 @@ ProjectElement PanelDocument::ElementContent(std::size_t place) const {
   saved.place = element.Name();
   element.UserControl_WriteProperties(saved.bag);
   PutAtRest(saved.bag);
+  if (const auto foreign = foreign_.find(place); foreign != foreign_.end()) {
+    for (const auto& [key, value] : foreign->second) saved.bag.Store(key, value);
+  }
   saved.codes = CodesOf(element.TactisBaseElementScanCodeBuffer());
   return saved;
 }
@@ -150,6 +202,7 @@ void PanelDocument::Save(const std::filesystem::path& file) {
   WriteWholeFile(file, text);
   file_ = file;
   hash_ = HashOf(text);
+  fileForeign_ = foreign_;
   unsaved_.clear();
   fileIsOther_ = false;
 }
@@ -177,6 +230,7 @@ void PanelDocument::Become(StepKind kind, const PanelDocument& other) {
   std::iota(all.begin(), all.end(), std::size_t{0});
   Change(kind, all, [&] {
     ForEachPair(other, [](std::size_t, ElementChange change, ctlPlexelBaseElement& mine) { change.Exchange(mine); });
+    foreign_ = ForeignOf(other);
   });
 }
 
@@ -184,6 +238,7 @@ void PanelDocument::FileHolds(const PanelDocument& other) {
   RequireSamePanel(other);
   file_ = other.file_;
   hash_ = other.hash_;
+  fileForeign_ = ForeignOf(other);
   fileIsOther_ = false;
   unsaved_.clear();
   ForEachPair(other, [this](std::size_t place, ElementChange change, const ctlPlexelBaseElement&) {
@@ -214,6 +269,17 @@ void PanelDocument::RequireSamePanel(const PanelDocument& other) const {
   throw FileError(other.file_, 0, "its panel \"" + panelName_ + "\" has other elements than the one that is open");
 }
 
+PanelDocument::Foreign PanelDocument::ForeignOf(const PanelDocument& other) const {
+  if (other.foreign_.empty()) return {};
+  std::unordered_map<std::string_view, std::size_t> mine;
+  for (std::size_t place = 0; place < places_.size(); ++place) mine.emplace(places_[place].element->Name(), place);
+  Foreign foreign;
+  for (const auto& [place, values] : other.foreign_) {
+    foreign.emplace(mine.at(other.places_[place].element->Name()), values);
+  }
+  return foreign;
+}
+
 template <typename Visit>
 void PanelDocument::ForEachPair(const PanelDocument& other, Visit&& visit) {
   std::unordered_map<std::string_view, const ctlPlexelBaseElement*> theirs;
@@ -232,13 +298,18 @@ void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, c
   std::vector<ElementValues> before;
   before.reserve(sorted.size());
   for (const std::size_t place : sorted) before.push_back(ValuesOf(*places_.at(place).element));
+  const Foreign foreignBefore = foreign_;
   ++changing_;
   AndThen(act, [&] {
     --changing_;
     Step step;
     for (std::size_t index = 0; index < sorted.size(); ++index) {
-      const ElementValues now = ValuesOf(*places_[sorted[index]].element);
-      if (now != before[index]) step.parts.push_back({sorted[index], ElementChange(before[index], now)});
+      const std::size_t place = sorted[index];
+      const ElementValues now = ValuesOf(*places_[place].element);
+      const bool foreignDiffers = ForeignAt(foreign_, place) != ForeignAt(foreignBefore, place);
+      if (now == before[index] && !foreignDiffers) continue;
+      step.parts.push_back({place, ElementChange(before[index], now)});
+      if (foreignDiffers) step.parts.back().foreign = ForeignAt(foreignBefore, place);
     }
     if (step.parts.empty()) return;
     step.name = {kind, {}, step.parts.size()};
@@ -263,7 +334,14 @@ void PanelDocument::Redo() {
 }
 
 void PanelDocument::Exchange(Step& step) {
-  for (Step::Part& part : step.parts) part.change.Exchange(*places_[part.place].element);
+  for (Step::Part& part : step.parts) {
+    part.change.Exchange(*places_[part.place].element);
+    if (!part.foreign) continue;
+    ForeignValues held = ForeignAt(foreign_, part.place);
+    foreign_.erase(part.place);
+    if (!part.foreign->empty()) foreign_.emplace(part.place, std::move(*part.foreign));
+    part.foreign = std::move(held);
+  }
   Account(step);
 }
 

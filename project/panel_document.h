@@ -72,7 +72,7 @@ class PanelDocument {
   const std::filesystem::path& File() const { return file_; }
 
   /// Whether the project holds anything else than its file, or than the empty project that it began as.
-  bool Modified() const { return fileIsOther_ || !unsaved_.empty(); }
+  bool Modified() const { return fileIsOther_ || !unsaved_.empty() || foreign_ != fileForeign_; }
 
   /// The file compared with what this document read or wrote last. Only for a document with a file.
   enum class OnDisk { Same, Other, Gone };
@@ -98,6 +98,10 @@ class PanelDocument {
   /// outlive the document.
   void Listen(std::function<void(std::span<const std::size_t> places)> listener);
 
+  /// Stored values that elements could not read, as ELEMENT: KEY. An element stops reading at the first of its own:
+  /// from there on it has the values of a new one, and saving writes these.
+  const std::vector<std::string>& Unread() const { return unread_; }
+
   /// Percent; the same for all elements.
   int Zoom() const { return zoom_; }
   void Zoom(int percent);
@@ -109,6 +113,10 @@ class PanelDocument {
   bool LedIsDefined(std::int32_t type, std::int32_t layer) const;
 
  private:
+  /// Values that other programs have put into a file, by place; elements without any have no entry. They are saved as
+  /// they came.
+  using Foreign = std::map<std::size_t, ForeignValues>;
+
   /// The panel is read from its text.
   PanelDocument(std::string panelName, std::string panelText, const std::filesystem::path& origin)
       : panelName_(std::move(panelName)), panelText_(std::move(panelText)), panel_(ParsePanel(origin, panelText_)) {}
@@ -117,6 +125,8 @@ class PanelDocument {
   /// What a saved element does not bring along.
   void SetWhatIsNotSaved(ctlPlexelBaseElement& element, const PanelPart& part, const Site& site);
   void RequireSamePanel(const PanelDocument& other) const;
+  /// The foreign values of another project on the same panel, by the places of this one.
+  Foreign ForeignOf(const PanelDocument& other) const;
   /// Calls `visit(place, change, element)` for each element that differs from the one of the same name: the change
   /// leads to the other's values.
   template <typename Visit>
@@ -130,6 +140,8 @@ class PanelDocument {
   bool carriesPanel_ = false;
   const Panel panel_;
   std::vector<Place> places_;
+  Foreign foreign_, fileForeign_;  ///< of the project, and of its file
+  std::vector<std::string> unread_;
   std::filesystem::path file_;
   std::size_t hash_ = 0;      ///< of the file's content as it was read or written last
   bool fileIsOther_ = false;  ///< the file does not hold what `unsaved_` starts from
