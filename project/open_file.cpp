@@ -1,9 +1,8 @@
 #include "project/open_file.h"
 
-#include <system_error>
-
 #include "files/file_error.h"
 #include "files/file_lists.h"
+#include "files/system_files.h"
 #include "project/fingerprint.h"
 
 namespace plexel {
@@ -16,9 +15,7 @@ constexpr const char* Extension = ".open";
 
 OpenFile::OpenFile(const std::filesystem::path& directory, const std::filesystem::path& file)
     : directory_(directory), fingerprint_(FingerprintOf(file)) {
-  std::error_code error;
-  std::filesystem::create_directories(directory_, error);
-  if (error) throw FileError(directory_, 0, "cannot be made: " + error.message());
+  MakeOwnDirectory(directory_);
   for (int number = 1; !lock_; ++number) {
     mark_ =
         directory_ / (fingerprint_ + "-" + std::to_string(ProcessNumber()) + "-" + std::to_string(number) + Extension);
@@ -30,8 +27,7 @@ OpenFile::~OpenFile() { lock_->Remove(); }
 
 std::size_t OpenFile::Others() const {
   std::size_t others = 0;
-  std::error_code error;
-  for (const std::filesystem::path& mark : FilesWith(Extension, directory_, error)) {
+  for (const std::filesystem::path& mark : ExistingFilesWith(Extension, directory_)) {
     if (mark == mark_ || !mark.filename().string().starts_with(fingerprint_ + "-")) continue;
     try {
       // A mark that can be taken is left over from a program that was killed.

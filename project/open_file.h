@@ -20,7 +20,7 @@ class OpenFile {
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
 
-  /// How many others have the file open now.
+  /// How many others have the file open now. FileError when the marks cannot be listed.
   std::size_t Others() const;
 
  private:

@@ -7,6 +7,7 @@
 #include "files/file_error.h"
 #include "files/file_lists.h"
 #include "files/project_writer.h"
+#include "files/system_files.h"
 
 namespace plexel {
 
@@ -14,15 +15,15 @@ namespace {
 
 constexpr const char* Extension = ".recovery";
 constexpr const char* LockExtension = ".lock";
+constexpr const char* HalfExtension = ".new";  // of a file while WriteWholeFile fills it
 
 std::filesystem::path LockOf(std::filesystem::path file) { return file.replace_extension(LockExtension); }
 
 }  // namespace
 
 RecoveryKeeper::RecoveryKeeper(const std::filesystem::path& directory, Clock clock) : clock_(std::move(clock)) {
+  MakeOwnDirectory(directory);
   std::error_code error;
-  std::filesystem::create_directories(directory, error);
-  if (error) throw FileError(directory, 0, "cannot be made: " + error.message());
   std::filesystem::permissions(directory, std::filesystem::perms::owner_all, error);
   for (int number = 1; !lock_; ++number) {
     file_ = directory / (std::to_string(ProcessNumber()) + "-" + std::to_string(number) + Extension);
@@ -102,10 +103,37 @@ void RecoveryKeeper::Flush() {
   writer_->Wait();
 }
 
+namespace {
+
+/// Removes what programs that were killed have left beside recovery files: halves of new ones, and locks of no file.
+void SweepBehindKilled(const std::filesystem::path& directory) {
+  std::error_code error;
+  for (const std::filesystem::path& half : FilesWith(HalfExtension, directory, error)) {
+    const std::string name = half.filename().string();
+    const std::size_t end = name.find(Extension);
+    if (end == std::string::npos) continue;
+    if (const auto lock = ProcessLock::Try(directory / (name.substr(0, end) + LockExtension))) {
+      std::filesystem::remove(half, error);
+    }
+  }
+  for (const std::filesystem::path& file : FilesWith(LockExtension, directory, error)) {
+    std::filesystem::path work = file;
+    if (std::filesystem::exists(work.replace_extension(Extension), error) || error) continue;
+    if (std::optional<ProcessLock> lock = ProcessLock::Try(file)) lock->Remove();
+  }
+}
+
+}  // namespace
+
 std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::vector<std::string>& damaged) {
   std::vector<LostWork> found;
-  std::error_code error;
-  for (const std::filesystem::path& file : FilesWith(Extension, directory, error)) {
+  std::vector<std::filesystem::path> files;
+  try {
+    files = ExistingFilesWith(Extension, directory);
+  } catch (const FileError& failure) {
+    damaged.emplace_back(failure.what());
+  }
+  for (const std::filesystem::path& file : files) {
     try {
       std::optional<ProcessLock> lock = ProcessLock::Try(LockOf(file));
       if (!lock) continue;
@@ -114,6 +142,10 @@ std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::
     } catch (const FileError& failure) {
       damaged.emplace_back(failure.what());
     }
+  }
+  try {
+    SweepBehindKilled(directory);
+  } catch (const FileError&) {  // what is left over holds nothing, and the next start tries again
   }
   std::ranges::stable_sort(found, [](const LostWork& left, const LostWork& right) {
     return left.content.head.time > right.content.head.time;
@@ -124,6 +156,7 @@ std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::
 void Forget(LostWork& work) {
   std::error_code error;
   std::filesystem::remove(work.source, error);
+  if (error) throw FileError(work.source, 0, "cannot be removed: " + error.message());
   work.lock.Remove();
 }
 

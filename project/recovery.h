@@ -72,11 +72,12 @@ struct LostWork {
   RecoveryFile content;
 };
 
-/// What programs that are no longer running have left in a directory, the latest first. Of a damaged file the reason is
-/// added to `damaged`, and it is left where it is.
+/// What programs that are no longer running have left in a directory, the latest first. Of a damaged file, and of a
+/// directory that cannot be read, the reason is added to `damaged`; what lies there stays.
 std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::vector<std::string>& damaged);
 
-/// Removes lost work that was taken over or is not wanted.
+/// Removes lost work that was taken over or is not wanted. FileError when it cannot be removed; it will be found again
+/// then.
 void Forget(LostWork& work);
 
 }  // namespace plexel

@@ -3,6 +3,7 @@
 #include <exception>
 #include <system_error>
 
+#include "files/file_error.h"
 #include "files/system_files.h"
 
 namespace plexel {
@@ -57,8 +58,9 @@ void RecoveryWriter::Run() {
 std::string RecoveryWriter::CarryOut(const std::optional<Pieces>& pieces) const {
   try {
     if (!pieces) {
-      std::filesystem::remove(file_);
-      return {};
+      std::error_code error;
+      std::filesystem::remove(file_, error);
+      return error ? FileError(file_, 0, "cannot be removed: " + error.message()).what() : std::string();
     }
     std::size_t size = 0;
     for (const auto& piece : *pieces) size += piece->size();

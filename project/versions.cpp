@@ -31,8 +31,8 @@ std::filesystem::path VersionStore::DirectoryOf(const std::filesystem::path& pro
 
 std::vector<VersionStore::Version> VersionStore::List(const std::filesystem::path& project) const {
   std::vector<Version> versions;
-  std::error_code error;
-  for (const std::filesystem::path& file : FilesWith(Extension, DirectoryOf(project), error)) {
+  const std::filesystem::path directory = DirectoryOf(project);
+  for (const std::filesystem::path& file : ExistingFilesWith(Extension, directory)) {
     if (const auto time = ParseNumber<std::int64_t>(file.stem().string())) versions.push_back({file, *time});
   }
   std::ranges::sort(versions, [](const Version& left, const Version& right) { return left.time > right.time; });
@@ -49,9 +49,8 @@ void VersionStore::Keep(const std::filesystem::path& project, std::string_view c
     time = std::max(time, versions.front().time + 1);
   }
   const std::filesystem::path directory = DirectoryOf(project);
+  MakeOwnDirectory(directory);
   std::error_code error;
-  std::filesystem::create_directories(directory, error);
-  if (error) throw FileError(directory, 0, "cannot be made: " + error.message());
   std::filesystem::permissions(directory, std::filesystem::perms::owner_all, error);
   WriteWholeFile(directory / NameOf(time), content);
   for (std::size_t index = Most - 1; index < versions.size(); ++index)

@@ -25,7 +25,8 @@ class VersionStore {
   /// Keeps the content that a project's file was given; one that equals the latest version is not kept once more. The
   /// oldest ones go. FileError when it cannot be kept.
   void Keep(const std::filesystem::path& project, std::string_view content, std::int64_t time) const;
-  /// The versions of a project, the latest first. Files that are none are passed over.
+  /// The versions of a project, the latest first. Files that are none are passed over. FileError when they cannot be
+  /// listed.
   std::vector<Version> List(const std::filesystem::path& project) const;
 
  private:

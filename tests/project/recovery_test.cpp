@@ -208,6 +208,21 @@ TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
   EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.recovery"));
 }
 
+TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
+  keeper.Flush();
+  const std::string mine = keeper.File().stem();
+  std::ofstream(Store() / "1-1.lock") << "";
+  std::ofstream(Store() / "1-2.recovery.1-0.new") << "half";
+  PutLost("1-3.recovery", 10);
+  std::ofstream(Store() / (mine + ".recovery.9-0.new")) << "being written";
+  const auto lost = FindLostWork(Store(), damaged);
+  EXPECT_EQ(lost.size(), 1U);
+  std::vector<std::string> left;
+  for (const auto& entry : std::filesystem::directory_iterator(Store())) left.push_back(entry.path().filename());
+  EXPECT_THAT(left,
+              ::testing::UnorderedElementsAre("1-3.recovery", "1-3.lock", mine + ".lock", mine + ".recovery.9-0.new"));
+}
+
 TEST_F(LostWorkFound, EveryCutOfAFileIsDamage) {
   PutLost("1-1.recovery", 10);
   const std::string whole = [&] {
