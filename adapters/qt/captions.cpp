@@ -33,10 +33,12 @@ QString WithLetter(const std::string& caption) {
 
 QString ToolTipOf(const QString& text) {
   QStringList lines;
-  for (QString rest = text; !rest.isEmpty();) {
-    const qsizetype end = LineOf(rest);
-    lines.append(rest.first(end));
-    rest.remove(0, end);
+  for (QString rest : text.split('\n')) {
+    do {
+      const qsizetype end = LineOf(rest);
+      lines.append(rest.first(end));
+      rest.remove(0, end);
+    } while (!rest.isEmpty());
   }
   return Qt::convertFromPlainText(lines.join('\n'), Qt::WhiteSpacePre);
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "qt/captions.h"
 #include "qt/combo_view.h"
 #include "qt/grid_view.h"
 #include "qt/simple_views.h"
@@ -47,7 +48,7 @@ void ControlView::Sync() {
   if (widget.geometry() != place) widget.setGeometry(place);
   widget.setEnabled(control_.Enabled());
   widget.setVisible(control_.Visible());
-  const QString toolTip = ToQt(control_.ToolTipText());
+  const QString toolTip = control_.ToolTipText().empty() ? QString() : ToolTipOf(ToQt(control_.ToolTipText()));
   if (widget.toolTip() != toolTip) widget.setToolTip(toolTip);
   SyncMore();
 }

@@ -9,6 +9,7 @@
 #include <QWhatsThis>
 
 #include "element/ctlPlexelBaseElement.h"
+#include "qt/captions.h"
 #include "qt/element_face.h"
 #include "qt/input_events.h"
 #include "qt/panel_painter.h"
@@ -134,13 +135,13 @@ bool ElementWidget::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
     const QString name = legend_.isEmpty() ? objectName() : legend_;
     const QString words = Summary();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), words.isEmpty() ? name : name + '\n' + words,
-                       this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       ToolTipOf(words.isEmpty() ? name : name + '\n' + words), this);
     return true;
   }
   if (event->type() == QEvent::QueryWhatsThis && whatsThis().isEmpty() && !ButtonNotes().isEmpty()) return true;
   if (event->type() == QEvent::WhatsThis && whatsThis().isEmpty()) {
-    QWhatsThis::showText(static_cast<QHelpEvent*>(event)->globalPos(), ButtonNotes().toHtmlEscaped(), this);
+    QWhatsThis::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(ButtonNotes()), this);
     return true;
   }
   return QWidget::event(event);

@@ -18,6 +18,31 @@ QString TopicFile(std::string_view helpFile, std::int32_t topic) {
   return file.section('.', 0, -2) + '/' + QString::number(topic) + ".html";
 }
 
+/// Shows the topics of one help file. What their links and pictures name elsewhere is not read.
+class TopicBrowser : public QTextBrowser {
+ public:
+  void ShowTopic(const QString& file) {
+    folder_ = QFileInfo(file).absolutePath();
+    setSource(QUrl::fromLocalFile(file));
+  }
+
+ protected:
+  void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override {
+    if (IsOfHelpFile(url)) QTextBrowser::doSetSource(url, type);
+  }
+  QVariant loadResource(int type, const QUrl& url) override {
+    return IsOfHelpFile(url) ? QTextBrowser::loadResource(type, url) : QVariant();
+  }
+
+ private:
+  bool IsOfHelpFile(const QUrl& url) const {
+    const QUrl whole = source().resolved(url);
+    return whole.isLocalFile() && QFileInfo(whole.toLocalFile()).absolutePath() == folder_;
+  }
+
+  QString folder_;
+};
+
 }  // namespace
 
 HelpWindow::~HelpWindow() { delete window_; }
@@ -36,13 +61,13 @@ void HelpWindow::Show(std::intptr_t, std::string_view helpFile, std::int32_t com
     window_->resize(560, 480);
     auto* layout = new QVBoxLayout(window_);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* browser = new QTextBrowser;
+    auto* browser = new TopicBrowser;
     browser->setFrameShape(QFrame::NoFrame);
     browser->document()->setDocumentMargin(16);
     layout->addWidget(browser);
   }
-  auto* const browser = window_->findChild<QTextBrowser*>();
-  browser->setSource(QUrl::fromLocalFile(file));
+  auto* const browser = static_cast<TopicBrowser*>(window_->findChild<QTextBrowser*>());
+  browser->ShowTopic(file);
   window_->setWindowTitle(title ? title() : browser->documentTitle());
   window_->show();
   window_->activateWindow();

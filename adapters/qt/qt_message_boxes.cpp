@@ -1,10 +1,10 @@
 #include "qt/qt_message_boxes.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QPushButton>
 #include <array>
 
+#include "qt/plain_box.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -26,8 +26,7 @@ constexpr std::int32_t ButtonsMask = 0x0F;
 }  // namespace
 
 MessageAnswer QtMessageBoxes::Show(std::string_view prompt, std::int32_t style, std::string_view title) {
-  QMessageBox box(QApplication::activeWindow());
-  box.setTextFormat(Qt::PlainText);
+  PlainBox box(QApplication::activeWindow());
   box.setText(ToQt(prompt));
   box.setWindowTitle(ToQt(title));
   box.setIcon((style & MessageBoxes::StyleCritical) != 0 ? QMessageBox::Critical : QMessageBox::Information);

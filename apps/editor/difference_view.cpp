@@ -3,6 +3,7 @@
 #include <QHeaderView>
 
 #include "editor/difference_text.h"
+#include "qt/captions.h"
 
 namespace plexel {
 
@@ -22,7 +23,7 @@ void DifferenceView::Show(const std::vector<ProjectDifference>& differences) {
     auto* const item = new QTreeWidgetItem({text.element, text.what, text.from, text.to});
     // A tool tip takes text that looks like mark-up for mark-up, unless it is told otherwise.
     for (const auto& [column, value] : {std::pair{2, text.from}, std::pair{3, text.to}}) {
-      item->setToolTip(column, "<span>" + value.toHtmlEscaped() + "</span>");
+      item->setToolTip(column, ToolTipOf(value));
     }
     items.append(item);
   }

@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QProxyStyle>
 #include <iostream>
 #include <string_view>
@@ -17,6 +16,7 @@
 #include "files/system_files.h"
 #include "qt/fonts.h"
 #include "qt/pictures.h"
+#include "qt/plain_box.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -34,6 +34,14 @@ class PlainButtons : public QProxyStyle {
   }
 };
 
+void TellInBox(QMessageBox::Icon icon, const QString& text, QWidget* parent) {
+  PlainBox box(parent);
+  box.setIcon(icon);
+  box.setWindowTitle("Plexel");
+  box.setText(text);
+  box.exec();
+}
+
 /// Tells what could not be read of the user's own files.
 void TellProblems(const FileSurroundings& surroundings, const FileRegistry& registry, const FileSettings& settings,
                   QWidget* parent) {
@@ -43,7 +51,7 @@ void TellProblems(const FileSurroundings& surroundings, const FileRegistry& regi
   if (surroundings.LanguageProblem()) problems.append(ToQt(std::string_view(surroundings.LanguageProblem()->what())));
   if (problems.isEmpty()) return;
   for (const QString& problem : problems) qWarning("%s", qUtf8Printable(problem));
-  QMessageBox::warning(parent, "Plexel", Say(Text::FilesDamaged) + "\n\n" + problems.join('\n'));
+  TellInBox(QMessageBox::Warning, Say(Text::FilesDamaged) + "\n\n" + problems.join('\n'), parent);
 }
 
 int Run(const QString& project) {
@@ -101,7 +109,7 @@ int main(int argc, char** argv) {
   } catch (const std::exception& failure) {
     std::cerr << "plexel-editor: " << failure.what() << '\n';
     if (!call.pdf.isEmpty()) return 1;
-    QMessageBox::critical(nullptr, "Plexel", QString::fromUtf8(failure.what()));
+    plexel::TellInBox(QMessageBox::Critical, QString::fromUtf8(failure.what()), nullptr);
     return 1;
   }
 }

@@ -8,7 +8,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QToolBar>
 #include <algorithm>
@@ -23,6 +22,7 @@
 #include "editor/version.h"
 #include "editor/virtual_panel.h"
 #include "files/file_error.h"
+#include "qt/plain_box.h"
 #include "qt/units.h"
 #include "services/shared_services.h"
 
@@ -177,10 +177,9 @@ bool MainWindow::SaveAsked() {
 bool MainWindow::MayLeaveProject() {
   inspector_->Commit();
   if (!document_ || !document_->Modified()) return true;
-  QMessageBox box(this);
+  PlainBox box(this);
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle("Plexel");
-  box.setTextFormat(Qt::PlainText);
   box.setText(Say(Text::AskSave).arg(ProjectName()));
   QPushButton* const save = box.addButton(Say(Text::Save), QMessageBox::AcceptRole);
   QPushButton* const leave = box.addButton(Say(Text::DoNotSave), QMessageBox::DestructiveRole);
@@ -215,10 +214,9 @@ void MainWindow::EditSettings() {
 void MainWindow::ShowContents() { help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents); }
 
 void MainWindow::ShowAbout() {
-  QMessageBox box(this);
+  PlainBox box(this);
   box.setWindowTitle(Say(Text::About).remove('&'));
   box.setIconPixmap(windowIcon().pixmap(64));
-  box.setTextFormat(Qt::PlainText);
   box.setText(Say(Text::AboutText).arg(ProgramVersion));
   box.addButton(Say(Text::OK), QMessageBox::AcceptRole);
   box.exec();

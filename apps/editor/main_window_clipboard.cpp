@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDrag>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QStatusBar>
@@ -13,6 +12,7 @@
 #include "editor/layers_dialog.h"
 #include "editor/panel_view.h"
 #include "files/file_error.h"
+#include "qt/plain_box.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -51,10 +51,9 @@ QString List(const std::vector<Misfit>& misfits) {
 
 /// The number of the button that the user picks, -1 for Cancel.
 int Ask(QWidget* parent, Text question, const std::vector<Misfit>& misfits, std::initializer_list<Text> answers) {
-  QMessageBox box(parent);
+  PlainBox box(parent);
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle("Plexel");
-  box.setTextFormat(Qt::PlainText);
   box.setText(Say(question));
   box.setInformativeText(List(misfits));
   std::vector<QAbstractButton*> buttons;

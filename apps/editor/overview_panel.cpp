@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -16,6 +15,7 @@
 #include "editor/overview_table.h"
 #include "editor/texts.h"
 #include "project/key_code_names.h"
+#include "qt/plain_box.h"
 #include "qt/units.h"
 #include "scancodes/special_functions.h"
 #include "services/shared_services.h"
@@ -207,10 +207,9 @@ const ctlPlexelBaseElement* OverviewPanel::Shower(std::int32_t layer, enumLedTyp
 }
 
 bool OverviewPanel::AgreesToTwice(const ctlPlexelBaseElement& other, std::int32_t layer, enumLedType type) {
-  QMessageBox box(window());
+  PlainBox box(window());
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle("Plexel");
-  box.setTextFormat(Qt::PlainText);
   box.setText(Say(Text::LedTwice).arg(ToQt(other.Name()), ToQt(LedTypeToText(type))).arg(layer));
   const QPushButton* const set = box.addButton(Say(Text::LedTwiceSet), QMessageBox::AcceptRole);
   QPushButton* const cancel = box.addButton(Say(Text::Cancel), QMessageBox::RejectRole);

@@ -5,6 +5,7 @@
 
 #include "editor/editor_store.h"
 #include "editor/texts.h"
+#include "qt/captions.h"
 
 namespace plexel {
 
@@ -35,7 +36,7 @@ void RecentMenu::Fill() {
     const QString place = Plain(info.fileName()) + " \u2013 " + Plain(QDir::toNativeSeparators(info.path()));
     // The last of ten has the letter 0.
     QAction* const entry = addAction('&' + QString::number(++number % EditorStore::MostRecent) + "  " + place);
-    entry->setToolTip(file.toHtmlEscaped());
+    entry->setToolTip(ToolTipOf(file));
     connect(entry, &QAction::triggered, this, [this, file] {
       if (onOpen) onOpen(file);
     });
