@@ -214,13 +214,15 @@ std::vector<PanelDifference> PanelDocument::InstalledPanelDiffers(const std::fil
   return DifferencesOf(panel_, ReadPanel(file));
 }
 
-PanelDocument::OnDisk PanelDocument::FileNow() const {
+PanelDocument::FileState PanelDocument::Compare(const KnownFile& known) {
   std::error_code error;
-  if (!std::filesystem::exists(file_, error)) return OnDisk::Gone;
+  const auto type = std::filesystem::status(known.file, error).type();
+  if (type == std::filesystem::file_type::not_found) return {OnDisk::Gone};
+  if (error) return {OnDisk::Unreadable, FileError(known.file, 0, "cannot be read: " + error.message()).what()};
   try {
-    return HashOf(ReadWholeFile(file_, ProjectLimit)) == hash_ ? OnDisk::Same : OnDisk::Other;
-  } catch (const FileError&) {
-    return OnDisk::Other;
+    return {HashOf(ReadWholeFile(known.file, ProjectLimit)) == known.hash ? OnDisk::Same : OnDisk::Other};
+  } catch (const FileError& failure) {
+    return {OnDisk::Unreadable, failure.what()};
   }
 }
 

@@ -74,9 +74,24 @@ class PanelDocument {
   /// Whether the project holds anything else than its file, or than the empty project that it began as.
   bool Modified() const { return fileIsOther_ || !unsaved_.empty() || foreign_ != fileForeign_; }
 
-  /// The file compared with what this document read or wrote last. Only for a document with a file.
-  enum class OnDisk { Same, Other, Gone };
-  OnDisk FileNow() const;
+  /// A file with what a document read from it or wrote into it last.
+  struct KnownFile {
+    std::filesystem::path file;
+    std::size_t hash = 0;  ///< of the content
+    bool operator==(const KnownFile&) const = default;
+  };
+  KnownFile Known() const { return {file_, hash_}; }
+  /// What a file is compared with that.
+  enum class OnDisk { Same, Other, Gone, Unreadable };
+  struct FileState {
+    OnDisk now = OnDisk::Same;
+    std::string reason = {};  ///< why it is unreadable
+    bool operator==(const FileState&) const = default;
+  };
+  /// Reads the file and compares it; on any thread, since no document takes part.
+  static FileState Compare(const KnownFile& known);
+  /// The file of this document now. Only for a document with a file.
+  FileState FileNow() const { return Compare(Known()); }
   /// Takes over all values of a project on the same panel, as one step; FileError for another panel, or for one of the
   /// same name with other elements.
   void Become(StepKind kind, const PanelDocument& other);

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolButton>
@@ -24,7 +23,10 @@
 #include "editor/trial_dock.h"
 #include "editor/trial_mode.h"
 #include "editor/virtual_panel.h"
+#include "editor/wait_cursor.h"
 #include "files/data_directory.h"
+#include "qt/captions.h"
+#include "qt/plain_box.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -185,8 +187,11 @@ bool MainWindow::NewProject(const std::string& panel) {
 
 bool MainWindow::OpenProject(const std::filesystem::path& file) {
   try {
+    WaitCursor waits;
     Take(PanelDocument::Open(file, Site()));
     WasUsed(file);
+    waits.End();
+    TellUnread();
     return true;
   } catch (const std::exception& failure) {
     Tell(Text::OpenFailed, failure.what());
@@ -197,6 +202,7 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
 bool MainWindow::SaveProject(const std::filesystem::path& file) {
   if (!MayOverwrite(file)) return false;
   try {
+    const WaitCursor waits;
     safekeeping_.BeforeSave(file);
     // What is saved unchanged keeps every byte of its file.
     if (document_->Modified() || document_->File().empty()) document_->CarriesPanel(true);
@@ -241,7 +247,7 @@ void MainWindow::ShowStatus() {
   QStringList text = element == nullptr ? QStringList(Say(Text::NothingSelected)) : ElementText(*element);
   if (selection_.IsMany()) text.prepend(Say(Text::ChosenCount).arg(selection_.ChosenCount()));
   status_->SetText("  " + text.join("   \u00B7   "));
-  status_->setToolTip(text.join('\n'));
+  status_->setToolTip(ToolTipOf(text.join('\n')));
   ShowConfigure();
 }
 
@@ -259,7 +265,8 @@ QString MainWindow::ProjectName() const {
 
 void MainWindow::ShowTitle() {
   setWindowModified(document_ && document_->Modified());
-  setWindowTitle(ProjectName() + "[*] \u2013 Plexel");
+  // The sign stands once for the mark of a changed project, and twice for itself.
+  setWindowTitle(ProjectName().replace("[*]", "[*][*]") + "[*] \u2013 Plexel");
 }
 
 void MainWindow::Guarded(const std::function<void()>& act) {
@@ -275,10 +282,9 @@ void MainWindow::Guarded(const std::function<void()>& act) {
 void MainWindow::Tell(Text what, const QString& reason) {
   qWarning("%s %s", qUtf8Printable(Say(what)), qUtf8Printable(reason));
   log_->Append(reason);
-  QMessageBox box(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this);
+  PlainBox box(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this);
   box.setIcon(QMessageBox::Warning);
   box.setWindowTitle("Plexel");
-  box.setTextFormat(Qt::PlainText);
   box.setText(Say(what));
   box.setInformativeText(reason);
   box.addButton(Say(Text::OK), QMessageBox::AcceptRole);
@@ -290,6 +296,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   Guarded([&] { leave = MayLeaveProject(); });
   if (leave) {
     RememberWindow();
+    TellStore();
     CloseVirtualPanel();
     safekeeping_.Watch(nullptr);
   }

@@ -158,17 +158,20 @@ class MainWindow : public QMainWindow {
 
   void ConnectSafekeeping();
   /// What the user may do about a file that somebody else has changed.
-  void TellFileChanged(PanelDocument::OnDisk now);
+  void TellFileChanged(const PanelDocument::FileState& state);
   void KeepMine();
   void TakeTheirs();
   void ShowFileDifference();
   /// False when the user does not want to write over a file that somebody else has changed.
   bool MayOverwrite(const std::filesystem::path& file);
   void ShowVersions();
+  /// Tells what of the file's values no element could read.
+  void TellUnread();
   /// Tells when the installed panel is not the one that the project carries.
   void TellPanelChanged();
   void UseInstalledPanel();
   void BringBack(LostWork& work);
+  void ForgetLost(LostWork& work);
 
   void AskNew();
   void AskOpen();
@@ -204,6 +207,8 @@ class MainWindow : public QMainWindow {
   void OpenPicked(const QString& file);
   /// Keeps in mind a file that was opened or saved.
   void WasUsed(const std::filesystem::path& file);
+  /// Tells in the events why the editor's own values cannot be kept.
+  void TellStore();
   void RememberWindow();
   void RestoreWindow();
   FormSubject SubjectOf(const Form& form) const;

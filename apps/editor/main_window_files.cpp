@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "editor/log_panel.h"
 #include "editor/panel_view.h"
 #include "qt/units.h"
 #include "services/dialogs.h"
@@ -39,6 +40,14 @@ void MainWindow::WasUsed(const std::filesystem::path& file) {
   const QFileInfo info(QString::fromStdString(file.string()));
   store_.AddRecent(info.absoluteFilePath());
   store_.Folder(info.absolutePath());
+  TellStore();
+}
+
+void MainWindow::TellStore() {
+  const QString problem = store_.Keep();
+  if (problem.isEmpty()) return;
+  qWarning("%s", qUtf8Printable(problem));
+  log_->Append(problem);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

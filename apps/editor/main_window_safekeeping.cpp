@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -14,7 +13,9 @@
 #include "editor/log_panel.h"
 #include "editor/notice_bar.h"
 #include "editor/versions_dialog.h"
+#include "editor/wait_cursor.h"
 #include "files/file_error.h"
+#include "qt/plain_box.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -34,10 +35,9 @@ std::optional<QString> AgainstItsFile(const RecoveryFile& lost, const PanelDocum
 enum class LostAnswer { BringBack, Discard, Later };
 
 LostAnswer AskAboutLost(const RecoveryFile& lost, const PanelDocument::Site& site, QWidget* parent) {
-  QMessageBox box(parent);
+  PlainBox box(parent);
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle("Plexel");
-  box.setTextFormat(Qt::PlainText);
   const QDateTime time = QDateTime::fromSecsSinceEpoch(lost.head.time);
   box.setText(Say(Text::LostWorkFound).arg(UserLocale().toString(time, QLocale::ShortFormat)));
   QStringList lines = {lost.head.file.empty() ? Say(Text::LostWorkNew)
@@ -54,10 +54,9 @@ LostAnswer AskAboutLost(const RecoveryFile& lost, const PanelDocument::Site& sit
 }
 
 bool Confirm(const QString& question, const QString& yes, QWidget* parent) {
-  QMessageBox box(parent);
+  PlainBox box(parent);
   box.setIcon(QMessageBox::Warning);
   box.setWindowTitle("Plexel");
-  box.setTextFormat(Qt::PlainText);
   box.setText(question);
   QPushButton* const accept = box.addButton(yes, QMessageBox::DestructiveRole);
   QPushButton* const reject = box.addButton(Say(Text::Cancel), QMessageBox::RejectRole);
@@ -106,6 +105,17 @@ void MainWindow::TellPanelChanged() {
   }
 }
 
+void MainWindow::TellUnread() {
+  if (document_->Unread().empty()) return;
+  constexpr std::size_t most = 12;
+  QStringList lines;
+  for (const std::string& one : document_->Unread()) {
+    if (lines.size() < static_cast<qsizetype>(most)) lines.append(ToQt(one));
+  }
+  if (document_->Unread().size() > most) lines.append(Say(Text::MoreOfThem).arg(document_->Unread().size() - most));
+  Tell(Text::ValuesUnread, lines.join('\n'));
+}
+
 void MainWindow::UseInstalledPanel() {
   Project project = document_->Content();
   project.panelText.clear();
@@ -120,7 +130,7 @@ void MainWindow::UseInstalledPanel() {
 }
 
 void MainWindow::ConnectSafekeeping() {
-  safekeeping_.onFileChanged = [this](PanelDocument::OnDisk now) { TellFileChanged(now); };
+  safekeeping_.onFileChanged = [this](const PanelDocument::FileState& state) { TellFileChanged(state); };
   safekeeping_.onOthers = [this](std::size_t others) {
     if (others > 0) notice_->Tell(Say(Text::OthersHaveIt), {{Say(Text::OK), [this] { notice_->hide(); }}});
   };
@@ -130,16 +140,20 @@ void MainWindow::ConnectSafekeeping() {
   };
 }
 
-void MainWindow::TellFileChanged(PanelDocument::OnDisk now) {
+void MainWindow::TellFileChanged(const PanelDocument::FileState& state) {
   const NoticeBar::Choice keep = {Say(Text::KeepMine), [this] { Guarded([this] { KeepMine(); }); }};
-  switch (now) {
+  const NoticeBar::Choice seen = {Say(Text::OK), [this] { notice_->hide(); }};
+  switch (state.now) {
     case PanelDocument::OnDisk::Same:
       notice_->hide();
       break;
     case PanelDocument::OnDisk::Gone:
       document_->FileIsLost(document_->File());
       ShowTitle();
-      notice_->Tell(Say(Text::FileGone).arg(ProjectName()), {{Say(Text::OK), [this] { notice_->hide(); }}});
+      notice_->Tell(Say(Text::FileGone).arg(ProjectName()), {seen});
+      break;
+    case PanelDocument::OnDisk::Unreadable:
+      notice_->Tell(Say(Text::FileUnreadable) + ' ' + ToQt(state.reason), {seen});
       break;
     case PanelDocument::OnDisk::Other:
       notice_->Tell(Say(Text::FileChanged).arg(ProjectName()),
@@ -193,15 +207,20 @@ void MainWindow::ShowFileDifference() {
 
 bool MainWindow::MayOverwrite(const std::filesystem::path& file) {
   // Saving under another name has been asked for by the toolkit's dialog.
-  if (file != document_->File() || document_->FileNow() != PanelDocument::OnDisk::Other) return true;
+  if (file != document_->File()) return true;
+  WaitCursor waits;
+  const PanelDocument::FileState state = document_->FileNow();
+  waits.End();
+  if (state.now == PanelDocument::OnDisk::Unreadable) log_->Append(ToQt(state.reason));
+  if (state.now == PanelDocument::OnDisk::Same || state.now == PanelDocument::OnDisk::Gone) return true;
   return Confirm(Say(Text::AskOverwrite), Say(Text::Overwrite), this);
 }
 
 void MainWindow::ShowVersions() {
   if (!document_) return;
-  VersionsDialog dialog(safekeeping_.Versions(), *document_, this);
-  if (dialog.exec() != QDialog::Accepted) return;
   try {
+    VersionsDialog dialog(safekeeping_.Versions(), *document_, this);
+    if (dialog.exec() != QDialog::Accepted) return;
     const std::filesystem::path version = dialog.Chosen();
     document_->Become(StepKind::Restore, *PanelDocument::Of(ReadProject(version), version, Site()));
   } catch (const FileError& failure) {
@@ -216,7 +235,7 @@ bool MainWindow::OfferLostWork() {
   for (LostWork& work : found) {
     if (brought) break;  // a window has one project; the others are offered at the next start
     const LostAnswer answer = AskAboutLost(work.content, Site(), this);
-    if (answer == LostAnswer::Discard && Confirm(Say(Text::AskDiscard), Say(Text::Discard), this)) Forget(work);
+    if (answer == LostAnswer::Discard && Confirm(Say(Text::AskDiscard), Say(Text::Discard), this)) ForgetLost(work);
     if (answer != LostAnswer::BringBack) continue;
     try {
       BringBack(work);
@@ -250,7 +269,15 @@ void MainWindow::BringBack(LostWork& work) {
     document->FileIsLost(lost.head.file);
   }
   Take(std::move(document));
-  Forget(work);
+  ForgetLost(work);
+}
+
+void MainWindow::ForgetLost(LostWork& work) {
+  try {
+    Forget(work);
+  } catch (const FileError& failure) {
+    Tell(Text::Failed, ToQt(std::string_view(failure.what())));
+  }
 }
 
 }  // namespace plexel

@@ -13,8 +13,8 @@ namespace {
 
 /// Elements of one portion: some hundred microseconds of work.
 constexpr std::size_t PortionSize = 200;
-/// Programs write a file in several steps; it is looked at behind the last one.
-constexpr int CheckDelay = 200;
+/// A program that begins or ends puts its mark in several steps; they are counted behind the last one.
+constexpr int CountDelay = 200;
 
 }  // namespace
 
@@ -22,15 +22,22 @@ Safekeeping::Safekeeping(std::filesystem::path directory)
     : directory_(std::move(directory)), versions_(directory_ / "versions") {
   delay_.setSingleShot(true);
   delay_.setInterval(Delay);
-  check_.setSingleShot(true);
-  check_.setInterval(CheckDelay);
+  count_.setSingleShot(true);
+  count_.setInterval(CountDelay);
   portions_.setInterval(0);
   connect(&delay_, &QTimer::timeout, this, [this] { portions_.start(); });
   connect(&portions_, &QTimer::timeout, this, [this] { Portion(); });
-  connect(&check_, &QTimer::timeout, this, [this] { CheckFile(); });
-  const auto look = [this] { check_.start(); };
-  connect(&watcher_, &QFileSystemWatcher::fileChanged, this, look);
-  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, look);
+  connect(&count_, &QTimer::timeout, this, [this] { CountOthers(); });
+  connect(&marks_, &QFileSystemWatcher::directoryChanged, this, [this] { count_.start(); });
+  fileWatch_.onChanged = [this](const PanelDocument::FileState& state) {
+    if (onFileChanged) onFileChanged(state);
+    if (document_ == nullptr) return;
+    fileWatch_.Know(document_->Known());
+    if (keeper_) {  // what the project holds may be nowhere else any more
+      keeper_->Saved();
+      Note();
+    }
+  };
 }
 
 Safekeeping::~Safekeeping() { Leave(); }
@@ -111,45 +118,29 @@ void Safekeeping::Portion() {
 }
 
 void Safekeeping::WatchFile() {
-  if (const QStringList watched = watcher_.files() + watcher_.directories(); !watched.isEmpty()) {
-    watcher_.removePaths(watched);
-  }
-  told_.reset();
+  if (const QStringList watched = marks_.directories(); !watched.isEmpty()) marks_.removePaths(watched);
   openFile_.reset();
   others_ = 0;
-  if (document_ == nullptr || document_->File().empty()) return;
-  const std::filesystem::path file = document_->File();
+  const bool any = document_ != nullptr && !document_->File().empty();
+  fileWatch_.Watch(any ? document_->Known() : PanelDocument::KnownFile());
+  if (!any) return;
   try {
-    openFile_.emplace(directory_ / "open", file);
-    watcher_.addPath(ToQt((directory_ / "open").string()));
+    openFile_.emplace(directory_ / "open", document_->File());
+    marks_.addPath(ToQt((directory_ / "open").string()));
   } catch (const std::exception& failure) {
     Tell(failure);
   }
-  watcher_.addPath(ToQt(file.string()));
-  watcher_.addPath(ToQt(file.has_parent_path() ? file.parent_path().string() : std::string(".")));
-  check_.start();
+  count_.start();
 }
 
-void Safekeeping::CheckFile() {
-  if (document_ == nullptr || document_->File().empty()) return;
-  if (openFile_) {
+void Safekeeping::CountOthers() {
+  if (!openFile_) return;
+  try {
     const std::size_t others = openFile_->Others();
     if (others != others_ && onOthers) onOthers(others);
     others_ = others;
-  }
-  const QString file = ToQt(document_->File().string());
-  if (!watcher_.files().contains(file)) watcher_.addPath(file);
-  const PanelDocument::OnDisk now = document_->FileNow();
-  std::error_code error;
-  const std::pair state(now, std::filesystem::last_write_time(document_->File(), error));
-  if (told_ == state) return;
-  const bool first = !told_;
-  told_ = state;
-  if (now == PanelDocument::OnDisk::Same && first) return;
-  if (onFileChanged) onFileChanged(now);
-  if (keeper_) {  // what the project holds may be nowhere else any more
-    keeper_->Saved();
-    Note();
+  } catch (const std::exception& failure) {
+    Tell(failure);
   }
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/file_watch.h"
 #include "project/open_file.h"
 #include "project/recovery.h"
 #include "project/versions.h"
@@ -24,7 +25,7 @@ class Safekeeping : public QObject {
   ~Safekeeping() override;
 
   /// The file is not what it was, told once for each new state.
-  std::function<void(PanelDocument::OnDisk)> onFileChanged;
+  std::function<void(const PanelDocument::FileState&)> onFileChanged;
   /// So many others have the file open; told when that changes.
   std::function<void(std::size_t)> onOthers;
   std::function<void(const QString& reason)> onProblem;
@@ -50,7 +51,7 @@ class Safekeeping : public QObject {
   void Note();
   void Portion();
   void WatchFile();
-  void CheckFile();
+  void CountOthers();
   void Tell(const std::exception& failure);
 
   const std::filesystem::path directory_;
@@ -58,9 +59,9 @@ class Safekeeping : public QObject {
   std::optional<RecoveryKeeper> keeper_;
   std::optional<OpenFile> openFile_;
   PanelDocument* document_ = nullptr;
-  QFileSystemWatcher watcher_;
-  QTimer delay_, portions_, check_;
-  std::optional<std::pair<PanelDocument::OnDisk, std::filesystem::file_time_type>> told_;
+  FileWatch fileWatch_;
+  QFileSystemWatcher marks_;  ///< of open files, in the user's own directory
+  QTimer delay_, portions_, count_;
   std::size_t others_ = 0;
   std::string problem_;
 };

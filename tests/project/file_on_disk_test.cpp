@@ -31,25 +31,25 @@ class FileOnDisk : public OpenDocument {
 };
 
 TEST_F(FileOnDisk, IsTheSameAfterSavingAndAfterOpening) {
-  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Same);
-  EXPECT_EQ(PanelDocument::Open(file, Site())->FileNow(), PanelDocument::OnDisk::Same);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Same);
+  EXPECT_EQ(PanelDocument::Open(file, Site())->FileNow().now, PanelDocument::OnDisk::Same);
 }
 
 TEST_F(FileOnDisk, IsTheSameWhenItWasWrittenAgainAlike) {
   WriteProject(file, ReadProject(file));
-  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Same);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Same);
 }
 
 TEST_F(FileOnDisk, IsOtherWhenAnotherProgramChangedOrBrokeIt) {
   PutNotes("theirs");
-  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Other);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Other);
   std::ofstream(file) << "no project";
-  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Other);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Other);
 }
 
 TEST_F(FileOnDisk, IsGoneWhenItWasRemoved) {
   std::filesystem::remove(file);
-  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Gone);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Gone);
 }
 
 TEST_F(FileOnDisk, TakingTheirsIsOneStepAndThenNothingDiffers) {
@@ -61,7 +61,7 @@ TEST_F(FileOnDisk, TakingTheirsIsOneStepAndThenNothingDiffers) {
   EXPECT_EQ(Element("F3").ButtonNotes(), "theirs");
   EXPECT_EQ(Element("F4").ButtonNotes(), "");
   EXPECT_FALSE(document->Modified());
-  EXPECT_EQ(document->FileNow(), PanelDocument::OnDisk::Same);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Same);
   document->Undo();
   EXPECT_EQ(Element("F3").ButtonNotes(), "");
   EXPECT_EQ(Element("F4").ButtonNotes(), "mine");

@@ -31,12 +31,42 @@ TEST_F(EditorStoreTest, KeepsTheLastTenFilesTheLatestFirst) {
 
 TEST_F(EditorStoreTest, ForeignValuesArePassedOver) {
   Write(
-      "[Window]\nGeometry=nothing of ours\nLayout=@ByteArray(x)\n[Files]\nRecent=relative, /a.plexel, /a.plexel\n"
+      "[Window]\nGeometry=nothing of ours\nLayout=@ByteArray(x)\nno line\n[Files]\nRecent=relative /a.plexel "
+      "/a.plexel\n"
       "Folder=/there/is/no/such/folder\n");
   EditorStore store(Folder());
   EXPECT_EQ(store.Geometry(), QByteArray());
   EXPECT_EQ(store.Recent(), QStringList("/a.plexel"));
   EXPECT_EQ(store.Folder(), QString());
+}
+
+TEST_F(EditorStoreTest, NamesOfFilesComeBackAsTheyWere) {
+  const QString name = QString::fromUtf8("/ [a];=%20 \n\u00E4#/ b ");
+  const QByteArray packed("\0\x01\n=", 4);
+  {
+    EditorStore store(Folder());
+    store.AddRecent(name);
+    store.Folder(QString::fromStdString(Folder().string()));
+    store.Geometry(packed);
+    store.Labels(true);
+  }
+  const EditorStore store(Folder());
+  EXPECT_EQ(store.Recent(), QStringList(name));
+  EXPECT_EQ(store.Folder().toStdString(), Folder().string());
+  EXPECT_EQ(store.Geometry(), packed);
+  EXPECT_TRUE(store.Labels());
+}
+
+TEST_F(EditorStoreTest, WhatAnotherEditorHasKeptStays) {
+  EditorStore mine(Folder());
+  {
+    EditorStore theirs(Folder());
+    theirs.Labels(true);
+  }
+  mine.AddRecent("/a.plexel");
+  EXPECT_EQ(mine.Keep(), "");
+  EXPECT_TRUE(EditorStore(Folder()).Labels());
+  EXPECT_EQ(EditorStore(Folder()).Recent(), QStringList("/a.plexel"));
 }
 
 TEST_F(EditorStoreTest, ADamagedFileIsAnEmptyOne) {

@@ -151,6 +151,12 @@ class Texts(Trees):
         self.write("src/forms/a.cpp", "int a;\n// TO" "DO: the rest\n")
         self.assert_fails("src/forms/a.cpp:2:")
 
+    def test_with_a_message_box_that_guesses_mark_up_fail(self):
+        self.write("apps/editor/a.cpp", "PlainBox fine(this);\nQMessageBox box(this);\n")
+        self.assert_fails("apps/editor/a.cpp:2:")
+        self.write("apps/editor/a.cpp", "\nQMessageBox::warning(this, title, text);\n")
+        self.assert_fails("apps/editor/a.cpp:2:")
+
 
 class HeadersAlone(Trees):
     def build(self, room_source, flags):

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <thread>
+
+namespace plexel {
+
+/// Makes one operation on files fail. Each call into the system's library is looked at on its way, whoever makes it:
+/// the program, the standard library or the toolkit; nothing in shipped code knows of it. One at a time.
+class FileFaults {
+ public:
+  /// Of the operations below a directory, itself among them, the one of this number, from 1, fails with an error number
+  /// of the system.
+  FileFaults(const std::filesystem::path& directory, int number, int error);
+  ~FileFaults();
+  FileFaults(const FileFaults&) = delete;
+  FileFaults& operator=(const FileFaults&) = delete;
+
+  /// The operation that failed, as the system calls it; empty while none has.
+  std::string Failed() const;
+};
+
+/// A file in a folder that answers late: whoever opens it waits until it is let go. One at a time.
+class LateFile {
+ public:
+  explicit LateFile(const std::filesystem::path& file);
+  /// Lets go.
+  ~LateFile();
+  LateFile(const LateFile&) = delete;
+  LateFile& operator=(const LateFile&) = delete;
+
+  void LetGo();
+  /// Whether somebody waits now.
+  bool IsWaitedFor() const;
+  /// Called by whoever made this object each time that he does anything with the file; he does not wait.
+  void OnOwn(std::function<void(const char* operation)> told);
+};
+
+/// The system watches no files for anybody, as when there are too many watches already or a folder cannot be watched.
+class NoFileWatching {
+ public:
+  NoFileWatching();
+  ~NoFileWatching();
+  NoFileWatching(const NoFileWatching&) = delete;
+  NoFileWatching& operator=(const NoFileWatching&) = delete;
+};
+
+}  // namespace plexel
