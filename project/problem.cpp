@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "project/key_code_names.h"
+#include "project/text_in_force.h"
 #include "services/shared_services.h"
 #include "services/value_rows.h"
 
@@ -25,26 +26,42 @@ constexpr auto rules = std::to_array<ProblemRuleRow>({
 });
 static_assert(InOrderOfValues(rules, &ProblemRuleRow::rule));
 
-constexpr ProblemWords english = {
-    {
-        "%1 is still down after release: every further key reaches the machine together with it",
-        "on %d %1 comes up that is not down: the machine passes over it",
-        "on %d the machine gets %1, which is no key",
-        "a text stands, but on %d the machine gets nothing",
-        "no text stands, but on %d the machine gets bytes",
-        "the text for %d has %1 groups, but the machine gets %2",
-        "press and release hold %1 code bytes, more than the panel has room for in a layer",
-        "there is no LED that could show %1",
-        "the LED stays dark: the panel does not offer %1 here",
-        "%2 shows %1 too: both light up at once",
-        {},
-    },
-    {"button number %1 is that of %2 too: the panel takes both for one key",
-     "LED number %1 is that of %2 too: the panel switches both at once",
-     "key number %1 is that of %2 too: the panel takes both for one key switch"},
-    {"press", "release"},
-};
-static_assert(std::tuple_size_v<decltype(english.patterns)> == rules.size());
+/// The texts of the languages begin with this number: one for each rule but NumberTwice, then those of numbers and of
+/// directions.
+constexpr std::int32_t FirstText = 21070;
+constexpr std::size_t PatternCount = rules.size() - 1;
+constexpr std::array<std::string_view, PatternCount> englishPatterns = {
+    "%1 is still down after release: every further key reaches the machine together with it",
+    "on %d %1 comes up that is not down: the machine passes over it",
+    "on %d the machine gets %1, which is no key",
+    "a text stands, but on %d the machine gets nothing",
+    "no text stands, but on %d the machine gets bytes",
+    "the text for %d has %1 groups, but the machine gets %2",
+    "press and release hold %1 code bytes, more than the panel has room for in a layer",
+    "there is no LED that could show %1",
+    "the LED stays dark: the panel does not offer %1 here",
+    "%2 shows %1 too: both light up at once"};
+static_assert(static_cast<std::size_t>(ProblemRule::NumberTwice) == PatternCount);
+constexpr std::array<std::string_view, 3> englishNumbers = {
+    "button number %1 is that of %2 too: the panel takes both for one key",
+    "LED number %1 is that of %2 too: the panel switches both at once",
+    "key number %1 is that of %2 too: the panel takes both for one key switch"};
+constexpr std::array<std::string_view, 2> englishDirections = {"press", "release"};
+
+/// Makes words of the English ones and their numbers.
+template <typename Word>
+ProblemWords WordsBy(Word&& word) {
+  ProblemWords words;
+  static_assert(std::tuple_size_v<decltype(words.patterns)> == rules.size());
+  std::int32_t number = FirstText;
+  const auto take = [&](const auto& english, auto& texts) {
+    for (std::size_t index = 0; index < english.size(); ++index) texts[index] = word(number++, english[index]);
+  };
+  take(englishPatterns, words.patterns);
+  take(englishNumbers, words.numbers);
+  take(englishDirections, words.directions);
+  return words;
+}
 
 template <typename Values, typename Name>
 std::string Joined(const Values& values, std::string_view between, Name&& name) {
@@ -113,7 +130,12 @@ std::string_view NameOf(ProblemLevel level) { return level == ProblemLevel::Erro
 
 std::string_view NameOf(Direction direction) { return direction == Direction::Press ? "press" : "release"; }
 
-const ProblemWords& EnglishProblemWords() { return english; }
+const ProblemWords& EnglishProblemWords() {
+  static const ProblemWords english = WordsBy([](std::int32_t, std::string_view text) { return std::string(text); });
+  return english;
+}
+
+ProblemWords ProblemWordsInForce() { return WordsBy(TextInForce); }
 
 std::string ProblemText(const Problem& problem, std::string_view with, const ProblemWords& words) {
   const PatternWords told = WordsOf(problem, with);

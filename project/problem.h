@@ -64,11 +64,13 @@ struct Problem {
 
 /// The words of a language for problems. In a pattern %1 and %2 are what is told beside it, %d is the direction.
 struct ProblemWords {
-  std::array<std::string_view, 11> patterns;  ///< by rule; that of NumberTwice is not used
-  std::array<std::string_view, 3> numbers;    ///< patterns of NumberTwice by SharedNumber: %1 numbers, %2 the other one
-  std::array<std::string_view, 2> directions;
+  std::array<std::string, 11> patterns;  ///< by rule; that of NumberTwice is not used
+  std::array<std::string, 3> numbers;    ///< patterns of NumberTwice by SharedNumber: %1 numbers, %2 the other one
+  std::array<std::string, 2> directions;
 };
 const ProblemWords& EnglishProblemWords();
+/// Those of the language in force; English where it has none.
+ProblemWords ProblemWordsInForce();
 
 /// What would happen on the machine. `with` is the name of the other element of a pair. LED functions have the names of
 /// the language in force.

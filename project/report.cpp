@@ -27,10 +27,6 @@ const KindRow& KindOf(enumTactisBaseElementType type) {
   return anyKind;
 }
 
-std::string_view NameOf(enumTactisBaseElementType type, const ReportWords& words) {
-  return type >= Led && type <= Key ? words.kinds[static_cast<std::size_t>(type - Led)] : words.unknownKind;
-}
-
 std::string BytesOf(const udtTactisBaseElement_TACTIS_SCANCODE& codes) {
   return codes.NextValue > 0 ? BytesText(codes, 0, static_cast<std::size_t>(codes.NextValue)) : std::string();
 }
@@ -45,33 +41,28 @@ std::string ContactsOf(const ctlPlexelBaseElement& element) {
 }
 
 /// "layer 2, press"; empty for a problem of no layer.
-std::string PlaceOf(const Problem& problem) {
-  std::string place;
-  for (const std::int32_t layer : problem.layers) {
-    place += place.empty() ? (problem.layers.size() == 1 ? "layer " : "layers ") : "+";
-    place += std::to_string(layer);
+std::string PlaceOf(const Problem& problem, const ReportWords& words) {
+  std::string layers;
+  for (const std::int32_t layer : problem.layers) layers += (layers.empty() ? "" : "+") + std::to_string(layer);
+  const bool one = problem.layers.size() == 1;
+  std::string place = layers.empty() ? layers : words.With(one ? ReportWord::OnLayer : ReportWord::OnLayers, layers);
+  if (problem.direction) {
+    place += (place.empty() ? "" : ", ") + words.problems.directions[static_cast<std::size_t>(*problem.direction)];
   }
-  if (problem.direction) place += (place.empty() ? "" : ", ") + std::string(NameOf(*problem.direction));
   return place;
 }
 
-std::vector<ReportProblem> ProblemsOf(const PanelDocument& document) {
+std::vector<ReportProblem> ProblemsOf(const PanelDocument& document, const ReportWords& words) {
   const Problems problems(document);
   std::vector<ReportProblem> told;
   for (const Problem& problem : problems.All()) {
-    told.push_back({problems.Element(problem.element).Name(), PlaceOf(problem),
-                    std::string(NameOf(RowOf(problem.rule).level)), problems.Text(problem)});
+    told.push_back({problems.Element(problem.element).Name(), PlaceOf(problem, words),
+                    plexel::RowOf(problem.rule).level, problems.Text(problem, words.problems)});
   }
   return told;
 }
 
 }  // namespace
-
-const ReportWords& EnglishReportWords() {
-  static constexpr ReportWords words{{"LED", "round key", "round key with LED", "key", "key with LED", "key switch"},
-                                     "unknown"};
-  return words;
-}
 
 std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element, const ReportWords& words) {
   std::array<ReportRow, LayerCount> rows;
@@ -80,7 +71,7 @@ std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element, co
   for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
     ReportRow& row = rows[static_cast<std::size_t>(layer - 1)];
     row.element = element.Name();
-    row.kind = NameOf(element.ElementType(), words);
+    row.kind = words.KindOf(element.ElementType());
     row.layer = layer;
     row.press = element.PressKeyDefLayer(layer);
     row.release = element.ReleaseKeyDefLayer(layer);
@@ -95,14 +86,15 @@ std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element, co
   return rows;
 }
 
-Report ReportOf(const PanelDocument& document, std::string name, const ReportWords& words) {
+Report ReportOf(const PanelDocument& document, std::string name, ReportWords words) {
   Report report;
+  report.words = std::move(words);
   report.panel = &document.ThePanel();
   report.name = std::move(name);
   for (const PanelDocument::Place& place : document.Places()) {
-    for (ReportRow& row : RowsOf(*place.element, words)) report.rows.push_back(std::move(row));
+    for (ReportRow& row : RowsOf(*place.element, report.words)) report.rows.push_back(std::move(row));
   }
-  report.problems = ProblemsOf(document);
+  report.problems = ProblemsOf(document, report.words);
   return report;
 }
 

@@ -3,10 +3,10 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "project/panel_document.h"
+#include "project/report_words.h"
 
 namespace plexel {
 
@@ -30,29 +30,24 @@ struct ReportRow {
 /// A problem as a report tells it.
 struct ReportProblem {
   std::string element, place;  ///< the element, and the layers and the direction where it is about some
-  std::string level, text;
+  ProblemLevel level{};
+  std::string text;
 };
 
-/// All that a report is made of. LED functions have the names of the language in force.
+/// All that a report is made of. LED functions have the names of the language in force, whatever the words.
 struct Report {
   std::string name;              ///< of the project, for people
   const Panel* panel = nullptr;  ///< outlives the report
   std::vector<ReportRow> rows;   ///< the layers of each element one after the other, in the order of the project
   std::vector<ReportProblem> problems;
+  ReportWords words = EnglishReportWords();
 };
-
-/// The words of a report in a language.
-struct ReportWords {
-  std::array<std::string_view, 6> kinds;  ///< by enumTactisBaseElementType, from Led
-  std::string_view unknownKind;
-};
-const ReportWords& EnglishReportWords();
 
 /// The rows of one element, by its layers.
 std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element,
                                          const ReportWords& words = EnglishReportWords());
 
 /// The report of a document, which must outlive it; `name` is how people call the project.
-Report ReportOf(const PanelDocument& document, std::string name, const ReportWords& words = EnglishReportWords());
+Report ReportOf(const PanelDocument& document, std::string name, ReportWords words = EnglishReportWords());
 
 }  // namespace plexel

@@ -10,20 +10,21 @@ namespace {
 
 /// The columns with what stands in them.
 struct Column {
-  std::string_view name;
+  ReportWord name;
   std::string (*field)(const ReportRow&);
 };
-constexpr std::array columns = {Column{"element", [](const ReportRow& row) { return row.element; }},
-                                Column{"kind", [](const ReportRow& row) { return row.kind; }},
-                                Column{"layer", [](const ReportRow& row) { return std::to_string(row.layer); }},
-                                Column{"press", [](const ReportRow& row) { return row.press; }},
-                                Column{"release", [](const ReportRow& row) { return row.release; }},
-                                Column{"press bytes", [](const ReportRow& row) { return row.pressBytes; }},
-                                Column{"release bytes", [](const ReportRow& row) { return row.releaseBytes; }},
-                                Column{"led", [](const ReportRow& row) { return row.led; }},
-                                Column{"button number", [](const ReportRow& row) { return row.buttonNumber; }},
-                                Column{"LED number", [](const ReportRow& row) { return row.ledNumber; }},
-                                Column{"note", [](const ReportRow& row) { return row.note; }}};
+constexpr std::array columns = {
+    Column{ReportWord::FieldElement, [](const ReportRow& row) { return row.element; }},
+    Column{ReportWord::FieldKind, [](const ReportRow& row) { return row.kind; }},
+    Column{ReportWord::FieldLayer, [](const ReportRow& row) { return std::to_string(row.layer); }},
+    Column{ReportWord::FieldPress, [](const ReportRow& row) { return row.press; }},
+    Column{ReportWord::FieldRelease, [](const ReportRow& row) { return row.release; }},
+    Column{ReportWord::FieldPressBytes, [](const ReportRow& row) { return row.pressBytes; }},
+    Column{ReportWord::FieldReleaseBytes, [](const ReportRow& row) { return row.releaseBytes; }},
+    Column{ReportWord::FieldLed, [](const ReportRow& row) { return row.led; }},
+    Column{ReportWord::FieldButtonNumber, [](const ReportRow& row) { return row.buttonNumber; }},
+    Column{ReportWord::FieldLedNumber, [](const ReportRow& row) { return row.ledNumber; }},
+    Column{ReportWord::FieldNote, [](const ReportRow& row) { return row.note; }}};
 
 void AppendField(std::string& out, std::string_view text) {
   constexpr std::string_view formulas = "=+-@\t\r";
@@ -51,7 +52,7 @@ void AppendLine(std::string& out, Field&& field) {
 
 std::string ReportCsv(const Report& report) {
   std::string out = "\uFEFF";
-  AppendLine(out, [](const Column& column) { return std::string(column.name); });
+  AppendLine(out, [&report](const Column& column) { return report.words[column.name]; });
   for (const ReportRow& row : report.rows) AppendLine(out, [&row](const Column& column) { return column.field(row); });
   return out;
 }

@@ -41,26 +41,26 @@ bool TellsSomething(const ReportRow& row) {
 }
 
 /// What an element does on one layer, in a line.
-std::string DeedOf(const ReportRow& row) {
+std::string DeedOf(const ReportRow& row, const ReportWords& words) {
   std::string deed = row.press.empty() ? row.pressBytes : row.press;
   const std::string& release = row.release.empty() ? row.releaseBytes : row.release;
-  if (!release.empty()) deed += (deed.empty() ? "" : " ") + std::string("on release ") + release;
-  if (!row.led.empty()) deed += (deed.empty() ? "" : ", ") + std::string("LED: ") + row.led;
+  if (!release.empty()) deed += (deed.empty() ? "" : " ") + words.With(ReportWord::OnRelease, release);
+  if (!row.led.empty()) deed += (deed.empty() ? "" : ", ") + words.With(ReportWord::LedShows, row.led);
   return deed;
 }
 
 class Page {
  public:
-  explicit Page(const Report& report) : report_(report) {}
+  explicit Page(const Report& report) : report_(report), words_(report.words) {}
 
   std::string Write() {
     const std::string title = report_.name.empty() ? report_.panel->title : report_.name;
-    out_ =
-        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-        "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'\">\n"
-        "<meta name=\"viewport\" content=\"width=device-width\">\n" +
-        Tag("title", title) + "\n<style>\n" + std::string(Style) + "</style>\n</head>\n<body>\n" + Tag("h1", title) +
-        '\n' + Tag("p", report_.panel->title) + '\n';
+    out_ = "<!DOCTYPE html>\n<html lang=\"" + MarkupText(words_[ReportWord::LanguageCode]) +
+           "\">\n<head>\n<meta charset=\"utf-8\">\n"
+           "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'\">\n"
+           "<meta name=\"viewport\" content=\"width=device-width\">\n" +
+           Tag("title", title) + "\n<style>\n" + std::string(Style) + "</style>\n</head>\n<body>\n" + Tag("h1", title) +
+           '\n' + Tag("p", report_.panel->title) + '\n';
     out_ += "<figure>\n" + PanelSvg(*report_.panel, PanelPlaces::Shown) + "</figure>\n";
     Legend();
     Table();
@@ -77,7 +77,7 @@ class Page {
   }
 
   void Legend() {
-    out_ += Tag("h2", "What each key does") + "\n<dl>\n";
+    out_ += Tag("h2", words_[ReportWord::Legend]) + "\n<dl>\n";
     for (std::size_t first = 0; first < report_.rows.size();) {
       const std::size_t end = EndOf(first);
       LegendOf(first, end);
@@ -88,7 +88,7 @@ class Page {
 
   void LegendOf(std::size_t first, std::size_t end) {
     std::vector<std::string> deeds;
-    for (std::size_t row = first; row < end; ++row) deeds.push_back(DeedOf(report_.rows[row]));
+    for (std::size_t row = first; row < end; ++row) deeds.push_back(DeedOf(report_.rows[row], words_));
     if (std::all_of(deeds.begin(), deeds.end(), [](const std::string& deed) { return deed.empty(); })) return;
     out_ += "<div>" + Tag("dt", report_.rows[first].element);
     if (std::count(deeds.begin(), deeds.end(), deeds.front()) == static_cast<std::ptrdiff_t>(deeds.size())) {
@@ -103,11 +103,9 @@ class Page {
 
   /// Each element has the layers in which something stands, and at least one line.
   void Table() {
-    out_ += Tag("h2", "All elements") + "\n<table>\n<thead><tr>";
-    for (const char* const name : {"Element", "Layer", "Press", "Release", "LED", "Numbers", "Note"}) {
-      out_ += Tag("th", name);
-    }
-    out_ += "</tr></thead>\n<tbody>\n";
+    out_ += Tag("h2", words_[ReportWord::Elements]) + '\n';
+    Heads({ReportWord::ColumnElement, ReportWord::ColumnLayer, ReportWord::ColumnPress, ReportWord::ColumnRelease,
+           ReportWord::ColumnLed, ReportWord::ColumnNumbers, ReportWord::ColumnNote});
     for (std::size_t first = 0; first < report_.rows.size();) {
       const std::size_t end = EndOf(first);
       bool told = false;
@@ -125,8 +123,10 @@ class Page {
     const auto sent = [](const std::string& text, const std::string& bytes) {
       return "<td>" + MarkupText(text) + (bytes.empty() ? "" : "<br>" + Tag("span", bytes, "bytes")) + "</td>";
     };
-    std::string numbers = row.buttonNumber.empty() ? "" : "key " + row.buttonNumber;
-    if (!row.ledNumber.empty()) numbers += (numbers.empty() ? "LED " : ", LED ") + row.ledNumber;
+    std::string numbers = row.buttonNumber.empty() ? "" : words_.With(ReportWord::ButtonNumber, row.buttonNumber);
+    if (!row.ledNumber.empty()) {
+      numbers += (numbers.empty() ? "" : ", ") + words_.With(ReportWord::LedNumber, row.ledNumber);
+    }
     out_ += "<tr><td>" + Tag("b", row.element) + (first ? "<br>" + MarkupText(row.kind) : "") + "</td>" +
             Tag("td", TellsSomething(row) ? std::to_string(row.layer) : "") + sent(row.press, row.pressBytes) +
             sent(row.release, row.releaseBytes) + Tag("td", row.led) + Tag("td", first ? numbers : "") +
@@ -134,20 +134,30 @@ class Page {
   }
 
   void Problems() {
-    out_ += Tag("h2", "Problems") + '\n';
+    out_ += Tag("h2", words_[ReportWord::Problems]) + '\n';
     if (report_.problems.empty()) {
-      out_ += Tag("p", "None were found.") + '\n';
+      out_ += Tag("p", words_[ReportWord::NoProblems]) + '\n';
       return;
     }
-    out_ += "<table>\n<thead><tr><th>Element</th><th>Where</th><th>Level</th><th>Problem</th></tr></thead>\n<tbody>\n";
+    Heads({ReportWord::ColumnElement, ReportWord::ColumnWhere, ReportWord::ColumnLevel, ReportWord::ColumnProblem});
     for (const ReportProblem& problem : report_.problems) {
+      const bool error = problem.level == ProblemLevel::Error;
       out_ += "<tr>" + Tag("td", problem.element) + Tag("td", problem.place) +
-              Tag("td", problem.level, problem.level == "error" ? "error" : "") + Tag("td", problem.text) + "</tr>\n";
+              Tag("td", words_[error ? ReportWord::Error : ReportWord::Warning], error ? "error" : "") +
+              Tag("td", problem.text) + "</tr>\n";
     }
     out_ += "</tbody>\n</table>\n";
   }
 
+  /// Begins a table.
+  void Heads(std::initializer_list<ReportWord> columns) {
+    out_ += "<table>\n<thead><tr>";
+    for (const ReportWord column : columns) out_ += Tag("th", words_[column]);
+    out_ += "</tr></thead>\n<tbody>\n";
+  }
+
   const Report& report_;
+  const ReportWords& words_;
   std::string out_;
 };
 

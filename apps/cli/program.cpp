@@ -54,9 +54,10 @@ standard input
 with the place in it.
 )",
      RunImport},
-    {"report", "PROJECT --html FILE | --csv FILE | --svg FILE",
+    {"report", "PROJECT --html FILE | --csv FILE | --svg FILE [--language NAME]",
      R"(writes what a project holds for people: --html a page with the panel's picture, a legend, a table and the problems,
-which prints well; --csv the table for a spreadsheet; --svg the picture alone. - is standard input or output.
+which prints well; --csv the table for a spreadsheet; --svg the picture alone. - is standard input or output. NAME is
+one of the languages of the editor, such as German; without it English is spoken.
 )",
      RunReport},
     {"--help", "", "tells this; behind a word, that word alone\n", TellHelp},

@@ -20,6 +20,9 @@ class ProjectBench {
   /// FileError when the data of the program cannot be read.
   ProjectBench();
 
+  /// Chooses the language of what is told of projects; English unless told. FileError when it cannot be read.
+  void Speak(const std::string& language) { surroundings_.ChooseLanguage(language); }
+
   /// Opens a project; "-" is the one on `standardInput`. FileError when it cannot be read.
   std::unique_ptr<PanelDocument> Open(const std::string& file, std::istream& standardInput);
   /// What elements are made with.

@@ -38,14 +38,18 @@ const Kind& KindOf(const ProgramCall& call) {
 }  // namespace
 
 int RunReport(std::span<const std::string> arguments, const Streams& streams) {
-  const ProgramCall call(arguments, {}, {"--html", "--csv", "--svg"});
+  const ProgramCall call(arguments, {}, {"--html", "--csv", "--svg", "--language"});
   call.RequireOthers(1, 1);
   const Kind& kind = KindOf(call);
   const std::string& file = call.Others().front();
   ProjectBench bench;
+  const auto language = call.Value("--language");
+  if (language) bench.Speak(*language);
   const auto document = bench.Open(file, streams.input);
   const std::string name = file == StandardStream ? std::string() : std::filesystem::path(file).filename().string();
-  WriteOutput(call.Value(kind.option).value_or(""), kind.write(ReportOf(*document, name)), streams.output);
+  WriteOutput(call.Value(kind.option).value_or(""),
+              kind.write(ReportOf(*document, name, language ? ReportWordsInForce() : EnglishReportWords())),
+              streams.output);
   return AllSucceeded;
 }
 

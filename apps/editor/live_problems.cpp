@@ -41,7 +41,7 @@ void LiveProblems::Changed(std::span<const std::size_t> places) {
 }
 
 void LiveProblems::Retranslate() {
-  words_ = std::make_unique<ToldWords>();
+  words_ = ProblemWordsInForce();
   Show(document_);
 }
 
@@ -65,7 +65,7 @@ std::vector<Problem> LiveProblems::Of(int place) const {
 }
 
 std::string LiveProblems::PlainText(const Problem& problem) const {
-  return problems_->Text(problem, words_->Problems());
+  return problems_->Text(problem, words_);
 }
 
 QString LiveProblems::TextOf(const Problem& problem) const { return WithVisibleControls(ToQt(PlainText(problem))); }

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "editor/problem_texts.h"
-#include "editor/told_words.h"
 #include "project/problems.h"
 
 namespace plexel {
@@ -50,7 +49,7 @@ class LiveProblems {
 
   const PanelDocument* document_ = nullptr;
   std::unique_ptr<Problems> problems_;
-  std::unique_ptr<ToldWords> words_ = std::make_unique<ToldWords>();
+  ProblemWords words_ = ProblemWordsInForce();
   QString failure_;
 };
 

@@ -29,11 +29,11 @@ constexpr std::array kinds = {
     ExportKind{Text::ExportPdf, "pdf", ReportPdf},
     ExportKind{Text::ExportHtml, "html",
                [](const PanelDocument& document, const QString& name) {
-                 return ReportHtml(ReportOf(document, name.toStdString()));
+                 return ReportHtml(ReportOf(document, name.toStdString(), ReportWordsInForce()));
                }},
     ExportKind{Text::ExportCsv, "csv",
                [](const PanelDocument& document, const QString& name) {
-                 return ReportCsv(ReportOf(document, name.toStdString()));
+                 return ReportCsv(ReportOf(document, name.toStdString(), ReportWordsInForce()));
                }},
     ExportKind{Text::ExportSvg, "svg",
                [](const PanelDocument& document, const QString&) { return PanelSvg(document.ThePanel()); }}};

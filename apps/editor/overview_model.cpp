@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "editor/element_text.h"
 #include "editor/texts.h"
 #include "forms/characters.h"
 #include "qt/units.h"
@@ -44,12 +45,12 @@ void OverviewModel::Show(const PanelDocument* document) {
   document_ = document;
   entries_.clear();
   entries_.resize(document == nullptr ? 0 : document->Places().size());
-  if (!told_) told_ = std::make_unique<ToldWords>();
+  if (!told_) told_ = ReportWordsInForce();
   Arrange();
 }
 
 void OverviewModel::Retranslate() {
-  told_ = std::make_unique<ToldWords>();
+  told_ = ReportWordsInForce();
   std::ranges::fill(entries_, std::nullopt);
   Arrange();
   emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
@@ -115,7 +116,8 @@ const OverviewModel::Entry& OverviewModel::At(int place) const {
   std::optional<Entry>& entry = entries_[static_cast<std::size_t>(place)];
   if (entry) return *entry;
   entry.emplace();
-  entry->rows = RowsOf(ElementAt(place), told_->Rows());
+  entry->rows = RowsOf(ElementAt(place), *told_);
+  for (ReportRow& row : entry->rows) row.kind = KindText(ElementAt(place).ElementType()).toStdString();
   AddProblems(place, *entry);
   for (std::size_t layer = 0; layer < LayerCount; ++layer) {
     entry->searchable[layer] = SearchableText(entry->rows[layer], entry->problems[layer]);

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "editor/live_problems.h"
-#include "editor/told_words.h"
 #include "project/panel_document.h"
+#include "project/report.h"
 #include "project/search.h"
 
 namespace plexel {
@@ -91,7 +91,7 @@ class OverviewModel : public QAbstractTableModel {
 
   const LiveProblems& problems_;
   const PanelDocument* document_ = nullptr;
-  std::unique_ptr<ToldWords> told_;
+  std::optional<ReportWords> told_;
   mutable std::vector<std::optional<Entry>> entries_;  ///< by place
   std::vector<int> order_;                             ///< by row the line: four to a place, layer by layer
   std::vector<int> rowOf_;                             ///< by line, -1 for one that is not there

@@ -11,8 +11,8 @@
 
 #include "editor/element_text.h"
 #include "editor/texts.h"
-#include "editor/told_words.h"
 #include "project/problems.h"
+#include "project/report.h"
 #include "qt/fonts.h"
 #include "qt/panel_painter.h"
 #include "qt/units.h"
@@ -71,7 +71,7 @@ class PanelPicture : public QObject, public QTextObjectInterface {
 };
 
 QString Escaped(std::string_view text) { return ToQt(text).toHtmlEscaped(); }
-QString Heading(Text text) { return "<h3>" + Say(text).toHtmlEscaped() + "</h3>"; }
+QString Heading(const std::string& text) { return "<h3>" + Escaped(text) + "</h3>"; }
 
 /// What a row tells beside the element's own numbers.
 bool TellsSomething(const ReportRow& row) {
@@ -79,7 +79,7 @@ bool TellsSomething(const ReportRow& row) {
            row.led.empty());
 }
 
-QString Legend(const PanelDocument& document) {
+QString Legend(const PanelDocument& document, const ReportWords& words) {
   QString lines;
   for (const PanelDocument::Place& place : document.Places()) {
     const QStringList told = DefinitionText(*place.element);
@@ -87,8 +87,9 @@ QString Legend(const PanelDocument& document) {
     lines += "<tr><td width='14%'><b>" + Escaped(place.element->Name()) + "</b></td><td>" +
              told.join('\n').toHtmlEscaped().replace('\n', "<br>") + "</td></tr>";
   }
-  return lines.isEmpty() ? QString()
-                         : Heading(Text::ReportLegend) + "<table width='100%' cellpadding='2'>" + lines + "</table>";
+  return lines.isEmpty()
+             ? QString()
+             : Heading(words[ReportWord::Legend]) + "<table width='100%' cellpadding='2'>" + lines + "</table>";
 }
 
 QString Sent(const std::string& text, const std::string& bytes) {
@@ -104,7 +105,7 @@ QString Row(const ReportRow& row, bool first) {
          "</td><td>" + (first ? Escaped(row.note).replace('\n', "<br>") : QString()) + "</td></tr>";
 }
 
-QString Table(const PanelDocument& document, const ToldWords& words) {
+QString Table(const PanelDocument& document, const ReportWords& words) {
   struct Column {
     Text text;
     int percent;
@@ -112,7 +113,7 @@ QString Table(const PanelDocument& document, const ToldWords& words) {
   constexpr std::array columns = {Column{Text::ColumnElement, 15}, Column{Text::ColumnLayer, 8},
                                   Column{Text::ColumnPress, 23},   Column{Text::ColumnRelease, 18},
                                   Column{Text::ColumnLed, 18},     Column{Text::ColumnNote, 18}};
-  QString table = Heading(Text::ReportElements) +
+  QString table = Heading(words[ReportWord::Elements]) +
                   "<table width='100%' border='1' style='border-collapse:collapse' cellpadding='3'><thead><tr>";
   for (const Column& column : columns) {
     table += "<th align='left' bgcolor='#e9eef2' width='" + QString::number(column.percent) + "%'>" +
@@ -120,7 +121,7 @@ QString Table(const PanelDocument& document, const ToldWords& words) {
   }
   table += "</tr></thead>";
   for (const PanelDocument::Place& place : document.Places()) {
-    const auto rows = RowsOf(*place.element, words.Rows());
+    const auto rows = RowsOf(*place.element, words);
     bool told = false;
     for (const ReportRow& row : rows) {
       if (!TellsSomething(row) && (told || &row != &rows.back())) continue;
@@ -131,8 +132,8 @@ QString Table(const PanelDocument& document, const ToldWords& words) {
   return table + "</table>";
 }
 
-QString ProblemList(const PanelDocument& document, const ToldWords& words) {
-  QString list = Heading(Text::ReportProblems);
+QString ProblemList(const PanelDocument& document, const ReportWords& words) {
+  QString list = Heading(words[ReportWord::Problems]);
   const Problems problems(document);
   for (const Problem& problem : problems.All()) {
     QStringList layers;
@@ -141,11 +142,10 @@ QString ProblemList(const PanelDocument& document, const ToldWords& words) {
     const bool error = RowOf(problem.rule).level == ProblemLevel::Error;
     list += QString("<p><font color='%1'>").arg(error ? "#a11212" : "#1c2733") + "<b>" +
             Escaped(problems.Element(problem.element).Name()) + "</b>" + where.toHtmlEscaped() + ": " +
-            Escaped(problems.Text(problem, words.Problems())) + "</font></p>";
+            Escaped(problems.Text(problem, words.problems)) + "</font></p>";
   }
-  return problems.Errors() + problems.Warnings() > 0
-             ? list
-             : list + "<p>" + Say(Text::ReportNoProblems).toHtmlEscaped() + "</p>";
+  return problems.Errors() + problems.Warnings() > 0 ? list
+                                                     : list + "<p>" + Escaped(words[ReportWord::NoProblems]) + "</p>";
 }
 
 /// Writes the pages of a text, each with a line at its foot.
@@ -187,7 +187,7 @@ std::string ReportPdf(const PanelDocument& document, const QString& name) {
     writer.setCreator("Plexel");
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(Margin, Margin, Margin, Margin), QPageLayout::Millimeter));
-    const ToldWords words;
+    const ReportWords words = ReportWordsInForce();
     PanelPicture picture(document.ThePanel(), writer.width());
     QTextDocument text;
     text.documentLayout()->setPaintDevice(&writer);
@@ -205,7 +205,7 @@ std::string ReportPdf(const PanelDocument& document, const QString& name) {
     format.setObjectType(PictureKind);
     cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
     cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
-    cursor.insertHtml(Legend(document) + Table(document, words) + ProblemList(document, words));
+    cursor.insertHtml(Legend(document, words) + Table(document, words) + ProblemList(document, words));
     Print(text, writer, name);
   }
   return bytes.toStdString();

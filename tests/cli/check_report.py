@@ -128,6 +128,20 @@ class Report(unittest.TestCase):
             self.assertEqual(self.made(kind), run(SAMPLE, "--" + kind, "-").stdout)
         self.assertEqual(self.made("csv"), run("-", "--csv", "-", text=SAMPLE.read_bytes()).stdout)
 
+    def test_a_report_speaks_the_language_that_is_asked_for(self):
+        project = self.hostile()
+        for kind, words in (("html", ("<html lang=\"de\">", "Was jede Taste tut", "Taste mit LED", "<th>Notiz</th>")),
+                            ("csv", ("Element,Art,Ebene,Drücken,", "Taste mit LED", "Schlüsselschalter"))):
+            english = run(project, "--" + kind, "-").stdout
+            self.assertEqual(run(project, "--" + kind, "-", "--language", "English").stdout, english)
+            german = run(project, "--language", "German", "--" + kind, "-").stdout.decode()
+            for word in words:
+                self.assertIn(word, german)
+                self.assertNotIn(word, english.decode())
+        done = run(SAMPLE, "--csv", "-", "--language", "Nonsense")
+        self.assertEqual((done.returncode, done.stdout), (2, b""))
+        self.assertIn(b"Nonsense", done.stderr)
+
     def test_what_cannot_be_read_or_written_is_status_2(self):
         target = os.path.join(self.folder, "t")
         bad = os.path.join(self.folder, "bad")

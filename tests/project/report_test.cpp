@@ -90,8 +90,37 @@ TEST_F(ReportOfDocument, ProblemsAreTold) {
   ASSERT_FALSE(report.problems.empty());
   EXPECT_EQ(report.problems[0].element, "F1");
   EXPECT_THAT(report.problems[0].place, HasSubstr("layer 2"));
-  EXPECT_EQ(report.problems[0].level, "error");
+  EXPECT_EQ(report.problems[0].level, ProblemLevel::Error);
   EXPECT_THAT(ReportHtml(report), HasSubstr("<td class=\"error\">error</td>"));
+}
+
+TEST_F(ReportOfDocument, WithoutTextsOfALanguageTheWordsAreEnglish) {
+  EXPECT_EQ(ReportWordsInForce().texts, EnglishReportWords().texts);
+  EXPECT_EQ(ReportWordsInForce().problems.patterns, EnglishProblemWords().patterns);
+}
+
+TEST_F(ReportOfDocument, AnotherLanguageBringsItsOwnWords) {
+  Element("F1").PressKeyDefLayer(2, "[a\u2039]");
+  Element("F1").ReleaseKeyDefLayer(2, "[a\u203A]");
+  for (const auto& [number, text] : {std::pair{21200, "xx"},
+                                     {21205, "Kind"},
+                                     {21208, "Grave"},
+                                     {20914, "L%1"},
+                                     {21210, "up %1"},
+                                     {21215, "Place"},
+                                     {21083, "Down"}}) {
+    world.surroundings.Language().Set(number, text);
+  }
+  const Report report = ReportOf(*document, "a.plexel", ReportWordsInForce());
+  ASSERT_FALSE(report.problems.empty());
+  EXPECT_EQ(report.problems[0].place, "L2, Down");
+  const std::string html = ReportHtml(report);
+  EXPECT_THAT(html, HasSubstr("<html lang=\"xx\">"));
+  EXPECT_THAT(html, HasSubstr("up [a\u203A]</dd>"));
+  EXPECT_THAT(html, HasSubstr("<td class=\"error\">Grave</td>"));
+  const std::string csv = ReportCsv(report);
+  EXPECT_THAT(csv, StartsWith("\uFEFFPlace,kind,"));
+  EXPECT_THAT(csv, HasSubstr("F1,Kind,2,"));
 }
 
 TEST(ReportCsv, HasAMarkAHeadRowAndLinesInCrLf) {
@@ -138,7 +167,7 @@ TEST(ReportHtml, NoTextBecomesMarkUp) {
   one.panel.title = Hostile;
   one.panel.parts.emplace_back().legend = Hostile;
   one.panel.parts.back().element.emplace().id = Hostile;
-  one.report.problems.push_back({Hostile, Hostile, Hostile, Hostile});
+  one.report.problems.push_back({Hostile, Hostile, ProblemLevel::Error, Hostile});
   const std::string html = ReportHtml(one.report);
   EXPECT_THAT(html, HasSubstr(Harmless));
   EXPECT_THAT(html, Not(HasSubstr("<script")));

@@ -10,6 +10,7 @@
 
 #include "editor/texts.h"
 #include "editor_fixture.h"
+#include "project/report_words.h"
 #include "qt/units.h"
 
 namespace plexel::testing {
@@ -62,17 +63,22 @@ class ProblemList : public Editor {
   void GoTo(int row) { List().setCurrentIndex(List().model()->index(row, 0)); }
 };
 
-TEST(EditorsProblemWords, InEnglishAreThoseOfTheCheck) {
+TEST(EditorsWords, InEnglishAreThoseOfTheCommandLine) {
   QTemporaryDir files;
   FileSurroundings surroundings{DataDirectory(), files.path().toStdString()};
   HelpWindow help;
   OpenQtPlatform platform{surroundings.UserRegistry(), help};
   const Component component{platform, surroundings};
   surroundings.ChooseLanguage("English");
-  const ToldWords words;
-  EXPECT_EQ(words.Problems().patterns, EnglishProblemWords().patterns);
-  EXPECT_EQ(words.Problems().numbers, EnglishProblemWords().numbers);
-  EXPECT_EQ(words.Problems().directions, EnglishProblemWords().directions);
+  const ReportWords words = ReportWordsInForce();
+  EXPECT_EQ(words.texts, EnglishReportWords().texts);
+  EXPECT_EQ(words.problems.patterns, EnglishProblemWords().patterns);
+  EXPECT_EQ(words.problems.numbers, EnglishProblemWords().numbers);
+  EXPECT_EQ(words.problems.directions, EnglishProblemWords().directions);
+  surroundings.ChooseLanguage("German");
+  EXPECT_EQ(ReportWordsInForce()[ReportWord::LanguageCode], "de");
+  EXPECT_EQ(ReportWordsInForce()[ReportWord::KindKeyWithLed], "Taste mit LED");
+  EXPECT_EQ(ReportWordsInForce().problems.directions[0], "Dr\u00FCcken");
 }
 
 TEST_F(ProblemList, ANewProjectHasNoneAndSaysSo) {
