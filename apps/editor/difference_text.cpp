@@ -24,7 +24,12 @@ constexpr KeyText layerKeys[] = {{"PressKeyDefLayer%", Text::PressOfLayer},
 constexpr KeyText plainKeys[] = {{"ButtonNotes", Text::NotesOf},
                                  {"HardwareNumberLed", Text::LedNumber},
                                  {"HardwareNumberButton", Text::ButtonNumber},
-                                 {"HardwareNumberKey", Text::KeyNumber}};
+                                 {"HardwareNumberKey", Text::KeyNumber},
+                                 {"WizardOptions", Text::DefinedHow}};
+/// By enumWizardOptions.
+constexpr std::array wizardTexts = {Text::SingleKeystroke, Text::KeyHeld, Text::PanelFunction, Text::SystemShortcut,
+                                    Text::DefinedByHand};
+static_assert(wizardTexts.size() == ManuallyDefined + 1);
 
 /// The layer when the name is the pattern with a digit in place of "%"; 0 otherwise.
 int LayerIn(std::string_view name, std::string_view pattern) {
@@ -51,9 +56,11 @@ QString ValueText(const ProjectDifference& difference, const std::optional<BagVa
   if (const auto* const text = std::get_if<std::string>(&*value)) {
     return text->empty() ? Say(Text::Nothing) : ToQt(*text);
   }
-  if (const auto* const number = std::get_if<std::int32_t>(&*value);
-      number && LayerIn(difference.name, "LedType%") > 0) {
-    return ToQt(LedTypeToText(*number));
+  if (const auto* const number = std::get_if<std::int32_t>(&*value)) {
+    if (LayerIn(difference.name, "LedType%") > 0) return ToQt(LedTypeToText(*number));
+    if (difference.name == "WizardOptions" && *number >= NormalKey && *number <= ManuallyDefined) {
+      return Say(wizardTexts[static_cast<std::size_t>(*number)]);
+    }
   }
   return ToQt(BagToString(*value));
 }

@@ -185,6 +185,18 @@ bool MainWindow::NewProject(const std::string& panel) {
   }
 }
 
+/// Why a project cannot be opened: that its panel is missing in words of the user, all else as it was told.
+QString MainWindow::WhyNotOpened(const std::filesystem::path& file, const std::exception& failure) {
+  try {
+    const Project project = ReadProject(file);
+    if (project.panelText.empty() && !std::filesystem::exists(PanelFile(Site().panelDirectory, project.panel))) {
+      return Say(Text::PanelMissing).arg(ToQt(project.panel));
+    }
+  } catch (const std::exception&) {  // told already
+  }
+  return failure.what();
+}
+
 bool MainWindow::OpenProject(const std::filesystem::path& file) {
   try {
     WaitCursor waits;
@@ -194,7 +206,7 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
     TellUnread();
     return true;
   } catch (const std::exception& failure) {
-    Tell(Text::OpenFailed, failure.what());
+    Tell(Text::OpenFailed, WhyNotOpened(file, failure));
     return false;
   }
 }

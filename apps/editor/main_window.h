@@ -132,6 +132,7 @@ class MainWindow : public QMainWindow {
   /// The toolkit's own dialogs speak the user's language too, where its texts are installed.
   void UseToolkitTexts();
   PanelDocument::Site Site();
+  QString WhyNotOpened(const std::filesystem::path& file, const std::exception& failure);
   void Take(std::unique_ptr<PanelDocument> document);
 
   /// The places that an act of the user is for.

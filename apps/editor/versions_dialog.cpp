@@ -17,6 +17,18 @@
 
 namespace plexel {
 
+namespace {
+
+/// Day and time to the second: some versions are saved within one minute.
+QString TimeText(std::int64_t milliseconds) {
+  const QDateTime time = QDateTime::fromMSecsSinceEpoch(milliseconds);
+  const QLocale locale = UserLocale();
+  const QString format = locale.timeFormat(QLocale::ShortFormat).replace("mm", "mm:ss");
+  return locale.toString(time.date(), QLocale::ShortFormat) + ' ' + locale.toString(time.time(), format);
+}
+
+}  // namespace
+
 VersionsDialog::VersionsDialog(const VersionStore& store, const PanelDocument& document, QWidget* parent)
     : QDialog(parent),
       now_(document.Content()),
@@ -30,7 +42,7 @@ VersionsDialog::VersionsDialog(const VersionStore& store, const PanelDocument& d
   summary_->setWordWrap(true);
   list_->setObjectName("Versions");
   for (const VersionStore::Version& version : versions_) {
-    list_->addItem(UserLocale().toString(QDateTime::fromMSecsSinceEpoch(version.time), QLocale::ShortFormat));
+    list_->addItem(TimeText(version.time));
   }
   auto* const right = new QWidget;
   auto* const rightLayout = new QVBoxLayout(right);

@@ -431,6 +431,15 @@ TEST_F(Editor, NoKeyStandsForTwoEntries) {
   EXPECT_GT(entries.size(), 20U);
 }
 
+TEST_F(Editor, AMissingPanelIsToldInWords) {
+  WriteProject(File("a.plexel"), Project{"Nowhere", {}});
+  QString reason;
+  AnswerNextBox([&](QMessageBox& box) { reason = box.informativeText(); });
+  EXPECT_FALSE(window.OpenProject(File("a.plexel")));
+  EXPECT_TRUE(reason.contains("Nowhere") && reason.contains("not installed")) << reason.toStdString();
+  EXPECT_FALSE(reason.contains('/')) << reason.toStdString();
+}
+
 TEST_F(Editor, ATopicOfTheHelpIsShownAndAMissingOneOpensNothing) {
   help.Show(0, "nowhere\\Help\\PlexelEnglish.chm", HelpViewer::HelpContext, 2000);
   EXPECT_TRUE(help.Window().isNull());

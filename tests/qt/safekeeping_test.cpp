@@ -246,6 +246,25 @@ TEST_F(Kept, TheVersionsTellWhatDiffersAndComeBackAsOneStep) {
   EXPECT_EQ(dialog.Chosen(), versions.List(File("a.plexel")).at(1).file);
 }
 
+TEST_F(Kept, ADifferenceIsToldInWords) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  const std::array place = {static_cast<std::size_t>(PlaceOf("F5"))};
+  window.Document()->Change(StepKind::Configure, place, [&] {
+    Element("F5").WizardOptions(ManuallyDefined);
+    Element("F5").LEDTypeLayer(2, PowerLed);
+  });
+  const VersionStore versions(File("state") / "versions");
+  const VersionsDialog dialog(versions, *window.Document(), &window);
+  QStringList told;
+  const auto* const differences = dialog.findChild<QTreeWidget*>();
+  for (int row = 0; row < differences->topLevelItemCount(); ++row) {
+    const QTreeWidgetItem& item = *differences->topLevelItem(row);
+    told.append(item.text(1) + ": " + item.text(2) + ", " + item.text(3));
+  }
+  EXPECT_TRUE(told.contains("Defined as: by hand, Single keystroke")) << told.join('|').toStdString();
+  EXPECT_TRUE(told.contains("LED, layer 2: Power, No function")) << told.join('|').toStdString();
+}
+
 TEST_F(Kept, ADamagedVersionIsToldAndCannotBeBroughtBack) {
   ASSERT_TRUE(window.SaveProject(File("a.plexel")));
   const VersionStore versions(File("state") / "versions");
