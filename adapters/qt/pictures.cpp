@@ -45,7 +45,11 @@ QPixmap PicturePixmap(const std::string& name, const QSize& size, qreal ratio) {
 
 QIcon PictureIcon(const std::string& name, const QSize& size) {
   QIcon icon;
-  for (const qreal ratio : {1, 2, 3}) icon.addPixmap(PicturePixmap(name, size, ratio));
+  for (const qreal ratio : {1, 2, 3}) {
+    const QPixmap pixmap = PicturePixmap(name, size, ratio);
+    // In a selected line it keeps its colours, which tell something.
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) icon.addPixmap(pixmap, mode);
+  }
   return icon;
 }
 

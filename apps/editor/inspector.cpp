@@ -218,7 +218,10 @@ void Inspector::ShowProblems() {
   }
   problemsTitle_->setVisible(counts != ProblemCounts());
   problemsTitle_->SetText(Say(Text::Problems) + ": " + CountText(counts));
-  for (TextLine* const line : problemLines_) line->deleteLater();
+  for (TextLine* const line : problemLines_) {
+    line->hide();
+    line->deleteLater();
+  }
   problemLines_.clear();
   if (places_.size() != 1 || counts == ProblemCounts()) return;
   const std::vector<Problem> problems = problems_.Of(places_.front());

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "editor/box_room.h"
 #include "editor/element_text.h"
 #include "editor/elided_label.h"
 #include "editor/inspector.h"
@@ -299,6 +300,7 @@ void MainWindow::Tell(Text what, const QString& reason) {
   box.setWindowTitle("Plexel");
   box.setText(Say(what));
   box.setInformativeText(reason);
+  GiveRoom(box);
   box.addButton(Say(Text::OK), QMessageBox::AcceptRole);
   box.exec();
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 
+#include "editor/box_room.h"
 #include "editor/layers_dialog.h"
 #include "editor/panel_view.h"
 #include "files/file_error.h"
@@ -56,6 +57,7 @@ int Ask(QWidget* parent, Text question, const std::vector<Misfit>& misfits, std:
   box.setWindowTitle("Plexel");
   box.setText(Say(question));
   box.setInformativeText(List(misfits));
+  GiveRoom(box);
   std::vector<QAbstractButton*> buttons;
   for (const Text answer : answers) buttons.push_back(box.addButton(Say(answer), QMessageBox::AcceptRole));
   QPushButton* const cancel = box.addButton(Say(Text::Cancel), QMessageBox::RejectRole);

@@ -8,8 +8,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "editor/box_room.h"
 #include "editor/difference_text.h"
 #include "editor/difference_view.h"
+#include "editor/help_key.h"
 #include "editor/log_panel.h"
 #include "editor/notice_bar.h"
 #include "editor/versions_dialog.h"
@@ -44,6 +46,7 @@ LostAnswer AskAboutLost(const RecoveryFile& lost, const PanelDocument::Site& sit
                                               : Say(Text::LostWorkOf).arg(ToQt(lost.head.file.string()))};
   if (const auto summary = AgainstItsFile(lost, site)) lines.append(*summary);
   box.setInformativeText(lines.join('\n'));
+  GiveRoom(box);
   QPushButton* const back = box.addButton(Say(Text::BringBack), QMessageBox::AcceptRole);
   QPushButton* const discard = box.addButton(Say(Text::Discard), QMessageBox::DestructiveRole);
   box.setEscapeButton(box.addButton(Say(Text::Later), QMessageBox::RejectRole));

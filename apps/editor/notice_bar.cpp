@@ -21,7 +21,10 @@ NoticeBar::NoticeBar() : text_(new QLabel), layout_(new QHBoxLayout(this)) {
 }
 
 void NoticeBar::Tell(const QString& text, const std::vector<Choice>& choices) {
-  for (QWidget* const button : buttons_) button->deleteLater();
+  for (QWidget* const button : buttons_) {
+    button->hide();
+    button->deleteLater();
+  }
   buttons_.clear();
   text_->setText(text);
   for (const Choice& choice : choices) {

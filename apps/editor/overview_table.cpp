@@ -24,6 +24,8 @@ OverviewTable::OverviewTable(OverviewModel& model, Selection& selection, QWidget
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  constexpr int LeastLines = 7;
+  setMinimumHeight(LeastLines * verticalHeader()->defaultSectionSize() + horizontalHeader()->sizeHint().height());
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
   horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -46,6 +48,12 @@ void OverviewTable::Follow() {
   if (row < 0) row = model_.RowOf(place, 0);
   if (row < 0) return setCurrentIndex({});
   setCurrentIndex(model_.index(row, std::max(now.column(), 0)));
+  if (isVisible()) scrollTo(currentIndex());
+}
+
+void OverviewTable::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  if (currentIndex().isValid()) scrollTo(currentIndex());
 }
 
 void OverviewTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -23,6 +23,7 @@ class OverviewTable : public QTableView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   /// Chooses the elements from the anchor of the choice to a row.

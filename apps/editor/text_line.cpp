@@ -79,7 +79,7 @@ QSize TextLine::minimumSizeHint() const {
 void TextLine::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  QColor ink = palette().color(isLink_ ? QPalette::Link : QPalette::WindowText);
+  QColor ink = palette().color(QPalette::Normal, isLink_ && isEnabled() ? QPalette::Link : QPalette::WindowText);
   if (look_ == Look::Quiet) ink.setAlpha(150);
   painter.setPen(ink);
   if (!picture_.empty()) {

@@ -173,6 +173,8 @@ void TrialDock::ShowEvents(const Trial& trial, const PanelDocument& document) {
   }
   events_->addTopLevelItems(items);
   for (const int column : {0, 1, 2}) events_->resizeColumnToContents(column);
+  constexpr int MostBytes = 110;  // the tool tip has them all
+  events_->setColumnWidth(2, std::min(events_->columnWidth(2), MostBytes));
   events_->scrollToBottom();
 }
 

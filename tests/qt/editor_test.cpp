@@ -440,6 +440,24 @@ TEST_F(Editor, AMissingPanelIsToldInWords) {
   EXPECT_FALSE(reason.contains('/')) << reason.toStdString();
 }
 
+TEST_F(Editor, EachLetterOfTheWindowStandsForOneMenuOrButton) {
+  for (const char* const language : {"English", "German"}) {
+    surroundings.ChooseLanguage(language);
+    window.SettingsChanged();
+    QStringList captions;
+    for (const QAction* const menu : window.menuBar()->actions()) captions.append(menu->text());
+    for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>()) captions.append(button->text());
+    std::map<QChar, QString> letters;
+    for (const QString& caption : captions) {
+      const qsizetype mark = caption.indexOf('&');
+      if (mark < 0 || mark + 1 == caption.size()) continue;
+      const auto [known, isNew] = letters.emplace(caption[mark + 1].toLower(), caption);
+      EXPECT_TRUE(isNew) << known->second.toStdString() << " and " << caption.toStdString();
+    }
+    EXPECT_GT(letters.size(), 6U);
+  }
+}
+
 TEST_F(Editor, ATopicOfTheHelpIsShownAndAMissingOneOpensNothing) {
   help.Show(0, "nowhere\\Help\\PlexelEnglish.chm", HelpViewer::HelpContext, 2000);
   EXPECT_TRUE(help.Window().isNull());

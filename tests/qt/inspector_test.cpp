@@ -53,8 +53,8 @@ TEST_F(InspectorTest, TellsKindNumbersLayersAndRoomOfTheSelectedElement) {
   window.View().Select(PlaceOf("F5"));
   EXPECT_THAT(Told(), HasSubstr("F5\nRectangular key with LED\n"));
   EXPECT_THAT(Told(),
-              HasSubstr("Layer 1 | 3 bytes used, 20 free\nPress | [a\u2039\u203A]\nRelease | \u2013\nLED | \u2013\n"));
-  EXPECT_THAT(Told(), HasSubstr("Layer 2 | 0 bytes used, 23 free\n"));
+              HasSubstr("Layer 1 | bytes: 3 used, 20 free\nPress | [a\u2039\u203A]\nRelease | \u2013\nLED | \u2013\n"));
+  EXPECT_THAT(Told(), HasSubstr("Layer 2 | bytes: 0 used, 23 free\n"));
   EXPECT_THAT(Told(), Not(HasSubstr("nothing to configure")));
 }
 
@@ -62,7 +62,7 @@ TEST_F(InspectorTest, RoomIsThatOfTheElementWhateverLimitIsInForce) {
   window.View().Select(PlaceOf("F5"));
   Configure("F5", [](ctlPlexelBaseElement& element) { element.VantaEnabled(False); });
   window.TheInspector().Refresh();
-  EXPECT_THAT(Told(), HasSubstr("0 bytes used, 44 free"));
+  EXPECT_THAT(Told(), HasSubstr("bytes: 0 used, 44 free"));
 }
 
 TEST_F(InspectorTest, TellsOfKeysAndLedsOnlyWhereThereAreAny) {
@@ -89,7 +89,7 @@ TEST_F(InspectorTest, SpeaksTheLanguageOfTheUserAtOnce) {
   surroundings.ChooseLanguage("German");
   window.SettingsChanged();
   window.View().Select(PlaceOf("F5"));
-  EXPECT_THAT(Told(), HasSubstr("Ebene 1 | 0 Bytes belegt, 23 frei\nDrücken | "));
+  EXPECT_THAT(Told(), HasSubstr("Ebene 1 | Bytes: 0 belegt, 23 frei\nDrücken | "));
 }
 
 TEST_F(InspectorTest, NotesAreEditedInPlaceAsOneStep) {
