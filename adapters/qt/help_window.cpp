@@ -52,8 +52,9 @@ void HelpWindow::Show(std::intptr_t, std::string_view helpFile, std::int32_t com
   if (command != HelpContext) return;
   if (!QFileInfo::exists(file)) return qWarning("%s: there is no such help topic", qUtf8Printable(file));
   // A window that belongs to the open dialog stays usable while that is modal.
-  QWidget* const owner =
+  QWidget* owner =
       QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : QApplication::activeWindow();
+  if (window_ && owner == window_) owner = window_->parentWidget();
   if (window_ && window_->parentWidget() != owner) delete window_;
   if (!window_) {
     window_ = new QDialog(owner);

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "editor/element_text.h"
+#include "editor/help_key.h"
 #include "editor/layer_room.h"
 #include "editor/text_line.h"
 #include "editor/texts.h"
@@ -37,6 +38,7 @@ QString Lines(const std::string& notes) { return ToQt(notes).replace("\r\n", "\n
 Inspector::Inspector(Selection& selection, const LiveProblems& problems, QWidget* parent)
     : QDockWidget(parent), selection_(selection), problems_(problems) {
   setObjectName("inspector");
+  SetHelpTopic(*this, help_topics::Inspector);
   MakeContent();
   selection_.Listen(*this, [this] {
     Commit();

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "editor/help_key.h"
 #include "editor/texts.h"
 
 namespace plexel {
@@ -38,6 +39,7 @@ LayersDialog::LayersDialog(std::int32_t from, QWidget* parent) : QDialog(parent)
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   layout->addWidget(buttons);
+  AddHelpKey(*this, help_topics::Copying);
   Update();
 }
 

@@ -198,6 +198,7 @@ class MainWindow : public QMainWindow {
   void FindByPressing();
   void EditSettings();
   void ShowContents();
+  void ShowHelpHere();
   void ShowAbout();
   void ShowElementMenu(const QPoint& globalPlace);
 

@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <algorithm>
 
+#include "editor/help_key.h"
 #include "editor/inspector.h"
 #include "editor/log_panel.h"
 #include "editor/overview_panel.h"
@@ -104,7 +105,8 @@ void MainWindow::MakeActions() {
   QMenu& extras = addMenu(Text::MenuExtras);
   Add(extras, Text::Settings, QKeySequence::Preferences, &MainWindow::EditSettings);
   QMenu& help = addMenu(Text::MenuHelp);
-  Add(help, Text::HelpContents, QKeySequence::HelpContents, &MainWindow::ShowContents);
+  Add(help, Text::HelpContents, QKeySequence(), &MainWindow::ShowContents);
+  Add(help, Text::HelpHere, QKeySequence::HelpContents, &MainWindow::ShowHelpHere)->setObjectName("HelpHere");
   Add(help, Text::About, QKeySequence(), &MainWindow::ShowAbout);
   MakeToolBar();
 }
@@ -211,7 +213,8 @@ void MainWindow::EditSettings() {
   SettingsChanged();
 }
 
-void MainWindow::ShowContents() { help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents); }
+void MainWindow::ShowContents() { ShowHelpTopic(0, HelpWindow::Contents); }
+void MainWindow::ShowHelpHere() { ShowHelpTopic(0, HelpTopicOf(QApplication::focusWidget())); }
 
 void MainWindow::ShowAbout() {
   PlainBox box(this);

@@ -204,6 +204,7 @@ void MainWindow::ShowFileDifference() {
   layout->addWidget(buttons);
   constexpr QSize firstSize(760, 420);
   dialog.resize(firstSize);
+  AddHelpKey(dialog, help_topics::Versions);
   view->Show(DifferencesOf(document_->Content(), PanelDocument::Open(document_->File(), Site())->Content()));
   dialog.exec();
 }

@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "editor/help_key.h"
 #include "editor/key_listener.h"
 #include "editor/overview_table.h"
 #include "editor/texts.h"
@@ -25,6 +26,7 @@ namespace plexel {
 OverviewPanel::OverviewPanel(Selection& selection, const LiveProblems& problems, QWidget* parent)
     : QDockWidget(parent), model_(problems), table_(new OverviewTable(model_, selection)) {
   setObjectName("overview");
+  SetHelpTopic(*this, help_topics::Overview);
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   layout->setContentsMargins(4, 4, 4, 4);

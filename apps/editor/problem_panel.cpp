@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "editor/help_key.h"
 #include "editor/texts.h"
 
 namespace plexel {
@@ -24,6 +25,7 @@ ProblemPanel::ProblemPanel(const LiveProblems& problems, Selection& selection, Q
       empty_(new QLabel),
       errorsOnly_(new QCheckBox) {
   setObjectName("problems");
+  SetHelpTopic(*this, help_topics::Problems);
   MakeContent();
   connect(errorsOnly_, &QCheckBox::toggled, this, [this](bool only) {
     Moving([&] { model_->ErrorsOnly(only); });

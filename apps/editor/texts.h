@@ -41,6 +41,7 @@ enum class Text : std::int32_t {
   HelpContents = 20141,
   About = 20142,
   AboutText = 20143,
+  HelpHere = 20144,
   MenuEdit = 20150,
   Undo = 20151,
   Redo = 20152,

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 
+#include "editor/help_key.h"
 #include "editor/texts.h"
 #include "editor/time_line_view.h"
 #include "editor/trial_layer.h"
@@ -84,6 +85,7 @@ TrialDock::TrialDock(QWidget* parent)
       letGo_(new QPushButton),
       clear_(new QPushButton) {
   setObjectName("trial");
+  SetHelpTopic(*this, help_topics::Trial);
   events_->setRootIsDecorated(false);
   events_->setUniformRowHeights(true);
   events_->setColumnCount(4);

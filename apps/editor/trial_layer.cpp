@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "editor/help_key.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -54,6 +55,7 @@ void DrawLed(QPainter& painter, const QRectF& box, const QColor& colour, bool ro
 TrialLayer::TrialLayer(Trial& trial, QWidget* under, Picture picture)
     : QWidget(under), trial_(trial), picture_(std::move(picture)) {
   setFocusPolicy(Qt::StrongFocus);
+  SetHelpTopic(*this, help_topics::Trial);
   setMouseTracking(true);
   setGeometry(under->rect());
   under->installEventFilter(this);

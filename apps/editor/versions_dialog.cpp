@@ -12,6 +12,7 @@
 
 #include "editor/difference_text.h"
 #include "editor/difference_view.h"
+#include "editor/help_key.h"
 #include "files/file_error.h"
 #include "qt/units.h"
 
@@ -68,6 +69,7 @@ VersionsDialog::VersionsDialog(const VersionStore& store, const PanelDocument& d
   constexpr int listWidth = 200;
   resize(firstSize);
   splitter->setSizes({listWidth, firstSize.width() - listWidth});
+  AddHelpKey(*this, help_topics::Versions);
   bringBack_->setEnabled(false);
   if (versions_.empty()) {
     summary_->setText(Say(Text::VersionsNone));

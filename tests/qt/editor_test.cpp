@@ -6,19 +6,25 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTextBrowser>
 #include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <set>
 
+#include "editor/inspector.h"
+#include "editor/layers_dialog.h"
 #include "editor/log_panel.h"
+#include "editor/overview_panel.h"
+#include "editor/problem_panel.h"
 #include "editor/settings_dialog.h"
 #include "editor/texts.h"
 #include "editor_fixture.h"
 #include "files/file_error.h"
 #include "files/language_file.h"
 #include "services/dialogs.h"
+#include "services/shared_services.h"
 
 namespace plexel::testing {
 namespace {
@@ -456,6 +462,50 @@ TEST_F(Editor, EachLetterOfTheWindowStandsForOneMenuOrButton) {
     }
     EXPECT_GT(letters.size(), 6U);
   }
+}
+
+TEST_F(Editor, TheHelpKeyOpensTheTopicOfWhereTheKeyboardIs) {
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto shown = [&] {
+    window.findChild<QAction*>("HelpHere")->trigger();
+    const auto* const browser = help.Window() ? help.Window()->findChild<QTextBrowser*>() : nullptr;
+    const QString topic = browser == nullptr ? QString() : browser->source().fileName();
+    delete help.Window();
+    window.activateWindow();
+    return topic;
+  };
+  window.View().setFocus();
+  EXPECT_EQ(shown(), "1.html");
+  window.TheInspector().Enter();
+  EXPECT_EQ(shown(), "3009.html");
+  window.ProblemList().Enter();
+  EXPECT_EQ(shown(), "3003.html");
+  window.Overview().Find();
+  EXPECT_EQ(shown(), "3007.html");
+  window.Try(true);
+  EXPECT_EQ(shown(), "3004.html");
+}
+
+TEST_F(Editor, AnotherTopicComesIntoTheWindowThatIsInFront) {
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  ShowHelpTopic(0, 2000);
+  const QPointer<QDialog> shown = help.Window();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(shown));
+  ShowHelpTopic(0, 2001);
+  ASSERT_EQ(help.Window(), shown);
+  EXPECT_EQ(shown->findChild<QTextBrowser*>()->source().fileName(), "2001.html");
+  EXPECT_EQ(shown->parentWidget(), &window);
+}
+
+TEST_F(Editor, TheHelpKeyOpensTheTopicOfADialog) {
+  LayersDialog dialog(1, &window);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  QTest::keyClick(&dialog, Qt::Key_F1);
+  ASSERT_TRUE(help.Window());
+  EXPECT_EQ(help.Window()->findChild<QTextBrowser*>()->source().fileName(), "3006.html");
 }
 
 TEST_F(Editor, ATopicOfTheHelpIsShownAndAMissingOneOpensNothing) {

@@ -150,7 +150,7 @@ class Album:
         self.own_window("settings", 20500)
         press(self.desktop, "F1")
         self.own_window("help", 20600)
-        press(self.desktop, "LeftAlt Right Right Right Right Right Down Down Return")
+        press(self.desktop, "LeftAlt Right Right Right Right Right Down Down Down Return")
         self.own_window("about", 20142)
 
     def own_window(self, name, text):
