@@ -252,6 +252,7 @@ class MainWindow : public QMainWindow {
   RecentMenu* recent_ = nullptr;
   TrialDock* trialDock_ = nullptr;
   std::unique_ptr<TrialMode> trial_;
+  std::vector<QAction*> seekingActions_;  ///< entries of the editing menus that change nothing
   std::vector<QAction*> restingActions_;  ///< entries that do not act while elements are tried
   QAction* try_ = nullptr;
   std::unique_ptr<KeyGuard> keyGuard_;

@@ -86,14 +86,18 @@ void MainWindow::MakeActions() {
   redo_->setObjectName("Redo");
   redo_->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
   edit.addSeparator();
-  Add(edit, Text::Copy, QKeySequence::Copy, &MainWindow::Copy);
+  const auto addSeeking = [&](Text text, const char* name, const QKeySequence& keys, void (MainWindow::*act)()) {
+    seekingActions_.push_back(Add(edit, text, keys, act));
+    seekingActions_.back()->setObjectName(name);
+  };
+  addSeeking(Text::Copy, "Copy", QKeySequence::Copy, &MainWindow::Copy);
   Add(edit, Text::Paste, QKeySequence::Paste, &MainWindow::Paste);
   Add(edit, Text::Swap, QKeySequence(), &MainWindow::SwapChosen);
   Add(edit, Text::Clear, QKeySequence::Delete, &MainWindow::Clear);
   Add(edit, Text::CopyLayers, QKeySequence(), &MainWindow::CopyLayers);
   edit.addSeparator();
-  Add(edit, Text::Find, QKeySequence::Find, &MainWindow::Find);
-  Add(edit, Text::FindByPressing, Qt::CTRL | Qt::SHIFT | Qt::Key_F, &MainWindow::FindByPressing);
+  addSeeking(Text::Find, "Find", QKeySequence::Find, &MainWindow::Find);
+  addSeeking(Text::FindByPressing, "FindByPressing", Qt::CTRL | Qt::SHIFT | Qt::Key_F, &MainWindow::FindByPressing);
   QMenu& element = addMenu(Text::MenuElement);
   elementMenu_ = &element;
   configure_ = Add(element, Text::Configure, QKeySequence(), &MainWindow::Configure);

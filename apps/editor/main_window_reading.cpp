@@ -7,6 +7,8 @@
 #include "editor/overview_panel.h"
 #include "editor/panel_view.h"
 #include "editor/problem_panel.h"
+#include "editor/trial_layer.h"
+#include "editor/trial_mode.h"
 
 namespace plexel {
 
@@ -97,9 +99,11 @@ void MainWindow::GoToNextArea() {
     QWidget* whole;
     std::function<void()> enter;
   };
-  const std::array areas = {Area{view_, [this] { view_->setFocus(Qt::ShortcutFocusReason); }},
+  QWidget* const picture = trial_->IsOn() ? static_cast<QWidget*>(&trial_->Layer()) : view_;
+  const std::array areas = {Area{view_, [picture] { picture->setFocus(Qt::ShortcutFocusReason); }},
                             Area{inspector_, [this] { inspector_->Enter(); }},
-                            Area{problemList_, [this] { problemList_->Enter(); }}};
+                            Area{problemList_, [this] { problemList_->Enter(); }},
+                            Area{overview_, [this] { overview_->Find(); }}};
   const QWidget* const focus = focusWidget();
   std::size_t at = 0;
   for (std::size_t area = 0; area < areas.size(); ++area) {

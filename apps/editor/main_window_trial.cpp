@@ -74,7 +74,7 @@ void MainWindow::ShowEditing() {
     if (std::find(editingMenus.begin(), editingMenus.end(), text) != editingMenus.end()) AddEntries(*menu, entries);
   }
   for (QAction* const action : entries) {
-    if (!action->isEnabled()) continue;
+    if (!action->isEnabled() || std::ranges::find(seekingActions_, action) != seekingActions_.end()) continue;
     action->setEnabled(false);
     restingActions_.push_back(action);
   }

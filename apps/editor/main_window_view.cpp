@@ -113,7 +113,7 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
   menu.addAction(log_->toggleViewAction());
   named_.push_back({log_->toggleViewAction(), Text::ShowEvents});
   menu.addSeparator();
-  Add(menu, Text::NextArea, Qt::Key_F6, &MainWindow::GoToNextArea);
+  Add(menu, Text::NextArea, Qt::Key_F6, &MainWindow::GoToNextArea)->setObjectName("NextArea");
 }
 
 void MainWindow::RetranslateView() {

@@ -42,12 +42,12 @@ void TrialMode::Enter(const PanelDocument& document, std::int32_t layer) {
 }
 
 void TrialMode::Leave() {
+  view_.setFocus();  // what hides with the keyboard passes it on, as Tab does
   layer_->Show(nullptr);
   layer_->hide();
   dock_.hide();
   document_ = nullptr;
   trial_ = Trial();
-  view_.setFocus();
 }
 
 void TrialMode::ChooseLayer(std::int32_t layer) {

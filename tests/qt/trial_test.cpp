@@ -3,6 +3,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "editor/inspector.h"
+#include "editor/overview_panel.h"
 #include "editor/time_line_view.h"
 #include "editor/trial_dock.h"
 #include "editor/trial_layer.h"
@@ -176,6 +178,25 @@ TEST_F(TryingElements, NothingOfTheProjectChanges) {
   EXPECT_FALSE(window.Document()->Steps().CanUndo());
 }
 
+TEST_F(TryingElements, WhatChangesNothingStaysAvailable) {
+  EXPECT_TRUE(window.findChild<QAction*>("Find")->isEnabled());
+  EXPECT_TRUE(window.findChild<QAction*>("FindByPressing")->isEnabled());
+  EXPECT_TRUE(window.findChild<QAction*>("Copy")->isEnabled());
+  window.findChild<QAction*>("Find")->trigger();
+  EXPECT_TRUE(window.Overview().isVisible());
+  EXPECT_TRUE(window.Trying().IsOn());
+}
+
+TEST_F(TryingElements, TheKeyboardComesBackToWhatIsPressed) {
+  window.View().Select(PlaceOf("F1"));
+  window.TheInspector().Enter();
+  window.findChild<QAction*>("NextArea")->trigger();
+  window.findChild<QAction*>("NextArea")->trigger();
+  ASSERT_EQ(QApplication::focusWidget(), &Layer());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(Typed(), "a");
+}
+
 TEST_F(TryingElements, EscapeLeavesAndTheElementsCanBeConfiguredAgain) {
   Down("F2");
   QTest::keyClick(&Layer(), Qt::Key_Escape);
@@ -185,6 +206,14 @@ TEST_F(TryingElements, EscapeLeavesAndTheElementsCanBeConfiguredAgain) {
   EXPECT_FALSE(Dock().isVisible());
   EXPECT_TRUE(State().Down().empty());
   EXPECT_TRUE(window.findChild<QAction*>("Configure")->isEnabled());
+}
+
+TEST_F(TryingElements, LeavingKeepsTheSelection) {
+  window.View().Select(PlaceOf("F3"));
+  ASSERT_EQ(QApplication::focusWidget(), &Layer());
+  QTest::keyClick(&Layer(), Qt::Key_Escape);
+  EXPECT_EQ(window.View().Selected()->Name(), "F3");
+  EXPECT_EQ(QApplication::focusWidget(), &window.View());
 }
 
 TEST_F(TryingElements, AStepAndAnotherProjectEndTheMode) {
