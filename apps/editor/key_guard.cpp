@@ -30,25 +30,32 @@ bool Read(Message& message) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(const QString& program) {
-  connect(&guard_, &QProcess::finished, this, [this] {
-    if (onEnd) onEnd();
+KeyGuard::KeyGuard(const QString& program) : program_(program) {
+  connect(&guard_, &QProcess::finished, this, [this](int, QProcess::ExitStatus how) {
+    refused_ = how == QProcess::NormalExit;
+    if (const auto& tell = refused_ ? onEnd : onKilled) tell();
   });
   connect(&guard_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart && onEnd) onEnd();
+    if (error != QProcess::FailedToStart) return;
+    refused_ = true;
+    if (onEnd) onEnd();
   });
   guard_.setProcessChannelMode(QProcess::ForwardedChannels);
-  guard_.start(program, {Word});
+  Start();
 }
 
+void KeyGuard::Start() { guard_.start(program_, {Word}); }
+
 KeyGuard::~KeyGuard() {
-  onEnd = nullptr;
+  onEnd = onKilled = nullptr;
   if (guard_.state() == QProcess::NotRunning) return;
   guard_.closeWriteChannel();
   guard_.waitForFinished();
 }
 
 void KeyGuard::Send(int evdev, bool down) {
+  if (refused_) return;
+  if (guard_.state() == QProcess::NotRunning) Start();
   const std::array<char, 2> message = {static_cast<char>(evdev), static_cast<char>(down)};
   guard_.write(message.data(), message.size());
 }

@@ -19,11 +19,17 @@ class KeyGuard : public QObject {
 
   /// A key, by its code of the kernel's input layer, goes down or comes up.
   void Send(int evdev, bool down);
-  /// The guard has ended, or could not start: the desktop takes no keys.
+  /// The guard could not start, or the desktop takes no keys.
   std::function<void()> onEnd;
+  /// Somebody has ended the guard, and what was down still is. The next key that is sent starts another one.
+  std::function<void()> onKilled;
 
  private:
+  void Start();
+
+  QString program_;
   QProcess guard_;
+  bool refused_ = false;  ///< the desktop takes no keys
 };
 
 /// What the guard does: sends the keys that standard input tells until that ends, and lets go of what is down then. The

@@ -29,6 +29,7 @@ void MainWindow::ShowVirtualPanel() {
   virtualPanel_ = std::make_unique<VirtualPanel>(*document_, std::max(1, layerBox_->currentIndex()),
                                                  [this](int evdev, bool down) { keyGuard_->Send(evdev, down); });
   keyGuard_->onEnd = [this] { virtualPanel_->Lost(); };
+  keyGuard_->onKilled = [this] { virtualPanel_->LetGoOfAll(); };
   // The window is on its way out of one of its own events.
   virtualPanel_->onClose = [this] {
     QMetaObject::invokeMethod(

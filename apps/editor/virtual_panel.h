@@ -24,6 +24,8 @@ class VirtualPanel : public QWidget {
   void Retranslate();
   /// Tells that the desktop takes no keys any more.
   void Lost();
+  /// All that is held or down comes up.
+  void LetGoOfAll();
   const Trial& State() const { return trial_; }
   TrialLayer& Layer() const { return *layer_; }
   /// What is said below the picture.
@@ -35,7 +37,6 @@ class VirtualPanel : public QWidget {
 
  private:
   void Carry(const Trial::Event& event);
-  void LetGoOfAll();
   void ShowState();
 
   const PanelDocument& document_;

@@ -1,6 +1,8 @@
 """The virtual panel: its keys reach the program in front, and none stays down behind the editor."""
 
+import os
 import signal
+from pathlib import Path
 
 from desktop import Box, Desktop, Failed, PATIENCE, wait_for
 from editor import Editor
@@ -120,3 +122,21 @@ def killed(tools, folder):
 
 def terminated(tools, folder):
     ended(tools, folder, signal.SIGTERM)
+
+
+def guard_killed(tools, folder):
+    """The program that sends the keys is killed alone: the editor lets go of what it left, and starts another."""
+    with Desktop(tools, folder) as desktop:
+        project = folder / "virtual.plexel"
+        write_project(project)
+        panel = VirtualPanel(desktop, tools, project)
+        desktop.click(panel.middle("F2"))
+        panel.wait_held([LEFT_CTRL])
+        children = Path(f"/proc/{panel.editor.process.pid}/task/{panel.editor.process.pid}/children")
+        for guard in children.read_text().split():
+            os.kill(int(guard), signal.SIGKILL)
+        panel.wait_held([])
+        desktop.click(panel.middle("F1"))
+        panel.wait_received([f"+{LEFT_CTRL}", f"-{LEFT_CTRL}", f"+{A}", f"-{A}"])
+        desktop.do(f"activate {desktop.window_id('Plexel')}")
+        panel.editor.quit()
