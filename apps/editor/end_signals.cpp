@@ -31,12 +31,25 @@ EndSignals::EndSignals(std::function<void()> keep) : keep_(std::move(keep)) {
   notifier_ = std::make_unique<QSocketNotifier>(channel[0], QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, [this] {
     notifier_->setEnabled(false);
-    heard_ = true;
-    keep_();
-    QApplication::exit(0);
+    End();
   });
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) { keep_(); });
+  qApp->installEventFilter(this);
   for (const int ending : endings) std::signal(ending, TellSignal);
+}
+
+bool EndSignals::eventFilter(QObject* watched, QEvent* event) {
+  // The session tells the program to go, once everybody has kept what he has. Windows would ask questions then, which
+  // nobody is there to answer.
+  if (watched != qApp || event->type() != QEvent::Quit) return QObject::eventFilter(watched, event);
+  End();
+  return true;
+}
+
+void EndSignals::End() {
+  heard_ = true;
+  keep_();
+  QApplication::exit(0);
 }
 
 EndSignals::~EndSignals() {

@@ -11,15 +11,20 @@ namespace plexel {
 /// One at a time.
 class EndSignals : public QObject {
  public:
-  /// `keep` is called in the event loop; behind a signal the program then ends without questions, and at the end of the
-  /// session the desktop ends it.
+  /// `keep` is called in the event loop, behind a signal and when the session is about to end; the program then ends
+  /// without questions, behind a signal at once and in a session when that tells it to.
   explicit EndSignals(std::function<void()> keep);
   ~EndSignals() override;
 
-  /// Whether a signal has ended the program: an event loop must not be entered any more.
+  /// Whether a signal or the session has ended the program: an event loop must not be entered any more.
   bool Heard() const { return heard_; }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void End();
+
   std::function<void()> keep_;
   std::unique_ptr<QSocketNotifier> notifier_;
   bool heard_ = false;

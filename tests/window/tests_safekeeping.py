@@ -1,12 +1,14 @@
 """What becomes of work that was not saved, and of a file that somebody else changes."""
 
 import signal
+import threading
 
 from capture import compare
 from desktop import Desktop, Failed, Window, wait_for
 from editor import MAIN, Editor
 from keys import press
 from project import read_project, write_empty_project
+from session import SessionManager
 
 KEY = "F1"
 PLAN = {(KEY, 1, True): [("a", [("a", "1C F0 1C")])]}
@@ -55,16 +57,42 @@ def killed(tools, folder):
         editor.quit()
 
 
-def terminated(tools, folder):
-    with Desktop(tools, folder) as desktop:
+def kept_and_brought_back(desktop, tools, editor):
+    """Unsaved work of an editor that is gone stands on the disk, and the next one brings it back."""
+    compare(read_project(editor.project), {})
+    if len(recovery_files(desktop)) != 1:
+        raise Failed("work that was not saved is not kept")
+    editor = StartedEditor(desktop, tools, editor.project, language="German", settings={})
+    compare(editor.save(), PLAN)
+    editor.quit()
+
+
+def ended_by(how):
+    def test(tools, folder):
+        with Desktop(tools, folder) as desktop:
+            editor = recorded(desktop, tools, folder)
+            editor.process.send_signal(how)
+            editor.wait_end()
+            kept_and_brought_back(desktop, tools, editor)
+    return test
+
+
+terminated, interrupted, hung_up = ended_by(signal.SIGTERM), ended_by(signal.SIGINT), ended_by(signal.SIGHUP)
+
+
+def session_ended(tools, folder):
+    with Desktop(tools, folder) as desktop, SessionManager(desktop) as session:
+        welcoming = threading.Thread(target=session.welcome, daemon=True)
+        welcoming.start()
         editor = recorded(desktop, tools, folder)
-        editor.process.send_signal(signal.SIGTERM)
-        editor.wait_end()
+        welcoming.join()
+        session.end()
         if len(recovery_files(desktop)) != 1:
-            raise Failed("work that was not saved is not kept")
-        editor = StartedEditor(desktop, tools, editor.project, language="German", settings={})
-        compare(editor.save(), PLAN)
-        editor.quit()
+            raise Failed("work that was not saved is not kept when the session ends")
+        session.die()
+        editor.wait_end()
+        del desktop.environment["SESSION_MANAGER"]
+        kept_and_brought_back(desktop, tools, editor)
 
 
 class StartedEditor(Editor):
