@@ -2,16 +2,20 @@
 """check_call.py EDITOR: what the editor answers without a display, and its exit statuses."""
 
 import os
+import pathlib
 import subprocess
 import sys
+import tempfile
 import unittest
 
 EDITOR = sys.argv.pop(1)
+SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "data" / "projects" / "sample.plexel"
 
 
-def run(*words):
+def run(*words, **added):
     environment = {name: value for name, value in os.environ.items()
-                   if name not in ("DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR") and not name.startswith("QT_")}
+                   if name not in ("DISPLAY", "WAYLAND_DISPLAY") and not name.startswith(("QT_", "XDG_"))}
+    environment.update(added)
     return subprocess.run([EDITOR, *words], capture_output=True, text=True, env=environment, timeout=60)
 
 
@@ -35,6 +39,28 @@ class CallWithoutADisplay(unittest.TestCase):
             done = run(*words)
             self.assertEqual((words, done.returncode, done.stdout), (words, 2, ""))
             self.assertRegex(done.stderr, r"\Aplexel-editor: [^\n]+\n\Z")
+
+    def test_a_report_is_written_without_a_window(self):
+        with tempfile.TemporaryDirectory() as folder:
+            target = pathlib.Path(folder, "report.pdf")
+            done = run("--pdf", str(target), str(SAMPLE), HOME=folder, XDG_RUNTIME_DIR=folder)
+            self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+            content = target.read_bytes()
+            self.assertTrue(content.startswith(b"%PDF-") and content.rstrip().endswith(b"%%EOF"))
+            self.assertGreater(content.count(b"/Type /Page\n"), 1)
+            self.assertEqual([one.name for one in pathlib.Path(folder).iterdir() if one.suffix], ["report.pdf"])
+
+    def test_a_report_that_cannot_be_written_is_told(self):
+        with tempfile.TemporaryDirectory() as folder:
+            target = pathlib.Path(folder, "report.pdf")
+            for words in (("--pdf", str(target), folder + "/missing.plexel"),
+                          ("--pdf", folder + "/missing/report.pdf", str(SAMPLE))):
+                done = run(*words, HOME=folder, XDG_RUNTIME_DIR=folder)
+                self.assertEqual((done.returncode, done.stdout), (1, ""))
+                self.assertRegex(done.stderr, r"\Aplexel-editor: [^\n]*missing[^\n]*\n\Z")
+                self.assertFalse(target.exists())
+            for words in (("--pdf",), ("--pdf", str(target)), ("--pdf=", str(SAMPLE))):
+                self.assertEqual(run(*words, HOME=folder, XDG_RUNTIME_DIR=folder).returncode, 2)
 
     def test_an_option_of_the_toolkit_is_no_wrong_call(self):
         done = run("-platform", "offscreen", "--version")

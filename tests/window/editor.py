@@ -231,8 +231,14 @@ class Editor:
     def save(self):
         """Saves by Ctrl+S and gives the elements of the saved project."""
         self.wait_modified(True)
+        return self.save_typed()
+
+    def save_typed(self):
+        """The same for what is still being typed and so has not changed the project yet."""
+        before = Path(self.project).stat().st_mtime_ns
         self.desktop.window(MAIN)
         press(self.desktop, "LeftCtrl+s")
+        wait_for("the saved project", lambda: Path(self.project).stat().st_mtime_ns != before)
         self.wait_modified(False)
         return read_project(self.project)
 

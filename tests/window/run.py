@@ -15,6 +15,7 @@ import tests_special
 import tests_virtual
 import tests_walk
 import tests_wizard
+import tests_work
 from desktop import Failed
 from editor import Tools
 
