@@ -1,8 +1,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
-#include <QLineEdit>
-#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
@@ -14,15 +12,14 @@
 #include "editor/editor_host.h"
 #include "editor/form_notes.h"
 #include "editor/main_window.h"
-#include "editor/overview_panel.h"
 #include "editor/panel_view.h"
 #include "editor/settings_dialog.h"
-#include "editor/trial_layer.h"
-#include "editor/trial_mode.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 #include "files/file_surroundings.h"
+#include "files/help_topics.h"
 #include "forms/form_directory.h"
+#include "pictures/editor_pictures.h"
 #include "qt/fonts.h"
 #include "qt/form_view.h"
 #include "qt/help_window.h"
@@ -145,69 +142,19 @@ class PictureMaker {
     window.resize(1360, 940);
     window.View().Select(20);
     window.show();
-    QCoreApplication::processEvents();
-    Save(window, "editor");
-    TakeOverview(window);
-    TakeTrial(window);
+    EditorPictures(
+        window, [this](QWidget& widget, const QString& name) { Save(widget, name); }, QDir(state_.path()),
+        QDir(files_.path()))
+        .TakeAll();
     SettingsDialog settings(surroundings_, &window);
     settings.show();
     QCoreApplication::processEvents();
     Save(settings, "settings");
-    help_.Show(0, HelpFileName(), HelpViewer::HelpContext, HelpWindow::Contents);
-    QCoreApplication::processEvents();
-    if (help_.Window()) Save(*help_.Window(), "help");
-  }
-
-  /// Some keys pressed one after the other: one with a shortcut, one that is never released, and one that is held and
-  /// calls a layer, whose LED is lit.
-  void TakeTrial(MainWindow& window) {
-    auto& places = window.Document()->Places();
-    std::vector<std::size_t> keys;
-    for (std::size_t place = 0; place < places.size(); ++place) {
-      if (places[place].element->ElementType() == RectLed) keys.push_back(place);
+    for (const HelpTopic& topic : ReadHelpTopics(HelpFileName())) {
+      ShowHelpTopic(0, topic.number);
+      QCoreApplication::processEvents();
+      if (help_.Window()) Save(*help_.Window(), "help-" + QString::number(topic.number));
     }
-    if (keys.size() < 3) return;
-    places[keys[0]].element->LEDTypeLayer1(CapsLockLed);
-    places[keys[2]].element->LEDTypeLayer2(Layer2Led);
-    PutBytes(*places[keys[0]].element, {0x58, 0xF0, 0x58, 0x12, 0x33, 0xF0, 0x33, 0xF0, 0x12, 0x43, 0xF0, 0x43}, {});
-    PutBytes(*places[keys[1]].element, {0x14, 0x1C, 0xF0, 0x1C}, {});
-    PutBytes(*places[keys[2]].element, {0xF1}, {});
-    window.Try(true);
-    TrialLayer& layer = window.Trying().Layer();
-    for (const std::size_t place : {keys[0], keys[1], keys[2]}) {
-      const bool last = place == keys[2];
-      for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        if (last && type == QEvent::MouseButtonRelease) continue;
-        const QPointF at = layer.PlaceRect(place).center();
-        QMouseEvent event(type, at, layer.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&layer, &event);
-      }
-    }
-    QCoreApplication::processEvents();
-    Save(window, "trial");
-    window.Try(false);
-  }
-
-  static void PutBytes(ctlPlexelBaseElement& element, std::initializer_list<std::uint8_t> press,
-                       std::initializer_list<std::uint8_t> release) {
-    auto record = element.TactisBaseElementScanCodeBuffer();
-    record.strLayer1PressScanCode = record.strLayer1ReleaseScanCode = InitialCodes();
-    for (const auto& [bytes, codes] :
-         {std::pair(press, &record.strLayer1PressScanCode), std::pair(release, &record.strLayer1ReleaseScanCode)}) {
-      for (const std::uint8_t byte : bytes) codes->Value[static_cast<std::size_t>(++codes->NextValue)] = byte;
-    }
-    element.TactisBaseElementScanCodeBuffer(record);
-  }
-
-  /// The overview with what a search has found.
-  void TakeOverview(MainWindow& window) {
-    window.Overview().Find();
-    window.resizeDocks({&window.Overview()}, {OverviewHeight}, Qt::Vertical);
-    window.Overview().findChild<QLineEdit*>("FindWords")->setText("ctrl");
-    QCoreApplication::processEvents();
-    Save(window, "overview");
-    window.Overview().findChild<QLineEdit*>("FindWords")->clear();
-    window.Overview().hide();
   }
 
   static void FillSamplePanel(MainWindow& window) {
@@ -255,14 +202,12 @@ class PictureMaker {
     }
   }
 
-  static constexpr int OverviewHeight = 340;
-
   static constexpr std::size_t WrongPlace = 20;  ///< of the sample: a key with problems
 
   QDir target_;
   std::string project_;
   QString suffix_;
-  QTemporaryDir configuration_, state_;
+  QTemporaryDir configuration_, state_, files_;
   HelpWindow help_;
   EditorHost host_;
   FormNotes notes_;
