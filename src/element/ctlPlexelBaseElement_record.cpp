@@ -4,7 +4,6 @@
 #include <string>
 
 #include "element/defined_marker.h"
-#include "element/element_access.h"
 #include "element/packed_codes.h"
 #include "services/failure_styles.h"
 
@@ -70,25 +69,6 @@ void ctlPlexelBaseElement::TactisBaseElementScanCodeBuffer(const Info& value) {
     PassOnHead(value);
     ForEach(furtherKeyNumbers, [&](std::int32_t index, auto member) { HardwareNumberKeyAt(index, value.*member); });
     PassOnRest(value);
-  });
-}
-
-void ElementAccess::Codes(ctlPlexelBaseElement& element, std::vector<std::uint8_t> packed) {
-  element.codes_ = std::move(packed);
-  EndQuietly([&] {
-    element.WizardOptions(element.WizardOptions());
-    element.HardwareNumberButton(element.HardwareNumberButton());
-    for (std::int32_t index = 0; index < 8; ++index) {
-      element.HardwareNumberKeyAt(index, element.HardwareNumberKeyAt(index));
-    }
-    element.HardwareNumberLed(element.HardwareNumberLed());
-    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) element.LEDTypeLayer(layer, element.LEDTypeLayer(layer));
-    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-      element.PressKeyDefLayer(layer, element.PressKeyDefLayer(layer));
-    }
-    for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
-      element.ReleaseKeyDefLayer(layer, element.ReleaseKeyDefLayer(layer));
-    }
   });
 }
 
