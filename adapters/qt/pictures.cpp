@@ -1,6 +1,11 @@
 #include "qt/pictures.h"
 
+#include <QApplication>
+#include <QIconEngine>
 #include <QLoggingCategory>
+#include <QPixmapCache>
+#include <QStyle>
+#include <QStyleOption>
 #include <QSvgRenderer>
 #include <map>
 #include <memory>
@@ -20,6 +25,43 @@ QSvgRenderer& Renderer(const std::string& name) {
   if (!renderer->isValid()) qWarning("%s: the picture cannot be read", qUtf8Printable(file));
   return *renderer;
 }
+
+/// Draws a picture in the sizes that are asked for, each once. In a selected line it keeps its colours, which tell
+/// something.
+class PictureEngine : public QIconEngine {
+ public:
+  PictureEngine(std::string name, const QSize& size) : name_(std::move(name)), size_(size) {}
+
+  void paint(QPainter* painter, const QRect& target, QIcon::Mode mode, QIcon::State state) override {
+    const qreal ratio = painter->device()->devicePixelRatioF();
+    painter->drawPixmap(target, pixmap(target.size() * ratio, mode, state));
+  }
+  QPixmap pixmap(const QSize& pixels, QIcon::Mode mode, QIcon::State) override {
+    const QString key = QString("picture %1 %2 %3 %4 %5")
+                            .arg(QString::fromStdString(name_))
+                            .arg(pixels.width())
+                            .arg(pixels.height())
+                            .arg(mode == QIcon::Disabled ? QGuiApplication::palette().cacheKey() : 0)
+                            .arg(mode == QIcon::Disabled);
+    QPixmap drawn;
+    if (QPixmapCache::find(key, &drawn)) return drawn;
+    drawn = PicturePixmap(name_, pixels, 1);
+    if (mode == QIcon::Disabled) {
+      QStyleOption option;
+      option.palette = QGuiApplication::palette();
+      drawn = QApplication::style()->generatedIconPixmap(mode, drawn, &option);
+    }
+    QPixmapCache::insert(key, drawn);
+    return drawn;
+  }
+  QIconEngine* clone() const override { return new PictureEngine(*this); }
+  bool isNull() override { return false; }
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {size_}; }
+
+ private:
+  std::string name_;
+  QSize size_;
+};
 
 }  // namespace
 
@@ -43,14 +85,6 @@ QPixmap PicturePixmap(const std::string& name, const QSize& size, qreal ratio) {
   return pixmap;
 }
 
-QIcon PictureIcon(const std::string& name, const QSize& size) {
-  QIcon icon;
-  for (const qreal ratio : {1, 2, 3}) {
-    const QPixmap pixmap = PicturePixmap(name, size, ratio);
-    // In a selected line it keeps its colours, which tell something.
-    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) icon.addPixmap(pixmap, mode);
-  }
-  return icon;
-}
+QIcon PictureIcon(const std::string& name, const QSize& size) { return QIcon(new PictureEngine(name, size)); }
 
 }  // namespace plexel
