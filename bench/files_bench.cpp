@@ -43,10 +43,10 @@ Elements Load(const std::filesystem::path& file) {
   for (ProjectElement saved; reader.Next(saved);) {
     const auto element = bench::TheWorld().component.Read(saved.place, bench::TheWorld().host, saved.bag);
     if (!saved.codes.empty()) {
-      udtTactisBaseElement_ScanCodeInfo record;
-      PutCodes(saved.codes, record);
+      CodeBuffers buffers{};
+      for (const SavedCodes& codes : saved.codes) buffers.at(static_cast<std::size_t>(codes.buffer)) = &codes.codes;
       std::vector<std::uint8_t> packed;
-      PackCodes(record, packed);
+      PackCodes(buffers, packed);
       ElementAccess::Codes(*element, std::move(packed));
     }
     elements.push_back(element);

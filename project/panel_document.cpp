@@ -29,10 +29,12 @@ void PutAtRest(FlatBag& bag) {
 
 std::vector<std::uint8_t> Packed(const std::vector<SavedCodes>& codes) {
   std::vector<std::uint8_t> packed;
-  if (codes.empty()) return packed;
-  udtTactisBaseElement_ScanCodeInfo record;
-  PutCodes(codes, record);
-  PackCodes(record, packed);
+  CodeBuffers buffers{};
+  for (const SavedCodes& saved : codes) {
+    const auto number = static_cast<std::size_t>(saved.buffer);
+    if (number < buffers.size()) buffers[number] = &saved.codes;
+  }
+  PackCodes(buffers, packed);
   return packed;
 }
 

@@ -41,21 +41,28 @@ std::size_t LengthOf(const Buffer& buffer) {
 }  // namespace
 
 void PackCodes(const Info& record, std::vector<std::uint8_t>& packed) {
+  CodeBuffers buffers{};
+  std::size_t number = 0;
+  ForEachBuffer(record, [&](const Buffer& buffer) { buffers[number++] = &buffer; });
+  PackCodes(buffers, packed);
+}
+
+void PackCodes(const CodeBuffers& buffers, std::vector<std::uint8_t>& packed) {
   std::array<std::uint8_t, mostBytes> bytes;
   std::size_t size = 0;
   bool anyTouched = false;
-  ForEachBuffer(record, [&](const Buffer& buffer) {
-    if (buffer == initialCodes) {
+  for (const Buffer* const buffer : buffers) {
+    if (buffer == nullptr || *buffer == initialCodes) {
       bytes[size++] = untouched;
-      return;
+      continue;
     }
     anyTouched = true;
-    const std::size_t length = LengthOf(buffer);
+    const std::size_t length = LengthOf(*buffer);
     bytes[size++] = static_cast<std::uint8_t>(length);
-    std::memcpy(&bytes[size], &buffer.NextValue, sizeof(buffer.NextValue));
-    std::memcpy(&bytes[size] + sizeof(buffer.NextValue), buffer.Value.data(), length);
-    size += sizeof(buffer.NextValue) + length;
-  });
+    std::memcpy(&bytes[size], &buffer->NextValue, sizeof(buffer->NextValue));
+    std::memcpy(&bytes[size] + sizeof(buffer->NextValue), buffer->Value.data(), length);
+    size += sizeof(buffer->NextValue) + length;
+  }
   packed.assign(bytes.data(), bytes.data() + (anyTouched ? size : 0));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -12,8 +13,12 @@ namespace plexel {
 /// the bytes are none while all buffers are InitialCodes, else of each buffer the number of bytes, NextValue, and the
 /// bytes.
 
-/// Packs the buffers of a record.
+/// The buffers, press before release, layer by layer; null for one that is untouched.
+using CodeBuffers = std::array<const udtTactisBaseElement_TACTIS_SCANCODE*, 2 * LayerCount>;
+
+/// Packs the buffers of a record, or buffers by themselves.
 void PackCodes(const udtTactisBaseElement_ScanCodeInfo& record, std::vector<std::uint8_t>& packed);
+void PackCodes(const CodeBuffers& buffers, std::vector<std::uint8_t>& packed);
 /// Writes packed buffers into a record.
 void UnpackCodes(const std::vector<std::uint8_t>& packed, udtTactisBaseElement_ScanCodeInfo& record);
 

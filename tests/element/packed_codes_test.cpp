@@ -74,6 +74,24 @@ TEST(PackedCodes, TheLastRecordCounts) {
   EXPECT_EQ(Handed(codes), Handed(PackedCodes()));
 }
 
+TEST(PackedCodes, BuffersByThemselvesArePackedAsInARecord) {
+  Info record;
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    *PressBuffer(record, layer) = *ReleaseBuffer(record, layer) = InitialCodes();
+  }
+  PressBuffer(record, 2)->Value[3] = 0x1C;
+  ReleaseBuffer(record, 4)->NextValue = 7;
+  CodeBuffers buffers{};
+  buffers[2] = PressBuffer(record, 2);
+  buffers[7] = ReleaseBuffer(record, 4);
+  std::vector<std::uint8_t> one, other;
+  PackCodes(record, one);
+  PackCodes(buffers, other);
+  EXPECT_EQ(one, other);
+  PackCodes(CodeBuffers{}, other);
+  EXPECT_TRUE(other.empty());
+}
+
 TEST(PackedCodes, AnyBytesComeBack) {
   std::mt19937 random(20);
   for (int round = 0; round < 500; ++round) {

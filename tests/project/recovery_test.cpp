@@ -210,8 +210,6 @@ TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
 
 TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
   RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
-  Watch(keeper);
-  Note("F3", "mine");
   keeper.Flush();
   const std::string mine = keeper.File().stem();
   std::ofstream(Store() / "1-1.lock") << "";
