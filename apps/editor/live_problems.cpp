@@ -64,9 +64,7 @@ std::vector<Problem> LiveProblems::Of(int place) const {
   return problems_ ? problems_->Of(static_cast<std::size_t>(place)) : std::vector<Problem>();
 }
 
-std::string LiveProblems::PlainText(const Problem& problem) const {
-  return problems_->Text(problem, words_);
-}
+std::string LiveProblems::PlainText(const Problem& problem) const { return problems_->Text(problem, words_); }
 
 QString LiveProblems::TextOf(const Problem& problem) const { return WithVisibleControls(ToQt(PlainText(problem))); }
 

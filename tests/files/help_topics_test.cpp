@@ -15,7 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr std::int32_t TopicNumbers[] = {1002, 2000, 2001, 2002, 2003, 2600, 2601, 2602, 2604,
-                                       3001, 3002, 3003, 3004, 3005, 3006, 3007, 3008, 3009};
+                                         3001, 3002, 3003, 3004, 3005, 3006, 3007, 3008, 3009};
 
 std::string ShippedHelp(const std::string& language) {
   return DataDirectory().string() + "\\Help\\Plexel" + language + ".chm";
