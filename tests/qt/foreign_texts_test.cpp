@@ -74,8 +74,9 @@ TEST_F(ForeignTexts, StayTextInTheToolTipOfThePicture) {
 TEST_F(ForeignTexts, StayTextInTheStatusLine) {
   EXPECT_TRUE(window.StatusText().contains(Hostile)) << window.StatusText().toStdString();
   const ElidedLabel* status = nullptr;
-  for (const ElidedLabel* const one : window.findChildren<ElidedLabel*>()) {
-    if (one->Content() == window.StatusText()) status = one;
+  for (const QFrame* const frame : window.findChildren<QFrame*>()) {
+    const auto* const one = dynamic_cast<const ElidedLabel*>(frame);
+    if (one != nullptr && one->Content() == window.StatusText()) status = one;
   }
   ASSERT_NE(status, nullptr);
   EXPECT_TRUE(Shown(status->toolTip()).remove('\n').contains(Hostile)) << status->toolTip().toStdString();

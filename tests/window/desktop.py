@@ -107,6 +107,7 @@ class Desktop:
             self._start_window_manager(bindings or {})
             self.typist = self.start([str(tools.typist)], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
                                      encoding="utf-8")
+            wait_for("the window manager's answer", lambda: self.do("answered") == "true")
         except BaseException:
             self.close()
             raise

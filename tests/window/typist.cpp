@@ -203,6 +203,7 @@ class Typist {
       {"button", [this](auto& words) { return ButtonUpOrDown(words); }},
       {"click", [this](auto& words) { return Clicks(words, 1); }},
       {"dblclick", [this](auto& words) { return Clicks(words, 2); }},
+      {"answered", [this](auto&) { return std::string(desktop_.WindowManagerAnswers() ? "true" : "false"); }},
       {"windows", [this](auto&) { return Windows(); }},
       {"open-window",
        [this](auto& words) {

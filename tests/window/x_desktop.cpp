@@ -152,6 +152,16 @@ void XDesktop::Ask(xcb_window_t window, std::string_view message, std::array<std
   xcb_flush(connection_);
 }
 
+bool XDesktop::WindowManagerAnswers() {
+  if (asking_ == XCB_WINDOW_NONE) {
+    asking_ = xcb_generate_id(connection_);
+    xcb_create_window(connection_, XCB_COPY_FROM_PARENT, asking_, screen_->root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, screen_->root_visual, 0, nullptr);
+  }
+  Ask(asking_, "_NET_REQUEST_FRAME_EXTENTS", {});
+  return !Numbers(asking_, "_NET_FRAME_EXTENTS").empty();
+}
+
 void XDesktop::Open(const std::string& title, const Box& box) {
   const xcb_window_t window = xcb_generate_id(connection_);
   const std::array<std::uint32_t, 2> values = {screen_->white_pixel,

@@ -46,6 +46,9 @@ class XDesktop {
   /// Whether a program holds the keyboard for itself.
   bool KeyboardIsGrabbed();
 
+  /// Asks the window manager for something, and tells whether it has answered yet. It may pass over what reaches it
+  /// while it starts, up to its next event: from its first answer on it hears everything.
+  bool WindowManagerAnswers();
   std::vector<WindowFacts> Windows();
   /// Puts up a plain window of its own, which hears keys.
   void Open(const std::string& title, const Box& box);
@@ -70,6 +73,7 @@ class XDesktop {
 
   xcb_connection_t* connection_;
   xcb_screen_t* screen_ = nullptr;
+  xcb_window_t asking_ = XCB_WINDOW_NONE;  ///< never shown
 };
 
 }  // namespace plexel::window_test
