@@ -2,6 +2,7 @@
 
 #include "files/file_error.h"
 #include "files/file_lists.h"
+#include "files/path_text.h"
 #include "files/system_files.h"
 #include "project/fingerprint.h"
 
@@ -28,7 +29,7 @@ OpenFile::~OpenFile() { lock_->Remove(); }
 std::size_t OpenFile::Others() const {
   std::size_t others = 0;
   for (const std::filesystem::path& mark : ExistingFilesWith(Extension, directory_)) {
-    if (mark == mark_ || !mark.filename().string().starts_with(fingerprint_ + "-")) continue;
+    if (mark == mark_ || !TextOf(mark.filename()).starts_with(fingerprint_ + "-")) continue;
     try {
       // A mark that can be taken is left over from a program that was killed.
       if (std::optional<ProcessLock> left = ProcessLock::Try(mark)) {

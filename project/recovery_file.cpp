@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "files/number_text.h"
+#include "files/path_text.h"
 #include "forms/ascii.h"
 
 namespace plexel {
@@ -45,7 +46,7 @@ bool Unescape(std::string_view text, std::string& bytes) {
 
 std::string FormatRecoveryHead(const RecoveryHead& head) {
   std::string text(Start);
-  text.append(FileKey).append(Escaped(head.file.string())) += '\n';
+  text.append(FileKey).append(Escaped(TextOf(head.file))) += '\n';
   text.append(TimeKey).append(std::to_string(head.time)) += '\n';
   return text;
 }
@@ -64,7 +65,7 @@ RecoveryFile ParseRecovery(const TextFile& text) {
       if (!line.starts_with(FileKey) || !Unescape(line.substr(FileKey.size()), bytes)) {
         throw text.Error(lines.Number(), "the name of the project's file must stand here");
       }
-      recovery.head.file = bytes;
+      recovery.head.file = PathOf(bytes);
     } else if (lines.Number() == headLines) {
       const auto time =
           line.starts_with(TimeKey) ? ParseNumber<std::int64_t>(line.substr(TimeKey.size())) : std::nullopt;

@@ -6,6 +6,7 @@
 #include "files/file_error.h"
 #include "files/file_lists.h"
 #include "files/number_text.h"
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "files/system_files.h"
 #include "project/fingerprint.h"
@@ -33,7 +34,7 @@ std::vector<VersionStore::Version> VersionStore::List(const std::filesystem::pat
   std::vector<Version> versions;
   const std::filesystem::path directory = DirectoryOf(project);
   for (const std::filesystem::path& file : ExistingFilesWith(Extension, directory)) {
-    if (const auto time = ParseNumber<std::int64_t>(file.stem().string())) versions.push_back({file, *time});
+    if (const auto time = ParseNumber<std::int64_t>(TextOf(file.stem()))) versions.push_back({file, *time});
   }
   std::ranges::sort(versions, [](const Version& left, const Version& right) { return left.time > right.time; });
   return versions;

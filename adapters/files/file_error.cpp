@@ -1,11 +1,13 @@
 #include "files/file_error.h"
 
+#include "files/path_text.h"
+
 namespace plexel {
 
 namespace {
 
 std::string Message(const std::filesystem::path& file, std::size_t line, const std::string& reason) {
-  return file.string() + (line == 0 ? "" : ":" + std::to_string(line)) + ": " + reason;
+  return TextOf(file) + (line == 0 ? "" : ":" + std::to_string(line)) + ": " + reason;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "files/file_language.h"
 
 #include "files/file_lists.h"
+#include "files/path_text.h"
 
 namespace plexel {
 
@@ -10,7 +11,7 @@ void FileLanguage::GetText(std::int32_t number, std::string& text) {
 }
 
 void FileLanguage::Choose(const std::string& name) {
-  texts_ = ReadLanguageFile(directory_ / (name + std::string(LanguageExtension)));
+  texts_ = ReadLanguageFile(directory_ / PathOf(name + std::string(LanguageExtension)));
   chosen_ = name;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "files/file_error.h"
+#include "files/path_text.h"
 
 namespace plexel {
 
@@ -11,7 +12,7 @@ std::vector<std::filesystem::path> FilesWith(std::string_view extension, const s
   std::vector<std::filesystem::path> files;
   std::filesystem::directory_iterator entries(directory, error);
   for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (entries->path().extension() == extension) files.push_back(entries->path());
+    if (TextOf(entries->path().extension()) == extension) files.push_back(entries->path());
   }
   std::sort(files.begin(), files.end());
   return files;
@@ -30,8 +31,7 @@ std::vector<std::filesystem::path> ExistingFilesWith(std::string_view extension,
 std::vector<std::string> NamesOfFilesWith(std::string_view extension, const std::filesystem::path& directory) {
   std::error_code error;
   std::vector<std::string> names;
-  for (const std::filesystem::path& file : FilesWith(extension, directory, error))
-    names.push_back(file.stem().string());
+  for (const std::filesystem::path& file : FilesWith(extension, directory, error)) names.push_back(TextOf(file.stem()));
   std::sort(names.begin(), names.end());
   return names;
 }

@@ -6,6 +6,7 @@
 
 #include "files/ini_walk.h"
 #include "files/number_text.h"
+#include "files/path_text.h"
 #include "files/system_files.h"
 #include "platform/failure.h"
 #include "services/saved_positions.h"
@@ -30,7 +31,7 @@ bool IsLanguageName(std::string_view name) {
 }  // namespace
 
 FileSettings::FileSettings(std::filesystem::path file, const std::filesystem::path& basePath, FileRegistry& registry)
-    : file_(std::move(file)), basePath_(basePath.string()), registry_(registry) {
+    : file_(std::move(file)), basePath_(TextOf(basePath)), registry_(registry) {
   for (const SettingRow& row : SettingTable) values_[PlaceOf(row)] = row.initial;
   Read();
 }

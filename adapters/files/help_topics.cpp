@@ -6,6 +6,7 @@
 #include "files/file_error.h"
 #include "files/file_lists.h"
 #include "files/number_text.h"
+#include "files/path_text.h"
 #include "files/text_lines.h"
 #include "forms/characters.h"
 
@@ -31,7 +32,7 @@ std::filesystem::path HelpDirectory(std::string_view helpFile) {
   if (helpFile.ends_with(HelpExtension)) helpFile.remove_suffix(HelpExtension.size());
   std::string name(helpFile);
   std::replace(name.begin(), name.end(), '\\', '/');
-  return name;
+  return PathOf(name);
 }
 
 std::optional<HelpTopic> ReadHelpTopic(std::string_view helpFile, std::int32_t number) {
@@ -49,7 +50,7 @@ std::vector<HelpTopic> ReadHelpTopics(std::string_view helpFile) {
   std::vector<HelpTopic> topics;
   std::error_code error;
   for (const std::filesystem::path& file : FilesWith(TopicExtension, HelpDirectory(helpFile), error)) {
-    const std::optional<std::int32_t> number = ParseNumber<std::int32_t>(file.stem().string());
+    const std::optional<std::int32_t> number = ParseNumber<std::int32_t>(TextOf(file.stem()));
     if (!number) continue;
     if (std::optional<HelpTopic> topic = ReadHelpTopic(helpFile, *number)) topics.push_back(std::move(*topic));
   }

@@ -6,6 +6,7 @@
 
 #include "files/file_lists.h"
 #include "files/panel_values.h"
+#include "files/path_text.h"
 
 namespace plexel {
 
@@ -253,7 +254,7 @@ std::filesystem::path PanelFile(const std::filesystem::path& directory, const st
   if (name.empty() || name.front() == '.' || name.find_first_of(std::string_view("/\\\0", 3)) != std::string::npos) {
     throw FileError(directory, 0, "there is no panel \"" + Excerpt(name) + "\"");
   }
-  return directory / (name + std::string(Extension));
+  return directory / PathOf(name + std::string(Extension));
 }
 
 std::vector<std::string> PanelNames(const std::filesystem::path& directory) {

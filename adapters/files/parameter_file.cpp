@@ -8,6 +8,7 @@
 #include "files/file_error.h"
 #include "files/number_table.h"
 #include "files/parameter_syntax.h"
+#include "files/path_text.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
 #include "forms/ascii.h"
@@ -103,7 +104,7 @@ std::optional<std::string> FileParameterReader::Index::Find(std::string_view sec
 FileParameterReader::Stamp FileParameterReader::StampOf(std::string_view file) {
   std::string name(file);
   std::replace(name.begin(), name.end(), '\\', '/');
-  Stamp stamp{name, {}, 0};
+  Stamp stamp{PathOf(name), {}, 0};
   std::error_code error;
   stamp.time = std::filesystem::last_write_time(stamp.file, error);
   stamp.size = std::filesystem::file_size(stamp.file, error);

@@ -17,6 +17,7 @@
 #include "files/language_file.h"
 #include "files/panel_file.h"
 #include "files/parameter_check.h"
+#include "files/path_text.h"
 #include "project/problems.h"
 
 namespace plexel {
@@ -52,20 +53,20 @@ class Checks {
           Counted(problems.Errors(), "error") + ", " + Counted(problems.Warnings(), "warning"));
   }
   void Sequences(const std::string& file) {
-    const std::vector<Finding> findings = CheckParameterFile(file);
+    const std::vector<Finding> findings = CheckParameterFile(PathOf(file));
     for (const Finding& finding : findings) Tell(file, finding);
     Close(file, findings.size(), Counted(findings.size(), "finding"));
   }
   void Panel(const std::string& file) {
-    ReadPanel(file);
+    ReadPanel(PathOf(file));
     Close(file, 0, {});
   }
   void Language(const std::string& file) {
-    ReadLanguageFile(file);
+    ReadLanguageFile(PathOf(file));
     Close(file, 0, {});
   }
   void CapabilityTable(const std::string& file) {
-    FileCapabilities::OfTable(file);
+    FileCapabilities::OfTable(PathOf(file));
     Close(file, 0, {});
   }
 
@@ -134,7 +135,7 @@ constexpr auto kinds = std::to_array<FileKind>({{".plexel", &Checks::Project},
 
 const FileKind& KindOf(const std::string& file) {
   if (file == StandardStream) return kinds.front();
-  const std::string ending = std::filesystem::path(file).extension().string();
+  const std::string ending = TextOf(PathOf(file).extension());
   const auto* kind = std::ranges::find(kinds, ending, &FileKind::ending);
   if (kind == kinds.end()) throw CallError("the ending of \"" + file + "\" does not tell what it is");
   return *kind;

@@ -4,6 +4,7 @@
 
 #include "cli/command_error.h"
 #include "files/data_directory.h"
+#include "files/path_text.h"
 #include "files/text_lines.h"
 
 namespace plexel {
@@ -13,7 +14,7 @@ namespace {
 void OpenProject(Workbench& bench, Arguments& arguments, Json& answer) {
   PanelDocument::Site site{bench.component, bench.host, bench.hostForm, DataDirectory() / "panels"};
   site.keepsSettings = true;
-  const OpenProjects::Source source = OpenProjects::Read(arguments.Text(), site.panelDirectory);
+  const OpenProjects::Source source = OpenProjects::Read(PathOf(arguments.Text()), site.panelDirectory);
   for (const std::string& place : source.places) bench.RequireNewName(place);
   const PanelDocument& document = bench.projects.Open(source, site);
   answer["elements"] = Json::array();

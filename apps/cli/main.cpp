@@ -1,11 +1,8 @@
-#include <algorithm>
 #include <iostream>
-#include <string>
-#include <vector>
 
 #include "cli/program.h"
+#include "files/program_start.h"
 
 int main(int count, char** values) {
-  const std::vector<std::string> arguments(values + std::min(count, 1), values + count);
-  return plexel::RunProgram(arguments, {std::cin, std::cout, std::cerr});
+  return plexel::RunProgram(plexel::StartProgram(count, values), {std::cin, std::cout, std::cerr});
 }

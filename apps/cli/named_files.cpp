@@ -3,6 +3,7 @@
 #include <array>
 
 #include "files/file_error.h"
+#include "files/path_text.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
 
@@ -25,10 +26,12 @@ std::string ReadStream(std::istream& stream, std::size_t limit) {
 
 }  // namespace
 
-std::filesystem::path InputName(const std::string& file) { return file == StandardStream ? "standard input" : file; }
+std::filesystem::path InputName(const std::string& file) {
+  return file == StandardStream ? "standard input" : PathOf(file);
+}
 
 std::string ReadInput(const std::string& file, std::size_t limit, std::istream& standardInput) {
-  return file == StandardStream ? ReadStream(standardInput, limit) : ReadWholeFile(file, limit);
+  return file == StandardStream ? ReadStream(standardInput, limit) : ReadWholeFile(PathOf(file), limit);
 }
 
 Project ReadInputProject(const std::string& file, std::istream& standardInput) {
@@ -37,7 +40,7 @@ Project ReadInputProject(const std::string& file, std::istream& standardInput) {
 
 void WriteOutput(const std::string& file, std::string_view content, std::ostream& standardOutput) {
   if (file != StandardStream) {
-    WriteWholeFile(file, content);
+    WriteWholeFile(PathOf(file), content);
   } else if (!standardOutput.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
     throw FileError("standard output", 0, "cannot be written");
   }

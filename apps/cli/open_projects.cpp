@@ -1,5 +1,7 @@
 #include "cli/open_projects.h"
 
+#include "files/path_text.h"
+
 namespace plexel {
 
 OpenProjects::Source OpenProjects::Read(const std::filesystem::path& file,
@@ -22,7 +24,7 @@ const PanelDocument& OpenProjects::Open(const Source& source, const PanelDocumen
 void OpenProjects::Save(const std::string& file) const {
   if (opened_.empty()) return;
   const Opened& latest = opened_.back();
-  WriteProject(file.empty() ? latest.file : std::filesystem::path(file), latest.document->Content());
+  WriteProject(file.empty() ? latest.file : PathOf(file), latest.document->Content());
 }
 
 }  // namespace plexel

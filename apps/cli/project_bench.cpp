@@ -2,6 +2,7 @@
 
 #include "cli/named_files.h"
 #include "files/data_directory.h"
+#include "files/path_text.h"
 
 namespace plexel {
 
@@ -15,7 +16,7 @@ std::filesystem::path NoConfiguration() { return DataDirectory() / "unset"; }
 ProjectBench::ProjectBench() : surroundings_(DataDirectory(), NoConfiguration()) {}
 
 std::unique_ptr<PanelDocument> ProjectBench::Open(const std::string& file, std::istream& standardInput) {
-  if (file != StandardStream) return PanelDocument::Open(file, Site());
+  if (file != StandardStream) return PanelDocument::Open(PathOf(file), Site());
   return PanelDocument::Of(ReadInputProject(file, standardInput), InputName(file), Site());
 }
 

@@ -8,6 +8,7 @@
 #include "cli/named_files.h"
 #include "cli/program_call.h"
 #include "cli/project_bench.h"
+#include "files/path_text.h"
 #include "project/panel_svg.h"
 #include "project/report_csv.h"
 #include "project/report_html.h"
@@ -46,7 +47,7 @@ int RunReport(std::span<const std::string> arguments, const Streams& streams) {
   const auto language = call.Value("--language");
   if (language) bench.Speak(*language);
   const auto document = bench.Open(file, streams.input);
-  const std::string name = file == StandardStream ? std::string() : std::filesystem::path(file).filename().string();
+  const std::string name = file == StandardStream ? std::string() : TextOf(PathOf(file).filename());
   WriteOutput(call.Value(kind.option).value_or(""),
               kind.write(ReportOf(*document, name, language ? ReportWordsInForce() : EnglishReportWords())),
               streams.output);

@@ -1,9 +1,5 @@
 #include "cli/script_program.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
@@ -12,6 +8,8 @@
 
 #include "cli/exit_status.h"
 #include "cli/script.h"
+#include "files/byte_input.h"
+#include "files/path_text.h"
 
 namespace plexel {
 
@@ -43,25 +41,6 @@ std::optional<Call> Understand(std::span<const std::string> arguments) {
   return call;
 }
 
-/// The script's file, or standard input; closed at the end.
-class Input {
- public:
-  explicit Input(const std::optional<std::string>& file)
-      : descriptor_(file ? open(file->c_str(), O_RDONLY | O_CLOEXEC) : STDIN_FILENO), own_(file.has_value()) {
-    if (descriptor_ < 0) throw std::system_error(errno, std::generic_category());
-  }
-  ~Input() {
-    if (own_) close(descriptor_);
-  }
-  Input(const Input&) = delete;
-  Input& operator=(const Input&) = delete;
-  int Descriptor() const { return descriptor_; }
-
- private:
-  int descriptor_;
-  bool own_;
-};
-
 }  // namespace
 
 int RunScript(std::span<const std::string> arguments) {
@@ -71,8 +50,13 @@ int RunScript(std::span<const std::string> arguments) {
     return WrongCall;
   }
   try {
-    const Input input(call->file);
-    ScriptSource source(input.Descriptor());
+    std::optional<ByteInput> input;
+    if (call->file) {
+      input.emplace(PathOf(*call->file));
+    } else {
+      input.emplace();
+    }
+    ScriptSource source(*input);
     Reporter reporter(stdout);
     Script script(source, reporter);
     if (call->base) script.BasePath(*call->base);

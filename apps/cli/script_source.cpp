@@ -1,13 +1,8 @@
 #include "cli/script_source.h"
 
-#include <poll.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <string_view>
-#include <system_error>
 
 #include "files/text_lines.h"
 
@@ -35,7 +30,7 @@ bool ScriptSource::Next(ScriptLine& line) {
 bool ScriptSource::AtEnd() {
   while (!FindCommand()) {
     if (ended_) return true;
-    if (!DataReady()) return false;
+    if (!input_.Ready(ClosingTime)) return false;
     ReadMore();
   }
   return false;
@@ -74,23 +69,14 @@ void ScriptSource::ReadMore() {
     start_ = 0;
   }
   std::array<char, ChunkSize> chunk;
-  ssize_t count = 0;
-  do {
-    count = read(descriptor_, chunk.data(), chunk.size());
-  } while (count < 0 && errno == EINTR);
-  if (count < 0) throw std::system_error(errno, std::generic_category());
+  const std::size_t count = input_.Read(chunk);
   ended_ = count == 0;
-  bytes_.append(chunk.data(), static_cast<std::size_t>(count));
+  bytes_.append(chunk.data(), count);
   if (!begun_ && (bytes_.size() >= LongestMark || ended_)) {
     begun_ = true;
     bytes_.erase(0, Utf8MarkLength(bytes_));
     searched_ = start_;
   }
-}
-
-bool ScriptSource::DataReady() const {
-  pollfd waiting{descriptor_, POLLIN, 0};
-  return poll(&waiting, 1, ClosingTime) > 0;
 }
 
 }  // namespace plexel

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string>
 
+#include "files/byte_input.h"
+
 namespace plexel {
 
 /// One command of a script with the number of its line, from 1.
@@ -11,12 +13,11 @@ struct ScriptLine {
   std::string text;
 };
 
-/// The commands of a script, read from a file descriptor as they come: lines that are neither empty nor a comment. A
+/// The commands of a script, read as they come: lines that are neither empty nor a comment. A
 /// byte order mark and carriage returns at line ends do not count.
 class ScriptSource {
  public:
-  /// Does not own the descriptor.
-  explicit ScriptSource(int descriptor) : descriptor_(descriptor) {}
+  explicit ScriptSource(ByteInput& input) : input_(input) {}
 
   /// Gives the next command, waiting for it; false at the end. std::system_error when reading fails.
   bool Next(ScriptLine& line);
@@ -31,9 +32,8 @@ class ScriptSource {
   bool FindCommand();
   bool IsCommand(std::size_t start, std::size_t end) const;
   void ReadMore();
-  bool DataReady() const;
 
-  int descriptor_;
+  ByteInput& input_;
   std::string bytes_;
   std::size_t start_ = 0;     ///< of the line that is looked at
   std::size_t searched_ = 0;  ///< no line end before

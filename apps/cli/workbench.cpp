@@ -9,6 +9,7 @@
 #include "files/file_error.h"
 #include "files/file_lists.h"
 #include "files/language_file.h"
+#include "files/path_text.h"
 #include "files/text_lines.h"
 #include "forms/ascii.h"
 
@@ -33,7 +34,7 @@ LanguageTexts InitialTexts() {
 std::filesystem::path LanguageFile(const std::string& name) {
   std::error_code error;
   for (const std::filesystem::path& file : FilesWith(LanguageExtension, LanguageDirectory(), error)) {
-    if (ascii::Same(file.stem().string(), name)) return file;
+    if (ascii::Same(TextOf(file.stem()), name)) return file;
   }
   throw CommandError("no language is named " + Excerpt(name));
 }
@@ -43,7 +44,7 @@ const char* HookName(HookKind kind) { return kind == HookKind::Keyboard ? "keybo
 }  // namespace
 
 Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), reporter_(reporter) {
-  surroundings.Settings().BasePath(DataDirectory().string());
+  surroundings.Settings().BasePath(TextOf(DataDirectory()));
   surroundings.Settings().LanguageName(InitialLanguage);
   surroundings.Language().Source(InitialTexts);
   surroundings.ParameterFiles().Use(&parameterFiles_);

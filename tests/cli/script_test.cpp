@@ -33,7 +33,8 @@ class ScriptRun : public testing::Test {
     std::size_t length = 0;
     std::FILE* output = open_memstream(&text, &length);
     {
-      ScriptSource source(ends[0]);
+      ByteInput input(ends[0]);
+      ScriptSource source(input);
       Reporter reporter(output);
       Script(source, reporter).Run();
       failed = reporter.AnyFailed();

@@ -28,7 +28,8 @@ class Source : public testing::Test {
   }
   std::vector<std::pair<std::size_t, std::string>> All() {
     Close();
-    ScriptSource source(ends[0]);
+    ByteInput input(ends[0]);
+    ScriptSource source(input);
     std::vector<std::pair<std::size_t, std::string>> lines;
     for (ScriptLine line; source.Next(line);) lines.emplace_back(line.number, line.text);
     return lines;
@@ -66,7 +67,8 @@ TEST_F(Source, AScriptOfAMarkAloneHasNoCommand) {
 }
 
 TEST_F(Source, AByteOrderMarkMayComeInPieces) {
-  ScriptSource source(ends[0]);
+  ByteInput input(ends[0]);
+  ScriptSource source(input);
   ScriptLine line;
   Write("\xEF\xBB");
   EXPECT_FALSE(source.AtEnd());
@@ -80,7 +82,8 @@ TEST_F(Source, AByteOrderMarkMayComeInPieces) {
 TEST_F(Source, BehindTheLastCommandIsTheEnd) {
   Write("a\n# comment\n\n");
   Close();
-  ScriptSource source(ends[0]);
+  ByteInput input(ends[0]);
+  ScriptSource source(input);
   ScriptLine line;
   EXPECT_FALSE(source.AtEnd());
   source.Next(line);
@@ -90,7 +93,8 @@ TEST_F(Source, BehindTheLastCommandIsTheEnd) {
 
 TEST_F(Source, LookingAheadLosesNothing) {
   Write("a\n\nb\n");
-  ScriptSource source(ends[0]);
+  ByteInput input(ends[0]);
+  ScriptSource source(input);
   ScriptLine line;
   source.Next(line);
   EXPECT_FALSE(source.AtEnd());
@@ -102,7 +106,8 @@ TEST_F(Source, LookingAheadLosesNothing) {
 
 TEST_F(Source, AnOpenPipeIsNotWaitedFor) {
   Write("a\n");
-  ScriptSource source(ends[0]);
+  ByteInput input(ends[0]);
+  ScriptSource source(input);
   ScriptLine line;
   source.Next(line);
   const auto before = std::chrono::steady_clock::now();
@@ -111,7 +116,8 @@ TEST_F(Source, AnOpenPipeIsNotWaitedFor) {
 }
 
 TEST_F(Source, AReadThatFailsIsTold) {
-  ScriptSource source(-1);
+  ByteInput input(-1);
+  ScriptSource source(input);
   ScriptLine line;
   EXPECT_THROW(source.Next(line), std::system_error);
 }

@@ -17,7 +17,8 @@ from multiprocessing.pool import ThreadPool
 # One row a room. A room knows itself and those of a lower level; one that stands in no folder is included by its own name. `foreign`: what it may include in angle brackets apart from the
 # standard library. `known_by`: the only shipped rooms that may include it, None for any above.
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
-XKB, XCB, QT, POSIX = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h", r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h"
+XKB, XCB, QT = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h"
+SYSTEM = r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|windows\.h|direct\.h|io\.h|share\.h"
 ROOMS = [
     Room("src", "platform", 0),
     Room("src", "forms", 1),
@@ -29,14 +30,16 @@ ROOMS = [
     Room("src", "specialdialogs", 5),
     Room("src", "component", 6),
     Room("adapters", "keyboard", 7, XKB),
-    Room("adapters", "files", 8, POSIX),
+    Room("adapters", "files", 8, SYSTEM),
     Room("adapters", "headless", 9, "", ("cli",)),
     Room("adapters", "x11", 9, XKB + "|" + XCB),
+    Room("adapters", "win32", 9),
     Room("adapters", "qt", 9, QT),
     Room("", "project", 10, r"nlohmann/json\.hpp"),
-    Room("apps", "cli", 11, r"nlohmann/json\.hpp|" + POSIX),
+    Room("apps", "cli", 11, r"nlohmann/json\.hpp"),
     Room("apps", "editor", 11, QT + r"|fcntl\.h|unistd\.h"),
     Room("apps", "pictures", 12, QT),
+    Room("apps", "layouts", 12, XKB),
 ]
 BY_NAME = {room.name: room for room in ROOMS}
 SHIPPED = ("src", "adapters", "project", "apps")

@@ -16,7 +16,8 @@ KNOTS = [{"forms/control", "forms/controls", "forms/form", "forms/grid"},
          {"element/ctlPlexelBaseElement", "element/defined_marker", "element/element_access", "element/property_access",
           "element/property_row", "element/property_rows", "element/property_table"}]
 # What one room asks for and another gives.
-SEAMS = {"x11/server_keyboard.cpp": "keyboard/desktop_keyboard", "x11/server_key_sender.cpp": "keyboard/key_sender"}
+SEAMS = {"x11/server_keyboard.cpp": "keyboard/desktop_keyboard", "x11/server_key_sender.cpp": "keyboard/key_sender",
+         "win32/named_layout.cpp": "keyboard/named_layout"}
 
 
 def definitions(text):

@@ -39,24 +39,13 @@ std::optional<ProcessLock> ProcessLock::Try(const std::filesystem::path& file) {
   }
 }
 
-ProcessLock::~ProcessLock() { Release(); }
-
-ProcessLock::ProcessLock(ProcessLock&& other) noexcept
-    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
-
-ProcessLock& ProcessLock::operator=(ProcessLock&& other) noexcept {
-  std::swap(file_, other.file_);
-  std::swap(handle_, other.handle_);
-  return *this;
-}
-
 void ProcessLock::Remove() {
-  if (handle_ >= 0) ::unlink(file_.c_str());
+  if (handle_ != None) ::unlink(file_.c_str());
   Release();
 }
 
 void ProcessLock::Release() {
-  if (handle_ >= 0) ::close(std::exchange(handle_, -1));
+  if (handle_ != None) ::close(static_cast<int>(std::exchange(handle_, None)));
 }
 
 }  // namespace plexel

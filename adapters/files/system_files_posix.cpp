@@ -1,0 +1,60 @@
+#include "files/system_files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace plexel {
+
+namespace {
+
+int ResultOf(int outcome) { return outcome == 0 ? 0 : errno; }
+
+class PosixFiles : public FilePort {
+ public:
+  int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle) override {
+    handle = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (handle < 0) return errno;
+    struct stat status {};
+    if (::stat(model.c_str(), &status) != 0 || ::fchmod(handle, status.st_mode & 07777U) == 0) return 0;
+    const int error = errno;
+    ::close(handle);
+    ::unlink(file.c_str());
+    return error;
+  }
+
+  int Write(int handle, std::string_view bytes, std::size_t& written) override {
+    ssize_t count = 0;
+    do {
+      count = ::write(handle, bytes.data(), bytes.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) return errno;
+    written = static_cast<std::size_t>(count);
+    return 0;
+  }
+
+  int Flush(int handle) override { return ResultOf(::fsync(handle)); }
+  int Close(int handle) override { return ResultOf(::close(handle)); }
+  int Rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
+    return ResultOf(::rename(from.c_str(), to.c_str()));
+  }
+  int Remove(const std::filesystem::path& file) override { return ResultOf(::unlink(file.c_str())); }
+  int FlushDirectory(const std::filesystem::path& directory) override {
+    const int handle = ::open(directory.c_str(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0) return errno;
+    const int error = ResultOf(::fsync(handle));
+    ::close(handle);
+    return error;
+  }
+};
+
+}  // namespace
+
+FilePort& SystemFiles() {
+  static PosixFiles files;
+  return files;
+}
+
+}  // namespace plexel
