@@ -5,8 +5,8 @@
 #include <string_view>
 #include <variant>
 
+#include "keyboard/table_layout.h"
 #include "keyboard/win_keys.h"
-#include "keyboard/xkb_layout.h"
 
 struct xcb_connection_t;
 
@@ -48,7 +48,7 @@ class DesktopKeyboard {
   /// Reads a message as the toolkit hands it on, with its name for that kind of message.
   virtual DesktopEvent Read(std::string_view kind, const void* message) const = 0;
   /// The layout in the group that is in force now. Failure (Platform) when the desktop does not tell.
-  virtual std::unique_ptr<XkbLayout> ReadLayout() const = 0;
+  virtual std::unique_ptr<TableLayout> ReadLayout() const = 0;
   /// The keys that are physically down now, as evdev codes; none when the desktop does not answer.
   virtual WinKeys::KeySet ReadKeys() const = 0;
 

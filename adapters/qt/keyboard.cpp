@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "forms/control.h"
+#include "keyboard/named_layout.h"
 
 namespace plexel {
 
@@ -28,7 +29,7 @@ std::size_t SlotOf(std::int32_t scanCode, bool extended) {
 
 }  // namespace
 
-Keyboard::Keyboard(HookTable& hooks) : hooks_(hooks), layout_(std::make_unique<XkbLayout>(SessionLayout())) {}
+Keyboard::Keyboard(HookTable& hooks) : hooks_(hooks), layout_(NamedLayout(SessionLayout())) {}
 
 std::string Keyboard::SessionLayout() {
   const QString named = qEnvironmentVariable("XKB_DEFAULT_LAYOUT").section(',', 0, 0);

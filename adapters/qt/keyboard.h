@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "keyboard/hook_table.h"
+#include "keyboard/table_layout.h"
 #include "keyboard/win_keys.h"
-#include "keyboard/xkb_layout.h"
 #include "platform/keyboard.h"
 
 namespace plexel {
@@ -34,8 +34,8 @@ class Keyboard : public KeyState {
   /// The state of Shift, Ctrl and Alt as the bits of a key event.
   std::int16_t ShiftState() const;
 
-  XkbLayout& Layout() { return *layout_; }
-  void Layout(std::unique_ptr<XkbLayout> layout) { layout_ = std::move(layout); }
+  TableLayout& Layout() { return *layout_; }
+  void Layout(std::unique_ptr<TableLayout> layout) { layout_ = std::move(layout); }
   /// The name of the layout that the session's settings name: XKB_DEFAULT_LAYOUT, else the language of the input.
   static std::string SessionLayout();
 
@@ -46,7 +46,7 @@ class Keyboard : public KeyState {
 
   HookTable& hooks_;
   WinKeys winKeys_;
-  std::unique_ptr<XkbLayout> layout_;
+  std::unique_ptr<TableLayout> layout_;
   std::array<std::int32_t, 512> down_{};  ///< by scan code and extended flag: the virtual key that is down there
   bool numLock_ = false;
 };

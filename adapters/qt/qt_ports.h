@@ -65,7 +65,7 @@ class OpenQtPlatform : public QtPlatform {
       : QtPlatform(registry, help, std::move(keyboard)) {}
   HookTable& Hooks() override { return Inside().hooks; }
   Keyboard& Keys() override { return Inside().keys; }
-  XkbLayout& Layout() override { return Inside().keys.Layout(); }
+  TableLayout& Layout() override { return Inside().keys.Layout(); }
   QtModalLoop& Modal() override { return Inside().modal; }
   QtMessageBoxes& Messages() override { return Inside().messages; }
 };

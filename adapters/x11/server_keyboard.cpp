@@ -6,8 +6,10 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "keyboard/xkb_layout.h"
 #include "platform/failure.h"
 #include "x11/server_events.h"
 
@@ -77,7 +79,7 @@ class ServerKeyboard : public DesktopKeyboard {
   ServerKeyboard& operator=(const ServerKeyboard&) = delete;
 
   DesktopEvent Read(std::string_view kind, const void* message) const override;
-  std::unique_ptr<XkbLayout> ReadLayout() const override;
+  std::unique_ptr<TableLayout> ReadLayout() const override;
   WinKeys::KeySet ReadKeys() const override;
   bool Grab(std::uintptr_t window) override;
   void Ungrab() override { LetGo(); }
@@ -95,7 +97,7 @@ DesktopEvent ServerKeyboard::Read(std::string_view kind, const void* message) co
   return ReadServerEvent(*static_cast<const xcb_generic_event_t*>(message), keyboardEvent_);
 }
 
-std::unique_ptr<XkbLayout> ServerKeyboard::ReadLayout() const {
+std::unique_ptr<TableLayout> ServerKeyboard::ReadLayout() const {
   const Owned<xkb_context> context(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES));
   const bool extension =
       xkb_x11_setup_xkb_extension(connection_, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
@@ -107,7 +109,8 @@ std::unique_ptr<XkbLayout> ServerKeyboard::ReadLayout() const {
   if (!keymap) throw Failure(FailureKind::Platform, "the X server's keyboard layout cannot be read");
   const Owned<xkb_state> state(xkb_x11_state_new_from_device(keymap.get(), connection_, device));
   const std::uint32_t group = state ? xkb_state_serialize_layout(state.get(), XKB_STATE_LAYOUT_EFFECTIVE) : 0;
-  return std::make_unique<XkbLayout>(keymap.get(), group, GroupName(connection_, group));
+  auto source = [table = TableOfKeymap(keymap.get(), group)] { return table; };
+  return std::make_unique<TableLayout>(GroupName(connection_, group), std::move(source));
 }
 
 WinKeys::KeySet ServerKeyboard::ReadKeys() const {

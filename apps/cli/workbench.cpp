@@ -12,6 +12,7 @@
 #include "files/path_text.h"
 #include "files/text_lines.h"
 #include "forms/ascii.h"
+#include "keyboard/named_layout.h"
 
 namespace plexel {
 
@@ -48,7 +49,7 @@ Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), repo
   surroundings.Settings().LanguageName(InitialLanguage);
   surroundings.Language().Source(InitialTexts);
   surroundings.ParameterFiles().Use(&parameterFiles_);
-  layout_ = std::make_unique<XkbLayout>(InitialLayout);
+  layout_ = NamedLayout(InitialLayout);
   platform.Layout().Use(layout_.get());
   ReportForms();
   ReportSystem();
@@ -69,7 +70,7 @@ void Workbench::UseLanguage(const std::string& name) {
 }
 
 void Workbench::UseLayout(const std::string& name) {
-  auto layout = std::make_unique<XkbLayout>(name);
+  auto layout = NamedLayout(name);
   layout->Load();
   platform.Layout().Use(layout.get());
   layout_ = std::move(layout);

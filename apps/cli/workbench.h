@@ -18,7 +18,7 @@
 #include "headless/headless_surroundings.h"
 #include "headless/host_window.h"
 #include "headless/key_road.h"
-#include "keyboard/xkb_layout.h"
+#include "keyboard/table_layout.h"
 
 namespace plexel {
 
@@ -77,7 +77,7 @@ class Workbench {
 
   Reporter& reporter_;
   FileParameterReader parameterFiles_;
-  std::unique_ptr<XkbLayout> layout_;
+  std::unique_ptr<TableLayout> layout_;
   std::map<std::string, Element, std::less<>> elements_;
   std::string selected_;
   std::vector<MessageBox*> boxes_;

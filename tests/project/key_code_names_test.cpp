@@ -5,7 +5,7 @@
 #include <map>
 
 #include "keyboard/key_table.h"
-#include "keyboard/xkb_layout.h"
+#include "keyboard/named_layout.h"
 #include "scancodes/key_names.h"
 #include "scancodes/key_translation.h"
 #include "scancodes/special_functions.h"
@@ -18,7 +18,7 @@ namespace {
 class KeyCodeNames : public testing::Test {
  protected:
   KeyCodeNames() {
-    world.platform.Layout().Use(&layout);
+    world.platform.Layout().Use(layout.get());
     for (const KeyPosition& position : KeyPositions()) {
       Add(position.virtualKeyNumLock, position.scanCode, position.extended ? 1 : 0);
     }
@@ -53,7 +53,7 @@ class KeyCodeNames : public testing::Test {
   }
 
   World world;
-  XkbLayout layout{"us"};
+  std::unique_ptr<TableLayout> layout = NamedLayout("us");
   std::map<KeyCode, std::string> names;
 };
 

@@ -1,6 +1,7 @@
 #include <QAbstractEventDispatcher>
 
 #include "keyboard/desktop_keyboard.h"
+#include "keyboard/named_layout.h"
 #include "platform/failure.h"
 #include "stage.h"
 
@@ -21,9 +22,9 @@ class WrittenDesktop : public DesktopKeyboard {
   DesktopEvent Read(std::string_view kind, const void* message) const override {
     return kind == "written" ? *static_cast<const DesktopEvent*>(message) : DesktopEvent();
   }
-  std::unique_ptr<XkbLayout> ReadLayout() const override {
+  std::unique_ptr<TableLayout> ReadLayout() const override {
     ++log_.layoutsRead;
-    return std::make_unique<XkbLayout>("us");
+    return NamedLayout("us");
   }
   WinKeys::KeySet ReadKeys() const override { return log_.down; }
   bool Grab(std::uintptr_t window) override {
