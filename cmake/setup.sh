@@ -67,6 +67,18 @@ build() {
   fi
 }
 
+# Builds what Windows needs, each bitness with its data in a folder that can be handed on.
+build_windows() {
+  local bits
+  build tools
+  for bits in x64 x86; do
+    CXX="" build "windows-$bits"  # the compiler is the preset's
+    cmake --install "build/windows/build-$bits" --component plexel-programs --strip >>"build/windows-$bits.log"
+    cmake --install "build/windows/build-$bits" --component plexel-data >>"build/windows-$bits.log"
+    build/tools/bin/plexel-layout-tables >"build/windows/$bits/data/keyboard.layouts"
+  done
+}
+
 # Whether a window can be opened: a display is named and answers.
 display_is_there() {
   if [ -n "${WAYLAND_DISPLAY:-}" ]; then return 0; fi
