@@ -63,8 +63,12 @@ def settle(line):
 
 def answers(plexel, script):
     environment = dict(os.environ, PLEXEL_DATA=str(DATA))
-    run = subprocess.run([pathlib.Path(plexel).resolve(), "script", script.resolve()], capture_output=True,
-                         env=environment, cwd=HERE, timeout=60)
+    return told(subprocess.run([pathlib.Path(plexel).resolve(), "script", script.resolve()], capture_output=True,
+                               env=environment, cwd=HERE, timeout=60))
+
+
+def told(run):
+    """What a run through a script told, in the lines that are kept."""
     lines = [part for line in run.stdout.decode("utf-8").splitlines() for part in settle(line)]
     return lines + run.stderr.decode("utf-8").splitlines() + [f"exit status {run.returncode}"]
 
