@@ -109,7 +109,7 @@ namespace {
 void SweepBehindKilled(const std::filesystem::path& directory) {
   std::error_code error;
   for (const std::filesystem::path& half : FilesWith(HalfExtension, directory, error)) {
-    const std::string name = half.filename().string();
+    const std::string name = TextOf(half.filename());
     const std::size_t end = name.find(Extension);
     if (end == std::string::npos) continue;
     if (const auto lock = ProcessLock::Try(directory / (name.substr(0, end) + LockExtension))) {
