@@ -6,6 +6,7 @@
 
 #include "files/file_error.h"
 #include "files/file_lists.h"
+#include "files/path_text.h"
 #include "files/project_writer.h"
 #include "files/system_files.h"
 
