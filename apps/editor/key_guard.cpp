@@ -6,8 +6,11 @@
 #include <bitset>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
+#include <memory>
 
 #include "keyboard/key_sender.h"
+#include "keyboard/uinput_key_sender.h"
 
 namespace plexel {
 
@@ -15,6 +18,15 @@ namespace {
 
 /// One key on its way to the guard: its code, and whether it goes down.
 using Message = std::array<unsigned char, 2>;
+
+/// Beside Wayland an X server reaches its own programs alone, and the kernel all of them, where the user may.
+std::unique_ptr<KeySender> Sender() {
+  const char* const wayland = std::getenv("WAYLAND_DISPLAY");
+  if (wayland != nullptr && *wayland != '\0') {
+    if (auto sender = KeySenderOfKernel()) return sender;
+  }
+  return KeySenderOfXServer();
+}
 
 /// False at the end of the input.
 bool Read(Message& message) {
@@ -63,7 +75,7 @@ void KeyGuard::Send(int evdev, bool down) {
 int RunKeyGuard() {
   // What ends the program in front, or all of a terminal, must not end the guard ahead of it.
   for (const int ending : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) std::signal(ending, SIG_IGN);
-  const auto sender = KeySenderOfXServer();
+  const auto sender = Sender();
   if (!sender) return 1;
   std::bitset<256> down;
   for (Message message{}; Read(message);) {

@@ -29,7 +29,7 @@ ROOMS = [
     Room("src", "wizard", 5),
     Room("src", "specialdialogs", 5),
     Room("src", "component", 6),
-    Room("adapters", "keyboard", 7, XKB),
+    Room("adapters", "keyboard", 7, XKB + r"|fcntl\.h|unistd\.h|sys/ioctl\.h|linux/uinput\.h"),
     Room("adapters", "files", 8, SYSTEM),
     Room("adapters", "headless", 9, "", ("cli",)),
     Room("adapters", "x11", 9, XKB + "|" + XCB),
