@@ -18,6 +18,7 @@ from multiprocessing.pool import ThreadPool
 # standard library. `known_by`: the only shipped rooms that may include it, None for any above.
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
 XKB, XCB, QT = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h"
+WINDOWS = r"(windows|windowsx|commctrl|gdiplus|objidl|oleacc)\.h"
 SYSTEM = r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|windows\.h|direct\.h|io\.h|share\.h"
 ROOMS = [
     Room("src", "platform", 0),
@@ -33,7 +34,7 @@ ROOMS = [
     Room("adapters", "files", 8, SYSTEM),
     Room("adapters", "headless", 9, "", ("cli",)),
     Room("adapters", "x11", 9, XKB + "|" + XCB),
-    Room("adapters", "win32", 9),
+    Room("adapters", "win32", 9, WINDOWS),
     Room("adapters", "qt", 9, QT),
     Room("", "project", 10, r"nlohmann/json\.hpp"),
     Room("apps", "cli", 11, r"nlohmann/json\.hpp"),
