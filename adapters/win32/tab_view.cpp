@@ -23,7 +23,7 @@ TabView::TabView(TabStrip& model, HWND parent, ViewFrame& frame)
     item.mask = TCIF_TEXT;
     std::wstring caption;
     item.pszText = caption.data();
-    TabCtrl_InsertItem(strip_, page, &item);
+    SendMessageW(strip_, TCM_INSERTITEMW, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
   }
 }
 
@@ -102,7 +102,7 @@ void TabView::SyncMore() {
       TCITEMW item = {};
       item.mask = TCIF_TEXT;
       item.pszText = caption.data();
-      TabCtrl_SetItem(strip_, page, &item);
+      SendMessageW(strip_, TCM_SETITEMW, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
       InvalidateRect(strip_, nullptr, TRUE);
     }
     if (shown.enabled != model_.TabEnabled(page)) {

@@ -1,0 +1,166 @@
+#include "win32/shown_form.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "forms/caption.h"
+#include "forms/characters.h"
+#include "win32/form_view.h"
+
+namespace plexel {
+
+namespace {
+
+std::string Utf8(std::wstring_view text) {
+  std::string bytes(text.size() * 3 + 1, '\0');
+  bytes.resize(
+      static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
+                                                   static_cast<int>(bytes.size()), nullptr, nullptr)));
+  return bytes;
+}
+
+std::string TextOfWindow(HWND window) {
+  std::wstring text(4000, L'\0');
+  text.resize(
+      static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+  return Utf8(text);
+}
+
+/// Collects what is not as it should be.
+class Comparison {
+ public:
+  explicit Comparison(FormView& view) : view_(view), form_(view.Model()) {}
+
+  std::vector<std::string> Run() {
+    Same("the title", TextOfWindow(view_.Window()), form_.Caption());
+    RECT client;
+    GetClientRect(view_.Window(), &client);
+    Same("the width", client.right, Pixels(form_.ClientWidth()));
+    Same("the height", client.bottom, Pixels(form_.ClientHeight()));
+    for (Control* const control : form_.Controls()) Look(*control);
+    const ControlView* const focus = view_.ViewOf(form_.Focus());
+    if (focus != nullptr && form_.Focus()->Shown()) {
+      Same("the focus", GetFocus() == focus->FocusWindow(), true);
+    } else {
+      Same("the focus of the window itself", GetFocus() == view_.Window(), true);
+    }
+    return std::move(found_);
+  }
+
+ private:
+  template <typename Value, typename Wanted>
+  void Same(const std::string& what, const Value& shown, const Wanted& wanted) {
+    if (shown == wanted) return;
+    std::ostringstream told;
+    told << what << " is " << shown << " and not " << wanted;
+    found_.push_back(told.str());
+  }
+
+  static int Pixels(float twips) {
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return static_cast<int>(std::lround(static_cast<double>(twips) * dpi / 1440));
+  }
+
+  void Look(Control& control) {
+    const ControlView* const view = view_.ViewOf(&control);
+    const bool windowless = control.Kind() == ControlKind::Menu || control.Kind() == ControlKind::ImageList ||
+                            control.Kind() == ControlKind::Shape;
+    Same(control.FullName() + ": a window", view != nullptr, !windowless);
+    if (view == nullptr) return;
+    const std::string name = control.FullName();
+    const HWND window = view->Outer();
+    Same(name + ": enabled", IsWindowEnabled(window) != FALSE, control.Enabled());
+    Same(name + ": in view", IsWindowVisible(window) != FALSE, control.Shown());
+    RECT place;
+    GetWindowRect(window, &place);
+    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+    Same(name + ": left", place.left, Pixels(control.Left()));
+    Same(name + ": top", place.top, Pixels(control.Top()));
+    Same(name + ": right", place.right, Pixels(control.Left() + control.Width()));
+    Same(name + ": bottom", place.bottom, Pixels(control.Top() + control.Height()));
+    LookInto(control, *view, name);
+  }
+
+  void LookInto(Control& control, const ControlView& view, const std::string& name) {
+    const HWND window = view.Outer();
+    switch (control.Kind()) {
+      case ControlKind::CommandButton:
+        return Caption(name, window, static_cast<CommandButton&>(control).Caption());
+      case ControlKind::OptionButton:
+        Same(name + ": set", SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED,
+             static_cast<OptionButton&>(control).Value());
+        return Caption(name, window, static_cast<OptionButton&>(control).Caption());
+      case ControlKind::Label:
+        return Caption(name, window, static_cast<Label&>(control).Caption());
+      case ControlKind::ComboBox:
+        return Entries(name, window, static_cast<ComboBox&>(control));
+      case ControlKind::TextBox: {
+        const auto& box = static_cast<TextBox&>(control);
+        Same(name + ": text", TextOfWindow(window), box.Text());
+        return Same(name + ": locked", (GetWindowLongW(window, GWL_STYLE) & ES_READONLY) != 0, box.Locked());
+      }
+      case ControlKind::Frame: {
+        const auto& frame = static_cast<Frame&>(control);
+        HWND box = FindWindowExW(window, nullptr, WC_BUTTONW, nullptr);
+        while (box != nullptr && (GetWindowLongW(box, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) {
+          box = FindWindowExW(window, box, WC_BUTTONW, nullptr);
+        }
+        if (frame.Border() && frame.Height() > 90) Caption(name, box, frame.Caption());
+        return;
+      }
+      case ControlKind::TabStrip:
+        return Tabs(name, view, static_cast<TabStrip&>(control));
+      case ControlKind::StatusBar:
+        return Same(name + ": text", TextOfWindow(window), static_cast<StatusBar&>(control).SimpleText());
+      default:
+        return;
+    }
+  }
+
+  /// The system writes "&&" for one that marks no letter.
+  void Caption(const std::string& name, HWND window, const std::string& caption) {
+    const std::string shown = TextOfWindow(window);
+    Same(name + ": caption", ReadCaption(shown).text, ReadCaption(caption).text);
+  }
+
+  void Entries(const std::string& name, HWND window, const ComboBox& box) {
+    Same(name + ": text", TextOfWindow(window), box.Text());
+    Same(name + ": entries", SendMessageW(window, CB_GETCOUNT, 0, 0), box.ListCount());
+    Same(name + ": entry", SendMessageW(window, CB_GETCURSEL, 0, 0), box.ListIndex());
+    for (int entry = 0; entry < box.ListCount(); ++entry) {
+      std::wstring text(1100, L'\0');
+      text.resize(static_cast<std::size_t>(
+          SendMessageW(window, CB_GETLBTEXT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(text.data()))));
+      Same(name + ": entry " + std::to_string(entry), Utf8(text), box.List(entry));
+    }
+  }
+
+  void Tabs(const std::string& name, const ControlView& view, const TabStrip& strip) {
+    const HWND window = view.FocusWindow();
+    Same(name + ": pages", TabCtrl_GetItemCount(window), strip.Pages());
+    Same(name + ": page in front", TabCtrl_GetCurSel(window), strip.Tab());
+    for (int page = 0; page < strip.Pages(); ++page) {
+      std::wstring text(200, L'\0');
+      TCITEMW item = {};
+      item.mask = TCIF_TEXT;
+      item.pszText = text.data();
+      item.cchTextMax = static_cast<int>(text.size());
+      SendMessageW(window, TCM_GETITEMW, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
+      Same(name + ": tab", ReadCaption(Utf8(item.pszText)).text, ReadCaption(strip.TabCaption(page)).text);
+    }
+  }
+
+  FormView& view_;
+  Form& form_;
+  std::vector<std::string> found_;
+};
+
+}  // namespace
+
+std::vector<std::string> DifferencesOf(FormView& view) { return Comparison(view).Run(); }
+
+}  // namespace plexel

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace plexel {
+
+class FormView;
+
+/// In what the windows of a form differ from its model, asked of the windows themselves; nothing when they show what it
+/// says.
+std::vector<std::string> DifferencesOf(FormView& view);
+
+}  // namespace plexel
