@@ -91,6 +91,10 @@ void ControlView::Sync() {
   if ((IsWindowEnabled(outer_) != FALSE) != control_.Enabled()) EnableWindow(outer_, control_.Enabled() ? TRUE : FALSE);
   const bool shown = (GetWindowLongW(outer_, GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown != control_.Visible()) ShowWindow(outer_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+  // What appears on an open form stands on top of what was there.
+  const bool appears = synced_ && !shown && control_.Visible();
+  if (appears) SetWindowPos(outer_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  synced_ = true;
   SyncMore();
 }
 

@@ -77,6 +77,7 @@ class ControlView {
   HWND outer_ = nullptr;
   RECT place_ = {};
   std::wstring text_;
+  bool synced_ = false;
 };
 
 /// The view of a control in a parent window; null for a control that has no window, such as a menu.

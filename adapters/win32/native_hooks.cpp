@@ -36,6 +36,13 @@ HMODULE ThisModule() {
   return module;
 }
 
+/// The flags of a key. That of Alt is missing from keys that programs send, on some systems: a message of the kind that
+/// keys send while Alt is down tells it too.
+DWORD FlagsOf(const KBDLLHOOKSTRUCT& key, WPARAM message) {
+  const bool withAlt = (message == WM_SYSKEYDOWN || message == WM_SYSKEYUP) && key.vkCode != VK_F10;
+  return key.flags | (withAlt ? DWORD{LLKHF_ALTDOWN} : 0U);
+}
+
 /// The procedure's answer; 0 when it throws, so that the key goes its way.
 LRESULT Answer(HookProcedure procedure, int code, WPARAM wParam, std::intptr_t lParam) {
   std::int32_t answer = 0;
@@ -53,7 +60,7 @@ LRESULT CALLBACK LowLevelKeyboard(int code, WPARAM wParam, LPARAM lParam) {
   if (theInstalled.lowLevel == nullptr || code < 0) return CallNextHookEx(nullptr, code, wParam, lParam);
   const auto& told = *reinterpret_cast<const KBDLLHOOKSTRUCT*>(lParam);
   const LowLevelKey record = {static_cast<std::int32_t>(told.vkCode), static_cast<std::int32_t>(told.scanCode),
-                              static_cast<std::int32_t>(told.flags), static_cast<std::int32_t>(told.time),
+                              static_cast<std::int32_t>(FlagsOf(told, wParam)), static_cast<std::int32_t>(told.time),
                               static_cast<std::int32_t>(told.dwExtraInfo)};
   theInstalled.record = &record;
   theInstalled.original = lParam;

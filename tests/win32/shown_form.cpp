@@ -82,7 +82,20 @@ class Comparison {
     Same(name + ": top", place.top, Pixels(control.Top()));
     Same(name + ": right", place.right, Pixels(control.Left() + control.Width()));
     Same(name + ": bottom", place.bottom, Pixels(control.Top() + control.Height()));
+    if (IsWindowVisible(window) != FALSE && !Holds(control)) {
+      const POINT middle = {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+      Same(name + ": on top", ChildWindowFromPointEx(GetParent(window), middle, CWP_SKIPINVISIBLE) == window, true);
+    }
     LookInto(control, *view, name);
+  }
+
+  /// Whether other controls lie in it, or keys alone go to it.
+  bool Holds(const Control& control) const {
+    if (control.Kind() == ControlKind::CommandButton && static_cast<const CommandButton&>(control).ParksFocus()) {
+      return true;
+    }
+    return std::any_of(form_.Controls().begin(), form_.Controls().end(),
+                       [&](const Control* one) { return one->Container() == &control; });
   }
 
   void LookInto(Control& control, const ControlView& view, const std::string& name) {
