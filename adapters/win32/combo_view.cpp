@@ -54,13 +54,17 @@ void ComboView::PlaceAt(const RECT& place) {
 
 void ComboView::Notified(UINT code) {
   if (Host().Syncing()) return;
-  if (code == CBN_SELENDOK) PostMessageW(Outer(), Chosen, 0, 0);
+  if (code == CBN_SELENDOK) {
+    choosing_ = true;
+    PostMessageW(Outer(), Chosen, 0, 0);
+  }
   if (code == CBN_CLOSEUP) InvalidateRect(Outer(), nullptr, TRUE);
 }
 
 std::optional<LRESULT> ComboView::Ahead(HWND, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case Chosen: {
+      choosing_ = false;
       const auto index = static_cast<int>(SendMessageW(Outer(), CB_GETCURSEL, 0, 0));
       if (index >= 0 && index < model_.ListCount()) {
         Host().Carry(model_, [this, index](Hand& hand) { hand.Select(model_, index); });
@@ -135,7 +139,7 @@ void ComboView::SyncMore() {
     InvalidateRect(Outer(), nullptr, TRUE);
   }
   // What is marked in the open list is the user's.
-  if (IsUnfolded()) return;
+  if (IsUnfolded() || choosing_) return;
   if (static_cast<int>(SendMessageW(Outer(), CB_GETCURSEL, 0, 0)) != model_.ListIndex()) {
     SendMessageW(Outer(), CB_SETCURSEL, static_cast<WPARAM>(model_.ListIndex()), 0);
   }

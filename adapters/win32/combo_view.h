@@ -30,6 +30,7 @@ class ComboView : public ControlView {
   std::uint64_t version_ = 0;
   std::string text_;
   bool filled_ = false;
+  bool choosing_ = false;  ///< the choice is on its way, and the model does not know of it yet
 };
 
 }  // namespace plexel

@@ -70,6 +70,8 @@ class FormView : public ViewFrame {
   LRESULT Colours(HDC context, HWND child);
   LRESULT ShowToolTip(NMHDR& told);
   bool MouseArrives(ControlView& view, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  /// Hands a key to the open list of a control, whose own it is.
+  bool ListTakes(const ControlView& view, const MSG& message);
   void KeyArrives(const MSG& message);
   /// Whether the form has left the key to the editor of a text box.
   bool TakeKey(std::int16_t keyCode, bool down, char32_t character);

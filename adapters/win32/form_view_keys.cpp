@@ -76,10 +76,20 @@ bool FormView::TakeMessage(const MSG& message) {
   if (message.wParam == VK_PROCESSKEY) return false;
   ControlView* const view = ViewOf(form_.Focus());
   if (view != nullptr && view->IsUnfolded() && !desk_.Captures()) {
-    if (message.wParam != VK_TAB) return false;
+    if (message.wParam != VK_TAB) return ListTakes(*view, message);
     view->Fold();
   }
   KeyArrives(message);
+  return true;
+}
+
+bool FormView::ListTakes(const ControlView& view, const MSG& message) {
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+  // The key that folds it up types nothing.
+  for (const MSG& typed : TakeCharacters(message.hwnd)) {
+    if (window_ != nullptr && view.IsUnfolded()) DispatchMessageW(&typed);
+  }
   return true;
 }
 

@@ -143,7 +143,10 @@ class Comparison {
   void Entries(const std::string& name, HWND window, const ComboBox& box) {
     Same(name + ": text", TextOfWindow(window), box.Text());
     Same(name + ": entries", SendMessageW(window, CB_GETCOUNT, 0, 0), box.ListCount());
-    Same(name + ": entry", SendMessageW(window, CB_GETCURSEL, 0, 0), box.ListIndex());
+    // In an open list the mark is the user's.
+    if (SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) == 0) {
+      Same(name + ": entry", SendMessageW(window, CB_GETCURSEL, 0, 0), box.ListIndex());
+    }
     for (int entry = 0; entry < box.ListCount(); ++entry) {
       std::wstring text(1100, L'\0');
       text.resize(static_cast<std::size_t>(
