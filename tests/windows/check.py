@@ -10,6 +10,7 @@ import sys
 import tempfile
 import unittest
 
+from native import Native
 from wine import Wine, runs_32_bit
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -145,6 +146,22 @@ class Run:
         given = self.plexel("export", "-", input=project)
         self.assertEqual(given.returncode, 0, given)
         self.assertNotIn(b"\r", given.stdout)
+
+
+class Native64(Native, unittest.TestCase):
+    bits = "x64"
+    build = BUILD
+    data = ROOT / "data"
+    pictures = BUILD / "pictures"
+
+    @classmethod
+    def setUpClass(cls):
+        cls.wine = Wine(BUILD / ("prefix-native-" + cls.bits))
+        cls.pictures.mkdir(exist_ok=True)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.wine.close()
 
 
 class Run64(Run, unittest.TestCase):

@@ -19,9 +19,9 @@ class Wine:
     def call(self, *words):
         subprocess.run(words, env=self.environment, check=True, capture_output=True, timeout=300)
 
-    def run(self, program, *words, data=None, **options):
+    def run(self, program, *words, data=None, environment=None, **options):
         """Gives what subprocess.run gives. `data`: the folder of the data, as this system names it."""
-        environment = dict(self.environment)
+        environment = dict(self.environment, **(environment or {}))
         if data:
             environment["PLEXEL_DATA"] = self.name(data)
         return subprocess.run([wine(), str(program), *words], env=environment, capture_output=True, timeout=120, **options)
