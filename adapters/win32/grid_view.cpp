@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <numeric>
 
+#include "win32/grid_accessible.h"
 #include "win32/mouse_buttons.h"
 #include "win32/wide_text.h"
 
@@ -45,7 +46,11 @@ GridView::GridView(Grid& model, HWND parent, ViewFrame& frame) : ControlView(mod
   Make(parent, GridClass, 0);
 }
 
-GridView::~GridView() = default;
+GridView::~GridView() {
+  if (accessible_ == nullptr) return;
+  accessible_->Detach();
+  accessible_->Release();
+}
 
 GridView::Shot GridView::Take() const {
   Shot shot;
@@ -356,6 +361,10 @@ std::optional<LRESULT> GridView::Ahead(HWND window, UINT message, WPARAM wParam,
       return 0;
     case WM_ERASEBKGND:
       return TRUE;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
+      if (accessible_ == nullptr) accessible_ = new GridAccessible(*this);
+      return LresultFromObject(__uuidof(IAccessible), wParam, accessible_);
     case WM_MOUSEMOVE:
       Moved(point);
       return 0;

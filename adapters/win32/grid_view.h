@@ -7,6 +7,8 @@
 
 namespace plexel {
 
+class GridAccessible;
+
 /// Draws a grid and hands over what the user does on it. It moves nothing by itself.
 class GridView : public ControlView {
  public:
@@ -67,6 +69,7 @@ class GridView : public ControlView {
 
   Grid& model_;
   Shot shot_;
+  GridAccessible* accessible_ = nullptr;  ///< for readers of the screen, once one has asked
   bool taken_ = false;
   int resizedCol_ = -1, resizeFrom_ = 0, resizeWidth_ = 0;
 };
