@@ -20,6 +20,7 @@ Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", No
 XKB, XCB, QT = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h"
 WINDOWS = r"(windows|windowsx|commctrl|gdiplus|objidl|oleacc)\.h"
 SYSTEM = r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|windows\.h|direct\.h|io\.h|share\.h"
+COM = r"ole2\.h|olectl\.h|ocidl\.h|servprov\.h|comcat\.h|PlexelBaseElement\.h"
 ROOMS = [
     Room("src", "platform", 0),
     Room("src", "forms", 1),
@@ -35,6 +36,7 @@ ROOMS = [
     Room("adapters", "headless", 9, "", ("cli",)),
     Room("adapters", "x11", 9, XKB + "|" + XCB),
     Room("adapters", "win32", 9, WINDOWS),
+    Room("adapters", "activex", 10, WINDOWS + "|" + COM),
     Room("adapters", "qt", 9, QT),
     Room("", "project", 10, r"nlohmann/json\.hpp"),
     Room("apps", "cli", 11, r"nlohmann/json\.hpp"),

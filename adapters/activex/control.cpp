@@ -1,0 +1,118 @@
+#include "activex/control.h"
+
+#include <limits>
+
+#include "activex/connection_points.h"
+#include "activex/control_host.h"
+#include "activex/faces.h"
+#include "activex/in_place_window.h"
+#include "activex/units.h"
+
+namespace plexel::activex {
+
+Control::Control(IUnknown* outer)
+    : outer_(outer != nullptr ? outer : this),
+      parts_(SharedParts::Get()),
+      host_(std::make_unique<Host>(*this)),
+      faces_(std::make_unique<Faces>(*this)),
+      points_(std::make_unique<ConnectionPoints>(*this)),
+      place_(std::make_unique<InPlaceWindow>(*this)),
+      extent_{HimetricOfTwips(Surface().Width), HimetricOfTwips(Surface().Height)},
+      shownWidth_(Surface().Width),
+      shownHeight_(Surface().Height) {}
+
+Control::~Control() = default;
+
+HRESULT Control::Create(IUnknown* outer, REFIID iid, void** object) {
+  const ComPointer<Control> control(new Control(outer));
+  return control->QueryInterface(iid, object);
+}
+
+HRESULT Control::QueryInterface(REFIID iid, void** object) {
+  if (object == nullptr) return E_POINTER;
+  if (iid == __uuidof(IUnknown)) {
+    *object = this;
+    AddRef();
+    return S_OK;
+  }
+  IUnknown* const face = FaceOf(iid);
+  *object = face;
+  if (face == nullptr) return E_NOINTERFACE;
+  face->AddRef();
+  return S_OK;
+}
+
+ULONG Control::AddRef() { return ++holds_; }
+
+ULONG Control::Release() {
+  if (--holds_ > 0) return holds_;
+  // Whoever is told of the end may hold the control meanwhile.
+  holds_ = std::numeric_limits<ULONG>::max() / 2;
+  End();
+  delete this;
+  return 0;
+}
+
+void Control::End() noexcept {
+  (void)Guarded("Release", [&] {
+    place_->Close();
+    if (element_ != nullptr) element_->UserControl_Terminate();
+    return S_OK;
+  });
+  if (element_ != nullptr) element_->Detach();
+  Site(nullptr);
+}
+
+Control::Element& Control::TheElement() {
+  if (element_ == nullptr) Renew();
+  return *element_;
+}
+
+void Control::Renew() { Take(parts_->TheComponent().Create({}, *host_)); }
+
+void Control::Read(const PropertyBag& bag) { Take(parts_->TheComponent().Read({}, *host_, bag)); }
+
+void Control::Take(std::shared_ptr<Element> element) {
+  if (element_ != nullptr) {
+    element_->Detach();
+    if (entries_ > 0) former_.push_back(std::move(element_));
+  }
+  element_ = std::move(element);
+}
+
+void Control::Site(IOleClientSite* site) {
+  const ComPointer<IOleClientSite> before = std::exchange(site_, ComPointer<IOleClientSite>(site));
+  services_.Take(site);
+}
+
+SIZEL Control::Extent() {
+  TellSize();
+  return extent_;
+}
+
+void Control::TellSize() {
+  if (element_ == nullptr) return;
+  const Surface& surface = element_->SurfaceObjects();
+  if (surface.Width == shownWidth_ && surface.Height == shownHeight_) return;
+  if (surface.Width != shownWidth_) extent_.cx = HimetricOfTwips(surface.Width);
+  if (surface.Height != shownHeight_) extent_.cy = HimetricOfTwips(surface.Height);
+  shownWidth_ = surface.Width;
+  shownHeight_ = surface.Height;
+  place_->Resize(extent_);
+}
+
+void Control::ShowChanges() noexcept {
+  if (element_ == nullptr || (place_->Handle() == nullptr && !viewSink)) return;
+  (void)Guarded("ShowChanges", [&] {
+    TellSize();
+    place_->Redraw();
+    if (viewSink) {
+      const ComPointer<IAdviseSink> told = viewSink;
+      if ((viewFlags & ADVF_ONLYONCE) != 0) viewSink = nullptr;
+      told->OnViewChange(DVASPECT_CONTENT, -1);
+    }
+    return S_OK;
+  });
+}
+
+}  // namespace plexel::activex

@@ -1,0 +1,138 @@
+#pragma once
+
+#include <ole2.h>
+#include <windows.h>
+
+#include <memory>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "activex/com_pointer.h"
+#include "activex/guard.h"
+#include "activex/host_services.h"
+#include "activex/module.h"
+#include "activex/shared_parts.h"
+#include "element/ctlPlexelBaseElement.h"
+
+namespace plexel::activex {
+
+class ConnectionPoints;
+class InPlaceWindow;
+
+/// One control: an element and what hosts need to place it. This is its identity and what its interfaces share; each of
+/// those is a part of its own (Faces).
+class Control final : public IUnknown, private module::Use {
+ public:
+  using Element = ctlPlexelBaseElement;
+
+  /// Makes one, within `outer` if that is not null, and gives an interface of it. Throws what stands in its way.
+  static HRESULT Create(IUnknown* outer, REFIID iid, void** object);
+
+  // What the control is to whoever holds it by itself, or as a part of an object around it.
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
+  ULONG STDMETHODCALLTYPE AddRef() override;
+  ULONG STDMETHODCALLTYPE Release() override;
+  /// The object as which hosts know the control.
+  IUnknown& Outer() { return *outer_; }
+
+  /// The element. One that is neither loaded nor initialised when it is first used is new.
+  Element& TheElement();
+  /// A new element in place of the one before.
+  void Renew();
+  /// One that is read, in place of the one before. What does not convert ends the reading.
+  void Read(const PropertyBag& bag);
+
+  SharedParts& Shared() { return *parts_; }
+  ConnectionPoints& Points() { return *points_; }
+  InPlaceWindow& Place() { return *place_; }
+
+  /// The site in the container.
+  IOleClientSite* Site() const { return site_.Get(); }
+  void Site(IOleClientSite* site);
+
+  /// Whether something is to be saved.
+  bool Changed() const { return changed_; }
+  void Changed(bool changed) { changed_ = changed; }
+
+  /// Sizes are in 0.01 mm, as hosts count them.
+  SIZEL Extent();
+  void Extent(SIZEL extent) { extent_ = extent; }
+
+  /// The sink that is told when the control looks otherwise, and its aspects.
+  ComPointer<IAdviseSink> viewSink;
+  DWORD viewAspects = 0, viewFlags = 0;
+  /// Sinks of the control as an object in a document; made when the first comes.
+  ComPointer<IOleAdviseHolder> objectSinks;
+
+  /// Runs what a host has called. The control outlives the call, whatever the host does meanwhile; what it shows is
+  /// brought up to date, and what it asks for is answered by its own host's services.
+  template <typename Procedure>
+  HRESULT Run(std::string_view member, Procedure&& procedure) noexcept {
+    const Entry entry(*this);
+    return Guarded(member, [&] {
+      if constexpr (std::is_void_v<std::invoke_result_t<Procedure>>) {
+        procedure();
+        return S_OK;
+      } else {
+        return procedure();
+      }
+    });
+  }
+
+ private:
+  /// A call from outside.
+  class Entry {
+   public:
+    explicit Entry(Control& control) noexcept
+        : control_(control), before_(control.parts_->Services().Ask(&control.services_)) {
+      ++control_.holds_;
+      ++control_.entries_;
+    }
+    ~Entry() {
+      control_.ShowChanges();
+      control_.parts_->Services().Ask(before_);
+      if (--control_.entries_ == 0 && !control_.former_.empty()) control_.former_.clear();
+      control_.Release();
+    }
+    Entry(const Entry&) = delete;
+    Entry& operator=(const Entry&) = delete;
+
+   private:
+    Control& control_;
+    HostServices* before_;
+  };
+
+  class Host;
+  struct Faces;
+
+  explicit Control(IUnknown* outer);
+  ~Control();
+  /// An interface of the control by its identifier; null when it has none.
+  IUnknown* FaceOf(REFIID iid);
+  /// The element says farewell to its host.
+  void End() noexcept;
+  void Take(std::shared_ptr<Element> element);
+  /// Tells the container of a new size, and whoever shows the control that it looks otherwise.
+  void ShowChanges() noexcept;
+  void TellSize();
+
+  ULONG holds_ = 0;
+  ULONG entries_ = 0;
+  IUnknown* outer_;
+  std::shared_ptr<SharedParts> parts_;
+  HostServices services_;
+  std::unique_ptr<Host> host_;
+  std::shared_ptr<Element> element_;
+  std::vector<std::shared_ptr<Element>> former_;  ///< which a call may still be in
+  std::unique_ptr<Faces> faces_;
+  std::unique_ptr<ConnectionPoints> points_;
+  std::unique_ptr<InPlaceWindow> place_;
+  ComPointer<IOleClientSite> site_;
+  SIZEL extent_;
+  float shownWidth_, shownHeight_;  ///< of the element's surface, twips; the container's size counts until they change
+  bool changed_ = false;
+};
+
+}  // namespace plexel::activex
