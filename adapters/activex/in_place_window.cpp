@@ -33,7 +33,7 @@ ComPointer<IOleInPlaceSite> InPlaceWindow::Site() const { return As<IOleInPlaceS
 HRESULT InPlaceWindow::Activate(bool withKeys) {
   const auto site = Site();
   if (!site) return E_FAIL;
-  if (window_ == nullptr) {
+  if (!active_) {
     if (const HRESULT result = Open(*site.Get()); FAILED(result)) return result;
   }
   if (const ComPointer<IOleClientSite> client(control_.Site()); client) client->ShowObject();
@@ -46,12 +46,19 @@ HRESULT InPlaceWindow::Open(IOleInPlaceSite& site) {
   if (site.CanInPlaceActivate() != S_OK) return E_FAIL;
   if (const HRESULT result = site.OnInPlaceActivate(); FAILED(result)) return result;
   const HRESULT result = OpenWithin(site);
-  if (FAILED(result)) site.OnInPlaceDeactivate();
+  active_ = SUCCEEDED(result);
+  if (active_) return result;
+  frame_ = nullptr;
+  document_ = nullptr;
+  if (IsIn(site)) site.OnInPlaceDeactivate();
   return result;
 }
 
+bool InPlaceWindow::IsIn(IOleInPlaceSite& site) const { return Site().Get() == &site; }
+
 HRESULT InPlaceWindow::OpenWithin(IOleInPlaceSite& site) {
   HWND parent = nullptr;
+  if (!IsIn(site)) return E_FAIL;
   if (FAILED(site.GetWindow(&parent)) || IsWindow(parent) == FALSE) return E_FAIL;
   RECT place{}, clip{};
   OLEINPLACEFRAMEINFO info{};
@@ -60,7 +67,7 @@ HRESULT InPlaceWindow::OpenWithin(IOleInPlaceSite& site) {
       FAILED(result)) {
     return result;
   }
-  if (window_ != nullptr || !Register(Procedure)) return E_FAIL;
+  if (window_ != nullptr || !IsIn(site) || !Register(Procedure)) return E_FAIL;
   const SIZE size = SizeOf(place);
   CreateWindowExW(0, ClassName, class_facts::Name, WS_CHILD | WS_CLIPSIBLINGS, place.left, place.top, size.cx, size.cy,
                   parent, nullptr, module::Instance(), this);
@@ -70,6 +77,7 @@ HRESULT InPlaceWindow::OpenWithin(IOleInPlaceSite& site) {
 HRESULT InPlaceWindow::ActivateInterface(IOleInPlaceSite& site) {
   if (!hasKeys_) {
     if (const HRESULT result = site.OnUIActivate(); FAILED(result)) return result;
+    if (!IsIn(site)) return E_FAIL;
     hasKeys_ = true;
     const auto active = As<IOleInPlaceActiveObject>(&control_.Outer());
     if (const auto frame = frame_) frame->SetActiveObject(active.Get(), class_facts::Name);
@@ -88,9 +96,9 @@ void InPlaceWindow::DeactivateInterface() {
 }
 
 void InPlaceWindow::Deactivate() {
-  if (window_ == nullptr) return;
+  if (!std::exchange(active_, false)) return;
   DeactivateInterface();
-  if (window_ != nullptr) DestroyWindow(window_);
+  if (window_ != nullptr) DestroyWindow(window_);  // it may have gone with the container's
   frame_ = nullptr;
   document_ = nullptr;
   if (const auto site = Site()) site->OnInPlaceDeactivate();

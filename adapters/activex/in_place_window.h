@@ -45,6 +45,8 @@ class InPlaceWindow {
   HRESULT OpenWithin(IOleInPlaceSite& site);
   HRESULT ActivateInterface(IOleInPlaceSite& site);
   ComPointer<IOleInPlaceSite> Site() const;
+  /// Whether the control is still in that container, which may take it out whenever it is called.
+  bool IsIn(IOleInPlaceSite& site) const;
 
   void Paint();
   void PaintOn(HDC device);
@@ -54,6 +56,7 @@ class InPlaceWindow {
 
   Control& control_;
   HWND window_ = nullptr;
+  bool active_ = false;
   bool hasKeys_ = false;
   ComPointer<IOleInPlaceFrame> frame_;
   ComPointer<IOleInPlaceUIWindow> document_;

@@ -10,6 +10,7 @@ import sys
 import tempfile
 import unittest
 
+from control import Control
 from native import Native
 from wine import Wine, runs_32_bit
 
@@ -21,7 +22,10 @@ import expectations  # noqa: E402
 BUILD = pathlib.Path(sys.argv.pop(1)).resolve()
 BITS = {"x64": ("pei-x86-64", "x86_64-w64-mingw32-objdump"), "x86": ("pei-i386", "i686-w64-mingw32-objdump")}
 # Libraries that every Windows has had since its tenth version.
-SYSTEM = {"advapi32.dll", "kernel32.dll", "msvcrt.dll", "shell32.dll", "user32.dll"}
+SYSTEM = {"advapi32.dll", "comctl32.dll", "gdi32.dll", "gdiplus.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleacc.dll",
+          "oleaut32.dll", "shell32.dll", "user32.dll"}
+FILES = ("plexel.exe", "PlexelBaseElement.ocx")
+EXPORTS = ["DllCanUnloadNow", "DllGetClassObject", "DllInstall", "DllRegisterServer", "DllUnregisterServer"]
 
 
 class Built(unittest.TestCase):
@@ -29,15 +33,24 @@ class Built(unittest.TestCase):
 
     def test_the_programs_are_of_their_bitness(self):
         for bits, (kind, objdump) in BITS.items():
-            header = subprocess.run([objdump, "-f", BUILD / bits / "plexel.exe"], capture_output=True, text=True, check=True)
-            self.assertIn(kind, header.stdout, bits)
+            for file in FILES:
+                header = subprocess.run([objdump, "-f", BUILD / bits / file], capture_output=True, text=True, check=True)
+                self.assertIn(kind, header.stdout, bits)
 
     def test_they_need_the_systems_own_libraries_alone(self):
         for bits, (_, objdump) in BITS.items():
-            shown = subprocess.run([objdump, "-p", BUILD / bits / "plexel.exe"], capture_output=True, text=True, check=True)
-            needed = {name.lower() for name in re.findall(r"DLL Name: (\S+)", shown.stdout)}
-            self.assertIn("kernel32.dll", needed, bits)
-            self.assertEqual(needed - SYSTEM, set(), bits)
+            for file in FILES:
+                shown = subprocess.run([objdump, "-p", BUILD / bits / file], capture_output=True, text=True, check=True)
+                needed = {name.lower() for name in re.findall(r"DLL Name: (\S+)", shown.stdout)}
+                self.assertIn("kernel32.dll", needed, bits)
+                self.assertEqual(needed - SYSTEM, set(), bits)
+
+    def test_the_control_exports_what_the_system_calls_and_nothing_else(self):
+        for bits, (_, objdump) in BITS.items():
+            shown = subprocess.run([objdump, "-p", BUILD / bits / "PlexelBaseElement.ocx"], capture_output=True, text=True,
+                                   check=True)
+            names = shown.stdout.split("[Ordinal/Name Pointer] Table")[1].split("\n\n")[0]
+            self.assertEqual(re.findall(r"\[ *\d+\] (?:\+base\[ *\d+\] +[0-9a-f]+ )?(\w+)$", names, re.MULTILINE), EXPORTS, bits)
 
     def test_the_data_stand_beside_them(self):
         for bits in BITS:
@@ -158,6 +171,20 @@ class Native64(Native, unittest.TestCase):
     def setUpClass(cls):
         cls.wine = Wine(BUILD / ("prefix-native-" + cls.bits))
         cls.pictures.mkdir(exist_ok=True)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.wine.close()
+
+
+class Control64(Control, unittest.TestCase):
+    bits = "x64"
+    build = BUILD
+    data = ROOT / "data"
+
+    @classmethod
+    def setUpClass(cls):
+        cls.wine = Wine(BUILD / ("prefix-control-" + cls.bits))
 
     @classmethod
     def tearDownClass(cls):

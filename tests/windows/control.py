@@ -1,0 +1,52 @@
+"""The control: registered, made by scripts, and in the test container of tests/activex, run with Wine."""
+
+import re
+
+from native import display
+
+PROG_ID = "PlexelBaseElement.ctlPlexelBaseElement"
+
+
+class Control:
+    """One bitness. Subclasses tell which, and have the Wine and the folder of what was built."""
+
+    bits = None
+
+    def control(self):
+        return self.build / self.bits / "PlexelBaseElement.ocx"
+
+    def regsvr32(self, *words):
+        run = self.wine.run("regsvr32", "/s", *words, self.wine.name(self.control()))
+        self.assertEqual(run.returncode, 0, run)
+
+    def registry(self):
+        """All that stands below Software\\Classes, but for times. The system keeps it in files when its last program has ended."""
+        self.wine.close()
+        found = set()
+        for name in ("system.reg", "user.reg"):
+            text = (self.build / ("prefix-control-" + self.bits) / name).read_text(encoding="utf-8", errors="replace")
+            for key in re.split(r"\n(?=\[)", text):
+                head, _, values = key.partition("\n")
+                if head.startswith(r"[Software\\Classes"):
+                    found.add((name, head.rsplit("]", 1)[0], re.sub(r"^#.*$", "", values, flags=re.MULTILINE).strip()))
+        return found
+
+    def test_registering_leaves_no_trace_when_it_is_undone(self):
+        self.wine.call("wine", "reg", "add", r"HKCU\Software\Classes", "/f")  # which every user of Windows has
+        for words in ([], ["/n", "/i:user"]):
+            with self.subTest(words=words):
+                before = self.registry()
+                self.regsvr32(*words)
+                self.assertTrue([line for line in self.registry() if PROG_ID in line[1]])
+                self.regsvr32("/u", *words)
+                self.assertEqual(self.registry(), before)
+
+    def test_the_container_of_the_tests(self):
+        self.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
+        with display("us") as name:
+            run = self.wine.run(self.build / ("build-" + self.bits) / "bin" / "test_activex.exe", data=self.data,
+                                environment={"DISPLAY": name})
+            self.wine.close()  # with the display, the desktop that it has shown goes
+        told = run.stdout.decode("utf-8", "replace")
+        self.assertEqual(run.returncode, 0, told[-6000:])
+        self.assertGreater(int(re.search(r"\[  PASSED  \] (\d+) test", told).group(1)), 30)
