@@ -1,5 +1,6 @@
 #include "wizard/wizard_page.h"
 
+#include "platform/platform.h"
 #include "services/conversion.h"
 #include "services/failure_styles.h"
 #include "services/module_state.h"
@@ -10,6 +11,7 @@ namespace plexel {
 namespace {
 
 constexpr std::int32_t helpTopic = 1002;
+constexpr float DesignTwipsPerPixel = 15;
 
 }  // namespace
 
@@ -23,8 +25,12 @@ void WizardPage::ScaleTitlePicture() {
   EndQuietly([this] {
     if (imgTitlePic.Stretch()) return;
     imgTitlePic.Stretch(true);
-    imgTitlePic.Width(static_cast<float>(imgTitlePic.Width() * GetDpiScaleFactor()));
-    imgTitlePic.Height(static_cast<float>(imgTitlePic.Height() * GetDpiScaleFactor() - TitlePictureTrim));
+    // A picture that has not stretched is as large as its pixels, which take fewer twips on a finer screen.
+    Screen& screen = Platform::Current().TheScreen();
+    const double width = static_cast<double>(imgTitlePic.Width() * screen.TwipsPerPixelX() / DesignTwipsPerPixel);
+    const double height = static_cast<double>(imgTitlePic.Height() * screen.TwipsPerPixelY() / DesignTwipsPerPixel);
+    imgTitlePic.Width(static_cast<float>(width * GetDpiScaleFactor()));
+    imgTitlePic.Height(static_cast<float>(height * GetDpiScaleFactor() - TitlePictureTrim));
   });
 }
 

@@ -28,9 +28,12 @@ class Native:
 
     bits = None
 
+    def set(self, key, name, kind, value):
+        self.wine.call("wine", "reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f")
+
     def run_on(self, layout, *words):
         """Wine draws the frames of windows by itself: there is no window manager to wait for."""
-        self.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
+        self.set(r"HKCU\Software\Wine\X11 Driver", "Managed", "REG_SZ", "N")
         with display(layout) as name:
             run = self.wine.run(self.build / ("build-" + self.bits) / "bin" / "test_win32.exe", *words, data=self.data,
                                 environment={"DISPLAY": name, "PLEXEL_LAYOUT": layout,
@@ -46,3 +49,13 @@ class Native:
 
     def test_real_keys_of_a_german_keyboard(self):
         self.assertGreater(self.run_on("de", "--gtest_filter=RealKeys*"), 5)
+
+    def test_dialogs_on_a_fine_screen(self):
+        screen = (r"HKCU\Control Panel\Desktop", "LogPixels", "REG_DWORD")
+        self.set(*screen, "144")
+        self.wine.close()  # a server that runs keeps the old one
+        try:
+            self.assertGreater(self.run_on("us", "--gtest_filter=Languages*:Screen*:Accessible*:Modal*"), 10)
+        finally:
+            self.set(*screen, "96")
+            self.wine.close()

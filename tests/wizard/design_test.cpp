@@ -191,6 +191,18 @@ TEST(WizardDesign, TheTitlePictureGrowsWithThePixelsOfTheScreenOnEveryPage) {
   session.Open();
 }
 
+TEST(WizardDesign, TheTitlePictureTakesAsMuchOfThePageOnAFinerScreen) {
+  WizardSession session(Rect);
+  session.platform.TheScreen().LogicalPixels(144);
+  session.platform.TheScreen().TwipsPerPixel(10, 10);
+  session.Then([&] {
+    EXPECT_EQ(session.Get<PictureBox>("imgTitlePic").Width(), 1650);
+    EXPECT_EQ(session.Get<PictureBox>("imgTitlePic").Height(), 4530 - 30);
+  });
+  session.Click("cmdCancel");
+  session.Open();
+}
+
 TEST(WizardDesign, ATitlePictureThatIsStretchingStaysAsItIs) {
   WizardSession session(Rect);
   session.Then([&] {
