@@ -13,6 +13,7 @@ namespace {
 struct Hook {
   HHOOK handle;
   HookKind kind;
+  const NativeHooks* owner;
 };
 
 /// What the system's calls find: they bring nothing that tells whose they are.
@@ -71,14 +72,11 @@ LRESULT CALLBACK LowLevelKeyboard(int code, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-NativeHooks::NativeHooks(FormDesk& desk) {
-  theInstalled = {};
-  theInstalled.desk = &desk;
-}
-
 NativeHooks::~NativeHooks() {
-  for (const Hook& hook : theInstalled.hooks) UnhookWindowsHookEx(hook.handle);
-  theInstalled = {};
+  const std::vector<Hook> hooks = theInstalled.hooks;
+  for (const Hook& hook : hooks) {
+    if (hook.owner == this) Remove(NumberOf(hook.handle));
+  }
 }
 
 std::int32_t NativeHooks::Install(HookKind kind, HookProcedure procedure) {
@@ -88,7 +86,8 @@ std::int32_t NativeHooks::Install(HookKind kind, HookProcedure procedure) {
                                 : SetWindowsHookExA(WH_KEYBOARD, Keyboard, nullptr, GetCurrentThreadId());
   if (handle == nullptr) return 0;
   known = procedure;
-  theInstalled.hooks.push_back({handle, kind});
+  theInstalled.desk = &desk_;
+  theInstalled.hooks.push_back({handle, kind, this});
   return NumberOf(handle);
 }
 

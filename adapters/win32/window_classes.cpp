@@ -7,6 +7,8 @@ namespace plexel {
 
 namespace {
 
+int theUsers = 0;
+
 constexpr const wchar_t* AllClasses[] = {FormClass, PaneClass, GridClass};
 
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -29,6 +31,7 @@ HINSTANCE ThisInstance() {
 }
 
 WindowClasses::WindowClasses() {
+  if (theUsers++ > 0) return;
   for (const wchar_t* const name : AllClasses) {
     WNDCLASSEXW one = {};
     one.cbSize = sizeof one;
@@ -42,6 +45,7 @@ WindowClasses::WindowClasses() {
 }
 
 WindowClasses::~WindowClasses() {
+  if (--theUsers > 0) return;
   for (const wchar_t* const name : AllClasses) UnregisterClassW(name, ThisInstance());
 }
 

@@ -14,7 +14,7 @@ class WindowTarget {
 /// The names of the classes: dialogs, areas in them, and grids.
 inline constexpr wchar_t FormClass[] = L"PlexelForm", PaneClass[] = L"PlexelPane", GridClass[] = L"PlexelGrid";
 
-/// Registers the classes as long as it lives.
+/// Registers the classes as long as one lives.
 class WindowClasses {
  public:
   WindowClasses();

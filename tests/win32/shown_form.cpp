@@ -177,6 +177,12 @@ class Comparison {
 
 }  // namespace
 
+RECT PlaceOfTab(HWND strip, int page) {
+  RECT place = {};
+  SendMessageW(strip, TCM_GETITEMRECT, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&place));
+  return place;
+}
+
 std::vector<std::string> DifferencesOf(FormView& view) { return Comparison(view).Run(); }
 
 }  // namespace plexel

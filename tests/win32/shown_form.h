@@ -13,4 +13,7 @@ class FormView;
 /// says.
 std::vector<std::string> DifferencesOf(FormView& view);
 
+/// The place of a tab in its strip.
+RECT PlaceOfTab(HWND strip, int page);
+
 }  // namespace plexel
