@@ -12,6 +12,7 @@ namespace plexel {
 
 NativeModalLoop::NativeModalLoop() {
   constexpr DWORD Classes = ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES | ICC_WIN95_CLASSES;
+  const VisualStyles::Scope look(styles_);
   const INITCOMMONCONTROLSEX wanted = {sizeof wanted, Classes};
   InitCommonControlsEx(&wanted);
 }
@@ -23,7 +24,7 @@ void NativeModalLoop::Prepare(Form&) {}
 void NativeModalLoop::Run(Form& form, Window* owner) {
   std::exception_ptr thrown;
   const HWND below = HandleOf(owner);
-  open_.push_back({std::make_unique<FormView>(form, below, *this), &thrown});
+  open_.push_back({MakeView(form, below), &thrown});
   {
     std::unique_ptr<FormView> view;
     const AtEnd taken([&] {
@@ -37,6 +38,11 @@ void NativeModalLoop::Run(Form& form, Window* owner) {
   if (thrown) std::rethrow_exception(thrown);
   if (form.IsShown()) form.Unload(UnloadMode::CloseBox);
   if (below != nullptr && GetActiveWindow() == nullptr) SetActiveWindow(below);
+}
+
+std::unique_ptr<FormView> NativeModalLoop::MakeView(Form& form, HWND owner) {
+  const VisualStyles::Scope look(styles_);
+  return std::make_unique<FormView>(form, owner, *this);
 }
 
 void NativeModalLoop::Pump(const FormView& view, const std::exception_ptr& thrown) {

@@ -9,6 +9,7 @@
 #include "platform/interaction.h"
 #include "win32/form_desk.h"
 #include "win32/form_view.h"
+#include "win32/visual_styles.h"
 #include "win32/window_classes.h"
 
 namespace plexel {
@@ -42,8 +43,10 @@ class NativeModalLoop : public ModalLoop, public FormDesk {
   };
   FormView* ViewOf(const Form& form) const;
   HWND HandleOf(const Window* window) const;
+  std::unique_ptr<FormView> MakeView(Form& form, HWND owner);
   void Pump(const FormView& view, const std::exception_ptr& thrown);
 
+  VisualStyles styles_;
   WindowClasses classes_;
   std::vector<Open> open_;
   bool syncing_ = false, reporting_ = false;

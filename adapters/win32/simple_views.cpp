@@ -2,6 +2,9 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "forms/caption.h"
 #include "win32/captions.h"
 #include "win32/pictures.h"
@@ -24,6 +27,17 @@ DWORD StyleOf(TextAlignment alignment) {
       break;
   }
   return SS_LEFT;
+}
+
+int BrightnessOf(COLORREF colour) {
+  constexpr int Red = 30, Green = 59, Blue = 11, All = 100;
+  return (Red * GetRValue(colour) + Green * GetGValue(colour) + Blue * GetBValue(colour)) / All;
+}
+
+/// The colour, or that of other texts where it would fade into the ground.
+COLORREF ReadableOn(COLORREF ground, COLORREF colour) {
+  constexpr int Least = 80;
+  return std::abs(BrightnessOf(ground) - BrightnessOf(colour)) < Least ? GetSysColor(COLOR_BTNTEXT) : colour;
 }
 
 const wchar_t* ClassOf(const Frame& frame) {
@@ -111,7 +125,7 @@ FontLook LabelView::Look() const {
 HBRUSH LabelView::Colours(HDC context) {
   if (model_.Look() != LabelLook::Link || !model_.Enabled()) return nullptr;
   const COLORREF ground = Host().GroundOf(model_);
-  SetTextColor(context, GetSysColor(COLOR_HOTLIGHT));
+  SetTextColor(context, ReadableOn(ground, GetSysColor(COLOR_HOTLIGHT)));
   SetBkColor(context, ground);
   return Host().Tools().Brush(ground);
 }
