@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "platform/clean_up.h"
 #include "win32/captions.h"
 #include "win32/mouse_buttons.h"
 
@@ -80,7 +81,12 @@ std::optional<LRESULT> FormView::AnswerOfWindow(UINT message, WPARAM wParam, LPA
       return std::nullopt;
     case WM_ACTIVATE:
     case WM_SETFOCUS:
-      if (!syncing_ && (message == WM_SETFOCUS || LOWORD(wParam) != WA_INACTIVE)) SyncFocus();
+      if (!syncing_ && (message == WM_SETFOCUS || LOWORD(wParam) != WA_INACTIVE)) {
+        // An option tells of a click when it gets the focus by this.
+        syncing_ = true;
+        const AtEnd synced([this] { syncing_ = false; });
+        SyncFocus();
+      }
       return 0;
     case WM_DPICHANGED:
       Rescale(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));

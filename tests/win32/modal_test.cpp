@@ -142,4 +142,19 @@ TEST(Modal, AMovedDialogOpensWhereItWas) {
   EXPECT_TRUE(desk.Done());
 }
 
+TEST(Modal, AnOptionThatGetsTheFocusBackIsNotChosenByThat) {
+  Desk desk;
+  const auto element = desk.Element(RectLed);
+  UntilOpen(desk);
+  desk.Then("the focus on another option", [&] {
+    Hand(desk.TopForm()).Focus(*desk.TopForm().Find("optCodeType(1)"));
+    SetFocus(desk.Top().Window());
+    EXPECT_EQ(GetFocus(), desk.WindowOf("optCodeType(1)"));
+  });
+  desk.Then("a look", [&] { EXPECT_FALSE(desk.Find<OptionButton>("optCodeType(1)").Value()); });
+  desk.Then("close", [&] { desk.Close(); });
+  element->OpenConfigurationDialog();
+  EXPECT_TRUE(desk.Done());
+}
+
 }  // namespace plexel
