@@ -183,6 +183,22 @@ RECT PlaceOfTab(HWND strip, int page) {
   return place;
 }
 
+std::wstring ToolTipOf(HWND dialog, HWND window) {
+  HWND tips = nullptr;
+  do {
+    tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+  } while (tips != nullptr && GetWindow(tips, GW_OWNER) != dialog);
+  std::wstring text(1000, L'\0');
+  TOOLINFOW tool = {};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.hwnd = dialog;
+  tool.uFlags = TTF_IDISHWND;
+  tool.uId = reinterpret_cast<UINT_PTR>(window);
+  tool.lpszText = text.data();
+  SendMessageW(tips, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
+  return text.c_str();
+}
+
 std::vector<std::string> DifferencesOf(FormView& view) { return Comparison(view).Run(); }
 
 }  // namespace plexel

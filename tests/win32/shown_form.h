@@ -16,4 +16,7 @@ std::vector<std::string> DifferencesOf(FormView& view);
 /// The place of a tab in its strip.
 RECT PlaceOfTab(HWND strip, int page);
 
+/// What the tool tip of a dialog tells of one of its windows, with the mouse where it is.
+std::wstring ToolTipOf(HWND dialog, HWND window);
+
 }  // namespace plexel
