@@ -6,7 +6,9 @@
 #include "activex/control_host.h"
 #include "activex/faces.h"
 #include "activex/in_place_window.h"
+#include "activex/surface_painter.h"
 #include "activex/units.h"
+#include "win32/win32_platform.h"
 
 namespace plexel::activex {
 
@@ -45,7 +47,9 @@ HRESULT Control::QueryInterface(REFIID iid, void** object) {
 ULONG Control::AddRef() { return ++holds_; }
 
 ULONG Control::Release() {
-  if (--holds_ > 0) return holds_;
+  --holds_;
+  if (holds_ > 0 && holds_ == entries_) CloseDialogs();
+  if (holds_ > 0) return holds_;
   // Whoever is told of the end may hold the control meanwhile.
   holds_ = std::numeric_limits<ULONG>::max() / 2;
   End();
@@ -61,6 +65,14 @@ void Control::End() noexcept {
   });
   if (element_ != nullptr) element_->Detach();
   Site(nullptr);
+}
+
+void Control::CloseDialogs() noexcept {
+  if (dialogs_ == 0) return;
+  (void)Guarded("CloseDialogs", [&] {
+    parts_->TheComponent().Desktop().CloseDialogs();
+    return S_OK;
+  });
 }
 
 Control::Element& Control::TheElement() {
@@ -105,6 +117,9 @@ void Control::ShowChanges() noexcept {
   if (element_ == nullptr || (place_->Handle() == nullptr && !viewSink)) return;
   (void)Guarded("ShowChanges", [&] {
     TellSize();
+    const Surface& now = TheElement().SurfaceObjects();
+    if (LookTheSame(now, shown_)) return S_OK;
+    shown_ = now;
     place_->Redraw();
     if (viewSink) {
       const ComPointer<IAdviseSink> told = viewSink;

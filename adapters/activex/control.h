@@ -15,6 +15,7 @@
 #include "activex/module.h"
 #include "activex/shared_parts.h"
 #include "element/ctlPlexelBaseElement.h"
+#include "platform/clean_up.h"
 
 namespace plexel::activex {
 
@@ -65,6 +66,17 @@ class Control final : public IUnknown, private module::Use {
   DWORD viewAspects = 0, viewFlags = 0;
   /// Sinks of the control as an object in a document; made when the first comes.
   ComPointer<IOleAdviseHolder> objectSinks;
+
+  /// Closes the dialogs of the control that are open, since its host has no more use for it.
+  void CloseDialogs() noexcept;
+
+  /// Shows a dialog of the element.
+  template <typename Procedure>
+  void RunDialog(Procedure&& procedure) {
+    ++dialogs_;
+    const AtEnd closed([this] { --dialogs_; });
+    procedure();
+  }
 
   /// Runs what a host has called. The control outlives the call, whatever the host does meanwhile; what it shows is
   /// brought up to date, and what it asks for is answered by its own host's services.
@@ -120,6 +132,7 @@ class Control final : public IUnknown, private module::Use {
 
   ULONG holds_ = 0;
   ULONG entries_ = 0;
+  int dialogs_ = 0;
   IUnknown* outer_;
   std::shared_ptr<SharedParts> parts_;
   HostServices services_;
@@ -132,6 +145,7 @@ class Control final : public IUnknown, private module::Use {
   ComPointer<IOleClientSite> site_;
   SIZEL extent_;
   float shownWidth_, shownHeight_;  ///< of the element's surface, twips; the container's size counts until they change
+  Surface shown_;                   ///< as it was last drawn
   bool changed_ = false;
 };
 

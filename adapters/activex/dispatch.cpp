@@ -288,11 +288,9 @@ HRESULT Dispatch::InvokeMethod(const Request& request, std::size_t method) {
   ctlPlexelBaseElement& element = control_.TheElement();
   switch (static_cast<MethodNumber>(method)) {
     case MethodNumber::OpenPropertiesDialog:
-      element.OpenPropertiesDialog();
-      break;
+      return element_.OpenPropertiesDialog();
     case MethodNumber::OpenConfigurationDialog:
-      element.OpenConfigurationDialog();
-      break;
+      return element_.OpenConfigurationDialog();
     case MethodNumber::UpdateFocus:
       element.UpdateFocus();
       break;

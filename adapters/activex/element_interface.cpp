@@ -34,11 +34,14 @@ HRESULT ElementInterface::get_TactisBaseElementScanCodeBuffer(RecordOutside* Val
 }
 
 HRESULT ElementInterface::OpenPropertiesDialog() {
-  return TheControl().Run("OpenPropertiesDialog", [&] { TheControl().TheElement().OpenPropertiesDialog(); });
+  return TheControl().Run("OpenPropertiesDialog",
+                          [&] { TheControl().RunDialog([&] { TheControl().TheElement().OpenPropertiesDialog(); }); });
 }
 
 HRESULT ElementInterface::OpenConfigurationDialog() {
-  return TheControl().Run("OpenConfigurationDialog", [&] { TheControl().TheElement().OpenConfigurationDialog(); });
+  return TheControl().Run("OpenConfigurationDialog", [&] {
+    TheControl().RunDialog([&] { TheControl().TheElement().OpenConfigurationDialog(); });
+  });
 }
 
 HRESULT ElementInterface::UpdateFocus() {

@@ -106,7 +106,7 @@ LRESULT InPlaceWindow::Handle(UINT message, WPARAM wide, LPARAM wider, bool& kno
     case WM_GETDLGCODE:
       return DLGC_WANTCHARS | (wide == VK_RETURN ? DLGC_WANTMESSAGE : 0);
     case WM_CHAR:
-      control_.TheElement().UserControl_KeyPress(static_cast<std::int16_t>(wide));
+      control_.RunDialog([&] { control_.TheElement().UserControl_KeyPress(static_cast<std::int16_t>(wide)); });
       return 0;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:

@@ -22,6 +22,7 @@ HRESULT OleObject::SetHostNames(LPCOLESTR application, LPCOLESTR) { return appli
 
 HRESULT OleObject::Close(DWORD save) {
   return TheControl().Run("Close", [&] {
+    TheControl().CloseDialogs();
     TheControl().Place().Close();
     const ComPointer<IOleClientSite> site(TheControl().Site());
     if (save != OLECLOSE_NOSAVE && TheControl().Changed() && site) site->SaveObject();
@@ -58,7 +59,7 @@ HRESULT OleObject::DoVerb(LONG verb, LPMSG, IOleClientSite*, LONG, HWND, LPCRECT
         TheControl().Place().Hide();
         return S_OK;
       case OLEIVERB_PROPERTIES:
-        TheControl().TheElement().OpenPropertiesDialog();
+        TheControl().RunDialog([&] { TheControl().TheElement().OpenPropertiesDialog(); });
         return S_OK;
       case OLEIVERB_OPEN:
       case OLEIVERB_DISCARDUNDOSTATE:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 namespace plexel::activex {
@@ -64,7 +65,28 @@ void DrawLine(const Canvas& canvas, const SurfaceLine& line) {
   LineTo(canvas.device, to.x, to.y);
 }
 
+bool Same(const SurfaceShape& one, const SurfaceShape& other) {
+  const auto fields = [](const SurfaceShape& shape) {
+    return std::tie(shape.Left, shape.Top, shape.Width, shape.Height, shape.BorderColor, shape.BorderWidth,
+                    shape.Visible);
+  };
+  return fields(one) == fields(other);
+}
+
+bool Same(const SurfaceLine& one, const SurfaceLine& other) {
+  const auto fields = [](const SurfaceLine& line) {
+    return std::tie(line.X1, line.Y1, line.X2, line.Y2, line.BorderColor, line.BorderWidth, line.Visible);
+  };
+  return fields(one) == fields(other);
+}
+
 }  // namespace
+
+bool LookTheSame(const Surface& one, const Surface& other) {
+  return one.Width == other.Width && one.Height == other.Height && Same(one.shpOval, other.shpOval) &&
+         Same(one.shpRect, other.shpRect) && Same(one.linX1, other.linX1) && Same(one.linX2, other.linX2) &&
+         Same(one.linOK1, other.linOK1) && Same(one.linOK2, other.linOK2);
+}
 
 void DrawSurface(const Canvas& canvas, const Surface& surface) {
   const int state = SaveDC(canvas.device);

@@ -22,4 +22,7 @@ struct Canvas {
 /// Draws what the element shows, and nothing behind it. Lines of shapes run inside them.
 void DrawSurface(const Canvas& canvas, const Surface& surface);
 
+/// Whether two surfaces look the same, and are of one size.
+bool LookTheSame(const Surface& one, const Surface& other);
+
 }  // namespace plexel::activex

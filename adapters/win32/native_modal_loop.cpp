@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "platform/clean_up.h"
 #include "platform/failure.h"
 #include "win32/native_hooks.h"
@@ -87,6 +89,16 @@ HWND NativeModalLoop::HandleOf(const Window* window) const {
   const auto* const native = dynamic_cast<const NativeWindow*>(window);
   const HWND handle = native == nullptr ? nullptr : native->Handle();
   return handle == nullptr ? nullptr : GetAncestor(handle, GA_ROOT);
+}
+
+/// The windows of later forms belong to those of earlier ones, and go with them.
+void NativeModalLoop::TakeAllAway() {
+  while (!open_.empty()) {
+    const auto found =
+        std::find_if(open_.begin(), open_.end(), [](const Open& one) { return one.view->Window() != nullptr; });
+    if (found == open_.end()) return;
+    DestroyWindow(found->view->Window());
+  }
 }
 
 FormView* NativeModalLoop::Topmost() const { return open_.empty() ? nullptr : open_.back().view.get(); }

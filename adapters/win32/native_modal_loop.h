@@ -30,6 +30,9 @@ class NativeModalLoop : public ModalLoop, public FormDesk {
   void Report(const std::string& what) override;
   void Abandon(std::exception_ptr thrown) override;
 
+  /// Takes the windows of all open forms away, as if their owner's went: each closes as by its close box.
+  void TakeAllAway();
+
   /// The view of the topmost form, null when none is open.
   FormView* Topmost() const;
 

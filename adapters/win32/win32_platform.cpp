@@ -21,6 +21,8 @@ ModalLoop& Win32Platform::Modal() { return ports_->modal; }
 MessageBoxes& Win32Platform::Messages() { return ports_->messages; }
 EventPump& Win32Platform::Events() { return ports_->events; }
 
+void Win32Platform::CloseDialogs() { ports_->modal.TakeAllAway(); }
+
 void Win32Platform::Report(const std::string& what) { ports_->modal.Report(what); }
 void Win32Platform::OnFailure(std::function<void(const std::string&)> show) {
   ports_->modal.onFailure = std::move(show);

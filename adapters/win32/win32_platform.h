@@ -29,6 +29,10 @@ class Win32Platform : public Platform {
   MessageBoxes& Messages() override;
   EventPump& Events() override;
 
+  /// Takes the open dialogs away, whose host has gone: each closes as by its close box, and whoever has shown it goes
+  /// on.
+  void CloseDialogs();
+
   /// Tells the user, and a debugger, of a failure that came out of one of his acts.
   void Report(const std::string& what);
   /// Shows the text of such a failure; without it the debugger alone tells.
