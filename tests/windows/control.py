@@ -1,9 +1,12 @@
 """The control: registered, made by scripts, and in the test container of tests/activex, run with Wine."""
 
+import pathlib
 import re
 
 from native import display
 
+SCRIPTS = pathlib.Path(__file__).resolve().parents[1] / "activex" / "scripts"
+DESK = "{0C4B1F2E-6D0B-4C1B-9C37-5A1B2E6F7D10}"
 PROG_ID = "PlexelBaseElement.ctlPlexelBaseElement"
 
 
@@ -40,6 +43,23 @@ class Control:
                 self.assertTrue([line for line in self.registry() if PROG_ID in line[1]])
                 self.regsvr32("/u", *words)
                 self.assertEqual(self.registry(), before)
+
+    def test_scripts_of_both_languages(self):
+        desk = self.wine.name(self.build / ("build-" + self.bits) / "bin" / "plexel-desk.dll")
+        for key, value in ((r"PlexelTests.Desk\CLSID", DESK), (r"CLSID\%s\InprocServer32" % DESK, desk)):
+            self.wine.call("wine", "reg", "add", r"HKLM\Software\Classes" + "\\" + key, "/ve", "/d", value, "/f")
+        self.regsvr32()
+        self.addCleanup(self.wine.run, "wine", "reg", "delete", r"HKLM\Software\Classes\PlexelTests.Desk", "/f")
+        self.addCleanup(self.regsvr32, "/u")
+        values = (SCRIPTS / "control.expected").read_text(encoding="utf-8").splitlines()
+        heard = "MouseClicked|2:1|2:0|4:15|4:30"
+        for script, language, source in (("control.vbs", str, " " + PROG_ID), ("control.js", str.lower, "")):
+            with self.subTest(script=script), display("us") as name:
+                run = self.wine.run("cscript", self.wine.name(SCRIPTS / script), data=self.data, environment={"DISPLAY": name})
+                self.wine.close()
+                told = run.stdout.decode("utf-8", "replace").splitlines()
+                expected = [line.replace(" True", " " + language("True")) for line in values]
+                self.assertEqual(told, expected + [heard, "crossed [a] 77 [a]", "error 6 XElementSize:" + source, "DONE"])
 
     def test_the_container_of_the_tests(self):
         self.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
