@@ -75,10 +75,7 @@ void Control::CloseDialogs() noexcept {
   });
 }
 
-Control::Element& Control::TheElement() {
-  if (element_ == nullptr) Renew();
-  return *element_;
-}
+void Control::LookWhoSees() { isSeen_ = place_->Handle() != nullptr || viewSink; }
 
 void Control::Renew() { Take(parts_->TheComponent().Create({}, *host_)); }
 
@@ -114,7 +111,7 @@ void Control::TellSize() {
 }
 
 void Control::ShowChanges() noexcept {
-  if (element_ == nullptr || (place_->Handle() == nullptr && !viewSink)) return;
+  if (element_ == nullptr) return;
   (void)Guarded("ShowChanges", [&] {
     TellSize();
     const Surface& now = TheElement().SurfaceObjects();
@@ -124,6 +121,7 @@ void Control::ShowChanges() noexcept {
     if (viewSink) {
       const ComPointer<IAdviseSink> told = viewSink;
       if ((viewFlags & ADVF_ONLYONCE) != 0) viewSink = nullptr;
+      LookWhoSees();
       told->OnViewChange(DVASPECT_CONTENT, -1);
     }
     return S_OK;

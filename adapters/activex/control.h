@@ -39,7 +39,10 @@ class Control final : public IUnknown, private module::Use {
   IUnknown& Outer() { return *outer_; }
 
   /// The element. One that is neither loaded nor initialised when it is first used is new.
-  Element& TheElement();
+  Element& TheElement() {
+    if (element_ == nullptr) Renew();
+    return *element_;
+  }
   /// A new element in place of the one before.
   void Renew();
   /// One that is read, in place of the one before. What does not convert ends the reading.
@@ -61,6 +64,8 @@ class Control final : public IUnknown, private module::Use {
   SIZEL Extent();
   void Extent(SIZEL extent) { extent_ = extent; }
 
+  /// To be called when the control gets a window or loses it, and when its sink comes or goes.
+  void LookWhoSees();
   /// The sink that is told when the control looks otherwise, and its aspects.
   ComPointer<IAdviseSink> viewSink;
   DWORD viewAspects = 0, viewFlags = 0;
@@ -103,10 +108,14 @@ class Control final : public IUnknown, private module::Use {
       ++control_.entries_;
     }
     ~Entry() {
-      control_.ShowChanges();
+      if (control_.isSeen_) control_.ShowChanges();
       control_.parts_->Services().Ask(before_);
       if (--control_.entries_ == 0 && !control_.former_.empty()) control_.former_.clear();
-      control_.Release();
+      if (control_.holds_ > control_.entries_ + 1) {
+        --control_.holds_;
+      } else {
+        control_.Release();
+      }
     }
     Entry(const Entry&) = delete;
     Entry& operator=(const Entry&) = delete;
@@ -147,6 +156,7 @@ class Control final : public IUnknown, private module::Use {
   float shownWidth_, shownHeight_;  ///< of the element's surface, twips; the container's size counts until they change
   Surface shown_;                   ///< as it was last drawn
   bool changed_ = false;
+  bool isSeen_ = false;  ///< by a window or a sink
 };
 
 }  // namespace plexel::activex

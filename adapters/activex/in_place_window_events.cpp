@@ -70,12 +70,14 @@ LRESULT CALLBACK InPlaceWindow::Procedure(HWND window, UINT message, WPARAM wide
   if (message == WM_NCCREATE) {
     auto* const made = static_cast<InPlaceWindow*>(reinterpret_cast<CREATESTRUCTW*>(wider)->lpCreateParams);
     made->window_ = window;
+    made->control_.LookWhoSees();
     SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
   }
   auto* const self = reinterpret_cast<InPlaceWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcW(window, message, wide, wider);
   if (message == WM_NCDESTROY) {
     self->window_ = nullptr;
+    self->control_.LookWhoSees();
     SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     return DefWindowProcW(window, message, wide, wider);
   }

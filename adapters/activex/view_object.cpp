@@ -46,6 +46,7 @@ HRESULT ViewObject::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) {
       if ((flags & ADVF_ONLYONCE) != 0) sink = nullptr;
     }
     TheControl().viewSink = ComPointer<IAdviseSink>(sink);
+    TheControl().LookWhoSees();
   });
 }
 

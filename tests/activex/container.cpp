@@ -36,14 +36,16 @@ std::string NameOf(REFGUID id) {
   return {text, text + 38};
 }
 
-Container::Container() {
+Container::Container(HWND others) : owns_(others == nullptr) {
+  window = others;
+  if (!owns_) return;
   window = CreateWindowExW(0, WindowKind(), L"container", WS_POPUP | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr,
                            GetModuleHandleW(nullptr), nullptr);
 }
 
 Container::~Container() {
   TakeOut();
-  if (IsWindow(window) != FALSE) DestroyWindow(window);
+  if (owns_ && IsWindow(window) != FALSE) DestroyWindow(window);
 }
 
 HRESULT Container::Place(IUnknown* control, bool withKeys) {

@@ -22,7 +22,8 @@ namespace plexel::activex {
 class Container : public TestObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IOleInPlaceFrame,
                                     IServiceProvider, IOleContainer, NoNames<IDispatch>> {
  public:
-  Container();
+  /// With a window of its own, or in that of another container, which then owns it.
+  explicit Container(HWND others = nullptr);
   ~Container() override;
 
   /// Interfaces that it does not have, and those that it says it has while it gives null.
@@ -109,6 +110,7 @@ class Container : public TestObject<IOleClientSite, IOleInPlaceSite, IOleControl
   IUnknown* Identity() override { return static_cast<IOleClientSite*>(this); }
 
  private:
+  bool owns_;
   HRESULT Called(const char* name);
   ComPointer<IOleObject> object_;
 };
