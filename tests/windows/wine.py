@@ -27,7 +27,11 @@ class Wine:
         return subprocess.run([wine(), str(program), *words], env=environment, capture_output=True, timeout=120, **options)
 
     def close(self):
-        subprocess.run(["wineserver", "-k"], env=self.environment, capture_output=True)
+        subprocess.run([self.server(), "-k"], env=self.environment, capture_output=True)
+
+    @staticmethod
+    def server():
+        return shutil.which("wineserver") or "/usr/lib/wine/wineserver"
 
     @staticmethod
     def name(file):
