@@ -21,7 +21,10 @@ template <std::size_t row, typename Field>
 void E::Store(Field& field, const Field& value) {
   constexpr const PropertyRow& facts = propertyRows[row];
   field = value;
-  if constexpr (facts.notice == NoticeStyle::Name) Notify(Notice::Of(facts.name));
+  if constexpr (facts.notice == NoticeStyle::Name) {
+    static constexpr Notice notice = Notice::Of(facts.name);
+    Notify(notice);
+  }
   if constexpr (facts.notice == NoticeStyle::Value) Notify(Notice::Of(field));
 }
 

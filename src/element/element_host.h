@@ -20,8 +20,8 @@ struct Notice {
   std::int32_t integer = 0;  ///< a boolean as its 16-bit value
 
   /// A notice with a value of its kind.
-  static Notice Of(std::string_view value) { return {Kind::Text, value, 0}; }
-  static Notice Of(std::int32_t value) { return {Kind::Integer, {}, value}; }
+  static constexpr Notice Of(std::string_view value) { return {Kind::Text, value, 0}; }
+  static constexpr Notice Of(std::int32_t value) { return {Kind::Integer, {}, value}; }
   static Notice Of(Boolean value) { return Of(std::int32_t{value.Value()}); }
 };
 
