@@ -11,8 +11,8 @@ namespace plexel {
 class FilePort {
  public:
   virtual ~FilePort() = default;
-  /// Creates a new file that must not exist yet and opens it for writing. Its permissions are those of `model` where
-  /// that file exists.
+  /// Creates a new file that must not exist yet and opens it for writing. Where `model` exists, it has the
+  /// permissions of that file, and its owner and group as far as the user may give them.
   virtual int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle) = 0;
   /// Writes a part of the bytes, at least one; `written` tells how many.
   virtual int Write(int handle, std::string_view bytes, std::size_t& written) = 0;

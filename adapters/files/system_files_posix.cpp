@@ -12,14 +12,23 @@ namespace {
 
 int ResultOf(int outcome) { return outcome == 0 ? 0 : errno; }
 
+/// Gives a file to an owner and his group, as far as the user may: to the group alone when only root may do more.
+int GiveTo(int handle, const struct stat& owner) {
+  if (::fchown(handle, owner.st_uid, owner.st_gid) == 0) return 0;
+  if (errno == EPERM && ::fchown(handle, static_cast<uid_t>(-1), owner.st_gid) == 0) return 0;
+  return errno == EPERM ? 0 : errno;
+}
+
 class PosixFiles : public FilePort {
  public:
   int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle) override {
     handle = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (handle < 0) return errno;
     struct stat status {};
-    if (::stat(model.c_str(), &status) != 0 || ::fchmod(handle, status.st_mode & 07777U) == 0) return 0;
-    const int error = errno;
+    if (::stat(model.c_str(), &status) != 0) return 0;
+    int error = GiveTo(handle, status);
+    if (error == 0 && ::fchmod(handle, status.st_mode & 07777U) != 0) error = errno;
+    if (error == 0) return 0;
     ::close(handle);
     ::unlink(file.c_str());
     return error;

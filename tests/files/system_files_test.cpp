@@ -141,6 +141,20 @@ TEST(WriteWholeFile, PermissionsOfTheOldFileStay) {
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
 }
 
+TEST(WriteWholeFile, OwnerAndGroupOfTheOldFileStay) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root may give files away";
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("file", "old");
+  ASSERT_EQ(::chown(file.c_str(), 1234, 5678), 0);
+  ASSERT_EQ(::chmod(file.c_str(), 02664), 0);
+  WriteWholeFile(file, "new");
+  struct stat status {};
+  ASSERT_EQ(::stat(file.c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, 1234U);
+  EXPECT_EQ(status.st_gid, 5678U);
+  EXPECT_EQ(status.st_mode & 07777U, 02664U);
+}
+
 TEST(WriteWholeFile, ADeviceIsRefused) {
   const auto error = FileErrorOf([] { WriteWholeFile("/dev/full", "content"); });
   ASSERT_TRUE(error);

@@ -248,6 +248,11 @@ PLEXEL_BY_HANDLE("ftruncate64", FaultyCut64, off_t)
 PLEXEL_BY_HANDLE("fstat", FaultyStatus, struct stat*)
 PLEXEL_BY_HANDLE("fstat64", FaultyStatus64, struct stat*)
 
+PLEXEL_STANDS_FOR("fchown", int FaultyGive(int handle, uid_t owner, gid_t group));
+int FaultyGive(int handle, uid_t owner, gid_t group) {
+  return Fails("fchown", handle) ? -1 : Next<int(int, uid_t, gid_t)>("fchown")(handle, owner, group);
+}
+
 PLEXEL_STANDS_FOR("fsync", int FaultyFlush(int handle));
 int FaultyFlush(int handle) { return Fails("fsync", handle) ? -1 : Next<int(int)>("fsync")(handle); }
 PLEXEL_STANDS_FOR("fdatasync", int FaultyFlushData(int handle));
