@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "element/property_bag.h"
+#include "project/document_panel.h"
 #include "project/element_change.h"
 
 namespace plexel {
@@ -22,7 +24,8 @@ enum class StepKind {
   Import,
   Restore,
   Recover,
-  TakeOver
+  TakeOver,
+  UsePanel
 };
 
 /// The name of a step.
@@ -52,7 +55,8 @@ struct Step {
     std::optional<ForeignValues> foreign = {};  ///< all of them, where they differ
   };
   StepName name;
-  std::vector<Part> parts;  ///< ascending by place
+  std::vector<Part> parts;                          ///< ascending by place
+  std::shared_ptr<const DocumentPanel> panel = {};  ///< that of the other side, where it is another
 };
 
 /// The steps of a project in the order in which they were made, those done before those that were taken back. Without

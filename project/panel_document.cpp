@@ -85,7 +85,7 @@ class WatchedBag : public PropertyBag {
 std::unique_ptr<PanelDocument> PanelDocument::New(const std::string& panelName, const Site& site) {
   const std::filesystem::path file = PanelFile(site.panelDirectory, panelName);
   std::unique_ptr<PanelDocument> document(new PanelDocument(panelName, ReadPanelText(file), file));
-  for (const PanelPart& part : document->panel_.parts) {
+  for (const PanelPart& part : document->panel_->panel.parts) {
     if (part.element) document->AddNew(part, site);
   }
   document->Refresh();
@@ -109,7 +109,7 @@ std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const s
       new PanelDocument(project.panel, carries ? project.panelText : ReadPanelText(panel), panel));
   document->carriesPanel_ = carries;
   std::unordered_map<std::string_view, const PanelPart*> left;
-  for (const PanelPart& part : document->panel_.parts) {
+  for (const PanelPart& part : document->panel_->panel.parts) {
     if (part.element) left.emplace(part.element->id, &part);
   }
   document->places_.reserve(left.size());
@@ -121,7 +121,7 @@ std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const s
     document->AddSaved(*part->second, saved, site);
     left.erase(part);
   }
-  for (const PanelPart& part : document->panel_.parts) {
+  for (const PanelPart& part : document->panel_->panel.parts) {
     if (part.element && left.contains(part.element->id)) document->AddNew(part, site);
   }
   document->fileForeign_ = document->foreign_;
@@ -142,7 +142,7 @@ void PanelDocument::AddNew(const PanelPart& part, const Site& site) {
   element->ZoomFactor(static_cast<std::int16_t>(zoom_));
   element->SizeX(described.sizeX);
   element->OriginalPosX(part.box.left);
-  element->TargetSystem(panel_.targetSystem);
+  element->TargetSystem(panel_->panel.targetSystem);
   element->HardwareNumberLed(described.hardwareNumberLed);
   element->HardwareNumberButton(described.hardwareNumberButton);
   for (std::size_t index = 0; index < described.hardwareNumberKeys.size(); ++index) {
@@ -170,11 +170,27 @@ void PanelDocument::AddSaved(const PanelPart& part, const ProjectElement& saved,
 void PanelDocument::SetWhatIsNotSaved(ctlPlexelBaseElement& element, const PanelPart& part, const Site& site) {
   element.ParentWindow(site.window);
   element.DPIFontScaleFactor(GetDpiScaleFactor());
-  element.DeviceType(panel_.deviceType);
-  element.VantaEnabled(panel_.vantaEnabled);
+  Describe(element, part);
+}
+
+void PanelDocument::Describe(ctlPlexelBaseElement& element, const PanelPart& part) {
+  element.DeviceType(panel_->panel.deviceType);
+  element.VantaEnabled(panel_->panel.vantaEnabled);
   element.OriginalPosY(part.box.top);
   element.ElementType(part.element->type);
   element.SizeY(part.element->sizeY);
+}
+
+void PanelDocument::UsePanel(std::shared_ptr<const DocumentPanel> panel) {
+  panel_ = std::move(panel);
+  std::unordered_map<std::string_view, const PanelPart*> parts;
+  for (const PanelPart& part : panel_->panel.parts) {
+    if (part.element) parts.emplace(part.element->id, &part);
+  }
+  for (Place& place : places_) {
+    place.part = parts.at(place.element->Name());
+    Describe(*place.element, *place.part);
+  }
 }
 
 ProjectElement PanelDocument::ElementContent(std::size_t place) const {
@@ -205,6 +221,7 @@ void PanelDocument::Save(const std::filesystem::path& file) {
   file_ = file;
   hash_ = HashOf(text);
   fileForeign_ = foreign_;
+  filePanel_ = panel_;
   unsaved_.clear();
   fileIsOther_ = false;
 }
@@ -213,7 +230,7 @@ std::vector<PanelDifference> PanelDocument::InstalledPanelDiffers(const std::fil
   const std::filesystem::path file = PanelFile(panelDirectory, panelName_);
   std::error_code error;
   if (!std::filesystem::exists(file, error)) return {};
-  return DifferencesOf(panel_, ReadPanel(file));
+  return DifferencesOf(ThePanel(), ReadPanel(file));
 }
 
 PanelDocument::FileState PanelDocument::Compare(const KnownFile& known) {
@@ -233,6 +250,8 @@ void PanelDocument::Become(StepKind kind, const PanelDocument& other) {
   std::vector<std::size_t> all(places_.size());
   std::iota(all.begin(), all.end(), std::size_t{0});
   Change(kind, all, [&] {
+    if (other.carriesPanel_ && other.panel_->text != panel_->text) UsePanel(other.panel_);
+    carriesPanel_ = carriesPanel_ || other.carriesPanel_;
     ForEachPair(other, [](std::size_t, ElementChange change, ctlPlexelBaseElement& mine) { change.Exchange(mine); });
     foreign_ = ForeignOf(other);
   });
@@ -243,6 +262,7 @@ void PanelDocument::FileHolds(const PanelDocument& other) {
   file_ = other.file_;
   hash_ = other.hash_;
   fileForeign_ = ForeignOf(other);
+  filePanel_ = other.panel_;
   fileIsOther_ = false;
   unsaved_.clear();
   ForEachPair(other, [this](std::size_t place, ElementChange change, const ctlPlexelBaseElement&) {
@@ -260,16 +280,20 @@ void PanelDocument::FileIsLost(const std::filesystem::path& file) {
   }
 }
 
-void PanelDocument::RequireSamePanel(const PanelDocument& other) const {
-  if (other.panelName_ != panelName_) {
-    throw FileError(other.file_, 0, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
-  }
+bool PanelDocument::HasElementsOf(const PanelDocument& other) const {
   const auto names = [](const PanelDocument& document) {
     std::set<std::string_view> all;
     for (const Place& place : document.places_) all.insert(place.element->Name());
     return all;
   };
-  if (names(other) == names(*this)) return;
+  return other.panelName_ == panelName_ && names(other) == names(*this);
+}
+
+void PanelDocument::RequireSamePanel(const PanelDocument& other) const {
+  if (other.panelName_ != panelName_) {
+    throw FileError(other.file_, 0, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
+  }
+  if (HasElementsOf(other)) return;
   throw FileError(other.file_, 0, "its panel \"" + panelName_ + "\" has other elements than the one that is open");
 }
 
@@ -303,6 +327,7 @@ void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, c
   before.reserve(sorted.size());
   for (const std::size_t place : sorted) before.push_back(ValuesOf(*places_.at(place).element));
   const Foreign foreignBefore = foreign_;
+  const std::shared_ptr<const DocumentPanel> panelBefore = panel_;
   ++changing_;
   AndThen(act, [&] {
     --changing_;
@@ -315,7 +340,8 @@ void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, c
       step.parts.push_back({place, ElementChange(before[index], now)});
       if (foreignDiffers) step.parts.back().foreign = ForeignAt(foreignBefore, place);
     }
-    if (step.parts.empty()) return;
+    if (panel_ != panelBefore) step.panel = panelBefore;
+    if (step.parts.empty() && step.panel == nullptr) return;
     step.name = {kind, {}, step.parts.size()};
     if (step.parts.size() == 1) step.name.element = places_[step.parts.front().place].element->Name();
     history_.Add(std::move(step));
@@ -338,6 +364,11 @@ void PanelDocument::Redo() {
 }
 
 void PanelDocument::Exchange(Step& step) {
+  if (step.panel != nullptr) {
+    std::shared_ptr<const DocumentPanel> held = panel_;
+    UsePanel(std::move(step.panel));
+    step.panel = std::move(held);
+  }
   for (Step::Part& part : step.parts) {
     part.change.Exchange(*places_[part.place].element);
     if (!part.foreign) continue;
@@ -361,6 +392,10 @@ void PanelDocument::Account(const Step& step) {
     } else {
       unsaved_.insert_or_assign(part.place, std::move(toFile));
     }
+  }
+  if (step.panel != nullptr) {  // it is behind every place
+    places.resize(places_.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
   }
   for (const auto& listener : listeners_) listener(places);
 }

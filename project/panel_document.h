@@ -12,6 +12,7 @@
 #include "component/component.h"
 #include "files/panel_file.h"
 #include "files/project_file.h"
+#include "project/document_panel.h"
 #include "project/history.h"
 #include "project/panel_difference.h"
 
@@ -59,12 +60,13 @@ class PanelDocument {
   bool CarriesPanel() const { return carriesPanel_; }
   void CarriesPanel(bool value) { carriesPanel_ = value; }
   /// The text of the panel that is taken along; empty for none.
-  std::string CarriedPanel() const { return carriesPanel_ ? panelText_ : std::string(); }
+  std::string CarriedPanel() const { return carriesPanel_ ? panel_->text : std::string(); }
   /// What the panel and the installed one of its name differ in; nothing when none of the name is installed. FileError
   /// when the installed one cannot be read.
   std::vector<PanelDifference> InstalledPanelDiffers(const std::filesystem::path& panelDirectory) const;
 
-  const Panel& ThePanel() const { return panel_; }
+  /// Another object behind a step that has changed it.
+  const Panel& ThePanel() const { return panel_->panel; }
   const std::vector<Place>& Places() const { return places_; }
   /// The place of an element, -1 for an element that is not on the panel.
   int PlaceOf(const ctlPlexelBaseElement& element) const;
@@ -72,7 +74,9 @@ class PanelDocument {
   const std::filesystem::path& File() const { return file_; }
 
   /// Whether the project holds anything else than its file, or than the empty project that it began as.
-  bool Modified() const { return fileIsOther_ || !unsaved_.empty() || foreign_ != fileForeign_; }
+  bool Modified() const {
+    return fileIsOther_ || !unsaved_.empty() || foreign_ != fileForeign_ || panel_->text != filePanel_->text;
+  }
 
   /// A file with what a document read from it or wrote into it last.
   struct KnownFile {
@@ -92,8 +96,10 @@ class PanelDocument {
   static FileState Compare(const KnownFile& known);
   /// The file of this document now. Only for a document with a file.
   FileState FileNow() const { return Compare(Known()); }
-  /// Takes over all values of a project on the same panel, as one step; FileError for another panel, or for one of the
-  /// same name with other elements.
+  /// Whether another project is for the panel of this name, and has the same elements.
+  bool HasElementsOf(const PanelDocument& other) const;
+  /// Takes over all values of a project on the same panel, and its description of the panel when it carries one, as one
+  /// step; FileError for another panel, or for one of the same name with other elements.
   void Become(StepKind kind, const PanelDocument& other);
   /// Takes a project that was just read from a file as what that file holds; the values here stay. FileError for
   /// another panel.
@@ -134,11 +140,17 @@ class PanelDocument {
 
   /// The panel is read from its text.
   PanelDocument(std::string panelName, std::string panelText, const std::filesystem::path& origin)
-      : panelName_(std::move(panelName)), panelText_(std::move(panelText)), panel_(ParsePanel(origin, panelText_)) {}
+      : panelName_(std::move(panelName)),
+        panel_(std::make_shared<const DocumentPanel>(DocumentPanel{panelText, ParsePanel(origin, panelText)})),
+        filePanel_(panel_) {}
   void AddNew(const PanelPart& part, const Site& site);
   void AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site);
   /// What a saved element does not bring along.
   void SetWhatIsNotSaved(ctlPlexelBaseElement& element, const PanelPart& part, const Site& site);
+  /// Of that, what the panel tells.
+  void Describe(ctlPlexelBaseElement& element, const PanelPart& part);
+  /// Puts a panel with the same elements in the place of the present one.
+  void UsePanel(std::shared_ptr<const DocumentPanel> panel);
   void RequireSamePanel(const PanelDocument& other) const;
   /// The foreign values of another project on the same panel, by the places of this one.
   Foreign ForeignOf(const PanelDocument& other) const;
@@ -151,9 +163,9 @@ class PanelDocument {
   /// Behind a change of elements: keeps account of what the file does not hold, and tells the listeners.
   void Account(const Step& step);
 
-  std::string panelName_, panelText_;
+  std::string panelName_;
   bool carriesPanel_ = false;
-  const Panel panel_;
+  std::shared_ptr<const DocumentPanel> panel_, filePanel_;  ///< of the project, and of its file
   std::vector<Place> places_;
   Foreign foreign_, fileForeign_;  ///< of the project, and of its file
   std::vector<std::string> unread_;

@@ -111,6 +111,75 @@ TEST_F(FileOnDisk, APanelOfTheSameNameWithOtherElementsIsRefused) {
   EXPECT_FALSE(document->Steps().CanUndo());
 }
 
+/// A panel with the same elements and another picture.
+class OtherPicture : public FileOnDisk {
+ protected:
+  OtherPicture() {
+    document->CarriesPanel(true);
+    document->Save(file);
+    Project project = ReadProject(file);
+    const std::size_t place = project.panelText.find("Legend=ESC");
+    project.panelText.replace(place, 10, "Legend=QUIT");
+    WriteProject(file, project);
+    theirs = PanelDocument::Open(file, Site());
+  }
+  static std::string LegendOf(const PanelDocument& shown) { return shown.ThePanel().Find("R1")->legend; }
+  std::unique_ptr<PanelDocument> theirs;
+};
+
+TEST_F(OtherPicture, KeepingMineIsAChangeThatIsNotSaved) {
+  document->FileHolds(*theirs);
+  EXPECT_TRUE(document->Modified());
+  document->Save(file);
+  EXPECT_FALSE(document->Modified());
+  EXPECT_EQ(LegendOf(*PanelDocument::Open(file, Site())), "ESC");
+}
+
+TEST_F(OtherPicture, TakingTheirsTakesThePictureAndIsTakenBack) {
+  const Project before = document->Content();
+  std::size_t told = 0;
+  document->Listen([&told](std::span<const std::size_t> places) { told = places.size(); });
+  document->FileHolds(*theirs);
+  document->Become(StepKind::TakeOver, *theirs);
+  EXPECT_EQ(LegendOf(*document), "QUIT");
+  EXPECT_EQ(document->Content(), theirs->Content());
+  EXPECT_FALSE(document->Modified());
+  EXPECT_EQ(told, document->Places().size());
+  EXPECT_EQ(document->Steps().ToUndo().name, (StepName{StepKind::TakeOver, "", 0}));
+  for (const PanelDocument::Place& place : document->Places()) {
+    EXPECT_EQ(place.part, document->ThePanel().Find(place.element->Name()));
+  }
+  document->Undo();
+  EXPECT_EQ(LegendOf(*document), "ESC");
+  EXPECT_EQ(document->Content(), before);
+  EXPECT_TRUE(document->Modified());
+  document->Redo();
+  EXPECT_EQ(LegendOf(*document), "QUIT");
+  EXPECT_FALSE(document->Modified());
+}
+
+TEST_F(OtherPicture, AProjectThatCarriesNoneLeavesThePicture) {
+  Project project = theirs->Content();
+  project.panelText.clear();
+  document->Become(StepKind::TakeOver, *theirs);
+  document->Become(StepKind::Import, *PanelDocument::Of(project, file, Site()));
+  EXPECT_EQ(LegendOf(*document), "QUIT");
+}
+
+TEST_F(OtherPicture, TheInstalledPanelIsUsedInAStep) {
+  document->Become(StepKind::TakeOver, *theirs);
+  Project project = document->Content();
+  project.panelText.clear();
+  const auto installed = PanelDocument::Of(project, file, Site());
+  installed->CarriesPanel(true);
+  EXPECT_TRUE(document->HasElementsOf(*installed));
+  document->Become(StepKind::UsePanel, *installed);
+  EXPECT_EQ(LegendOf(*document), "ESC");
+  EXPECT_TRUE(document->InstalledPanelDiffers(Site().panelDirectory).empty());
+  document->Undo();
+  EXPECT_EQ(LegendOf(*document), "QUIT");
+}
+
 TEST_F(FileOnDisk, ElementsKeepTheOrderOfTheFileAndThoseOfThePanelAloneFollow) {
   Project project = ReadProject(file);
   const std::string first = project.elements.front().place, last = project.elements.back().place;
