@@ -56,7 +56,7 @@ class CallWithoutADisplay(unittest.TestCase):
             for words in (("--pdf", str(target), folder + "/missing.plexel"),
                           ("--pdf", folder + "/missing/report.pdf", str(SAMPLE))):
                 done = run(*words, HOME=folder, XDG_RUNTIME_DIR=folder)
-                self.assertEqual((done.returncode, done.stdout), (1, ""))
+                self.assertEqual((done.returncode, done.stdout), (2, ""))
                 self.assertRegex(done.stderr, r"\Aplexel-editor: [^\n]*missing[^\n]*\n\Z")
                 self.assertFalse(target.exists())
             for words in (("--pdf",), ("--pdf", str(target)), ("--pdf=", str(SAMPLE))):
