@@ -65,6 +65,17 @@ QString ValueText(const ProjectDifference& difference, const std::optional<BagVa
   return ToQt(BagToString(*value));
 }
 
+/// The first lines in which two descriptions of a panel differ.
+void FirstLines(const ProjectDifference& difference, DifferenceText& text) {
+  const auto lines = [](const std::optional<BagValue>& value) {
+    return value ? ToQt(BagToString(*value)).split('\n') : QStringList();
+  };
+  const QStringList from = lines(difference.from), to = lines(difference.to);
+  const auto [left, right] = std::mismatch(from.begin(), from.end(), to.begin(), to.end());
+  text.from = left == from.end() ? Say(Text::NotThere) : *left;
+  text.to = right == to.end() ? Say(Text::NotThere) : *right;
+}
+
 }  // namespace
 
 DifferenceText TextOf(const ProjectDifference& difference) {
@@ -76,6 +87,7 @@ DifferenceText TextOf(const ProjectDifference& difference) {
       break;
     case DifferenceKind::PanelText:
       text.what = Say(Text::CarriedPanelOf);
+      FirstLines(difference, text);
       return text;
     case DifferenceKind::OnlyFirst:
     case DifferenceKind::OnlySecond:
@@ -100,7 +112,7 @@ QString SummaryOf(const std::vector<ProjectDifference>& differences) {
   QStringList elements;
   for (const ProjectDifference& difference : differences) {
     const QString name = difference.element.empty() ? Say(Text::PanelOf) : ToQt(difference.element);
-    if (!elements.contains(name)) elements.append(name);
+    if (elements.isEmpty() || elements.back() != name) elements.append(name);  // those of an element stand together
   }
   if (elements.isEmpty()) return Say(Text::NoDifference);
   constexpr qsizetype named = 8;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QSessionManager>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -26,14 +27,16 @@ extern "C" void TellSignal(int) {
 
 }  // namespace
 
-EndSignals::EndSignals(std::function<void()> keep) : keep_(std::move(keep)) {
+EndSignals::EndSignals(std::function<bool()> keep, std::function<bool()> ask)
+    : keep_(std::move(keep)), ask_(std::move(ask)) {
   if (::pipe2(channel.data(), O_CLOEXEC | O_NONBLOCK) != 0) throw std::runtime_error("there is no pipe for signals");
   notifier_ = std::make_unique<QSocketNotifier>(channel[0], QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, [this] {
-    notifier_->setEnabled(false);
+    for (char byte = 0; ::read(channel[0], &byte, 1) > 0;) {
+    }
     End();
   });
-  connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) { keep_(); });
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) { EndOfSession(session); });
   qApp->installEventFilter(this);
   for (const int ending : endings) std::signal(ending, TellSignal);
 }
@@ -47,9 +50,21 @@ bool EndSignals::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void EndSignals::End() {
-  heard_ = true;
-  keep_();
-  QApplication::exit(0);
+  if (heard_ || asking_) return;
+  asking_ = true;
+  heard_ = keep_() || ask_();
+  asking_ = false;
+  if (heard_) QApplication::exit(0);
+}
+
+void EndSignals::EndOfSession(QSessionManager& session) {
+  if (keep_()) return;
+  if (session.allowsInteraction()) {
+    const bool may = ask_();
+    session.release();
+    if (may) return;
+  }
+  session.cancel();
 }
 
 EndSignals::~EndSignals() {

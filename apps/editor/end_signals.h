@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+class QSessionManager;
+
 namespace plexel {
 
 /// Hears when the program is ended from outside: by SIGTERM, SIGINT or SIGHUP, and by the end of the desktop's session.
@@ -12,8 +14,10 @@ namespace plexel {
 class EndSignals : public QObject {
  public:
   /// `keep` is called in the event loop, behind a signal and when the session is about to end; the program then ends
-  /// without questions, behind a signal at once and in a session when that tells it to.
-  explicit EndSignals(std::function<void()> keep);
+  /// without questions, behind a signal at once and in a session when that tells it to. Where it gives false, since not
+  /// everything can be kept, `ask` closes the program as its user does, with all questions; while that gives false the
+  /// program goes on.
+  EndSignals(std::function<bool()> keep, std::function<bool()> ask);
   ~EndSignals() override;
 
   /// Whether a signal or the session has ended the program: an event loop must not be entered any more.
@@ -24,10 +28,11 @@ class EndSignals : public QObject {
 
  private:
   void End();
+  void EndOfSession(QSessionManager& session);
 
-  std::function<void()> keep_;
+  std::function<bool()> keep_, ask_;
   std::unique_ptr<QSocketNotifier> notifier_;
-  bool heard_ = false;
+  bool heard_ = false, asking_ = false;
 };
 
 }  // namespace plexel

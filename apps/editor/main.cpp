@@ -62,10 +62,13 @@ int Run(const QString& project) {
 
   MainWindow window(component, surroundings, platform, help, StateDirectory());
   window.show();
-  const EndSignals ends([&window] { window.KeepWork(); });
+  const EndSignals ends([&window] { return window.KeepWork(); }, [&window] { return window.close(); });
   TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
-  const bool opened = window.OfferLostWork() || (!project.isEmpty() && window.OpenProject(project.toStdString()));
-  if (!opened && !window.StartEmpty()) return 1;
+  if (window.OfferLostWork()) {
+    window.TellNotOpened(project);
+  } else if ((project.isEmpty() || !window.OpenProject(project.toStdString())) && !window.StartEmpty()) {
+    return 1;
+  }
   return ends.Heard() ? 0 : QApplication::exec();
 }
 
@@ -108,7 +111,7 @@ int main(int argc, char** argv) {
     return call.pdf.isEmpty() ? plexel::Run(call.project) : plexel::WritePdf(call);
   } catch (const std::exception& failure) {
     std::cerr << "plexel-editor: " << failure.what() << '\n';
-    if (!call.pdf.isEmpty()) return 1;
+    if (!call.pdf.isEmpty()) return 2;
     plexel::TellInBox(QMessageBox::Critical, QString::fromUtf8(failure.what()), nullptr);
     return 1;
   }

@@ -157,8 +157,10 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   document_->Listen([this](std::span<const std::size_t> places) {
     Try(false);  // what was tried is no longer what stands there
     problems_.Changed(places);
+    if (&document_->ThePanel() != shownPanel_) ShowOtherPanel();
     ShowChange();
   });
+  shownPanel_ = &document_->ThePanel();
   view_->Show(document_.get());
   problems_.Show(document_.get());
   overview_->Show(document_.get());
@@ -169,6 +171,14 @@ void MainWindow::Take(std::unique_ptr<PanelDocument> document) {
   notice_->hide();
   safekeeping_.Watch(document_.get());
   TellPanelChanged();
+}
+
+void MainWindow::ShowOtherPanel() {
+  CloseVirtualPanel();
+  shownPanel_ = &document_->ThePanel();
+  view_->Show(document_.get());
+  overview_->Show(document_.get());
+  inspector_->Show(document_.get());
 }
 
 bool MainWindow::StartEmpty() {

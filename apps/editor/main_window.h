@@ -81,8 +81,10 @@ class MainWindow : public QMainWindow {
   TrialMode& Trying() const { return *trial_; }
   /// Offers the work that earlier runs did not save. True when the user has brought some of it back.
   bool OfferLostWork();
-  /// Brings unsaved work to the disk at once, for the next start to offer it.
-  void KeepWork() { safekeeping_.Keep(); }
+  /// Tells that a project was not opened, when the window holds another one.
+  void TellNotOpened(const QString& project);
+  /// Brings unsaved work to the disk at once, for the next start to offer it. False when it cannot be kept there.
+  bool KeepWork() { return safekeeping_.Keep(); }
   /// Brings elements and texts into line with the settings.
   void SettingsChanged();
 
@@ -134,6 +136,8 @@ class MainWindow : public QMainWindow {
   PanelDocument::Site Site();
   QString WhyNotOpened(const std::filesystem::path& file, const std::exception& failure);
   void Take(std::unique_ptr<PanelDocument> document);
+  /// The project has another panel now.
+  void ShowOtherPanel();
 
   /// The places that an act of the user is for.
   std::vector<std::size_t> MeantPlaces() const;
@@ -233,6 +237,7 @@ class MainWindow : public QMainWindow {
   std::shared_ptr<EditorWindowObject> windowObject_ = std::make_shared<EditorWindowObject>();
   Safekeeping safekeeping_;
   std::unique_ptr<PanelDocument> document_;
+  const Panel* shownPanel_ = nullptr;
   LiveProblems problems_;
   NoticeBar* notice_ = nullptr;
   PanelView* view_ = nullptr;

@@ -143,8 +143,9 @@ void MainWindow::BeginDrag(int place) {
   const QRect box = view_->PlaceRect(place);
   drag->setPixmap(view_->grab(box));
   drag->setHotSpot(QPoint(box.width() / 2, box.height() / 2));
-  statusBar()->showMessage(Say(Text::DragTip), MessageTime);
+  statusBar()->showMessage(Say(Text::DragTip));
   drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+  statusBar()->clearMessage();
 }
 
 void MainWindow::Drop(int from, int onto, const QString& text, bool swap) {

@@ -3,10 +3,13 @@
 #include <QDateTime>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <set>
+#include <string_view>
 
 #include "editor/box_room.h"
 #include "editor/difference_text.h"
@@ -24,14 +27,39 @@ namespace plexel {
 
 namespace {
 
-/// What lost work differs in from the file that it belongs to; nothing when there is no such file to be read.
-std::optional<QString> AgainstItsFile(const RecoveryFile& lost, const PanelDocument::Site& site) {
+/// What lost work differs in from the file that it belongs to, or where no such file can be read from an empty project
+/// on its panel.
+std::vector<ProjectDifference> AgainstItsFile(const RecoveryFile& lost, const PanelDocument::Site& site) {
   try {
-    if (lost.head.file.empty()) return std::nullopt;
-    return SummaryOf(DifferencesOf(PanelDocument::Open(lost.head.file, site)->Content(), lost.project));
-  } catch (const FileError&) {
-    return std::nullopt;
+    if (!lost.head.file.empty()) {
+      return DifferencesOf(PanelDocument::Open(lost.head.file, site)->Content(), lost.project);
+    }
+  } catch (const FileError&) {  // the file is gone, or is no project any more
   }
+  try {
+    const Project empty{lost.project.panel, {}, lost.project.panelText};
+    return DifferencesOf(PanelDocument::Of(empty, lost.head.file, site)->Content(), lost.project);
+  } catch (const FileError&) {
+    return {};
+  }
+}
+
+void ShowDifferences(const std::vector<ProjectDifference>& differences, const QString& title, Text before, Text after,
+                     QWidget* parent) {
+  QDialog dialog(parent);
+  dialog.setWindowTitle(title);
+  auto* const layout = new QVBoxLayout(&dialog);
+  auto* const view = new DifferenceView(before, after);
+  layout->addWidget(view);
+  auto* const buttons = new QDialogButtonBox;
+  buttons->addButton(Say(Text::Close), QDialogButtonBox::RejectRole);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  layout->addWidget(buttons);
+  constexpr QSize firstSize(760, 420);
+  dialog.resize(firstSize);
+  AddHelpKey(dialog, help_topics::Versions);
+  view->Show(differences);
+  dialog.exec();
 }
 
 enum class LostAnswer { BringBack, Discard, Later };
@@ -44,14 +72,22 @@ LostAnswer AskAboutLost(const RecoveryFile& lost, const PanelDocument::Site& sit
   box.setText(Say(Text::LostWorkFound).arg(UserLocale().toString(time, QLocale::ShortFormat)));
   QStringList lines = {lost.head.file.empty() ? Say(Text::LostWorkNew)
                                               : Say(Text::LostWorkOf).arg(ToQt(lost.head.file.string()))};
-  if (const auto summary = AgainstItsFile(lost, site)) lines.append(*summary);
+  const std::vector<ProjectDifference> differences = AgainstItsFile(lost, site);
+  if (!differences.empty()) lines.append(SummaryOf(differences));
   box.setInformativeText(lines.join('\n'));
   GiveRoom(box);
   QPushButton* const back = box.addButton(Say(Text::BringBack), QMessageBox::AcceptRole);
   QPushButton* const discard = box.addButton(Say(Text::Discard), QMessageBox::DestructiveRole);
   box.setEscapeButton(box.addButton(Say(Text::Later), QMessageBox::RejectRole));
+  QPushButton* const show =
+      differences.empty() ? nullptr : box.addButton(Say(Text::ShowDifference), QMessageBox::HelpRole);
   box.setDefaultButton(back);
-  box.exec();
+  do {
+    if (show != nullptr && box.clickedButton() == show) {
+      ShowDifferences(differences, lines.front(), Text::ColumnSaved, Text::ColumnUnsaved, parent);
+    }
+    box.exec();
+  } while (show != nullptr && box.clickedButton() == show);
   if (box.clickedButton() == back) return LostAnswer::BringBack;
   return box.clickedButton() == discard ? LostAnswer::Discard : LostAnswer::Later;
 }
@@ -124,7 +160,20 @@ void MainWindow::UseInstalledPanel() {
   project.panelText.clear();
   try {
     const std::filesystem::path file = document_->File();
+    const Panel installed = ReadPanel(PanelFile(Site().panelDirectory, project.panel));
+    std::set<std::string_view> places;
+    for (const PanelPart& part : installed.parts) {
+      if (part.element) places.insert(part.element->id);
+    }
+    std::erase_if(project.elements, [&](const ProjectElement& one) { return !places.contains(one.place); });
     std::unique_ptr<PanelDocument> document = PanelDocument::Of(project, file, Site());
+    document->CarriesPanel(true);
+    if (document_->HasElementsOf(*document)) {
+      document_->Become(StepKind::UsePanel, *document);
+      notice_->hide();
+      return;
+    }
+    if (!Confirm(Say(Text::AskUsePanel), Say(Text::UseInstalledPanel), this)) return;
     document->FileIsLost(file);
     Take(std::move(document));
   } catch (const FileError& failure) {
@@ -135,7 +184,12 @@ void MainWindow::UseInstalledPanel() {
 void MainWindow::ConnectSafekeeping() {
   safekeeping_.onFileChanged = [this](const PanelDocument::FileState& state) { TellFileChanged(state); };
   safekeeping_.onOthers = [this](std::size_t others) {
-    if (others > 0) notice_->Tell(Say(Text::OthersHaveIt), {{Say(Text::OK), [this] { notice_->hide(); }}});
+    const QString text = Say(Text::OthersHaveIt);
+    if (others > 0) {
+      notice_->Tell(text, {{Say(Text::OK), [this] { notice_->hide(); }}});
+    } else if (notice_->Told() == text) {
+      notice_->hide();
+    }
   };
   safekeeping_.onProblem = [this](const QString& reason) {
     log_->Append(Say(Text::NotKept) + ' ' + reason);
@@ -193,20 +247,8 @@ void MainWindow::TakeTheirs() {
 }
 
 void MainWindow::ShowFileDifference() {
-  QDialog dialog(this);
-  dialog.setWindowTitle(Say(Text::DifferenceTitle));
-  auto* const layout = new QVBoxLayout(&dialog);
-  auto* const view = new DifferenceView(Text::ColumnMine, Text::ColumnTheirs);
-  layout->addWidget(view);
-  auto* const buttons = new QDialogButtonBox;
-  buttons->addButton(Say(Text::Close), QDialogButtonBox::RejectRole);
-  connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  layout->addWidget(buttons);
-  constexpr QSize firstSize(760, 420);
-  dialog.resize(firstSize);
-  AddHelpKey(dialog, help_topics::Versions);
-  view->Show(DifferencesOf(document_->Content(), PanelDocument::Open(document_->File(), Site())->Content()));
-  dialog.exec();
+  ShowDifferences(DifferencesOf(document_->Content(), PanelDocument::Open(document_->File(), Site())->Content()),
+                  Say(Text::DifferenceTitle), Text::ColumnMine, Text::ColumnTheirs, this);
 }
 
 bool MainWindow::MayOverwrite(const std::filesystem::path& file) {
@@ -273,7 +315,13 @@ void MainWindow::BringBack(LostWork& work) {
     document->FileIsLost(lost.head.file);
   }
   Take(std::move(document));
-  ForgetLost(work);
+  if (safekeeping_.Keep()) ForgetLost(work);  // otherwise what was lost once stays where it is
+}
+
+void MainWindow::TellNotOpened(const QString& project) {
+  if (project.isEmpty() || QFileInfo(project) == QFileInfo(ToQt(document_->File().string()))) return;
+  notice_->Tell(Say(Text::NotOpenedForLostWork).arg(QFileInfo(project).fileName()),
+                {{Say(Text::OK), [this] { notice_->hide(); }}});
 }
 
 void MainWindow::ForgetLost(LostWork& work) {

@@ -36,4 +36,6 @@ void NoticeBar::Tell(const QString& text, const std::vector<Choice>& choices) {
   show();
 }
 
+QString NoticeBar::Told() const { return isHidden() ? QString() : text_->text(); }
+
 }  // namespace plexel

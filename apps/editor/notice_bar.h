@@ -20,6 +20,8 @@ class NoticeBar : public QFrame {
   NoticeBar();
   /// Shows a text, which is plain, with buttons; what was shown before goes. A choice does not hide the bar by itself.
   void Tell(const QString& text, const std::vector<Choice>& choices);
+  /// What it tells; empty while it is hidden.
+  QString Told() const;
 
  private:
   QLabel* text_;

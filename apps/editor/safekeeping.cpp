@@ -63,8 +63,8 @@ void Safekeeping::Watch(PanelDocument* document) {
         Note();
       });
     }
-    keeper_->Flush();
   }
+  Keep();
   WatchFile();
 }
 
@@ -88,8 +88,15 @@ void Safekeeping::Saved() {
   WatchFile();
 }
 
-void Safekeeping::Keep() {
-  if (keeper_) keeper_->Flush();
+bool Safekeeping::Keep() {
+  if (document_ == nullptr || !document_->Modified()) {
+    if (keeper_) keeper_->Flush();
+    return true;
+  }
+  if (!keeper_) return false;
+  keeper_->Flush();
+  TellWriting();
+  return problem_.empty();
 }
 
 void Safekeeping::Leave() {
@@ -111,6 +118,10 @@ void Safekeeping::Note() {
 void Safekeeping::Portion() {
   if (keeper_->Work(PortionSize)) return;
   portions_.stop();
+  TellWriting();
+}
+
+void Safekeeping::TellWriting() {
   if (const std::string problem = keeper_->Problem(); problem != problem_) {
     problem_ = problem;
     if (!problem.empty() && onProblem) onProblem(ToQt(problem));

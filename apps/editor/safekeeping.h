@@ -36,8 +36,8 @@ class Safekeeping : public QObject {
   void BeforeSave(const std::filesystem::path& file);
   /// The project was saved, or its file was looked at.
   void Saved();
-  /// Brings unsaved work to the disk at once.
-  void Keep();
+  /// Brings unsaved work to the disk at once. False, behind onProblem, when it cannot be kept there.
+  bool Keep();
   /// The same, and lets it stand there: the project goes without having been saved or given up.
   void Leave();
 
@@ -53,6 +53,8 @@ class Safekeeping : public QObject {
   void WatchFile();
   void CountOthers();
   void Tell(const std::exception& failure);
+  /// What came of the last writing of unsaved work.
+  void TellWriting();
 
   const std::filesystem::path directory_;
   const VersionStore versions_;

@@ -21,7 +21,8 @@ constexpr KindText kindTexts[] = {{StepKind::Configure, Text::StepConfigure},
                                   {StepKind::Import, Text::StepImport},
                                   {StepKind::Restore, Text::StepRestore},
                                   {StepKind::Recover, Text::StepRecover},
-                                  {StepKind::TakeOver, Text::StepTakeOver}};
+                                  {StepKind::TakeOver, Text::StepTakeOver},
+                                  {StepKind::UsePanel, Text::StepUsePanel}};
 
 }  // namespace
 
@@ -30,6 +31,7 @@ QString StepText(const StepName& name) {
   for (const KindText& one : kindTexts) {
     if (one.kind != name.kind) continue;
     const QString pattern = Say(one.text);
+    if (name.element.empty() && name.count == 0) return pattern;  // of the panel alone
     return pattern.contains("%1") ? pattern.arg(what) : pattern + " (" + what + ')';
   }
   return what;

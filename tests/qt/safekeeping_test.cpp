@@ -7,9 +7,11 @@
 #include <iterator>
 
 #include "editor/notice_bar.h"
+#include "editor/step_text.h"
 #include "editor/versions_dialog.h"
 #include "editor_fixture.h"
 #include "files/file_error.h"
+#include "project/open_file.h"
 
 namespace plexel::testing {
 namespace {
@@ -104,6 +106,130 @@ TEST_F(Kept, LostWorkOfAProjectWhoseFileIsGoneStandsByItself) {
   EXPECT_TRUE(window.OfferLostWork());
   EXPECT_EQ(Element("F5").ButtonNotes(), "lost");
   EXPECT_TRUE(window.Document()->Modified());
+}
+
+TEST_F(Kept, LostWorkStaysWhereItIsWhenItCannotBeKeptAnew) {
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  for (const auto& entry : std::filesystem::directory_iterator(File("state") / "recovery")) {
+    const std::filesystem::path file = entry.path();
+    if (file.extension() != ".recovery" || file.stem() == "1-1") continue;
+    std::filesystem::remove(file);
+    std::filesystem::create_directories(file / "in the way");  // nothing can be written there any more
+    break;
+  }
+  AnswerNextBoxWith("Bring back");
+  EXPECT_TRUE(window.OfferLostWork());
+  EXPECT_EQ(Element("F5").ButtonNotes(), "lost");
+  EXPECT_TRUE(std::filesystem::exists(File("state") / "recovery" / "1-1.recovery"));
+  EXPECT_TRUE(Notice().Told().contains("kept safe")) << Notice().Told().toStdString();
+  EXPECT_FALSE(window.KeepWork());
+}
+
+TEST_F(Kept, LostWorkOfAProjectThatWasNeverSavedIsToldElementByElement) {
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  QString told;
+  AnswerNextBox([&](QMessageBox& box) { told = box.informativeText(); });
+  EXPECT_FALSE(window.OfferLostWork());
+  EXPECT_TRUE(told.contains("not been saved yet") && told.contains("(F5)")) << told.toStdString();
+}
+
+TEST_F(Kept, WhatLostWorkHoldsIsShownBeforeItIsDecided) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  ChangeNotes("F5", "lost");
+  LeaveLostWork();
+  QStringList row;
+  int asked = 0;
+  AnswerNextBox([&](QMessageBox& box) {
+    ++asked;
+    QTimer::singleShot(0, &window, [&] {
+      QWidget* const shown = QApplication::activeModalWidget();
+      const auto* const tree = shown->findChild<QTreeWidget*>();
+      ASSERT_NE(tree, nullptr);
+      for (int column = 0; column < 4; ++column) row.append(tree->topLevelItem(0)->text(column));
+      AnswerNextBox([&](QMessageBox& again) {
+        ++asked;
+        QTest::keyClick(&again, Qt::Key_Escape);
+      });
+      shown->close();
+    });
+    for (QAbstractButton* const button : box.buttons()) {
+      if (button->text().remove('&') == "Show the difference") button->click();
+    }
+  });
+  EXPECT_FALSE(window.OfferLostWork());
+  EXPECT_EQ(row, QStringList({"F5", "Notes", "(nothing)", "lost"}));
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(Kept, AProjectThatIsNotOpenedForLostWorkIsTold) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  window.TellNotOpened(QString::fromStdString(File("a.plexel").string()));
+  EXPECT_EQ(Notice().Told(), "");
+  window.TellNotOpened("/elsewhere/b.plexel");
+  EXPECT_TRUE(Notice().Told().startsWith("b.plexel was not opened")) << Notice().Told().toStdString();
+}
+
+TEST_F(Kept, AnotherEditorIsToldAsLongAsItIsThere) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  {
+    const OpenFile other(File("state") / "open", File("a.plexel"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Notice().Told().contains("another editor"); }, 5000));
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Notice().Told().isEmpty(); }, 5000));
+}
+
+/// A file whose panel has the same elements in another picture.
+class OtherPicture : public Kept {
+ protected:
+  void PutOtherPicture() {
+    Project project = ReadProject(File("a.plexel"));
+    const std::size_t place = project.panelText.find("Legend=ESC");
+    ASSERT_NE(place, std::string::npos);
+    project.panelText.replace(place, 10, "Legend=QUIT");
+    WriteProject(File("a.plexel"), project);
+  }
+  std::string Legend() { return window.Document()->ThePanel().Find("R1")->legend; }
+};
+
+TEST_F(OtherPicture, IsTakenWithTheirsAndTakenBack) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  PutOtherPicture();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  Choice("Take theirs")->click();
+  EXPECT_EQ(Legend(), "QUIT");
+  EXPECT_FALSE(window.isWindowModified());
+  window.Document()->Undo();
+  EXPECT_EQ(Legend(), "ESC");
+  EXPECT_TRUE(window.isWindowModified());
+}
+
+TEST_F(OtherPicture, IsAChangeWhenMineIsKept) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  QTest::qWait(400);
+  PutOtherPicture();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  Choice("Keep mine")->click();
+  EXPECT_EQ(Legend(), "ESC");
+  EXPECT_TRUE(window.isWindowModified());
+}
+
+TEST_F(OtherPicture, GivesWayToTheInstalledOneInAStep) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  PutOtherPicture();
+  ASSERT_TRUE(window.OpenProject(File("a.plexel")));
+  ChangeNotes("F5", "a step before");
+  ASSERT_NE(Choice("Use the installed one"), nullptr);
+  Choice("Use the installed one")->click();
+  EXPECT_EQ(Legend(), "ESC");
+  EXPECT_EQ(StepText(window.Document()->Steps().ToUndo().name), "use the installed panel");
+  EXPECT_FALSE(Notice().isVisible());
+  window.Document()->Undo();
+  EXPECT_EQ(Legend(), "QUIT");
+  window.Document()->Undo();
+  EXPECT_EQ(Element("F5").ButtonNotes(), "");
 }
 
 TEST_F(Kept, LostWorkThatIsLeftForLaterIsOfferedAgain) {
