@@ -12,6 +12,7 @@ import tests_keyboard
 import tests_pictures
 import tests_safekeeping
 import tests_special
+import tests_trial
 import tests_virtual
 import tests_walk
 import tests_wizard
@@ -37,12 +38,14 @@ TESTS = {
     "interrupted": tests_safekeeping.interrupted,
     "hung-up": tests_safekeeping.hung_up,
     "session-ended": tests_safekeeping.session_ended,
+    "versions": tests_safekeeping.versions,
     "changed-by-another": tests_safekeeping.changed_by_another,
     "problems": tests_work.problems,
     "overview": tests_work.overview,
     "inspector": tests_work.inspector,
     "many-keys": tests_work.many_keys,
     "copying": tests_work.copying,
+    "trial": tests_trial.tried,
     "virtual-panel": tests_virtual.reaches_the_program_in_front,
     "virtual-panel-killed": tests_virtual.killed,
     "virtual-panel-terminated": tests_virtual.terminated,

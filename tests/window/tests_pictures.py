@@ -1,7 +1,7 @@
 """Pictures of the editor and of every dialog, for looking at. What can be said of them without eyes is tested: each
 window has the size of its form, lies on the screen whole, and shows something."""
 
-from desktop import Desktop, Failed, wait_for
+from desktop import Desktop, Failed, Window, wait_for
 from editor import MAIN, Dialog, Editor
 from keys import KEYS, press
 from project import write_empty_project
@@ -139,6 +139,25 @@ class Album:
         press(self.desktop, "LeftCtrl+q")
         self.own_window("question-save", None)
 
+    def parts(self):
+        """What stands beside and below the picture, the virtual panel, and the saved versions."""
+        for name, keys in (("overview", "LeftCtrl+f"), ("trial", "F5")):
+            press(self.desktop, keys)
+            self.take(name, self.desktop.window(MAIN))
+        press(self.desktop, "Esc LeftShift+F5")
+        title = self.editor.texts[21122].split("%1")[0]
+        panel = wait_for("the virtual panel", lambda: next(
+            (one for one in self.desktop.windows() if one["title"].startswith(title)), None))
+        self.editor.pause(0.3)
+        panel = next(one for one in self.desktop.windows() if one["id"] == panel["id"])
+        self.take("virtual-panel", Window(panel["id"], *panel["client"]))
+        self.desktop.do(f"close {panel['id']}")
+        press(self.desktop, {"English": "LeftAlt+f v", "German": "LeftAlt+d v"}[self.language])
+        versions = self.desktop.window(self.editor.texts[20821].split("%1")[0])
+        self.take("versions", versions)
+        press(self.desktop, "Esc")
+        self.desktop.gone(versions)
+
     def own_dialogs(self):
         press(self.desktop, "LeftCtrl+n")
         self.own_window("new", 20200)
@@ -160,6 +179,7 @@ class Album:
         self.take(name, window)
         press(self.desktop, "Esc")
         self.desktop.gone(window)
+        self.desktop.window(MAIN)  # has the keyboard again
 
 
 def album(tools, folder, language, scale):
@@ -176,6 +196,7 @@ def album(tools, folder, language, scale):
         pictures.start("Large", {"UseWizard": 1})
         pictures.wizard()
         pictures.questions()
+        pictures.parts()
         pictures.editor.leave_changed()
 
 

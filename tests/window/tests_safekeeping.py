@@ -57,6 +57,26 @@ def killed(tools, folder):
         editor.quit()
 
 
+def versions(tools, folder):
+    """The empty project that was saved over is looked at, brought back in one step, and taken back."""
+    for language, menu in (("English", "LeftAlt+f v"), ("German", "LeftAlt+d v")):
+        own = folder / language
+        own.mkdir()
+        with Desktop(tools, own) as desktop:
+            editor = recorded(desktop, tools, own, language=language, settings={})
+            compare(editor.save(), PLAN)
+            press(desktop, menu)
+            dialog = desktop.window(editor.texts[20821].split("%1")[0])
+            press(desktop, "Down")
+            desktop.picture(tools.pictures / f"versions-{language}.png", dialog)
+            press(desktop, "Return")
+            desktop.gone(dialog)
+            compare(editor.save(), {})
+            press(desktop, "LeftCtrl+z")
+            compare(editor.save(), PLAN)
+            editor.quit()
+
+
 def kept_and_brought_back(desktop, tools, editor):
     """Unsaved work of an editor that is gone stands on the disk, and the next one brings it back."""
     compare(read_project(editor.project), {})
