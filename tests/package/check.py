@@ -217,7 +217,7 @@ class Package:
         with open(os.path.join(folder, "CMakeLists.txt"), "w", encoding="utf-8") as file:
             file.write("cmake_minimum_required(VERSION 3.25)\nproject(Find LANGUAGES CXX)\nfind_package(Plexel %s)\n"
                        'message("plexel ${Plexel_plexel_FOUND}, files ${Plexel_files_FOUND}, qt ${Plexel_qt_FOUND}")\n' % words)
-        return run("cmake", "-S", folder, "-B", os.path.join(folder, "build"), "-DCMAKE_PREFIX_PATH=" + prefix,
+        return run("cmake", "-S", folder, "-B", os.path.join(folder, "build"), "-G", "Ninja", "-DCMAKE_PREFIX_PATH=" + prefix,
                    "-DCMAKE_CXX_COMPILER=" + self.compiler, fails=fails)
 
     def components(self):
