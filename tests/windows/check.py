@@ -13,6 +13,7 @@ import unittest
 import zipfile
 
 from control import Control
+from host import Host, HostOnScreen
 from native import Native
 from wine import Wine, runs_32_bit
 
@@ -24,9 +25,9 @@ import expectations  # noqa: E402
 BUILD = pathlib.Path(sys.argv.pop(1)).resolve()
 BITS = {"x64": ("pei-x86-64", "x86_64-w64-mingw32-objdump"), "x86": ("pei-i386", "i686-w64-mingw32-objdump")}
 # Libraries that every Windows has had since its tenth version.
-SYSTEM = {"advapi32.dll", "comctl32.dll", "gdi32.dll", "gdiplus.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleacc.dll",
+SYSTEM = {"advapi32.dll", "comctl32.dll", "comdlg32.dll", "gdi32.dll", "gdiplus.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleacc.dll",
           "oleaut32.dll", "shell32.dll", "user32.dll"}
-FILES = ("plexel.exe", "PlexelBaseElement.ocx")
+FILES = ("plexel.exe", "plexel-host.exe", "PlexelBaseElement.ocx")
 EXPORTS = ["DllCanUnloadNow", "DllGetClassObject", "DllInstall", "DllRegisterServer", "DllUnregisterServer"]
 
 
@@ -259,6 +260,20 @@ class Control64(Control, unittest.TestCase):
     @classmethod
     def tearDownClass(cls):
         cls.wine.close()
+
+
+class Host64(HostOnScreen, unittest.TestCase):
+    bits = "x64"
+    build = BUILD
+    data = ROOT / "data"
+    pictures = BUILD / "pictures"
+
+
+@unittest.skipUnless(runs_32_bit(), "this system's Wine has no part for programs of 32 bit")
+class Host32(Host, unittest.TestCase):
+    bits = "x86"
+    build = BUILD
+    data = ROOT / "data"
 
 
 class Run64(Run, unittest.TestCase):
