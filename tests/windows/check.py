@@ -5,7 +5,6 @@ x64 and x86. Names of tests choose among them, as unittest understands them."""
 import pathlib
 import re
 import shutil
-import struct
 import subprocess
 import sys
 import tempfile
@@ -65,28 +64,6 @@ class Built(unittest.TestCase):
                 self.assertIn(f"\n[{name}]\n", "\n" + layouts, bits)
 
 
-class HelpFiles(unittest.TestCase):
-    """The help of every language, as the viewer of Windows finds it in one file."""
-
-    def test_every_topic_stands_in_them_and_is_found_by_its_number(self):
-        for bits in BITS:
-            for topics in sorted((ROOT / "data" / "Help").iterdir()):
-                with self.subTest(bits=bits, help=topics.name), tempfile.TemporaryDirectory() as folder:
-                    taken = pathlib.Path(folder)
-                    subprocess.run(["extract_chmLib", BUILD / bits / "data" / "Help" / f"{topics.name}.chm", taken],
-                                   capture_output=True, check=True)
-                    strings = (taken / "#STRINGS").read_bytes()
-                    numbers = struct.iter_unpack("<II", (taken / "#IVB").read_bytes()[4:])
-                    found = {number: strings[place:strings.index(0, place)].decode() for number, place in numbers}
-                    files = sorted(topics.glob("*.html"))
-                    self.assertGreater(len(files), 15)
-                    self.assertEqual(found, {int(file.stem): file.name for file in files})
-                    contents = (taken / "contents.hhc").read_text(encoding="cp1252")
-                    for file in files:
-                        self.assertEqual((taken / file.name).read_bytes(), file.read_bytes())
-                        self.assertIn(f'"{file.name}"', contents)
-
-
 class Packages(unittest.TestCase):
     """The archive and the set-up program of each bitness."""
 
@@ -113,6 +90,7 @@ class Packages(unittest.TestCase):
             self.assertEqual(held, {f"{name}/{file}": content for file, content in self.files(BUILD / bits).items()})
 
     def test_the_set_up_program_puts_all_of_it_up_and_takes_it_away_again(self):
+        control = r"HKCR\PlexelBaseElement.ctlPlexelBaseElement"
         key = r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plexel64"
         wine = Wine(BUILD / "prefix-packages")
         self.addCleanup(wine.close)
@@ -125,11 +103,13 @@ class Packages(unittest.TestCase):
         self.assertEqual(put, self.files(BUILD / "x64"))
         told = wine.run("reg", "query", key).stdout.decode()
         self.assertIn("1.2.3", told)
+        self.assertEqual(wine.run("reg", "query", control).returncode, 0)
         (place / "data" / "mine.txt").write_text("the user's own")
         self.assertEqual(wine.run(r"C:\Program Files\Plexel\uninstall.exe", "/S").returncode, 0)
         wine.call(wine.server(), "-w")  # a copy of it goes on behind it
         self.assertEqual(self.files(place), {"data/mine.txt": b"the user's own"})
         self.assertNotEqual(wine.run("reg", "query", key).returncode, 0)
+        self.assertNotEqual(wine.run("reg", "query", control).returncode, 0)
         shutil.rmtree(place)
 
 

@@ -15,6 +15,7 @@ class Wine:
         self.environment.pop("DISPLAY", None)
         if not pathlib.Path(prefix, "system.reg").exists():
             self.call("wineboot", "-i")
+            self.call(self.server(), "-w")  # what it has started goes on behind it
 
     def call(self, *words):
         subprocess.run(words, env=self.environment, check=True, capture_output=True, timeout=300)
