@@ -193,7 +193,8 @@ class Package:
         messages = re.findall(r"^\| `([^@`][^`]*)` \|", text_of("docs/host.md").split("## Common mistakes")[1], re.MULTILINE)
         expect(len(messages) >= 8, "docs/host.md explains %d messages" % len(messages))
         sources = "".join(text_of(os.path.join(folder, name)) for room in ["src", "adapters", "cmake"]
-                          for folder, _, names in os.walk(os.path.join(SOURCE, room)) for name in names).replace('\\"', '"')
+                          for folder, _, names in os.walk(os.path.join(SOURCE, room)) for name in names
+                          if name.endswith((".h", ".cpp", ".in", ".cmake"))).replace('\\"', '"')
         for message in messages:
             for piece in filter(None, message.split("…")):
                 expect(piece in sources, "nothing says: " + piece)
