@@ -2,9 +2,9 @@
 
 #include "files/project_file.h"
 #include "files/system_files.h"
-#include "files/temporary_directory.h"
 #include "program_run.h"
 #include "world/fault_walk.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -3,8 +3,8 @@
 
 #include "cli/json.h"
 #include "files/data_directory.h"
-#include "files/temporary_directory.h"
 #include "program_run.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

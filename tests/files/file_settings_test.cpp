@@ -7,7 +7,7 @@
 #include "file_error_of.h"
 #include "files/text_lines.h"
 #include "platform/failure.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "files/data_directory.h"
 #include "files/file_error.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "files/data_directory.h"
 #include "reader_properties.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "files/data_directory.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -10,7 +10,7 @@
 #include "file_error_of.h"
 #include "files/data_directory.h"
 #include "files/file_error.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

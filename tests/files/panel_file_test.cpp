@@ -8,7 +8,7 @@
 #include "file_error_of.h"
 #include "files/data_directory.h"
 #include "files/file_capabilities.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "file_error_of.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

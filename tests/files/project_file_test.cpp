@@ -7,7 +7,7 @@
 #include "platform/failure.h"
 #include "sample_project.h"
 #include "services/code_page.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 #include "world/world.h"
 
 namespace plexel {

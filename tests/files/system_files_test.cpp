@@ -9,7 +9,7 @@
 #include <csignal>
 
 #include "file_error_of.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

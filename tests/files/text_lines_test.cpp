@@ -7,7 +7,7 @@
 
 #include "file_error_of.h"
 #include "files/system_files.h"
-#include "temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

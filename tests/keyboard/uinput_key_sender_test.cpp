@@ -8,10 +8,11 @@
 
 #include <cerrno>
 #include <cstdarg>
-#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
+
+#include "world/temporary_directory.h"
 
 namespace plexel::testing {
 namespace {
@@ -43,9 +44,6 @@ struct Kernel {
 
 class KernelKeys : public ::testing::Test {
  protected:
-  KernelKeys() { std::ofstream(device, std::ios::binary).flush(); }
-  ~KernelKeys() override { std::filesystem::remove(device); }
-
   std::vector<input_event> Written() {
     std::ifstream file(device, std::ios::binary);
     std::vector<input_event> events;
@@ -53,7 +51,8 @@ class KernelKeys : public ::testing::Test {
     return events;
   }
 
-  std::filesystem::path device = std::filesystem::path(::testing::TempDir()) / "plexel-uinput";
+  TemporaryDirectory directory;
+  const std::filesystem::path device = directory.Put("uinput", "");
   Kernel kernel;
 };
 

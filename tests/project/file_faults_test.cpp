@@ -5,7 +5,6 @@
 
 #include "files/file_error.h"
 #include "files/system_files.h"
-#include "files/temporary_directory.h"
 #include "project/open_document.h"
 #include "project/open_file.h"
 #include "project/project_export.h"
@@ -13,6 +12,7 @@
 #include "project/recovery.h"
 #include "project/versions.h"
 #include "world/fault_walk.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -1,11 +1,10 @@
-#include <unistd.h>
-
 #include <algorithm>
 #include <fstream>
 
 #include "files/file_error.h"
 #include "project/open_document.h"
 #include "project/panel_document.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {
@@ -14,7 +13,6 @@ namespace {
 class FileOnDisk : public OpenDocument {
  protected:
   FileOnDisk() { document->Save(file); }
-  ~FileOnDisk() override { std::filesystem::remove(file); }
   /// Another program puts notes of F3 into the file.
   void PutNotes(const std::string& notes) {
     Project project = ReadProject(file);
@@ -26,8 +24,8 @@ class FileOnDisk : public OpenDocument {
   void Note(const std::string& id, const std::string& text) {
     Change({id.c_str()}, [&] { Element(id).ButtonNotes(text); });
   }
-  const std::filesystem::path file =
-      std::filesystem::temp_directory_path() / ("plexel-on-disk-" + std::to_string(::getpid()) + ".plexel");
+  TemporaryDirectory directory;
+  const std::filesystem::path file = directory / "panel.plexel";
 };
 
 TEST_F(FileOnDisk, IsTheSameAfterSavingAndAfterOpening) {

@@ -3,10 +3,10 @@
 #include <limits>
 
 #include "files/file_error.h"
-#include "files/temporary_directory.h"
 #include "project/difference.h"
 #include "project/open_document.h"
 #include "project/recovery.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -1,9 +1,8 @@
 #include "project/history.h"
 
-#include <unistd.h>
-
 #include "project/open_document.h"
 #include "services/setting_table.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {
@@ -145,12 +144,11 @@ TEST_F(Undo, TheListenersHearWhichPlacesChanged) {
 class Modified : public OpenDocument {
  protected:
   Modified() { document->Save(file); }
-  ~Modified() override { std::filesystem::remove(file); }
   void Note(const std::string& text) {
     Change({"F3"}, [&] { Element("F3").ButtonNotes(text); });
   }
-  const std::filesystem::path file =
-      std::filesystem::temp_directory_path() / ("plexel-modified-" + std::to_string(::getpid()) + ".plexel");
+  TemporaryDirectory directory;
+  const std::filesystem::path file = directory / "panel.plexel";
 };
 
 TEST_F(Modified, AStepThatIsTakenBackIsNoChange) {

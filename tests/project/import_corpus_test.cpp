@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "files/data_directory.h"
-#include "files/temporary_directory.h"
 #include "import_properties.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

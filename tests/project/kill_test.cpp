@@ -11,10 +11,10 @@
 
 #include "files/file_error.h"
 #include "files/system_files.h"
-#include "files/temporary_directory.h"
 #include "project/open_document.h"
 #include "project/recovery.h"
 #include "project/versions.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

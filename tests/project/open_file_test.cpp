@@ -7,7 +7,7 @@
 #include <fstream>
 #include <memory>
 
-#include "files/temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -8,8 +8,8 @@
 #include <iterator>
 
 #include "files/file_error.h"
-#include "files/temporary_directory.h"
 #include "project/open_document.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

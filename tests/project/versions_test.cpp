@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "files/temporary_directory.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {

@@ -54,6 +54,9 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 STANDARD = re.compile(r"^[a-z_]+$")
 # A message box that guesses whether its texts are mark-up; qt/plain_box.h has the one that does not.
 GUESSING = re.compile(r"\bQMessageBox (\w+)[({;]|\bQMessageBox::(warning|critical|information|question|about)\(|new QMessageBox\b")
+# The folder that all tests of a machine share; a name in it that is not made for one test is another test's as well.
+SHARED_PLACE = re.compile(r"\btemp_directory_path\(|\bTempDir\(|QDir::temp(Path)?\(")
+MAKES_PLACES = ("tests/world/temporary_directory.h", "tests/win32/", "tests/host/")
 UNFINISHED = re.compile(r"\bTODO\b|\bFIXME\b|\bXXX\b|GTEST_SKIP|DISABLED_|QSKIP")
 
 
@@ -228,6 +231,14 @@ def check_unfinished(tree, problems):
                 problems.append("%s:%d: %s" % (file, number, line.strip()))
 
 
+def check_places(tree, problems):
+    for file in tree.proof():
+        if file.startswith("tests/") and not file.startswith(MAKES_PLACES):
+            for number, line in enumerate(tree.texts[file].splitlines(), 1):
+                if SHARED_PLACE.search(line):
+                    problems.append("%s:%d: a place that other tests share: %s" % (file, number, line.strip()))
+
+
 def check_text(root):
     """All that the texts of a tree tell, without a compiler."""
     tree = Tree(root)
@@ -236,6 +247,7 @@ def check_text(root):
     graph.update(check_proof(tree, problems))
     check_cycles(graph, problems)
     check_unfinished(tree, problems)
+    check_places(tree, problems)
     return tree, problems
 
 

@@ -158,6 +158,19 @@ class Texts(Trees):
         self.assert_fails("apps/editor/a.cpp:2:")
 
 
+class Places(Trees):
+    def test_a_test_has_places_of_its_own(self):
+        self.write("tests/files/a_test.cpp", "TemporaryDirectory directory;")
+        self.write("tests/world/temporary_directory.h", "std::filesystem::temp_directory_path() / pattern")
+        self.write("bench/a.cpp", "std::filesystem::temp_directory_path()")
+        self.assertEqual(self.problems(), [])
+
+    def test_a_name_in_the_folder_of_all_fails(self):
+        for words in ("testing::TempDir() / name", "std::filesystem::temp_directory_path()", "QDir::tempPath()"):
+            self.write("tests/files/a_test.cpp", words)
+            self.assert_fails("a place that other tests share")
+
+
 class HeadersAlone(Trees):
     def build(self, room_source, flags):
         command = "%s %s -I%s/src -I%s/adapters -include %s/src/all.h -c x.cpp" % (COMPILER, flags, self.root, self.root,
