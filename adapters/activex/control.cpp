@@ -63,8 +63,23 @@ void Control::End() noexcept {
     if (element_ != nullptr) element_->UserControl_Terminate();
     return S_OK;
   });
-  if (element_ != nullptr) element_->Detach();
+  if (element_ != nullptr) LetGo(*element_);
   Site(nullptr);
+}
+
+/// The component may keep an element that has been worked on, but it keeps nothing of the host's with it.
+void Control::LetGo(Element& element) noexcept {
+  element.Detach();
+  (void)Guarded("ParentWindow", [&] {
+    element.ParentWindow(nullptr);
+    return S_OK;
+  });
+}
+
+void Control::LetGoOfFormer() noexcept {
+  const auto former = std::move(former_);
+  former_.clear();
+  for (const auto& element : former) LetGo(*element);
 }
 
 void Control::CloseDialogs() noexcept {
@@ -84,9 +99,10 @@ void Control::Read(const PropertyBag& bag) { Take(parts_->TheComponent().Read({}
 void Control::Take(std::shared_ptr<Element> element) {
   if (element_ != nullptr) {
     element_->Detach();
-    if (entries_ > 0) former_.push_back(std::move(element_));
+    former_.push_back(std::move(element_));
   }
   element_ = std::move(element);
+  if (entries_ == 0) LetGoOfFormer();
 }
 
 void Control::Site(IOleClientSite* site) {

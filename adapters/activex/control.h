@@ -110,7 +110,7 @@ class Control final : public IUnknown, private module::Use {
     ~Entry() {
       if (control_.isSeen_) control_.ShowChanges();
       control_.parts_->Services().Ask(before_);
-      if (--control_.entries_ == 0 && !control_.former_.empty()) control_.former_.clear();
+      if (--control_.entries_ == 0 && !control_.former_.empty()) control_.LetGoOfFormer();
       if (control_.holds_ > control_.entries_ + 1) {
         --control_.holds_;
       } else {
@@ -135,6 +135,8 @@ class Control final : public IUnknown, private module::Use {
   /// The element says farewell to its host.
   void End() noexcept;
   void Take(std::shared_ptr<Element> element);
+  static void LetGo(Element& element) noexcept;
+  void LetGoOfFormer() noexcept;
   /// Tells the container of a new size, and whoever shows the control that it looks otherwise.
   void ShowChanges() noexcept;
   void TellSize();

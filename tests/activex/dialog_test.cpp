@@ -1,54 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <memory>
 
 #include "activex/container.h"
 #include "activex/library.h"
+#include "activex/open_dialog.h"
 #include "activex/sinks.h"
 #include "activex/text.h"
 
 namespace plexel::activex {
 
 namespace {
-
-std::function<void()> onTimer;
-
-void CALLBACK TimerProcedure(HWND, UINT, UINT_PTR timer, DWORD) {
-  KillTimer(nullptr, timer);
-  std::exchange(onTimer, nullptr)();
-}
-
-/// Does something from within the message loop of whatever is open.
-void Soon(std::function<void()> act) {
-  constexpr UINT Milliseconds = 300;
-  onTimer = std::move(act);
-  SetTimer(nullptr, 0, Milliseconds, TimerProcedure);
-}
-
-/// The dialog over a window, with its title.
-HWND DialogOver(HWND owner) {
-  HWND found = nullptr;
-  while ((found = FindWindowExW(nullptr, found, nullptr, nullptr)) != nullptr) {
-    if (GetWindow(found, GW_OWNER) == owner && IsWindowVisible(found) != FALSE) return found;
-  }
-  return nullptr;
-}
-
-std::wstring TitleOf(HWND window) {
-  wchar_t title[200] = {};
-  GetWindowTextW(window, title, 200);
-  return title;
-}
-
-/// A service of texts, each "text" with its number.
-class Language : public TestObject<NoNames<IPlexelLanguage>> {
- public:
-  HRESULT STDMETHODCALLTYPE GetText(LONG Number, BSTR* given) override {
-    *given = SysAllocString((L"text " + std::to_wstring(Number)).c_str());
-    return result;
-  }
-  HRESULT result = S_OK;
-};
 
 struct Dialogs : testing::Test {
   Dialogs() {
@@ -113,21 +75,6 @@ TEST_F(Dialogs, ReturnOpensOneWhileTheFocusIsShown) {
   EXPECT_EQ(info.dwFlags, DWORD{CTRLINFO_EATS_RETURN});
 }
 
-TEST_F(Dialogs, SpeakTheHostsLanguage) {
-  Language language;
-  container.services[NameOf(__uuidof(IPlexelLanguage))] = &language;
-  container.Object()->SetClientSite(&container);
-  std::wstring title;
-  Soon([&] {
-    title = TitleOf(DialogOver(container.window));
-    SendMessageW(DialogOver(container.window), WM_CLOSE, 0, 0);
-  });
-  EXPECT_EQ(control->OpenConfigurationDialog(), S_OK);
-  EXPECT_EQ(title.substr(0, 5), L"text ") << std::string(title.begin(), title.end());
-  container.TakeOut();
-  EXPECT_EQ(language.holds, 0U);
-}
-
 TEST_F(Dialogs, CloseWhenTheHostLetsGoOfTheControl) {
   Soon([&] {
     events.reset();
@@ -163,6 +110,93 @@ TEST_F(Dialogs, TheHostMayLetGoWhenTheDialogHasClosed) {
   auto* const raw = control.Get();
   EXPECT_EQ(raw->OpenConfigurationDialog(), S_OK);
   EXPECT_FALSE(control);
+}
+
+TEST_F(Dialogs, TheHostMayLetGoInEachHandlerThatADialogCalls) {
+  const auto record = [](HWND dialog) { DoubleClickFirstCell(dialog); };
+  const auto stopRecording = [](HWND dialog) {
+    DoubleClickFirstCell(dialog);
+    DoubleClickFirstCell(dialog);
+  };
+  const auto closeWhileRecording = [](HWND dialog) {
+    DoubleClickFirstCell(dialog);
+    CloseBox(dialog);
+  };
+  const auto store = [](HWND dialog) { Press(PartOf(dialog, L"Button", L"OK")); };
+  struct Way {
+    const wchar_t* event;  ///< the beginning of its line
+    std::function<void(HWND)> act;
+  };
+  const std::vector<Way> ways = {{L"DirectInputStatusChanged|11:-1", record},
+                                 {L"DirectInputStatusChanged|11:0", stopRecording},
+                                 {L"DirectInputStatusChanged|11:0", closeWhileRecording},
+                                 {L"ProjectModified", store},
+                                 {L"SendKeyDefinition", store},
+                                 {L"notice", store}};
+  // The host lets go of the control, closes it first, or destroys its own window.
+  for (int leaving = 0; leaving < 3; ++leaving) {
+    for (const Way& way : ways) {
+      Container site;
+      EventSink heard;
+      NoticeSink notices;
+      auto element = Library::Instance().Create();
+      auto* const raw = element.Get();
+      site.Place(raw);
+      raw->putref_ParentWindow(static_cast<IDispatch*>(static_cast<NoNames<IDispatch>*>(&site)));
+      raw->put_ElementType(::RectLed);
+      auto connection = std::make_unique<Connection>(raw, __uuidof(__ctlPlexelBaseElement), &heard);
+      auto changes = std::make_unique<Connection>(raw, __uuidof(IPropertyNotifySink), &notices);
+      int told = 0;
+      const auto leave = [&] {
+        if (told++ > 0) return;
+        if (leaving == 2) DestroyWindow(site.window);
+        if (leaving != 0) site.TakeOut();
+        connection.reset();
+        changes.reset();
+        if (leaving == 0) site.TakeOut();
+        element = nullptr;
+      };
+      const std::wstring event = way.event;
+      if (event == L"notice") {
+        notices.onChanged = [&](DISPID) { leave(); };
+      } else {
+        heard.onEvent = [&](DISPID) {
+          if (heard.heard.back().rfind(event, 0) == 0) leave();
+        };
+      }
+      Soon([&] { way.act(DialogOver(site.window)); });
+      EXPECT_EQ(raw->OpenConfigurationDialog(), S_OK);
+      const std::string name(event.begin(), event.end());
+      EXPECT_GE(told, 1) << name << " " << leaving;
+      EXPECT_FALSE(element) << name << " " << leaving;
+      EXPECT_EQ(DialogOver(site.window), nullptr) << name << " " << leaving;
+      EXPECT_TRUE(leaving == 2 || IsWindowEnabled(site.window) != FALSE) << name << " " << leaving;
+      EXPECT_EQ(site.holds, 0U) << name << " " << leaving;
+      EXPECT_EQ(heard.holds + notices.holds, 0U) << name << " " << leaving;
+    }
+  }
+}
+
+TEST_F(Dialogs, TheWizardsLastPageMayLoseItsHostToo) {
+  control->put_WizardOn(VARIANT_TRUE);
+  sink.onEvent = [&](DISPID) {
+    if (sink.heard.back() != L"ProjectModified") return;
+    events.reset();
+    container.TakeOut();
+    control = nullptr;
+  };
+  // A page opens the next one within the press.
+  Soon([&] {
+    Soon([&] {
+      Soon([&] { Press(PartOf(GetActiveWindow(), L"Button", L"OK")); });
+      Press(PartOf(GetActiveWindow(), L"Button", L"Next"));
+    });
+    Press(PartOf(GetActiveWindow(), L"Button", L"Next"));
+  });
+  auto* const raw = control.Get();
+  EXPECT_EQ(raw->OpenConfigurationDialog(), S_OK);
+  EXPECT_FALSE(control);
+  EXPECT_EQ(DialogOver(container.window), nullptr);
 }
 
 }  // namespace plexel::activex
