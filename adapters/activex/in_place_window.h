@@ -52,6 +52,7 @@ class InPlaceWindow {
   void PaintOn(HDC device);
   void PaintGround(HDC device, const RECT& area);
   void Focus(bool got);
+  void MouseDown();
   void MouseUp(std::int16_t button, WPARAM keys, LPARAM place);
 
   Control& control_;

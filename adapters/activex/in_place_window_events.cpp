@@ -113,7 +113,7 @@ LRESULT InPlaceWindow::Handle(UINT message, WPARAM wide, LPARAM wider, bool& kno
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
-      SetCapture(window_);
+      MouseDown();
       return 0;
     case WM_LBUTTONUP:
       MouseUp(Left, wide, wider);
@@ -127,13 +127,19 @@ LRESULT InPlaceWindow::Handle(UINT message, WPARAM wide, LPARAM wider, bool& kno
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDBLCLK:
-      SetCapture(window_);
+      MouseDown();
       control_.TheElement().UserControl_DblClick();
       return 0;
     default:
       known = false;
       return 0;
   }
+}
+
+/// What is pressed gets the keys, unless the container keeps them.
+void InPlaceWindow::MouseDown() {
+  if (const auto site = Site(); site && GetFocus() != window_) (void)ActivateInterface(*site.Get());
+  if (window_ != nullptr) SetCapture(window_);  // the container may have taken it away
 }
 
 void InPlaceWindow::MouseUp(std::int16_t button, WPARAM keys, LPARAM place) {

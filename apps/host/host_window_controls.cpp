@@ -10,7 +10,6 @@ namespace plexel::host {
 void HostWindow::Heard(const std::string& place, const ElementEvent& event) {
   events_->Add(place + ": " + event.call);
   if (event.number == ProjectModified) Modified(true);
-  if (event.number == MouseClicked) TakeKeys(PlaceOf(place));
   // The control is in the middle of its event: its dialog is opened behind it.
   if (event.number == MouseDblClicked) PostMessageW(Handle(), OpenMessage, PlaceOf(place), 0);
 }
@@ -32,7 +31,10 @@ void HostWindow::GotKeys(const std::string& name) {
   }
   current_ = place;
   Check(places[place].control->Element().put_FocusVisible(VARIANT_TRUE), "FocusVisible");
-  panel_->Reveal(places[place].control->Place());
+  // What the mouse presses is in sight, and stays under it.
+  if (GetKeyState(VK_LBUTTON) >= 0 && GetKeyState(VK_RBUTTON) >= 0 && GetKeyState(VK_MBUTTON) >= 0) {
+    panel_->Reveal(places[place].control->Place());
+  }
 }
 
 bool HostWindow::OfferedKey(const std::string& name, const MSG& message) {

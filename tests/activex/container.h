@@ -40,7 +40,7 @@ class Container : public TestObject<IOleClientSite, IOleInPlaceSite, IOleControl
   /// Called at each call.
   std::function<void(const std::string&)> onCall;
   /// What calls answer that may fail.
-  HRESULT canActivate = S_OK, context = S_OK;
+  HRESULT canActivate = S_OK, context = S_OK, canTakeKeys = S_OK;
   HWND window = nullptr;
   RECT place = {10, 20, 110, 70};
 
@@ -65,7 +65,9 @@ class Container : public TestObject<IOleClientSite, IOleInPlaceSite, IOleControl
   HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(WINBOOL) override { return S_OK; }
   HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override;
   HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return Called("OnInPlaceActivate"); }
-  HRESULT STDMETHODCALLTYPE OnUIActivate() override { return Called("OnUIActivate"); }
+  HRESULT STDMETHODCALLTYPE OnUIActivate() override {
+    return FAILED(canTakeKeys) ? canTakeKeys : Called("OnUIActivate");
+  }
   HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT position,
                                              LPRECT clip, LPOLEINPLACEFRAMEINFO info) override;
   HRESULT STDMETHODCALLTYPE Scroll(SIZE) override { return S_OK; }

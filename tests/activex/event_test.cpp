@@ -47,7 +47,7 @@ TEST_F(Events, ATextThatIsAValueNamesNoPropertyUnlessItIsAName) {
 
 TEST_F(Events, TheMouseIsToldInTwips) {
   Container container;
-  ASSERT_EQ(container.Place(control.Get()), S_OK);
+  ASSERT_EQ(container.Place(control.Get(), true), S_OK);
   const Connection connection(control.Get(), __uuidof(__ctlPlexelBaseElement), &sink);
   ASSERT_EQ(connection.Result(), S_OK);
   const HWND window = container.ControlWindow();
@@ -60,6 +60,45 @@ TEST_F(Events, TheMouseIsToldInTwips) {
   SendMessageW(window, WM_LBUTTONUP, 0, 0);
   EXPECT_EQ(sink.heard, (Lines{L"MouseClicked|2:1|2:2|4:45|4:75", L"MouseClicked|2:2|2:1|4:60|4:-30",
                                L"MouseClicked|2:4|2:0|4:0|4:0", L"MouseDblClicked", L"MouseClicked|2:1|2:0|4:0|4:0"}));
+}
+
+TEST_F(Events, APressOfAnyButtonGivesTheKeys) {
+  for (const UINT press : {WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_MBUTTONDOWN}) {
+    Container container;
+    const auto pressed = Library::Instance().Create();
+    ASSERT_EQ(container.Place(pressed.Get()), S_OK);
+    SetFocus(container.window);
+    container.calls.clear();
+    const Connection connection(pressed.Get(), __uuidof(__ctlPlexelBaseElement), &sink);
+    sink.heard.clear();
+    SendMessageW(container.ControlWindow(), press, 0, 0);
+    EXPECT_EQ(GetFocus(), container.ControlWindow());
+    EXPECT_TRUE(container.active);
+    EXPECT_EQ(container.calls, (std::vector<std::string>{"OnUIActivate", "SetActiveObject", "OnFocus"}));
+    ASSERT_EQ(sink.heard.size(), 1U);
+    EXPECT_EQ(sink.heard[0].substr(0, 18), L"SendKeyDefinition|");
+    // Another press changes nothing of that.
+    SendMessageW(container.ControlWindow(), press, 0, 0);
+    EXPECT_EQ(sink.heard.size(), 1U);
+    SetFocus(container.window);
+    SendMessageW(container.ControlWindow(), press, 0, 0);
+    EXPECT_EQ(GetFocus(), container.ControlWindow());
+    EXPECT_EQ(sink.heard.size(), 2U);
+    ReleaseCapture();
+  }
+}
+
+TEST_F(Events, APressGivesNoKeysToAControlWhoseContainerKeepsThem) {
+  Container container;
+  container.canTakeKeys = E_ACCESSDENIED;
+  ASSERT_EQ(container.Place(control.Get()), S_OK);
+  const Connection connection(control.Get(), __uuidof(__ctlPlexelBaseElement), &sink);
+  SetFocus(container.window);
+  SendMessageW(container.ControlWindow(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+  SendMessageW(container.ControlWindow(), WM_LBUTTONUP, 0, 0);
+  EXPECT_EQ(GetFocus(), container.window);
+  EXPECT_FALSE(container.active);
+  EXPECT_EQ(sink.heard, Lines{L"MouseClicked|2:1|2:0|4:0|4:0"});
 }
 
 TEST_F(Events, TheFocusSendsTheDefinition) {
@@ -107,7 +146,7 @@ TEST_F(Events, ReachEverySinkAndNoneThatHasGone) {
 
 TEST_F(Events, AFailingHandlerReachesNoCaller) {
   Container container;
-  container.Place(control.Get());
+  container.Place(control.Get(), true);
   const Connection connection(control.Get(), __uuidof(__ctlPlexelBaseElement), &sink);
   sink.answer = DISP_E_EXCEPTION;
   SendMessageW(container.ControlWindow(), WM_LBUTTONUP, 0, 0);
