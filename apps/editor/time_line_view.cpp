@@ -12,8 +12,8 @@ namespace plexel {
 
 namespace {
 
-constexpr int ColumnWidth = 22, RowHeight = 20, Side = 6;
-constexpr int WordWidth = 30;  // less has room for a sign alone
+constexpr int ColumnWidth = 22, RowHeight = 20, Side = 6, WordSide = 2;
+constexpr int MostWord = 120;  // a longer word is shown in part
 
 /// A triangle that points down or up in a cell.
 void DrawTriangle(QPainter& painter, const QRectF& cell, bool down, bool filled) {
@@ -60,19 +60,40 @@ TimeLineView::TimeLineView(QWidget* parent) : QAbstractScrollArea(parent) {
 void TimeLineView::Show(std::vector<Stretch> stretches, std::vector<Row> rows) {
   stretches_ = std::move(stretches);
   rows_ = std::move(rows);
-  nameWidth_ = columns_ = 0;
+  nameWidth_ = 0;
   for (const Row& row : rows_) nameWidth_ = std::max(nameWidth_, fontMetrics().horizontalAdvance(row.name) + 2 * Side);
-  for (const Stretch& stretch : stretches_) columns_ += static_cast<int>(stretch.events);
+  MeasureColumns();
   MeasureBars();
   horizontalScrollBar()->setValue(horizontalScrollBar()->maximum());
   verticalScrollBar()->setValue(verticalScrollBar()->maximum());
   viewport()->update();
 }
 
+void TimeLineView::MeasureColumns() {
+  edges_ = {0};
+  for (const Stretch& stretch : stretches_) {
+    const int left = edges_.back(), events = static_cast<int>(stretch.events);
+    const int word = std::min(fontMetrics().horizontalAdvance(stretch.word), MostWord) + 2 * WordSide;
+    const int width = std::max(events * ColumnWidth, word);
+    for (int event = 1; event <= events; ++event) edges_.push_back(left + width * event / events);
+  }
+}
+
+std::vector<QString> TimeLineView::Words() const {
+  std::vector<QString> words;
+  std::size_t event = 0;
+  for (const Stretch& stretch : stretches_) {
+    const int room = edges_[event + stretch.events] - edges_[event] - 2 * WordSide;
+    words.push_back(fontMetrics().elidedText(stretch.word, Qt::ElideRight, room));
+    event += stretch.events;
+  }
+  return words;
+}
+
 void TimeLineView::MeasureBars() {
   const int width = viewport()->width() - nameWidth_, height = viewport()->height() - RowHeight;
   horizontalScrollBar()->setPageStep(width);
-  horizontalScrollBar()->setRange(0, std::max(0, columns_ * ColumnWidth - width));
+  horizontalScrollBar()->setRange(0, std::max(0, edges_.back() - width));
   verticalScrollBar()->setPageStep(height);
   verticalScrollBar()->setRange(0, std::max(0, static_cast<int>(rows_.size()) * RowHeight - height));
 }
@@ -89,25 +110,23 @@ void TimeLineView::paintEvent(QPaintEvent*) {
   const int left = nameWidth_ - horizontalScrollBar()->value(), top = RowHeight - verticalScrollBar()->value();
   const int bottom = top + static_cast<int>(rows_.size()) * RowHeight;
   painter.setClipRect(nameWidth_, 0, viewport()->width(), viewport()->height());
-  int x = left;
-  for (const Stretch& stretch : stretches_) {
-    const QRect head(x, 0, static_cast<int>(stretch.events) * ColumnWidth, RowHeight);
+  const std::vector<QString> words = Words();
+  std::size_t first = 0;
+  for (std::size_t stretch = 0; stretch < words.size(); ++stretch) {
+    const std::size_t next = first + stretches_[stretch].events;
+    const QRect head(left + edges_[first], 0, edges_[next] - edges_[first], RowHeight);
     painter.setPen(ink);
-    const int room = head.width() - 2;
-    const bool fits = fontMetrics().horizontalAdvance(stretch.word) <= room;
-    const QString word =
-        fits || room > WordWidth ? fontMetrics().elidedText(stretch.word, Qt::ElideRight, room) : stretch.word.left(1);
-    painter.drawText(head.adjusted(2, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, word);
+    painter.drawText(head.adjusted(WordSide, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, words[stretch]);
     painter.setPen(line);
     painter.drawLine(head.left(), 0, head.left(), bottom);
-    x = head.right() + 1;
+    first = next;
   }
   painter.setClipRect(0, RowHeight, viewport()->width(), viewport()->height());
   for (std::size_t row = 0; row < rows_.size(); ++row) {
     const int y = top + static_cast<int>(row) * RowHeight;
     const QColor colour = rows_[row].stays ? TrialLayer::LeftDownColour : TrialLayer::HeldColour;
     for (std::size_t event = 0; event < rows_[row].marks.size(); ++event) {
-      const QRectF cell(left + static_cast<int>(event) * ColumnWidth, y, ColumnWidth, RowHeight);
+      const QRectF cell(left + edges_[event], y, edges_[event + 1] - edges_[event], RowHeight);
       if (cell.right() > nameWidth_) DrawMark(painter, cell, rows_[row].marks[event], colour);
     }
     const QRect name(0, y, nameWidth_, RowHeight);

@@ -128,6 +128,13 @@ TEST_F(TryingElements, PanelCommandsAreNamed) {
   EXPECT_EQ(Dock().TimeLine().Rows().front().name, PanelFunctionText(0xF1));
 }
 
+TEST_F(TryingElements, TheTimeLineNamesTheElementOfEachAct) {
+  Stroke("F1");
+  Stroke("F2");
+  EXPECT_EQ(Dock().TimeLine().Words(), (std::vector{QString::fromUtf8("\u25BC F1"), QString::fromUtf8("\u25B2 F1"),
+                                                    QString::fromUtf8("\u25BC F2")}));
+}
+
 TEST_F(TryingElements, WhatStaysDownIsToldAndLetGoOf) {
   Stroke("F2");
   EXPECT_EQ(Dock().DownText(), "Stays down: Shift Left");
