@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "files/file_error.h"
 #include "files/flat_bag.h"
 #include "services/element_types.h"
 
@@ -46,10 +47,24 @@ std::vector<SavedCodes> CodesOf(const udtTactisBaseElement_ScanCodeInfo& record)
 /// Gives the eight buffers of a record the saved codes; those that are not saved get the initial state.
 void PutCodes(const std::vector<SavedCodes>& codes, udtTactisBaseElement_ScanCodeInfo& record);
 
+/// A project of a format that only later versions of the program know.
+class NewerFormat : public FileError {
+ public:
+  /// `refusal` tells the place in the file.
+  NewerFormat(const FileError& refusal, std::uint32_t format) : FileError(refusal), format_(format) {}
+
+  /// The format of the file.
+  std::uint32_t Format() const { return format_; }
+
+ private:
+  std::uint32_t format_;
+};
+
 /// The text of a project in Windows-1252, see docs/formats.md. Failure (Overflow) for a text that makes a line longer
 /// than TextFile::LongestLine, Failure (Index) for a place that stands twice or a buffer that does not exist.
 std::string FormatProject(const Project& project);
-/// Reads it back. FileError with the line for anything that is no whole and proper project.
+/// Reads it back. FileError with the line for anything that is no whole and proper project, NewerFormat for one that
+/// only later versions know.
 Project ParseProject(const TextFile& file);
 
 /// The text that WriteProject would write to a file; FileError with its name for a project that cannot be written.

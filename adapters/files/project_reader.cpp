@@ -123,8 +123,10 @@ bool ProjectReader::CarriesPanel() const {
   if (value_ == PlainFormat || value_ == PanelFormat) return value_ == PanelFormat;
   if (const auto number = ParseNumber<std::uint32_t>(value_);
       number && std::to_string(*number) == value_ && *number > 2) {
-    Refuse("the format " + std::string(value_) + " is newer than this program, which knows " +
-           std::string(PlainFormat) + " and " + std::string(PanelFormat));
+    throw NewerFormat(
+        file_.Error(lines_.Number(), "the format " + std::string(value_) + " is newer than this program, which knows " +
+                                         std::string(PlainFormat) + " and " + std::string(PanelFormat)),
+        *number);
   }
   Refuse("the format \"" + Excerpt(value_) + "\" is unknown");
 }

@@ -196,8 +196,12 @@ bool MainWindow::NewProject(const std::string& panel) {
   }
 }
 
-/// Why a project cannot be opened: that its panel is missing in words of the user, all else as it was told.
+/// Why a project cannot be opened: that it is newer or that its panel is missing in words of the user, all else as it
+/// was told.
 QString MainWindow::WhyNotOpened(const std::filesystem::path& file, const std::exception& failure) {
+  if (const auto* const newer = dynamic_cast<const NewerFormat*>(&failure)) {
+    return Say(Text::FormatNewer).arg(ToQt(file.filename().string())).arg(newer->Format());
+  }
   try {
     const Project project = ReadProject(file);
     if (project.panelText.empty() && !std::filesystem::exists(PanelFile(Site().panelDirectory, project.panel))) {

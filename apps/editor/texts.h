@@ -100,6 +100,7 @@ enum class Text : std::int32_t {
   StoreNotKept = 20214,
   PanelMissing = 20215,
   NotOpenedForLostWork = 20216,
+  FormatNewer = 20217,
   NothingSelected = 20300,
   KindUnknown = 20310,
   KindLed = 20311,

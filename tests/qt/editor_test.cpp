@@ -446,6 +446,18 @@ TEST_F(Editor, AMissingPanelIsToldInWords) {
   EXPECT_FALSE(reason.contains('/')) << reason.toStdString();
 }
 
+TEST_F(Editor, ANewerFormatIsToldInWordsAndLeftAsItIs) {
+  std::ofstream(File("a.plexel")) << "[PROJECT]\nFormat=12\n";
+  for (const auto& [language, words] : {std::pair{"English", "newer version"}, std::pair{"German", "neuere Version"}}) {
+    surroundings.ChooseLanguage(language);
+    QString reason;
+    AnswerNextBox([&](QMessageBox& box) { reason = box.informativeText(); });
+    EXPECT_FALSE(window.OpenProject(File("a.plexel")));
+    EXPECT_TRUE(reason.contains(words) && reason.contains("a.plexel") && reason.contains("12")) << reason.toStdString();
+    EXPECT_FALSE(reason.contains('/')) << reason.toStdString();
+  }
+}
+
 TEST_F(Editor, EachLetterOfTheWindowStandsForOneMenuOrButton) {
   for (const char* const language : {"English", "German"}) {
     surroundings.ChooseLanguage(language);
