@@ -202,12 +202,28 @@ class Desktop:
     def free(self, *keys):
         self.do("key up " + " ".join(map(str, keys)))
 
-    def drag(self, start, end):
+    def drag(self, start, end, button=1):
         self.do(f"move {start[0]} {start[1]}")
-        self.do("button down 1")
+        self.do(f"button down {button}")
         self.do(f"move {(start[0] + end[0]) // 2} {(start[1] + end[1]) // 2}")
         self.do(f"move {end[0]} {end[1]}")
+        self.do(f"button up {button}")
+
+    def drop_file(self, file, window, place):
+        """Draws a file from a window of another program and drops it at a place of a window."""
+        self.do("open-window 0 0 60 40 Files")
+        files = self.window("Files")
+        self.do(f"move {files.left + 20} {files.top + 20}")
+        self.do("button down 1")
+        self.do(f"drop {window.id} {place[0]} {place[1]} {Path(file).as_uri()}")
         self.do("button up 1")
+        self.do(f"activate {window.id}")
+
+    def wheel(self, place, steps):
+        """Turns the wheel over a place, away from the user for more than nothing."""
+        self.do(f"move {place[0]} {place[1]}")
+        for _ in range(abs(steps)):
+            self.do(f"click {4 if steps > 0 else 5}")
 
     def type(self, text):
         """Types small letters and digits of a US keyboard."""

@@ -211,6 +211,12 @@ class Typist {
          desktop_.Open(Rest(words), box);
          return std::string();
        }},
+      {"drop",
+       [this](auto& words) {
+         const int window = Number(words), x = Number(words), y = Number(words);
+         desktop_.Drop(static_cast<xcb_window_t>(window), x, y, Rest(words));
+         return std::string();
+       }},
       {"activate",
        [this](auto& words) {
          desktop_.Activate(static_cast<xcb_window_t>(Number(words)));

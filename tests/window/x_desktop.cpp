@@ -2,9 +2,12 @@
 
 #include <xcb/xtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
+#include <thread>
 
 namespace plexel::window_test {
 
@@ -14,6 +17,8 @@ constexpr int FirstKeycode = 8;
 constexpr std::uint32_t LongestProperty = 4096;
 /// Who asks the window manager: a pager, which acts for the user.
 constexpr std::uint32_t FromTheUser = 2;
+/// What another program may take for an answer.
+constexpr std::chrono::seconds Patience{30};
 
 struct Freed {
   void operator()(void* reply) const { std::free(reply); }
@@ -163,9 +168,10 @@ bool XDesktop::WindowManagerAnswers() {
 }
 
 void XDesktop::Open(const std::string& title, const Box& box) {
-  const xcb_window_t window = xcb_generate_id(connection_);
-  const std::array<std::uint32_t, 2> values = {screen_->white_pixel,
-                                               XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE};
+  const xcb_window_t window = opened_ = xcb_generate_id(connection_);
+  const std::array<std::uint32_t, 2> values = {
+      screen_->white_pixel, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS |
+                                XCB_EVENT_MASK_BUTTON_RELEASE};
   xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window, screen_->root, static_cast<std::int16_t>(box.left),
                     static_cast<std::int16_t>(box.top), static_cast<std::uint16_t>(box.width),
                     static_cast<std::uint16_t>(box.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, screen_->root_visual,
@@ -185,6 +191,73 @@ std::vector<std::string> XDesktop::ReceivedKeys() {
     keys.push_back((type == XCB_KEY_PRESS ? '+' : '-') + std::to_string(keycode - FirstKeycode));
   }
   return keys;
+}
+
+void XDesktop::Send(xcb_window_t window, std::string_view message, const std::array<std::uint32_t, 5>& words) {
+  xcb_client_message_event_t event{};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = 32;
+  event.window = window;
+  event.type = Atom(message);
+  std::copy(words.begin(), words.end(), event.data.data32);
+  xcb_send_event(connection_, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&event));
+  xcb_flush(connection_);
+}
+
+void XDesktop::Give(const xcb_selection_request_event_t& asked, const std::string& carried) {
+  xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, asked.requestor, asked.property, asked.target, 8,
+                      static_cast<std::uint32_t>(carried.size()), carried.data());
+  xcb_selection_notify_event_t given{};
+  given.response_type = XCB_SELECTION_NOTIFY;
+  given.time = asked.time;
+  given.requestor = asked.requestor;
+  given.selection = asked.selection;
+  given.target = asked.target;
+  given.property = asked.property;
+  xcb_send_event(connection_, 0, asked.requestor, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&given));
+  xcb_flush(connection_);
+}
+
+std::array<std::uint32_t, 5> XDesktop::Answer(std::string_view message, const std::string& carried) {
+  const xcb_atom_t awaited = Atom(message);
+  const auto end = std::chrono::steady_clock::now() + Patience;
+  while (std::chrono::steady_clock::now() < end) {
+    const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection_)};
+    if (!event) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+      continue;
+    }
+    const int type = event->response_type & 0x7F;
+    if (type == XCB_SELECTION_REQUEST) Give(reinterpret_cast<const xcb_selection_request_event_t&>(*event), carried);
+    if (type != XCB_CLIENT_MESSAGE) continue;
+    const auto& said = reinterpret_cast<const xcb_client_message_event_t&>(*event);
+    if (said.type != awaited) continue;
+    std::array<std::uint32_t, 5> words{};
+    std::copy_n(said.data.data32, words.size(), words.begin());
+    return words;
+  }
+  throw std::runtime_error("waited in vain for " + std::string(message));
+}
+
+void XDesktop::Drop(xcb_window_t onto, int x, int y, const std::string& address) {
+  constexpr std::uint32_t Version = 5, Accepted = 1;
+  const std::vector<std::uint32_t> aware = Numbers(onto, "XdndAware");
+  if (opened_ == XCB_WINDOW_NONE || aware.empty() || aware.front() < Version) {
+    throw std::runtime_error("there is nothing to carry files from, or nowhere to");
+  }
+  const std::string carried = address + "\r\n";
+  const std::uint32_t copy = Atom("XdndActionCopy");
+  xcb_set_selection_owner(connection_, opened_, Atom("XdndSelection"), XCB_CURRENT_TIME);
+  MoveTo(x, y);
+  Send(onto, "XdndEnter", {opened_, Version << 24U, Atom("text/uri-list"), XCB_ATOM_NONE, XCB_ATOM_NONE});
+  Send(onto, "XdndPosition",
+       {opened_, 0, static_cast<std::uint32_t>(x) << 16U | static_cast<std::uint32_t>(y), XCB_CURRENT_TIME, copy});
+  if ((Answer("XdndStatus", carried)[1] & Accepted) == 0) {
+    Send(onto, "XdndLeave", {opened_, 0, 0, 0, 0});
+    throw std::runtime_error("the window does not take the file there");
+  }
+  Send(onto, "XdndDrop", {opened_, 0, XCB_CURRENT_TIME, 0, 0});
+  if ((Answer("XdndFinished", carried)[1] & Accepted) == 0) throw std::runtime_error("the window drops the file");
 }
 
 void XDesktop::Activate(xcb_window_t window) { Ask(window, "_NET_ACTIVE_WINDOW", {FromTheUser, XCB_CURRENT_TIME}); }

@@ -50,11 +50,14 @@ class XDesktop {
   /// while it starts, up to its next event: from its first answer on it hears everything.
   bool WindowManagerAnswers();
   std::vector<WindowFacts> Windows();
-  /// Puts up a plain window of its own, which hears keys.
+  /// Puts up a plain window of its own, which hears keys and the mouse.
   void Open(const std::string& title, const Box& box);
   /// The keys that its own windows have heard since this was asked last, as "+30" and "-30", evdev codes that go down
   /// and come up.
   std::vector<std::string> ReceivedKeys();
+  /// Carries a file, by its address, from the last window of its own to a place on the screen over another program's
+  /// window, and drops it there by the XDND protocol: what that window makes of it has been done when this returns.
+  void Drop(xcb_window_t onto, int x, int y, const std::string& address);
   /// Asks the window manager to bring a window to the front with the focus.
   void Activate(xcb_window_t window);
   /// Asks the window manager to close a window, as its close box does.
@@ -69,11 +72,16 @@ class XDesktop {
   std::string Title(xcb_window_t window);
   WindowFacts Describe(xcb_window_t window, bool popup);
   void Ask(xcb_window_t window, std::string_view message, std::array<std::uint32_t, 2> words);
+  void Send(xcb_window_t window, std::string_view message, const std::array<std::uint32_t, 5>& words);
+  /// Gives what is carried to whoever asks for it, until a message comes; its words then.
+  std::array<std::uint32_t, 5> Answer(std::string_view message, const std::string& carried);
+  void Give(const xcb_selection_request_event_t& asked, const std::string& carried);
   void Fake(std::uint8_t type, std::uint8_t detail, int x, int y);
 
   xcb_connection_t* connection_;
   xcb_screen_t* screen_ = nullptr;
   xcb_window_t asking_ = XCB_WINDOW_NONE;  ///< never shown
+  xcb_window_t opened_ = XCB_WINDOW_NONE;  ///< the last window of its own
 };
 
 }  // namespace plexel::window_test
