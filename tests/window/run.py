@@ -7,6 +7,7 @@ import tempfile
 import traceback
 from pathlib import Path
 
+import tests_files
 import tests_focus
 import tests_keyboard
 import tests_pictures
@@ -40,6 +41,11 @@ TESTS = {
     "session-ended": tests_safekeeping.session_ended,
     "versions": tests_safekeeping.versions,
     "changed-by-another": tests_safekeeping.changed_by_another,
+    "recent": tests_files.recent,
+    "dropped": tests_files.dropped,
+    "newer-format": tests_files.newer_format,
+    "panel-missing": tests_files.panel_missing,
+    "two-editors": tests_files.two_editors,
     "problems": tests_work.problems,
     "overview": tests_work.overview,
     "inspector": tests_work.inspector,
