@@ -77,12 +77,14 @@ class Panel:
     """Where things lie on a panel, in its own pixels, as boxes (left, top, width, height)."""
 
     def __init__(self, file):
-        self.elements, self.kinds, self.screen, self.screen_colour = {}, {}, None, None
+        self.elements, self.kinds, self.screen, self.screen_colour, self.size = {}, {}, None, None, [0, 0]
         section = box = element = None
         for line in Path(file).read_text(encoding="utf-8").splitlines():
             name, _, value = line.partition("=")
             if line.startswith("["):
                 section = line
+            elif section == "[PANEL]" and name in ("Width", "Height"):
+                self.size[name == "Height"] = int(value)
             elif name == "Place":
                 box = tuple(map(int, value.split()))
                 self.screen = box if section == "[SCREEN]" else self.screen

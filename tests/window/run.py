@@ -14,6 +14,7 @@ import tests_pictures
 import tests_safekeeping
 import tests_special
 import tests_trial
+import tests_view
 import tests_virtual
 import tests_walk
 import tests_wizard
@@ -46,6 +47,9 @@ TESTS = {
     "newer-format": tests_files.newer_format,
     "panel-missing": tests_files.panel_missing,
     "two-editors": tests_files.two_editors,
+    "zoom": tests_view.zoom,
+    "layer-shown": tests_view.layer_shown,
+    "places": tests_view.places,
     "problems": tests_work.problems,
     "overview": tests_work.overview,
     "inspector": tests_work.inspector,
