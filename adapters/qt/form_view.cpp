@@ -59,9 +59,10 @@ FormView::FormView(Form& form, QWidget* owner, FormDesk& desk) : form_(form), de
   window_->setObjectName(ToQt(form.Name()));
   window_->installEventFilter(this);
   if (owner != nullptr) {
-    // The toolkit would delete the window with its owner.
+    // The toolkit would delete the window with its owner. What stands over it ends ahead of it.
     connect(owner, &QObject::destroyed, this, [this] {
       window_->setParent(nullptr, window_->windowFlags());
+      for (QDialog* const over : window_->findChildren<QDialog*>()) over->reject();
       desk_.OwnerGone(*this);
     });
   }

@@ -1,9 +1,11 @@
 #include "qt/qt_message_boxes.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <array>
 
+#include "platform/clean_up.h"
 #include "qt/plain_box.h"
 #include "qt/units.h"
 
@@ -26,7 +28,10 @@ constexpr std::int32_t ButtonsMask = 0x0F;
 }  // namespace
 
 MessageAnswer QtMessageBoxes::Show(std::string_view prompt, std::int32_t style, std::string_view title) {
-  PlainBox box(QApplication::activeWindow());
+  // A window that goes takes its box along; what is asked then is not answered.
+  const QPointer<PlainBox> shown(new PlainBox(QApplication::activeWindow()));
+  const AtEnd gone([&shown] { delete shown.data(); });
+  PlainBox& box = *shown;
   box.setText(ToQt(prompt));
   box.setWindowTitle(ToQt(title));
   box.setIcon((style & MessageBoxes::StyleCritical) != 0 ? QMessageBox::Critical : QMessageBox::Information);

@@ -1,4 +1,5 @@
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -257,6 +258,35 @@ TEST_F(FormViewTest, AWindowThatGoesUnderItsDialogsEndsThem) {
   EXPECT_FALSE(inner.IsShown());
   EXPECT_FALSE(form.IsShown());
   EXPECT_EQ(platform.Modal().Topmost(), nullptr);
+}
+
+TEST_F(FormViewTest, AWindowThatGoesTakesTheQuestionOverItsDialogAlong) {
+  struct HostWindow : Window {
+    std::string WindowName() const override { return "HostForm"; }
+  } host;
+  auto widget = std::make_unique<QWidget>();
+  widget->show();
+  platform.Register(host, *widget);
+  MessageAnswer answer = MessageAnswer::None;
+  form.ok.OnClick = [&] {
+    QTimer::singleShot(0, &context, [&] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      widget.reset();
+      EXPECT_FALSE(box->isVisible());
+      box->reject();
+    });
+    answer = platform.Messages().Show("Prompt", MessageBoxes::StyleYesNoCancel, "Title");
+  };
+  QTimer::singleShot(0, &context, [&] {
+    const FormView& view = *platform.Modal().Topmost();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view.Window()));
+    Click(view, form.ok);
+  });
+  form.ShowModal(&host);
+  EXPECT_EQ(answer, MessageAnswer::Cancel);
+  EXPECT_FALSE(form.IsShown());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(FormViewTest, NoFormIsOpenAfterTheLastHasClosed) {

@@ -49,6 +49,19 @@ TEST_F(QtMessages, ABoxWithOneButtonAnswersOk) {
             MessageAnswer::OK);
 }
 
+TEST_F(QtMessages, AWindowThatGoesUnderAQuestionCancelsIt) {
+  auto owner = std::make_unique<QWidget>();
+  owner->show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(owner.get()));
+  EXPECT_EQ(Answer(Question,
+                   [&](QMessageBox& box) {
+                     EXPECT_EQ(box.parentWidget(), owner.get());
+                     owner.reset();
+                   }),
+            MessageAnswer::Cancel);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(QtMessages, TheButtonsCarryTheTextsOfTheProgram) {
   platform.Messages().buttonText = [](MessageAnswer answer) {
     return answer == MessageAnswer::Yes ? QString("Ja") : QString("-");
