@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/ascii.h"
 #include "scancodes/special_functions.h"
 
 namespace plexel {
@@ -49,15 +50,14 @@ Piece FirstPiece(Bytes bytes) {
 }  // namespace
 
 std::string CodeText(KeyCode code) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
   std::string text;
   for (unsigned shift = 24; shift > 0;) {
     shift -= 8;
     const KeyCode rest = code >> shift;
     if (rest == 0 && shift > 0) continue;
     if (!text.empty()) text += ' ';
-    text += digits[rest >> 4U & 0xFU];
-    text += digits[rest & 0xFU];
+    text += ascii::HexDigits[rest >> 4U & 0xFU];
+    text += ascii::HexDigits[rest & 0xFU];
   }
   return text;
 }

@@ -1,5 +1,6 @@
 #include "cli/arguments.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -7,6 +8,7 @@
 #include "cli/command_error.h"
 #include "cli/record_json.h"
 #include "files/text_lines.h"
+#include "forms/ascii.h"
 
 namespace plexel {
 
@@ -26,8 +28,8 @@ bool ReadWhole(std::string_view digits, Number& value, int base) {
 }
 
 bool IsDigits(std::string_view digits, bool hexadecimal) {
-  return !digits.empty() &&
-         digits.find_first_not_of(hexadecimal ? "0123456789abcdefABCDEF" : "0123456789") == std::string_view::npos;
+  const auto isDigit = [base = hexadecimal ? 16 : 10](char c) { return ascii::HexValue(c) < base; };
+  return !digits.empty() && std::ranges::all_of(digits, isDigit);
 }
 
 }  // namespace

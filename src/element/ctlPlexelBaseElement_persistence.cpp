@@ -13,13 +13,19 @@ namespace plexel {
 
 namespace {
 
-constexpr std::size_t writeCount = 38;
+/// How many rows have a place in an order.
+template <std::int32_t Storage::*order>
+consteval std::size_t CountOf() {
+  std::size_t count = 0;
+  for (const PropertyRow& row : propertyRows) count += row.storage.*order != 0 ? 1 : 0;
+  return count;
+}
 
 /// The rows that have a place in an order, in that order. Does not compile when places are missing or doubled.
-template <std::size_t count, std::int32_t Storage::*order>
+template <std::int32_t Storage::*order>
 consteval auto RowsBy() {
   constexpr std::size_t none = propertyRows.size();
-  std::array<std::size_t, count> rows{};
+  std::array<std::size_t, CountOf<order>()> rows{};
   rows.fill(none);
   for (std::size_t row = 0; row < propertyRows.size(); ++row) {
     const std::int32_t place = propertyRows[row].storage.*order;
@@ -34,8 +40,9 @@ consteval auto RowsBy() {
   return rows;
 }
 
-constexpr auto readRows = RowsBy<StoredKeyCount, &Storage::readOrder>();
-constexpr auto writeRows = RowsBy<writeCount, &Storage::writeOrder>();
+constexpr auto readRows = RowsBy<&Storage::readOrder>();
+static_assert(readRows.size() == StoredKeyCount);
+constexpr auto writeRows = RowsBy<&Storage::writeOrder>();
 
 /// The write rule: a value equal to the default is not stored. A boolean counts as true (-1) or false (0), which never
 /// equals a default of 1.

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Holds a tree against the rules of docs/architecture.md: includes run downward only and never in a circle, shipped code never
-includes tests, a room takes from outside only what it is made for, every header compiles by itself.
+includes tests, a room takes from outside only what it is made for, what stands once stands once, every header compiles by itself.
 
 usage: check.py ROOT BUILD: the tree and a build of it, whose compile_commands.json tells how each room is compiled"""
 
@@ -57,6 +57,29 @@ GUESSING = re.compile(r"\bQMessageBox (\w+)[({;]|\bQMessageBox::(warning|critica
 # The folder that all tests of a machine share; a name in it that is not made for one test is another test's as well.
 SHARED_PLACE = re.compile(r"\btemp_directory_path\(|\bTempDir\(|QDir::temp(Path)?\(")
 MAKES_PLACES = ("tests/world/temporary_directory.h", "tests/win32/", "tests/host/")
+# One row a fact or a helper that stands once: what betrays a second one, and the shipped files where the first one is.
+Once = namedtuple("Once", "what pattern homes")
+SINGLE = [Once(what, re.compile(pattern), homes) for what, pattern, homes in (
+    ("the name of a dialog", r'"frm[A-Z]\w*"', ("src/services/dialogs.h",)),
+    ("a list of LED functions", r"\bTemperatureLed\b",
+     ("src/services/element_types.h", "src/services/led_functions.h", "adapters/qt/element_widget.h")),
+    ("the number of a setting", r"\b(Get)?(Option|Parameter|WindowPosition)\(\d", ()),
+    ("a count kept by hand", r"\bconstexpr\b.*\b\w+Count = \d+;",
+     ("src/services/element_types.h", "src/element/property_table.h", "src/element/name_index.h", "adapters/activex/members.cpp")),
+    ("a shape of make and break codes", r"\b(struct|class) (\w*Codes?|\w*Sequence|CodeArray)\b[^;]*\{",
+     ("src/scancodes/code_sequence.h", "adapters/files/project_file.h")),
+    ("hexadecimal digits", r'"0123456789[aA]', ("src/forms/ascii.h",)),
+    ("case by the locale", r"\b(tolower|toupper|isxdigit|isalpha)\(", ()),
+    ("decoding of UTF-8", r"<< 6U? \|", ("src/forms/characters.cpp",)),
+    ("a byte order mark that is read", r"\\xEF\\xBB\\xBF", ("adapters/files/text_lines.cpp",)),
+    ("a list of files", r"\bdirectory_iterator\b", ("adapters/files/file_lists.cpp",)),
+)]
+# The same of tests: world/world.h has platform, surroundings, host and component, apart from tests of these themselves.
+SINGLE_IN_TESTS = [Once("a world of a test's own", re.compile(r"\bHeadlessSurroundings \w+[{(;]"),
+                        ("tests/world/world.h", "tests/component/component_test.cpp", "tests/component/dialogs_test.cpp",
+                         "tests/headless/services_test.cpp", "tests/win32/component_test.cpp"))]
+# Headers of the element's own, which no other room takes apart from those named.
+INNER = {"element/name_index.h": (), "element/property_access.h": (), "element/property_rows.h": (), "element/packed_codes.h": ("project",)}
 UNFINISHED = re.compile(r"\bTODO\b|\bFIXME\b|\bXXX\b|GTEST_SKIP|DISABLED_|QSKIP")
 
 
@@ -231,6 +254,23 @@ def check_unfinished(tree, problems):
                 problems.append("%s:%d: %s" % (file, number, line.strip()))
 
 
+def check_once(tree, problems):
+    tests = [file for file in tree.proof() if file.startswith("tests/")]
+    for files, facts in ((tree.shipped(), SINGLE), (tests, SINGLE_IN_TESTS)):
+        for file in files:
+            for number, line in enumerate(tree.texts[file].splitlines(), 1):
+                problems += ["%s:%d: %s stands elsewhere: %s" % (file, number, once.what, line.strip())
+                             for once in facts if file not in once.homes and once.pattern.search(line)]
+
+
+def check_inner(tree, problems):
+    for file in tree.shipped():
+        for kind, target in tree.includes(file):
+            rooms = INNER.get(target, (room_of(file).name,) if room_of(file) else ())
+            if kind == '"' and room_of(file) and room_of(file).name not in rooms + ("element",):
+                problems.append('%s includes "%s", which is the element\'s own' % (file, target))
+
+
 def check_places(tree, problems):
     for file in tree.proof():
         if file.startswith("tests/") and not file.startswith(MAKES_PLACES):
@@ -247,6 +287,8 @@ def check_text(root):
     graph.update(check_proof(tree, problems))
     check_cycles(graph, problems)
     check_unfinished(tree, problems)
+    check_once(tree, problems)
+    check_inner(tree, problems)
     check_places(tree, problems)
     return tree, problems
 

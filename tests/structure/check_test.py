@@ -158,6 +158,43 @@ class Texts(Trees):
         self.assert_fails("apps/editor/a.cpp:2:")
 
 
+class Facts(Trees):
+    def test_stand_where_they_belong(self):
+        self.write("src/services/dialogs.h", '#pragma once\nFormName a{"frmConfigurationDialog"};\n')
+        self.write("src/services/led_functions.h", "{TemperatureLed, 10402},\n")
+        self.write("src/forms/ascii.h", 'digits = "0123456789ABCDEF";\n')
+        self.write("src/forms/a.cpp", 'Show(dialogs::frmConfigurationDialog); Option(OptionShowX); letters = "0123456789";\n')
+        self.assertEqual(self.problems(), [])
+
+    def test_that_stand_twice_fail(self):
+        for what, line in (("the name of a dialog", 'Show("frmConfigurationDialog");'),
+                           ("a list of LED functions", "enum { HarddiskLed, UserLed, TemperatureLed };"),
+                           ("the number of a setting", "if (IsTrue(GetOption(9))) Lock();"),
+                           ("the number of a setting", 'service.Parameter(3, "65535");'),
+                           ("a count kept by hand", "constexpr std::size_t capabilityCount = 26;"),
+                           ("a shape of make and break codes", "struct StoredSequence {"),
+                           ("hexadecimal digits", 'static const char* digits = "0123456789abcdef";'),
+                           ("case by the locale", "c = static_cast<char>(std::tolower(c));"),
+                           ("decoding of UTF-8", "code = code << 6 | (byte & 0x3F);"),
+                           ("a byte order mark that is read", r'text.starts_with("\xEF\xBB\xBF")'),
+                           ("a list of files", "for (const auto& entry : std::filesystem::directory_iterator(folder)) {")):
+            self.write("adapters/files/a.cpp", "\n" + line + "\n")
+            self.assert_fails("adapters/files/a.cpp:2: %s stands elsewhere" % what)
+
+    def test_of_a_tests_world_stand_in_one_header(self):
+        self.write("tests/world/world.h", "HeadlessSurroundings surroundings{platform};\n")
+        self.assertEqual(self.problems(), [])
+        self.write("tests/wizard/a.h", "HeadlessSurroundings surroundings{platform};\n")
+        self.assert_fails("tests/wizard/a.h:1: a world of a test's own stands elsewhere")
+
+    def test_of_the_elements_own_headers_stay_there(self):
+        self.include("src/element/a.cpp", "src/element/property_rows.h")
+        self.include("project/a.cpp", "src/element/packed_codes.h")
+        self.assertEqual(self.problems(), [])
+        self.include("adapters/files/a.h", "src/element/property_rows.h")
+        self.assert_fails('adapters/files/a.h includes "element/property_rows.h", which is the element\'s own')
+
+
 class Places(Trees):
     def test_a_test_has_places_of_its_own(self):
         self.write("tests/files/a_test.cpp", "TemporaryDirectory directory;")
