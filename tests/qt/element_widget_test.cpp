@@ -363,11 +363,13 @@ TEST_F(Widgets, HelpingProgramsHearALegendAndTheDefinitions) {
 }
 
 TEST_F(Widgets, PressingAnElementFromAHelpingProgramOpensItsDialogAndHoldsItUpForNothing) {
-  const auto press = [this] {
-    QAccessible::queryAccessibleInterface(&first)->actionInterface()->doAction(
-        QAccessibleActionInterface::pressAction());
-  };
-  press();
+  bool asking = true;
+  QTimer::singleShot(0, &context, [&] {
+    EXPECT_FALSE(asking) << "the dialog holds up whoever asks";
+    if (asking) Topmost()->Model().Unload();
+  });
+  QAccessible::queryAccessibleInterface(&first)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  asking = false;
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   std::string name;
   ActOnNextForm([&](Hand&, Form& form) { name = form.Name(); });

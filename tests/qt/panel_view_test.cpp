@@ -8,10 +8,13 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QToolTip>
+#include <algorithm>
+#include <cstdlib>
 
 #include "editor/element_text.h"
 #include "editor/log_panel.h"
 #include "editor_fixture.h"
+#include "qt/panel_painter.h"
 #include "services/dialogs.h"
 
 namespace plexel::testing {
@@ -287,6 +290,43 @@ TEST_F(PictureOfAPanel, TheToolBarHasPicturesAndTips) {
     EXPECT_FALSE(action->icon().isNull()) << action->text().toStdString();
     EXPECT_FALSE(action->toolTip().contains('&')) << action->toolTip().toStdString();
   }
+}
+
+/// The largest difference of any colour of a pixel.
+int Difference(const QImage& one, const QImage& other) {
+  int largest = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      const QColor a = one.pixelColor(x, y), b = other.pixelColor(x, y);
+      largest = std::max(
+          {largest, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())});
+    }
+  }
+  return largest;
+}
+
+TEST_F(PictureOfAPanel, IsDrawnByThePainterThatDrawsAnElementByItself) {
+  constexpr int rounding = 2;
+  PanelView& view = window.View();
+  Element("F5").ShowXPermanent(True);
+  view.Select(PlaceOf("F18"));
+  const QImage picture = view.grab().toImage();
+  QImage byHand(picture.size(), picture.format());
+  byHand.fill(view.palette().color(QPalette::Window));
+  QPainter painter(&byHand);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const PanelDocument::Place& first = window.Document()->Places().front();
+  painter.translate(view.PlaceRect(0).topLeft() - QPoint(first.part->box.left, first.part->box.top));
+  for (const PanelPart& part : window.Document()->ThePanel().parts) DrawPart(painter, part);
+  EXPECT_GT(Difference(picture, byHand), rounding) << "the elements show nothing";
+  painter.resetTransform();
+  for (const char* const id : {"F5", "F18"}) {
+    painter.save();
+    painter.translate(view.PlaceRect(PlaceOf(id)).topLeft());
+    DrawSurface(painter, Element(id).SurfaceObjects());
+    painter.restore();
+  }
+  EXPECT_LE(Difference(picture, byHand), rounding);
 }
 
 TEST_F(PictureOfAPanel, WhatIsDrawnAnewInPiecesIsTheWholePicture) {
