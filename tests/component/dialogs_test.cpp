@@ -15,7 +15,8 @@
 namespace plexel {
 namespace {
 
-static_assert(!std::is_convertible_v<const char*, FormName> && !std::is_convertible_v<std::string, FormName>,
+static_assert(!std::is_convertible_v<const char*, FormName> && !std::is_convertible_v<std::string, FormName> &&
+                  !std::is_convertible_v<std::string_view, FormName>,
               "a text is no name of a form");
 
 TEST(Dialogs, HaveNamesOfTheirOwn) {
