@@ -14,6 +14,16 @@ PAGE_LEFT, PAGE_TOP = 2, 24  # pixels round the pages of a tab strip
 MAIN = "\u2013 Plexel"  # ends the title of the editor's window
 
 
+def in_both_languages(test):
+    """A test of (tools, folder, language), run in each language with a folder of its own."""
+    def both(tools, folder):
+        for language in ("English", "German"):
+            own = folder / f"{folder.name}-{language}"
+            own.mkdir()
+            test(tools, own, language)
+    return both
+
+
 class Tools:
     """What the tests work with."""
 

@@ -8,9 +8,16 @@ from keys import press
 from project import read_values, write_empty_project
 from tests_work import F2_HOLDS_CTRL, write_project
 
-VIEWS = (("English", 1), ("German", 2))
 SCREEN = {1: (1300, 1000), 2: (2400, 1800)}
 NOTICE = "FFFFDC"
+
+
+def views(folder):
+    """A language and a scale at a time, with a folder of their own."""
+    for language, scale in (("English", 1), ("German", 2)):
+        own = folder / f"{folder.name}-{language}"
+        own.mkdir()
+        yield language, scale, own
 
 
 def wait_open(desktop, name, modified=False):
@@ -47,9 +54,8 @@ class ToldEditor(Editor):
 
 def recent(tools, folder):
     """The projects of earlier runs are found again; one that is gone leaves the list, which can be emptied."""
-    for (language, scale), (menu, empty) in zip(VIEWS, (("LeftAlt+f r", "c"), ("LeftAlt+d z", "l"))):
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
+        menu, empty = {"English": ("LeftAlt+f r", "c"), "German": ("LeftAlt+d z", "l")}[language]
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             for name in ("first", "second", "third"):
                 project = own / f"{name}.plexel"
@@ -85,9 +91,7 @@ def expect_recent(editor, files):
 def dropped(tools, folder):
     """A project that is dropped onto the window is opened in place of the open one, which is asked for when it has
     changed."""
-    for language, scale in VIEWS:
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             first, second, newer = (own / f"{name}.plexel" for name in ("first", "\u00e4 & 100% #2", "newer"))
             write_project(first, F2_HOLDS_CTRL)
@@ -125,9 +129,7 @@ def write_newer_project(file):
 
 def newer_format(tools, folder):
     """A project of a format that only later versions know is refused and stays as it is."""
-    for language, scale in VIEWS:
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             project = own / "newer.plexel"
             write_newer_project(project)
@@ -152,9 +154,7 @@ def expect_told(editor, number, *values):
 
 def panel_missing(tools, folder):
     """A project opens where its panel is missing when it carries it, and is refused in words when it does not."""
-    for language, scale in VIEWS:
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             project = own / "project.plexel"
             write_project(project, F2_HOLDS_CTRL)
@@ -206,9 +206,7 @@ def notice(desktop, number):
 
 def two_editors(tools, folder):
     """Both of two editors on one file say so, until one of them goes; what one saves is told by the other."""
-    for language, scale in VIEWS:
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             project = own / "shared.plexel"
             write_project(project, F2_HOLDS_CTRL)

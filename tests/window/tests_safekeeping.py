@@ -5,13 +5,14 @@ import threading
 
 from capture import compare
 from desktop import Desktop, Failed, Window, wait_for
-from editor import MAIN, Editor
+from editor import MAIN, Editor, in_both_languages
 from keys import press
 from project import read_project, write_empty_project
 from session import SessionManager
 
 KEY = "F1"
 PLAN = {(KEY, 1, True): [("a", [("a", "1C F0 1C")])]}
+MENU_STEPS = {"English": ("LeftAlt+e u", "LeftAlt+e r"), "German": ("LeftAlt+b r", "LeftAlt+b w")}
 PATIENCE = 12  # seconds; unsaved work is on the disk after ten
 
 
@@ -32,26 +33,32 @@ def recorded(desktop, tools, folder, **how):
     return editor
 
 
-def undo_and_redo(tools, folder):
+@in_both_languages
+def undo_and_redo(tools, folder, language):
+    """By keys, and by the entries of the menu."""
     with Desktop(tools, folder) as desktop:
-        editor = recorded(desktop, tools, folder)
+        editor = recorded(desktop, tools, folder, language=language, settings={})
         compare(editor.save(), PLAN)
         press(desktop, "LeftCtrl+z")
         compare(editor.save(), {})
         press(desktop, "LeftCtrl+y")
         compare(editor.save(), PLAN)
+        for entry, plan in zip(MENU_STEPS[language], ({}, PLAN)):
+            press(desktop, entry)
+            compare(editor.save(), plan)
         editor.quit()
 
 
-def killed(tools, folder):
+@in_both_languages
+def killed(tools, folder, language):
     with Desktop(tools, folder) as desktop:
-        editor = recorded(desktop, tools, folder)
+        editor = recorded(desktop, tools, folder, language=language, settings={})
         wait_for("the recovery file", lambda: recovery_files(desktop), PATIENCE)
         editor.process.send_signal(signal.SIGKILL)
         editor.process.wait()
         compare(read_project(editor.project), {})
 
-        editor = StartedEditor(desktop, tools, editor.project)
+        editor = StartedEditor(desktop, tools, editor.project, language=language)
         compare(editor.save(), PLAN)
         wait_for("the recovery file to go", lambda: not recovery_files(desktop), PATIENCE)
         editor.quit()

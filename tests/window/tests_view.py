@@ -3,7 +3,7 @@
 from desktop import Box, Desktop, Failed, wait_for
 from editor import MAIN, Editor
 from keys import KEYS, press
-from tests_files import SCREEN, VIEWS
+from tests_files import SCREEN, views
 from tests_work import ERROR, F2_HOLDS_CTRL, F7_SENDS_F13, write_project
 
 TICK = "008000"
@@ -39,9 +39,7 @@ def expect_near(what, place, wanted, distance):
 
 
 def zoom(tools, folder):
-    for language, scale in VIEWS:
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             project = own / "zoom.plexel"
             write_project(project, F2_HOLDS_CTRL)
@@ -118,9 +116,8 @@ def ticks(editor):
 
 def layer_shown(tools, folder):
     """The ticks and the labels are those of the layer that is chosen; labels come back with the next start."""
-    for (language, scale), view, labels in zip(VIEWS, ("LeftAlt+v l", "LeftAlt+a b"), ("LeftAlt+v d", "LeftAlt+a d")):
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
+        view, labels = {"English": ("LeftAlt+v l", "LeftAlt+v d"), "German": ("LeftAlt+a b", "LeftAlt+a d")}[language]
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             project = own / "layers.plexel"
             write_project(project, F2_HOLDS_CTRL, F7_SENDS_F13)
@@ -161,9 +158,7 @@ def look(editor, name):
 
 def places(tools, folder):
     """The window and what lies in it come back as they were left, also after everything has been shown once."""
-    for language, scale in VIEWS:
-        own = folder / language
-        own.mkdir()
+    for language, scale, own in views(folder):
         with Desktop(tools, own, size=SCREEN[scale]) as desktop:
             project = own / "places.plexel"
             write_project(project, F2_HOLDS_CTRL)

@@ -2,7 +2,7 @@
 
 from capture import compare
 from desktop import Box, Desktop, Failed, wait_for
-from editor import MAIN, Editor
+from editor import MAIN, Editor, in_both_languages
 from keys import KEYS, press
 from project import write_empty_project
 
@@ -159,12 +159,13 @@ def choose(editor, *names):
         editor.desktop.free(KEYS["LeftCtrl"])
 
 
-def many_keys(tools, folder):
+@in_both_languages
+def many_keys(tools, folder, language):
     """One key is configured, and 23 others become like it by two strokes; none of it opens a dialog."""
     with Desktop(tools, folder) as desktop:
         project = folder / "many.plexel"
         write_empty_project(project, "Large")
-        editor = Editor(desktop, tools, project, panel="Large", settings={})
+        editor = Editor(desktop, tools, project, panel="Large", language=language, settings={})
         recorded(editor, "F1")
         press(desktop, "LeftCtrl+c")
         keys = [f"F{number}" for number in range(1, 25)]
@@ -177,7 +178,7 @@ def many_keys(tools, folder):
             desktop.drag(*corners)
             if more:
                 desktop.free(KEYS["LeftCtrl"])
-        desktop.picture(tools.pictures / "many-selected.png", desktop.window(MAIN))
+        desktop.picture(tools.pictures / f"many-selected-{language}.png", desktop.window(MAIN))
         press(desktop, "LeftCtrl+v")
         compare(editor.save(), {(key, 1, True): A for key in keys})
         press(desktop, "LeftCtrl+z")
@@ -188,11 +189,13 @@ def many_keys(tools, folder):
         editor.quit()
 
 
-def copying(tools, folder):
+@in_both_languages
+def copying(tools, folder, language):
+    edit, swap, layers = {"English": ("LeftAlt+e", "s", "y"), "German": ("LeftAlt+b", "t", "a")}[language]
     with Desktop(tools, folder) as desktop:
         project = folder / "copy.plexel"
         write_empty_project(project, "Small")
-        editor = Editor(desktop, tools, project, settings={})
+        editor = Editor(desktop, tools, project, language=language, settings={})
         recorded(editor, "F1")
         recorded(editor, "F2", "b")
         b = [("b", [("b", "32 F0 32")])]
@@ -208,9 +211,9 @@ def copying(tools, folder):
         compare(editor.save(), {f1: A, f2: A, f3: b})
         # The menu's entry swaps the two that are selected, and Delete empties.
         choose(editor, "F1", "F3")
-        press(desktop, "LeftAlt+e")
+        press(desktop, edit)
         desktop.popup()
-        press(desktop, "s")
+        press(desktop, swap)
         desktop.no_popup()
         compare(editor.save(), {f1: b, f2: A, f3: A})
         choose(editor, "F2", "F3")
@@ -221,9 +224,9 @@ def copying(tools, folder):
             raise Failed("what was cleared is still there")
         # One layer onto the others.
         desktop.click(editor.element("F1").centre())
-        press(desktop, "LeftAlt+e y")
+        press(desktop, f"{edit} {layers}")
         asked = desktop.window(editor.texts[20894])
-        desktop.picture(tools.pictures / "layers.png", asked)
+        desktop.picture(tools.pictures / f"layers-{language}.png", asked)
         press(desktop, "Return")
         desktop.gone(asked)
         compare(editor.save(), {("F1", layer, True): b for layer in (1, 2, 3, 4)})
@@ -233,7 +236,7 @@ def copying(tools, folder):
         desktop.click(editor.element("L1").centre())
         press(desktop, "LeftCtrl+v")
         asked = desktop.window("Plexel", [main.id])
-        desktop.picture(tools.pictures / "misfit.png", asked)
+        desktop.picture(tools.pictures / f"misfit-{language}.png", asked)
         press(desktop, "Esc")
         desktop.gone(asked)
         editor.wait_modified(False)
