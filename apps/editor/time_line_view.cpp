@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "editor/trial_layer.h"
 
@@ -12,7 +13,7 @@ namespace plexel {
 
 namespace {
 
-constexpr int ColumnWidth = 22, RowHeight = 20, Side = 6, WordSide = 2;
+constexpr int ColumnWidth = 22, RowHeight = 20, Side = 6, WordSide = 4;
 constexpr int MostWord = 120;  // a longer word is shown in part
 
 /// A triangle that points down or up in a cell.
@@ -73,7 +74,8 @@ void TimeLineView::MeasureColumns() {
   edges_ = {0};
   for (const Stretch& stretch : stretches_) {
     const int left = edges_.back(), events = static_cast<int>(stretch.events);
-    const int word = std::min(fontMetrics().horizontalAdvance(stretch.word), MostWord) + 2 * WordSide;
+    const int need = static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(stretch.word)));
+    const int word = std::min(need, MostWord) + 2 * WordSide;
     const int width = std::max(events * ColumnWidth, word);
     for (int event = 1; event <= events; ++event) edges_.push_back(left + width * event / events);
   }
