@@ -40,6 +40,8 @@ LayersDialog::LayersDialog(std::int32_t from, QWidget* parent) : QDialog(parent)
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   layout->addWidget(buttons);
   AddHelpKey(*this, help_topics::Copying);
+  constexpr int TitleSides = 110;  // what a frame puts beside the title
+  setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + TitleSides);
   Update();
 }
 
