@@ -215,6 +215,8 @@ class MainWindow : public QMainWindow {
   void WasUsed(const std::filesystem::path& file);
   /// Tells in the events why the editor's own values cannot be kept.
   void TellStore();
+  /// The number of docks. A layout that knows fewer would put the others one below the other, and is passed over.
+  int LayoutVersion() const;
   void RememberWindow();
   void RestoreWindow();
   FormSubject SubjectOf(const Form& form) const;

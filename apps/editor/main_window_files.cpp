@@ -1,5 +1,6 @@
 #include "editor/main_window.h"
 
+#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -62,14 +63,16 @@ void MainWindow::dropEvent(QDropEvent* event) {
   QTimer::singleShot(0, this, [this, file] { Guarded([&] { OpenPicked(file); }); });
 }
 
+int MainWindow::LayoutVersion() const { return static_cast<int>(findChildren<QDockWidget*>().size()); }
+
 void MainWindow::RememberWindow() {
   store_.Geometry(saveGeometry());
-  store_.Layout(saveState());
+  store_.Layout(saveState(LayoutVersion()));
 }
 
 void MainWindow::RestoreWindow() {
   restoreGeometry(store_.Geometry());
-  restoreState(store_.Layout());
+  restoreState(store_.Layout(), LayoutVersion());
 }
 
 FormSubject MainWindow::SubjectOf(const Form& form) const {

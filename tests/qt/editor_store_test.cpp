@@ -1,7 +1,12 @@
 #include "editor/editor_store.h"
 
+#include <QDockWidget>
+#include <QMainWindow>
 #include <QMimeData>
+#include <QToolBar>
 #include <fstream>
+#include <initializer_list>
+#include <string>
 
 #include "editor/recent_menu.h"
 #include "editor_fixture.h"
@@ -82,6 +87,34 @@ TEST_F(Editor, ADamagedStoreOpensTheWindowAsAtFirst) {
   std::ofstream(File("editor.ini")) << "[Window]\nGeometry=@ByteArray(junk)\nLayout=@ByteArray(junk)\n";
   MainWindow another(component, surroundings, platform, help, File("state"));
   EXPECT_EQ(another.size(), first);
+}
+
+/// The layout of a window that has some of the editor's docks.
+QByteArray LayoutOf(std::initializer_list<const char*> docks) {
+  QMainWindow window;
+  window.addToolBar("tools")->setObjectName("tools");
+  for (const char* const name : docks) {
+    auto* const dock = new QDockWidget(&window);
+    dock->setObjectName(name);
+    window.addDockWidget(name == std::string("inspector") ? Qt::RightDockWidgetArea : Qt::BottomDockWidgetArea, dock);
+  }
+  return window.saveState();
+}
+
+TEST_F(Editor, ALayoutThatKnowsFewerDocksIsPassedOver) {
+  EditorStore(File("")).Layout(LayoutOf({"inspector", "problems", "events"}));
+  MainWindow another(component, surroundings, platform, help, File("state"));
+  another.show();
+  const auto docks = [&](const MainWindow& shown) {
+    QStringList names;
+    for (const QDockWidget* const dock : shown.tabifiedDockWidgets(shown.findChild<QDockWidget*>("problems"))) {
+      names.append(dock->objectName());
+    }
+    names.sort();
+    return names;
+  };
+  EXPECT_EQ(docks(another), QStringList({"events", "overview", "trial"}));
+  EXPECT_EQ(docks(another), docks(window));
 }
 
 TEST_F(Editor, TheRecentFilesAreShownPlainAndCleared) {
