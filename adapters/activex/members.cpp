@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdint>
 
+#include "element/name_index.h"
 #include "element/property_table.h"
+#include "forms/ascii.h"
 
 namespace plexel::activex {
 
@@ -25,7 +27,10 @@ constexpr std::array methods = {
     Method{"CheckIfLedIsAlreadyDefined", question},
 };
 
-constexpr unsigned Lower(unsigned letter) { return letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter; }
+constexpr unsigned Lower(unsigned letter) {
+  constexpr unsigned plain = 0x80;
+  return letter < plain ? static_cast<unsigned char>(ascii::Lower(static_cast<char>(letter))) : letter;
+}
 
 /// The numbers of members by their names in any case: an open hash table.
 class Index {
@@ -53,7 +58,7 @@ class Index {
   static constexpr std::size_t SlotCount = 128;
 
   static std::size_t Slot(std::size_t size, unsigned first, unsigned last) {
-    return (size * 5U + Lower(first) * 11U + Lower(last) * 3U) % SlotCount;
+    return FirstSlotOfName(size, Lower(first), Lower(last), SlotCount);
   }
   static std::size_t Next(std::size_t slot) { return (slot + 1) % SlotCount; }
 

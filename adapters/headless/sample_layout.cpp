@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "forms/ascii.h"
+
 namespace plexel {
 
 namespace {
@@ -17,7 +19,7 @@ constexpr auto characters = std::to_array<KeyCharacter>(
      {0xBE, u'.'},  {0xBF, u'/'},  {0xC0, u'`'},  {0xDB, u'['},    {0xDC, u'\\'}, {0xDD, u']'}, {0xDE, u'\''}});
 
 char16_t CharacterOn(std::int32_t virtualKey) {
-  if (virtualKey >= 'A' && virtualKey <= 'Z') return static_cast<char16_t>(virtualKey - 'A' + 'a');
+  if (virtualKey >= 'A' && virtualKey <= 'Z') return static_cast<char16_t>(ascii::Lower(static_cast<char>(virtualKey)));
   if (virtualKey >= '0' && virtualKey <= '9') return static_cast<char16_t>(virtualKey);
   if (virtualKey >= 0x60 && virtualKey <= 0x69) return static_cast<char16_t>(virtualKey - 0x60 + '0');
   for (const KeyCharacter& one : characters) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "forms/ascii.h"
 #include "keyboard/key_table.h"
 #include "services/code_page.h"
 
@@ -62,7 +63,7 @@ std::int32_t TableLayout::FindVirtualKey(int code) const {
   if (!ChosenByLayout(code)) return position->virtualKeyUs;
   const KeySign sign = SignOf(code);
   const char32_t character = sign.dead ? 0 : sign.character;
-  if (character >= 'a' && character <= 'z') return static_cast<std::int32_t>(character - 'a' + 'A');
+  if (character >= 'a' && character <= 'z') return ascii::Upper(static_cast<char>(character));
   const std::string language = LanguagePart(name_);
   if (language == "de" || language == "at") return position->virtualKeyGerman;
   if (language == "fr") return position->virtualKeyFrench;

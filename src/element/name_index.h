@@ -8,8 +8,13 @@
 
 namespace plexel {
 
-/// Finds the place of a name in a fixed list: an open hash table, made by the compiler. Length, first and last
-/// character tell the element's names well apart.
+/// Where the search for a name begins in an open hash table. Length, first and last character tell the element's names
+/// well apart.
+constexpr std::size_t FirstSlotOfName(std::size_t size, unsigned first, unsigned last, std::size_t slots) {
+  return (size * 5U + first * 11U + last * 3U) % slots;
+}
+
+/// Finds the place of a name in a fixed list: an open hash table, made by the compiler.
 template <std::size_t Count>
 class NameIndex {
  public:
@@ -47,7 +52,7 @@ class NameIndex {
 
   static constexpr std::size_t FirstSlot(std::string_view name) {
     const auto first = static_cast<unsigned char>(name.front()), last = static_cast<unsigned char>(name.back());
-    return (name.size() * 5U + first * 11U + last * 3U) % SlotCount;
+    return FirstSlotOfName(name.size(), first, last, SlotCount);
   }
 
   std::array<std::string_view, Count> names_;

@@ -174,6 +174,8 @@ class Facts(Trees):
                            ("a count kept by hand", "constexpr std::size_t capabilityCount = 26;"),
                            ("a shape of make and break codes", "struct StoredSequence {"),
                            ("hexadecimal digits", 'static const char* digits = "0123456789abcdef";'),
+                           ("case of letters", "return letter + ('a' - 'A');"),
+                           ("a hash of names", "return (size * 5U + first * 11U) % 128;"),
                            ("case by the locale", "c = static_cast<char>(std::tolower(c));"),
                            ("decoding of UTF-8", "code = code << 6 | (byte & 0x3F);"),
                            ("a byte order mark that is read", r'text.starts_with("\xEF\xBB\xBF")'),
