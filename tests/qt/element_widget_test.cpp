@@ -346,6 +346,22 @@ TEST_F(Widgets, AHandlerMayDeleteTheWidget) {
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(Widgets, AHandlerMayDeleteTheWindowUnderTheDialog) {
+  const QPointer<QWidget> owner(new QWidget);
+  auto* const widget = new ElementWidget(owner);
+  Place(*widget, 10);
+  owner->show();
+  QObject::connect(widget, &ElementWidget::ProjectModified, [&owner] { delete owner.data(); });
+  ActOnNextForm([&](Hand&, Form& form) {
+    QTest::mouseClick(&Topmost()->ViewOf(form.Find("cmdOK"))->MouseWidget(), Qt::LeftButton);
+    EXPECT_TRUE(owner.isNull());
+  });
+  widget->OpenConfigurationDialog();
+  EXPECT_EQ(Topmost(), nullptr);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(failures.empty());
+}
+
 TEST_F(Widgets, HelpingProgramsHearALegendAndTheDefinitions) {
   first.setObjectName("F1");
   first.PressKeyDefLayer1(Definition);
