@@ -9,11 +9,11 @@
 
 #include "element/element_access.h"
 #include "element/packed_codes.h"
-#include "files/project_reader.h"
 #include "files/project_writer.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
 #include "made_elements.h"
+#include "project/project_read_ahead.h"
 #include "world.h"
 
 namespace {
@@ -37,14 +37,14 @@ void Save(const Elements& elements, const std::filesystem::path& file) {
 
 Elements Load(const std::filesystem::path& file) {
   const TextFile text(file, ProjectLimit);
-  ProjectReader reader(text);
+  ProjectReadAhead reader(text);
   Elements elements;
   elements.reserve(reader.Count());
-  for (ProjectElement saved; reader.Next(saved);) {
-    const auto element = bench::TheWorld().component.Read(saved.place, bench::TheWorld().host, saved.bag);
-    if (!saved.codes.empty()) {
+  while (const ProjectElement* const saved = reader.Next()) {
+    const auto element = bench::TheWorld().component.Read(saved->place, bench::TheWorld().host, saved->bag);
+    if (!saved->codes.empty()) {
       CodeBuffers buffers{};
-      for (const SavedCodes& codes : saved.codes) buffers.at(static_cast<std::size_t>(codes.buffer)) = &codes.codes;
+      for (const SavedCodes& codes : saved->codes) buffers.at(static_cast<std::size_t>(codes.buffer)) = &codes.codes;
       std::vector<std::uint8_t> packed;
       PackCodes(buffers, packed);
       ElementAccess::Codes(*element, std::move(packed));

@@ -13,6 +13,7 @@
 #include "files/system_files.h"
 #include "files/text_lines.h"
 #include "platform/clean_up.h"
+#include "project/project_read_ahead.h"
 #include "services/shared_services.h"
 
 namespace plexel {
@@ -93,9 +94,11 @@ std::unique_ptr<PanelDocument> PanelDocument::New(const std::string& panelName, 
 }
 
 std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& file, const Site& site) {
-  std::string content = ReadWholeFile(file, ProjectLimit);
-  const std::size_t hash = HashOf(content);
-  std::unique_ptr<PanelDocument> document = Of(ParseProject(TextFile(file, std::move(content))), file, site);
+  const TextFile text(file, ReadWholeFile(file, ProjectLimit));
+  ProjectReadAhead reader(text);
+  const std::size_t hash = HashOf(text.Text());
+  std::unique_ptr<PanelDocument> document = Of(
+      reader.Panel(), reader.PanelText(), [&reader] { return reader.Next(); }, file, site);
   document->file_ = file;
   document->hash_ = hash;
   return document;
@@ -103,22 +106,30 @@ std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& 
 
 std::unique_ptr<PanelDocument> PanelDocument::Of(const Project& project, const std::filesystem::path& origin,
                                                  const Site& site) {
-  const bool carries = !project.panelText.empty();
-  const std::filesystem::path panel = carries ? origin : PanelFile(site.panelDirectory, project.panel);
+  auto element = project.elements.begin();
+  const auto next = [&] { return element == project.elements.end() ? nullptr : &*element++; };
+  return Of(project.panel, project.panelText, next, origin, site);
+}
+
+std::unique_ptr<PanelDocument> PanelDocument::Of(const std::string& panelName, const std::string& panelText,
+                                                 const std::function<const ProjectElement*()>& next,
+                                                 const std::filesystem::path& origin, const Site& site) {
+  const bool carries = !panelText.empty();
+  const std::filesystem::path panel = carries ? origin : PanelFile(site.panelDirectory, panelName);
   std::unique_ptr<PanelDocument> document(
-      new PanelDocument(project.panel, carries ? project.panelText : ReadPanelText(panel), panel));
+      new PanelDocument(panelName, carries ? panelText : ReadPanelText(panel), panel));
   document->carriesPanel_ = carries;
   std::unordered_map<std::string_view, const PanelPart*> left;
   for (const PanelPart& part : document->panel_->panel.parts) {
     if (part.element) left.emplace(part.element->id, &part);
   }
   document->places_.reserve(left.size());
-  for (const ProjectElement& saved : project.elements) {
-    const auto part = left.find(saved.place);
+  while (const ProjectElement* const saved = next()) {
+    const auto part = left.find(saved->place);
     if (part == left.end()) {
-      throw FileError(origin, 0, "the panel \"" + project.panel + "\" has no place \"" + saved.place + '"');
+      throw FileError(origin, 0, "the panel \"" + panelName + "\" has no place \"" + saved->place + '"');
     }
-    document->AddSaved(*part->second, saved, site);
+    document->AddSaved(*part->second, *saved, site);
     left.erase(part);
   }
   for (const PanelPart& part : document->panel_->panel.parts) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -143,6 +144,10 @@ class PanelDocument {
       : panelName_(std::move(panelName)),
         panel_(std::make_shared<const DocumentPanel>(DocumentPanel{panelText, ParsePanel(origin, panelText)})),
         filePanel_(panel_) {}
+  /// Makes a document of elements as `next` gives them, null behind the last one.
+  static std::unique_ptr<PanelDocument> Of(const std::string& panelName, const std::string& panelText,
+                                           const std::function<const ProjectElement*()>& next,
+                                           const std::filesystem::path& origin, const Site& site);
   void AddNew(const PanelPart& part, const Site& site);
   void AddSaved(const PanelPart& part, const ProjectElement& saved, const Site& site);
   /// What a saved element does not bring along.
