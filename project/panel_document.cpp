@@ -421,9 +421,10 @@ int PanelDocument::PlaceOf(const ctlPlexelBaseElement& element) const {
   return place == places_.end() ? -1 : static_cast<int>(place - places_.begin());
 }
 
-void PanelDocument::Zoom(int percent) {
-  zoom_ = std::clamp(percent, SmallestZoom, LargestZoom);
-  for (const Place& place : places_) place.element->ZoomFactor(static_cast<std::int16_t>(zoom_));
+const Surface& PanelDocument::SurfaceAt(std::size_t place) const {
+  ctlPlexelBaseElement& element = *places_.at(place).element;
+  if (element.ZoomFactor() != zoom_) element.ZoomFactor(static_cast<std::int16_t>(zoom_));
+  return element.SurfaceObjects();
 }
 
 void PanelDocument::Refresh() {

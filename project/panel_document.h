@@ -124,9 +124,12 @@ class PanelDocument {
   /// from there on it has the values of a new one, and saving writes these.
   const std::vector<std::string>& Unread() const { return unread_; }
 
-  /// Percent; the same for all elements.
+  /// Percent; the same for all elements. An element follows when it is looked at with SurfaceAt: of a large panel few
+  /// are in sight at once.
   int Zoom() const { return zoom_; }
-  void Zoom(int percent);
+  void Zoom(int percent) { zoom_ = std::clamp(percent, SmallestZoom, LargestZoom); }
+  /// What the element of a place shows at the present zoom.
+  const Surface& SurfaceAt(std::size_t place) const;
   static constexpr int SmallestZoom = 25, LargestZoom = 400, NormalZoom = 100;
 
   /// Brings all elements into line with the user's settings.

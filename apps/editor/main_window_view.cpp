@@ -140,7 +140,7 @@ void MainWindow::SetZoom(int percent, std::optional<QPoint> about) {
   scroll_->Zoom(
       document_->Zoom(),
       [&] {
-        Guarded([&] { document_->Zoom(percent); });
+        document_->Zoom(percent);
         return document_->Zoom();
       },
       about);

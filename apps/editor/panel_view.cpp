@@ -87,10 +87,17 @@ QPoint PanelView::Origin() const {
   return {std::max(Margin, (width() - panel.width()) / 2), std::max(Margin, (height() - panel.height()) / 2)};
 }
 
+const Surface& PanelView::SurfaceAt(int place) const {
+  followsZoom_ = true;
+  const Surface& surface = document_->SurfaceAt(static_cast<std::size_t>(place));
+  followsZoom_ = false;
+  return surface;
+}
+
 QRect PanelView::PlaceRect(int place) const {
-  const auto& [part, element] = At(place);
-  const Surface& surface = element->SurfaceObjects();
-  const QPoint corner = Origin() + QPoint(part->box.left, part->box.top) * document_->Zoom() / 100;
+  const PanelBox& box = At(place).part->box;
+  const Surface& surface = SurfaceAt(place);
+  const QPoint corner = Origin() + QPoint(box.left, box.top) * document_->Zoom() / 100;
   return {corner, QSize(ToPixels(surface.Width), ToPixels(surface.Height))};
 }
 
@@ -164,7 +171,7 @@ void PanelView::PaintParts(QPainter& painter, const std::vector<int>& parts) {
 
 void PanelView::PaintPlace(QPainter& painter, int place) {
   const ctlPlexelBaseElement& element = *At(place).element;
-  const Surface& surface = element.SurfaceObjects();
+  const Surface& surface = SurfaceAt(place);
   const QRect box = PlaceRect(place);
   const bool told = layer_ == AllLayersShown || IsDefinedOn(element, layer_);
   const TickPlace tick = told ? TickOf(element.ElementType()) : TickPlace::Nowhere;
@@ -209,7 +216,7 @@ void PanelView::UpdatePlace(int place) {
 }
 
 void PanelView::ElementChanged(const ctlPlexelBaseElement& element) {
-  if (dirty_ > MostDirty) return;
+  if (followsZoom_ || dirty_ > MostDirty) return;
   const auto place = placeOf_.find(&element);
   if (place != placeOf_.end()) UpdatePlace(place->second);
 }

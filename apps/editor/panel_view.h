@@ -102,6 +102,8 @@ class PanelView : public QWidget {
  private:
   using Place = PanelDocument::Place;
   const Place& At(int place) const { return document_->Places()[static_cast<std::size_t>(place)]; }
+  /// What an element shows at the present zoom.
+  const Surface& SurfaceAt(int place) const;
   void MakeIndexes();
   /// The place that lies nearest in a direction, -1 for none.
   int Neighbour(const QPoint& direction) const;
@@ -130,12 +132,13 @@ class PanelView : public QWidget {
   Selection& selection_;
   PanelDocument* document_ = nullptr;
   std::unordered_map<const ctlPlexelBaseElement*, int> placeOf_;
-  PlaceIndex places_, parts_;  ///< at zoom 100
-  Sprites sprites_;            ///< of bodies, ticks and badges
-  int focused_ = -1;           ///< the place whose element has the focus
-  std::vector<bool> marked_;   ///< which places the picture marks as chosen
-  std::vector<bool> found_;    ///< which places a search has found
-  int dirty_ = 0;              ///< how many places were to be painted anew since the last painting
+  PlaceIndex places_, parts_;         ///< at zoom 100
+  Sprites sprites_;                   ///< of bodies, ticks and badges
+  int focused_ = -1;                  ///< the place whose element has the focus
+  std::vector<bool> marked_;          ///< which places the picture marks as chosen
+  std::vector<bool> found_;           ///< which places a search has found
+  int dirty_ = 0;                     ///< how many places were to be painted anew since the last painting
+  mutable bool followsZoom_ = false;  ///< an element is being brought in line with the zoom: it is drawn next
   std::int32_t layer_ = 0;
   bool labels_ = false;
 

@@ -69,6 +69,7 @@ TEST_F(Undo, TheTickFollows) {
 TEST_F(Undo, ZoomAndFocusStayAsTheyAre) {
   Change({"F3"}, [&] { Element("F3").ButtonNotes("a"); });
   document->Zoom(200);
+  document->SurfaceAt(PlaceOf("F3"));
   Element("F3").FocusVisible(True);
   document->Undo();
   EXPECT_EQ(Element("F3").ZoomFactor(), 200);

@@ -175,10 +175,14 @@ TEST_F(Editor, TheContainerKnowsTheLedFunctionsOfAllElements) {
 }
 
 TEST_F(Editor, ZoomGoesToAllElementsAndStaysInItsBounds) {
+  const PanelView& view = window.View();
   window.SetZoom(200);
-  EXPECT_EQ(Element("F1").ZoomFactor(), 200);
-  EXPECT_EQ(window.View().PlaceRect(PlaceOf("F1")).width(), 2 * Element("F1").SizeX());
+  for (const char* const place : {"F1", "F18"}) {
+    EXPECT_EQ(view.PlaceRect(PlaceOf(place)).width(), 2 * Element(place).SizeX());
+    EXPECT_EQ(Element(place).ZoomFactor(), 200);
+  }
   window.SetZoom(100000);
+  EXPECT_EQ(view.PlaceRect(PlaceOf("F1")).width(), PanelDocument::LargestZoom / 100 * Element("F1").SizeX());
   EXPECT_EQ(Element("F1").ZoomFactor(), PanelDocument::LargestZoom);
 }
 
@@ -264,10 +268,10 @@ TEST_F(Editor, SelectingAndZoomingChangeNoByteOfTheFileAndSavingNothingOnTheScre
   window.View().Select(PlaceOf("F5"));
   window.SetZoom(250);
   window.View().Select(PlaceOf("F18"));
-  const float width = Element("F18").SurfaceObjects().Width;
+  const QSize size = window.View().PlaceRect(PlaceOf("F18")).size();
   ASSERT_TRUE(window.SaveProject(File("a.plexel")));
   EXPECT_EQ(BytesOf(File("a.plexel")), before);
-  EXPECT_EQ(Element("F18").SurfaceObjects().Width, width);
+  EXPECT_EQ(window.View().PlaceRect(PlaceOf("F18")).size(), size);
   EXPECT_TRUE(Element("F18").SurfaceObjects().shpRect.Visible);
   EXPECT_TRUE(Element("F18").SurfaceObjects().linX1.Visible);
   EXPECT_EQ(Element("F18").FocusVisible(), True);

@@ -142,6 +142,22 @@ TEST_F(PictureOfAPanel, TheZoomThatFitsShowsAllAndIsAsLargeAsCanBe) {
   EXPECT_TRUE(room.width() < window.View().minimumWidth() || room.height() < window.View().minimumHeight());
 }
 
+TEST_F(PictureOfAPanel, IsDrawnOnceBehindAZoom) {
+  struct Paints : QObject {
+    bool eventFilter(QObject* object, QEvent* event) override {
+      if (event->type() == QEvent::Paint) ++count;
+      return QObject::eventFilter(object, event);
+    }
+    int count = 0;
+  } paints;
+  QCoreApplication::processEvents();
+  window.View().installEventFilter(&paints);
+  window.SetZoom(250);
+  for (int pass = 0; pass < 5; ++pass) QCoreApplication::processEvents();
+  window.View().removeEventFilter(&paints);
+  EXPECT_EQ(paints.count, 1);
+}
+
 TEST_F(PictureOfAPanel, TheFigureOfTheZoomSetsItToNormal) {
   window.SetZoom(250);
   auto* const figure = window.findChild<QToolButton*>("ZoomFigure");
