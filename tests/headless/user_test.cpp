@@ -74,7 +74,7 @@ TEST_F(User, ActsOnTheControlsOfTheOpenDialogByName) {
 }
 
 TEST_F(User, TypesWithAllKeyEvents) {
-  Show([this](HeadlessUser user) { user.Type("txtText", "ab"); });
+  Show([](HeadlessUser user) { user.Type("txtText", "ab"); });
   EXPECT_EQ(form.text.Text(), "ab");
   EXPECT_EQ(form.told.size(), 2U);
 }

@@ -44,7 +44,7 @@ class SampleForm : public Form {
     combo.OnClick = [this] { Note("combo " + combo.Text()); };
     line.Place(3000, 1200, 2400, 330);
     line.OnChange = [this] { Note("line " + line.Text()); };
-    line.OnKeyDown = [this](std::int16_t& keyCode, std::int16_t) {
+    line.OnKeyDown = [](std::int16_t& keyCode, std::int16_t) {
       if (keyCode == 'Q') keyCode = 0;
     };
     line.OnKeyPress = [](std::int16_t& character) {
