@@ -74,6 +74,10 @@ SINGLE = [Once(what, re.compile(pattern), homes) for what, pattern, homes in (
     ("case by the locale", r"\b(tolower|toupper|isxdigit|isalpha)\(", ()),
     ("decoding of UTF-8", r"<< 6U? \|", ("src/forms/characters.cpp",)),
     ("a byte order mark that is read", r"\\xEF\\xBB\\xBF", ("adapters/files/text_lines.cpp",)),
+    ("the line of a place in a text", r"\bcount\(.*'\\n'", ("adapters/files/text_lines.cpp",)),
+    ("the syntax of sections and keys", r"(front\(\) [=!]= |starts_with\()'\['",
+     ("adapters/files/parameter_syntax.cpp", "adapters/files/ini_walk.cpp", "adapters/files/project_reader.h",
+      "adapters/keyboard/layout_tables.cpp")),
     ("a list of files", r"\bdirectory_iterator\b", ("adapters/files/file_lists.cpp",)),
 )]
 # The same of tests: world/world.h has platform, surroundings, host and component, apart from tests of these themselves.

@@ -179,6 +179,8 @@ class Facts(Trees):
                            ("case by the locale", "c = static_cast<char>(std::tolower(c));"),
                            ("decoding of UTF-8", "code = code << 6 | (byte & 0x3F);"),
                            ("a byte order mark that is read", r'text.starts_with("\xEF\xBB\xBF")'),
+                           ("the line of a place in a text", r"1 + std::count(text.begin(), place, '\n');"),
+                           ("the syntax of sections and keys", "if (line.front() == '[') section = line;"),
                            ("a list of files", "for (const auto& entry : std::filesystem::directory_iterator(folder)) {")):
             self.write("adapters/files/a.cpp", "\n" + line + "\n")
             self.assert_fails("adapters/files/a.cpp:2: %s stands elsewhere" % what)
