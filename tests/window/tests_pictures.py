@@ -100,6 +100,8 @@ class Album:
         self.desktop.type("pump2")
         self.take_dialog("configuration-notes", dialog)
         dialog.ok()
+        press(self.desktop, {"English": "LeftAlt+e y", "German": "LeftAlt+b a"}[self.language])
+        self.own_window("layers", 20894)
 
     def properties(self):
         for name, element, kind in (("led", "L1", 1), ("key", "F1", 5), ("key-switch", "K1", 6)):
