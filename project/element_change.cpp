@@ -16,11 +16,12 @@ constexpr std::string_view ofTheScreen[] = {"ZoomFactor",      "FocusVisible", "
                                             "KeyDefinedColor", "XElementSize"};
 
 bool IsKept(const PropertyRow& row) {
-  return row.get != nullptr && !row.storage.key.empty() &&
-         std::ranges::find(ofTheScreen, row.name) == std::end(ofTheScreen);
+  return row.get != nullptr && !row.storage.key.empty() && !IsOfTheScreen(row.storage.key);
 }
 
 }  // namespace
+
+bool IsOfTheScreen(std::string_view key) { return std::ranges::find(ofTheScreen, key) != std::end(ofTheScreen); }
 
 ElementValues ValuesOf(const ctlPlexelBaseElement& element) {
   ElementValues values;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -9,6 +10,9 @@
 #include "element/property_table.h"
 
 namespace plexel {
+
+/// Whether what stands under a key in a project belongs to the screen or to the user's settings. No step changes it.
+bool IsOfTheScreen(std::string_view key);
 
 /// All that a project keeps of an element and a person can change in it: its properties and code bytes, but for what
 /// belongs to the screen (zoom and focus) and to the user's settings (colours, marks, the wizard).

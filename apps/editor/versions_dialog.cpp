@@ -14,6 +14,7 @@
 #include "editor/difference_view.h"
 #include "editor/help_key.h"
 #include "files/file_error.h"
+#include "project/element_change.h"
 #include "qt/units.h"
 
 namespace plexel {
@@ -85,7 +86,11 @@ std::filesystem::path VersionsDialog::Chosen() const {
 void VersionsDialog::ShowVersion(int row) {
   if (row < 0) return;
   try {
-    const auto differences = DifferencesOf(now_, ReadProject(versions_.at(static_cast<std::size_t>(row)).file));
+    auto differences = DifferencesOf(now_, ReadProject(versions_.at(static_cast<std::size_t>(row)).file));
+    // What a version has been saved with of the user's settings does not come back with it.
+    std::erase_if(differences, [](const ProjectDifference& one) {
+      return one.kind == DifferenceKind::Property && IsOfTheScreen(one.name);
+    });
     differences_->Show(differences);
     summary_->setText(SummaryOf(differences));
     bringBack_->setEnabled(!differences.empty());

@@ -3,6 +3,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -11,7 +12,9 @@
 #include "editor/versions_dialog.h"
 #include "editor_fixture.h"
 #include "files/file_error.h"
+#include "project/difference.h"
 #include "project/open_file.h"
+#include "services/setting_table.h"
 
 namespace plexel::testing {
 namespace {
@@ -370,6 +373,19 @@ TEST_F(Kept, TheVersionsTellWhatDiffersAndComeBackAsOneStep) {
   EXPECT_EQ(differences->topLevelItem(0)->text(1), "Notes");
   EXPECT_EQ(differences->topLevelItem(0)->text(2), "second");
   EXPECT_EQ(dialog.Chosen(), versions.List(File("a.plexel")).at(1).file);
+}
+
+TEST_F(Kept, TheUsersSettingsAreNoDifferenceOfAVersion) {
+  ASSERT_TRUE(window.SaveProject(File("a.plexel")));
+  const auto showX = std::ranges::find(SettingTable, "ShowX", &SettingRow::name);
+  ASSERT_NE(showX, SettingTable.end());
+  surroundings.Settings().Value(*showX, 1 - surroundings.Settings().Value(*showX));
+  window.SettingsChanged();
+  ASSERT_FALSE(DifferencesOf(window.Document()->Content(), ReadProject(File("a.plexel"))).empty());
+  const VersionStore versions(File("state") / "versions");
+  const VersionsDialog dialog(versions, *window.Document(), &window);
+  EXPECT_EQ(dialog.findChild<QTreeWidget*>()->topLevelItemCount(), 0);
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("BringBack")->isEnabled());
 }
 
 TEST_F(Kept, ADifferenceIsToldInWords) {
