@@ -23,8 +23,8 @@ def badge(editor):
     def still():
         count, box = editor.desktop.colour(picture_box(editor), ERROR)
         last.append(box.centre() if count > 20 else None)
-        editor.pause(0.05)
-        return len(last) > 2 and last[-1] == last[-2] == last[-3] and last[-1]
+        editor.pause(0.1)
+        return len(last) > 1 and last[-1] == last[-2] and last[-1]
 
     return wait_for("the mark of the error on the picture", still)
 
@@ -109,9 +109,23 @@ def expect_whole(editor):
         raise Failed(f"fitted, the panel is drawn {factor} times at {whole} in the window {window}")
 
 
-def ticks(editor):
-    """Which of two keys have a tick."""
-    return {name: editor.desktop.colour(editor.element(name), TICK)[0] > 5 for name in ("F2", "F7")}
+class Keys:
+    """Two keys on a picture that stays where it is."""
+
+    def __init__(self, editor):
+        self.desktop = editor.desktop
+        self.boxes = {name: editor.element(name) for name in ("F2", "F7")}
+        self.margin = 6 * editor.scale
+
+    def ticks(self):
+        """Which of them have a tick."""
+        return {name: self.desktop.colour(box, TICK)[0] > 5 for name, box in self.boxes.items()}
+
+    def look(self, name):
+        """What the middle of one looks like."""
+        raw = self.desktop.folder / "look.ppm"
+        self.desktop.do(f"picture {self.boxes[name].inner(self.margin)} {raw}")
+        return raw.read_bytes()
 
 
 def layer_shown(tools, folder):
@@ -122,38 +136,33 @@ def layer_shown(tools, folder):
             project = own / "layers.plexel"
             write_project(project, F2_HOLDS_CTRL, F7_SENDS_F13)
             editor = Editor(desktop, tools, project, scale=scale, language=language, settings={})
+            keys = Keys(editor)
             for letter, layers in (("1", (1,)), ("2", (2,)), ("3", (3,)), ("a", (1, 2))):
                 press(desktop, f"{view} {letter}")
                 desktop.no_popup()
                 wanted = {"F2": 1 in layers, "F7": 2 in layers}
-                wait_for(f"the ticks of layer {letter}", lambda: ticks(editor) == wanted)
+                wait_for(f"the ticks of layer {letter}", lambda: keys.ticks() == wanted)
             # From the box of the tool bar: the third of its entries.
             box = (editor.window.left + 460 * scale, editor.window.top + 37 * scale)
             desktop.click(box)
             popup = desktop.popup()
             desktop.picture(tools.pictures / f"layer-box-{language}-{scale}.png", editor.window)
             desktop.click_away_popup((popup.left + 20 * scale, popup.top + popup.height // 2))
-            wait_for("the ticks of layer 2", lambda: ticks(editor) == {"F2": False, "F7": True})
-            plain = {name: look(editor, name) for name in ("F2", "F7")}
+            wait_for("the ticks of layer 2", lambda: keys.ticks() == {"F2": False, "F7": True})
+            plain = {name: keys.look(name) for name in ("F2", "F7")}
             press(desktop, labels)
-            wait_for("the label of F7", lambda: look(editor, "F7") != plain["F7"])
-            if look(editor, "F2") != plain["F2"]:
+            wait_for("the label of F7", lambda: keys.look("F7") != plain["F7"])
+            if keys.look("F2") != plain["F2"]:
                 raise Failed("F2 has a label, and nothing is defined of it on the layer that is shown")
             desktop.picture(tools.pictures / f"labels-{language}-{scale}.png", editor.window)
             editor.wait_modified(False)
             editor.quit()
             editor = Editor(desktop, tools, project, scale=scale, language=language)
-            if ticks(editor) != {"F2": True, "F7": True} or look(editor, "F7") == plain["F7"]:
+            keys = Keys(editor)
+            if keys.ticks() != {"F2": True, "F7": True} or keys.look("F7") == plain["F7"]:
                 raise Failed("the next start shows one layer, or no labels")
             desktop.picture(tools.pictures / f"labels-all-{language}-{scale}.png", editor.window)
             editor.quit()
-
-
-def look(editor, name):
-    """What the middle of an element looks like."""
-    raw = editor.desktop.folder / "look.ppm"
-    editor.desktop.do(f"picture {editor.element(name).inner(6 * editor.scale)} {raw}")
-    return raw.read_bytes()
 
 
 def places(tools, folder):
