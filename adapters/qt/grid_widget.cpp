@@ -6,9 +6,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
-#include <algorithm>
 #include <cstdlib>
-#include <numeric>
 
 #include "qt/captions.h"
 #include "qt/input_events.h"
@@ -20,25 +18,8 @@ namespace {
 
 constexpr int EdgeReach = 3;  // pixels
 constexpr int CellMargin = 4;
-constexpr int Narrowest = 120, NextInView = 240;  // twips
-
-bool SameCell(const GridCell& one, const GridCell& other) {
-  return one.text == other.text && one.foreColor == other.foreColor && one.backColor == other.backColor &&
-         one.centred == other.centred;
-}
-
-bool SameRow(const std::vector<GridCell>& one, const std::vector<GridCell>& other) {
-  return std::equal(one.begin(), one.end(), other.begin(), other.end(), SameCell);
-}
 
 }  // namespace
-
-bool GridWidget::Shot::operator==(const Shot& other) const {
-  return widths == other.widths && row == other.row && col == other.col && topRow == other.topRow &&
-         leftCol == other.leftCol && rowHeight == other.rowHeight && focus == other.focus && enabled == other.enabled &&
-         showsEnd == other.showsEnd &&
-         std::equal(cells.begin(), cells.end(), other.cells.begin(), other.cells.end(), SameRow);
-}
 
 GridWidget::GridWidget(const Grid& model, QWidget& parent, Listener listener)
     : QAbstractScrollArea(&parent), model_(model), listener_(std::move(listener)) {
@@ -48,43 +29,9 @@ GridWidget::GridWidget(const Grid& model, QWidget& parent, Listener listener)
   setContextMenuPolicy(Qt::NoContextMenu);
 }
 
-GridWidget::Shot GridWidget::Take() const {
-  Shot shot;
-  for (int row = 0; row < model_.Rows(); ++row) {
-    std::vector<GridCell>& cells = shot.cells.emplace_back();
-    for (int col = 0; col < model_.Cols(); ++col) cells.push_back(model_.CellAt(row, col));
-  }
-  shot.widths = DrawnWidths();
-  shot.row = model_.Row();
-  shot.col = model_.Col();
-  shot.topRow = model_.TopRow();
-  shot.leftCol = model_.LeftCol();
-  shot.rowHeight = model_.RowHeight();
-  shot.focus = model_.HasFocus();
-  shot.enabled = model_.Enabled();
-  shot.showsEnd = model_.ShowsEnd();
-  return shot;
-}
-
-int GridWidget::WidestOf(int col, const std::vector<int>& widths) const {
-  const int room = static_cast<int>(model_.Width());
-  if (col < model_.FixedCols()) return std::max(Narrowest, room / 2 / model_.FixedCols());
-  const int fixed = std::accumulate(widths.begin(), widths.begin() + model_.FixedCols(), 0);
-  return std::max(Narrowest, room - fixed - NextInView);
-}
-
-std::vector<int> GridWidget::DrawnWidths() const {
-  std::vector<int> widths;
-  for (int col = 0; col < model_.Cols(); ++col) {
-    const int width = model_.ColWidth(col);
-    widths.push_back(model_.UserResizing() ? std::clamp(width, Narrowest, WidestOf(col, widths)) : width);
-  }
-  return widths;
-}
-
 void GridWidget::Sync() {
   if (!model_.Redraw()) return;
-  Shot shot = Take();
+  GridShot shot = GridShot::Of(model_);
   if (shot == shot_) return;
   shot_ = std::move(shot);
   SyncScrollBars();
@@ -93,43 +40,29 @@ void GridWidget::Sync() {
 
 void GridWidget::SyncScrollBars() {
   const QScopedValueRollback<bool> guard(syncing_, true);
-  const int rows = model_.Rows() - model_.FixedRows();
-  const bool tall = rows > model_.RowsInView();
-  verticalScrollBar()->setRange(0, tall ? rows - model_.RowsInView() : 0);
-  verticalScrollBar()->setPageStep(model_.RowsInView());
-  verticalScrollBar()->setValue(shot_.topRow - model_.FixedRows());
-  const int width = std::accumulate(shot_.widths.begin(), shot_.widths.end(), 0);
-  const bool wide = static_cast<float>(width) > model_.Width();
-  horizontalScrollBar()->setRange(0, wide ? model_.Cols() - model_.FixedCols() - 1 : 0);
+  const bool tall = shot_.IsTall(), wide = shot_.IsWide();
+  verticalScrollBar()->setRange(0, tall ? shot_.Rows() - shot_.fixedRows - shot_.rowsInView : 0);
+  verticalScrollBar()->setPageStep(shot_.rowsInView);
+  verticalScrollBar()->setValue(shot_.topRow - shot_.fixedRows);
+  horizontalScrollBar()->setRange(0, wide ? shot_.Cols() - shot_.fixedCols - 1 : 0);
   horizontalScrollBar()->setPageStep(1);
-  horizontalScrollBar()->setValue(shot_.leftCol - model_.FixedCols());
+  horizontalScrollBar()->setValue(shot_.leftCol - shot_.fixedCols);
   setVerticalScrollBarPolicy(tall ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
   // Without room under the rows the keys and the wheel alone scroll sideways.
-  const int rest = height() - ToPixels(static_cast<float>(model_.Rows() * shot_.rowHeight));
-  const bool room = tall || rest >= horizontalScrollBar()->sizeHint().height();
+  const bool room = tall || ToPixels(shot_.HeightBelow()) >= horizontalScrollBar()->sizeHint().height();
   setHorizontalScrollBarPolicy(wide && room ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
 }
 
 QRect GridWidget::CellRect(int row, int col) const {
-  const bool fixedRow = row < model_.FixedRows(), fixedCol = col < model_.FixedCols();
-  if ((!fixedRow && row < shot_.topRow) || (!fixedCol && col < shot_.leftCol)) return {};
-  float left = 0;
-  for (int before = 0; before < col; ++before) {
-    if (before < model_.FixedCols() || before >= shot_.leftCol) {
-      left += static_cast<float>(shot_.widths[static_cast<std::size_t>(before)]);
-    }
-  }
-  const int rowsAbove = fixedRow ? row : model_.FixedRows() + row - shot_.topRow;
-  return PixelRect(left, static_cast<float>(rowsAbove * shot_.rowHeight),
-                   static_cast<float>(shot_.widths[static_cast<std::size_t>(col)]),
-                   static_cast<float>(shot_.rowHeight));
+  const GridPlace place = shot_.PlaceOf(row, col);
+  return place.IsEmpty() ? QRect() : PixelRect(place.left, place.top, place.width, place.height);
 }
 
 void GridWidget::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
-  for (int row = 0; row < static_cast<int>(shot_.cells.size()); ++row) {
-    for (int col = 0; col < static_cast<int>(shot_.widths.size()); ++col) {
+  for (int row = 0; row < shot_.Rows(); ++row) {
+    for (int col = 0; col < shot_.Cols(); ++col) {
       const QRect place = CellRect(row, col);
       if (!place.isEmpty()) DrawCell(painter, row, col, place);
     }
@@ -139,13 +72,13 @@ void GridWidget::paintEvent(QPaintEvent*) {
 }
 
 void GridWidget::DrawCell(QPainter& painter, int row, int col, const QRect& place) const {
-  const GridCell& cell = shot_.cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
-  const bool fixed = model_.IsFixed(row, col);
+  const GridCell& cell = shot_.At(row, col);
+  const bool fixed = shot_.IsFixed(row, col);
   painter.fillRect(place, fixed ? palette().color(QPalette::Button) : ColourOf(cell.backColor));
   painter.setPen(palette().color(fixed ? QPalette::Mid : QPalette::Midlight));
   painter.drawLine(place.topRight(), place.bottomRight());
   painter.drawLine(place.bottomLeft(), place.bottomRight());
-  if (!fixed && row == shot_.row && col == shot_.col) {
+  if (!fixed && shot_.IsCurrent(row, col)) {
     const QColor mark = palette().color(shot_.focus ? QPalette::Active : QPalette::Inactive,
                                         shot_.focus ? QPalette::Highlight : QPalette::Dark);
     painter.setPen(QPen(mark, 2));
@@ -158,14 +91,12 @@ void GridWidget::DrawCell(QPainter& painter, int row, int col, const QRect& plac
     return;
   }
   const QRect inner = TextRect(row, col);
-  const Qt::TextElideMode elided = ShowsEnd(row, col) ? Qt::ElideLeft : Qt::ElideRight;
+  const Qt::TextElideMode elided = shot_.ShowsEnd(row, col) ? Qt::ElideLeft : Qt::ElideRight;
   painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft,
                    painter.fontMetrics().elidedText(text, elided, inner.width()));
 }
 
-QString GridWidget::TextAt(int row, int col) const {
-  return WithVisibleControls(ToQt(shot_.cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)].text));
-}
+QString GridWidget::TextAt(int row, int col) const { return WithVisibleControls(ToQt(shot_.At(row, col).text)); }
 
 QRect GridWidget::TextRect(int row, int col) const {
   return CellRect(row, col).adjusted(CellMargin, 0, -CellMargin, 0);
@@ -175,8 +106,8 @@ GridWidget::Spot GridWidget::SpotAt(const QPoint& point) const {
   Spot spot;
   spot.x = ToTwips(point.x());
   spot.y = ToTwips(point.y());
-  for (int row = 0; row < model_.Rows(); ++row) {
-    for (int col = 0; col < model_.Cols(); ++col) {
+  for (int row = 0; row < shot_.Rows(); ++row) {
+    for (int col = 0; col < shot_.Cols(); ++col) {
       if (!CellRect(row, col).contains(point)) continue;
       spot.row = row;
       spot.col = col;
@@ -187,8 +118,8 @@ GridWidget::Spot GridWidget::SpotAt(const QPoint& point) const {
 }
 
 int GridWidget::EdgeAt(const QPoint& point) const {
-  if (!model_.UserResizing() || model_.FixedRows() == 0 || point.y() > CellRect(0, 0).bottom()) return -1;
-  for (int col = model_.Cols() - 1; col >= 0; --col) {
+  if (!model_.UserResizing() || shot_.fixedRows == 0 || point.y() > CellRect(0, 0).bottom()) return -1;
+  for (int col = shot_.Cols() - 1; col >= 0; --col) {
     const QRect place = CellRect(0, col);
     if (!place.isNull() && std::abs(place.x() + place.width() - point.x()) <= EdgeReach) return col;
   }
@@ -215,7 +146,7 @@ void GridWidget::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   const int change = static_cast<int>(ToTwips(event->pos().x() - resizeFrom_));
-  listener_.resized(resizedCol_, std::clamp(resizeWidth_ + change, Narrowest, WidestOf(resizedCol_, shot_.widths)));
+  listener_.resized(resizedCol_, shot_.WidthWithin(resizedCol_, resizeWidth_ + change));
 }
 
 void GridWidget::mouseReleaseEvent(QMouseEvent*) { resizedCol_ = -1; }

@@ -2,9 +2,8 @@
 
 #include <QAbstractScrollArea>
 #include <functional>
-#include <vector>
 
-#include "forms/grid.h"
+#include "forms/grid_shot.h"
 
 namespace plexel {
 
@@ -31,6 +30,8 @@ class GridWidget : public QAbstractScrollArea {
   void Sync();
   /// The place of a cell in the viewport; empty when it is scrolled out of view.
   QRect CellRect(int row, int col) const;
+  /// What is drawn.
+  const GridShot& Drawn() const { return shot_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -43,23 +44,8 @@ class GridWidget : public QAbstractScrollArea {
   bool viewportEvent(QEvent* event) override;
 
  private:
-  /// What is drawn.
-  struct Shot {
-    GridCells cells;
-    std::vector<int> widths;
-    int row = 0, col = 0, topRow = 0, leftCol = 0, rowHeight = 0;
-    bool focus = false, enabled = true, showsEnd = false;
-    bool operator==(const Shot& other) const;
-  };
-
-  Shot Take() const;
-  /// The widths in twips as they are drawn. Where the user may change them, each column keeps an edge that the mouse
-  /// can take, with a piece of the next column in view behind it, whatever width the model has.
-  std::vector<int> DrawnWidths() const;
-  int WidestOf(int col, const std::vector<int>& widths) const;
   void SyncScrollBars();
   void DrawCell(QPainter& painter, int row, int col, const QRect& place) const;
-  bool ShowsEnd(int row, int col) const { return shot_.showsEnd && row == shot_.row && col == shot_.col; }
   QString TextAt(int row, int col) const;
   /// The place of a cell's text.
   QRect TextRect(int row, int col) const;
@@ -69,7 +55,7 @@ class GridWidget : public QAbstractScrollArea {
 
   const Grid& model_;
   Listener listener_;
-  Shot shot_;
+  GridShot shot_;
   Spot pressed_;
   int resizedCol_ = -1, resizeFrom_ = 0, resizeWidth_ = 0;
   bool syncing_ = false;

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <numeric>
 
 #include "win32/grid_accessible.h"
 #include "win32/mouse_buttons.h"
@@ -14,17 +13,7 @@ namespace plexel {
 
 namespace {
 
-constexpr int EdgeReach = 3, CellMargin = 4;      // logical pixels
-constexpr int Narrowest = 120, NextInView = 240;  // twips
-
-bool SameCell(const GridCell& one, const GridCell& other) {
-  return one.text == other.text && one.foreColor == other.foreColor && one.backColor == other.backColor &&
-         one.centred == other.centred;
-}
-
-bool SameRow(const std::vector<GridCell>& one, const std::vector<GridCell>& other) {
-  return std::equal(one.begin(), one.end(), other.begin(), other.end(), SameCell);
-}
+constexpr int EdgeReach = 3, CellMargin = 4;  // logical pixels
 
 void DrawEdge(HDC context, int fromX, int fromY, int toX, int toY) {
   MoveToEx(context, fromX, fromY, nullptr);
@@ -34,13 +23,6 @@ void DrawEdge(HDC context, int fromX, int fromY, int toX, int toY) {
 bool Contains(const RECT& rect, POINT point) { return PtInRect(&rect, point) != FALSE; }
 
 }  // namespace
-
-bool GridView::Shot::operator==(const Shot& other) const {
-  return widths == other.widths && row == other.row && col == other.col && topRow == other.topRow &&
-         leftCol == other.leftCol && rowHeight == other.rowHeight && focus == other.focus && enabled == other.enabled &&
-         showsEnd == other.showsEnd &&
-         std::equal(cells.begin(), cells.end(), other.cells.begin(), other.cells.end(), SameRow);
-}
 
 GridView::GridView(Grid& model, HWND parent, ViewFrame& frame) : ControlView(model, frame), model_(model) {
   Make(parent, GridClass, 0);
@@ -52,43 +34,9 @@ GridView::~GridView() {
   accessible_->Release();
 }
 
-GridView::Shot GridView::Take() const {
-  Shot shot;
-  for (int row = 0; row < model_.Rows(); ++row) {
-    std::vector<GridCell>& cells = shot.cells.emplace_back();
-    for (int col = 0; col < model_.Cols(); ++col) cells.push_back(model_.CellAt(row, col));
-  }
-  shot.widths = DrawnWidths();
-  shot.row = model_.Row();
-  shot.col = model_.Col();
-  shot.topRow = model_.TopRow();
-  shot.leftCol = model_.LeftCol();
-  shot.rowHeight = model_.RowHeight();
-  shot.focus = model_.HasFocus();
-  shot.enabled = model_.Enabled();
-  shot.showsEnd = model_.ShowsEnd();
-  return shot;
-}
-
-int GridView::WidestOf(int col, const std::vector<int>& widths) const {
-  const int room = static_cast<int>(model_.Width());
-  if (col < model_.FixedCols()) return std::max(Narrowest, room / 2 / model_.FixedCols());
-  const int fixed = std::accumulate(widths.begin(), widths.begin() + model_.FixedCols(), 0);
-  return std::max(Narrowest, room - fixed - NextInView);
-}
-
-std::vector<int> GridView::DrawnWidths() const {
-  std::vector<int> widths;
-  for (int col = 0; col < model_.Cols(); ++col) {
-    const int width = model_.ColWidth(col);
-    widths.push_back(model_.UserResizing() ? std::clamp(width, Narrowest, WidestOf(col, widths)) : width);
-  }
-  return widths;
-}
-
 void GridView::SyncMore() {
   if (!model_.Redraw()) return;
-  Shot shot = Take();
+  GridShot shot = GridShot::Of(model_);
   if (taken_ && shot == shot_) return;
   taken_ = true;
   std::swap(shot, shot_);
@@ -97,8 +45,8 @@ void GridView::SyncMore() {
   TellReaders(shot);
 }
 
-void GridView::TellReaders(const Shot& before) const {
-  const LONG child = shot_.row * model_.Cols() + shot_.col + 1;
+void GridView::TellReaders(const GridShot& before) const {
+  const LONG child = shot_.row * shot_.Cols() + shot_.col + 1;
   const bool moved = before.row != shot_.row || before.col != shot_.col || before.focus != shot_.focus;
   if (moved && shot_.focus) NotifyWinEvent(EVENT_OBJECT_FOCUS, Outer(), OBJID_CLIENT, child);
   for (int row = 0; row < static_cast<int>(std::min(before.cells.size(), shot_.cells.size())); ++row) {
@@ -106,7 +54,7 @@ void GridView::TellReaders(const Shot& before) const {
     const auto& now = shot_.cells[static_cast<std::size_t>(row)];
     for (std::size_t col = 0; col < std::min(old.size(), now.size()); ++col) {
       if (old[col].text == now[col].text) continue;
-      NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, Outer(), OBJID_CLIENT, row * model_.Cols() + static_cast<LONG>(col) + 1);
+      NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, Outer(), OBJID_CLIENT, row * shot_.Cols() + static_cast<LONG>(col) + 1);
     }
   }
 }
@@ -123,30 +71,16 @@ void GridView::SyncScrollBars() {
     const LONG style = bar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
     if (((GetWindowLongW(Outer(), GWL_STYLE) & style) != 0) != shown) ShowScrollBar(Outer(), bar, shown ? TRUE : FALSE);
   };
-  const int rows = model_.Rows() - model_.FixedRows();
-  const bool tall = rows > model_.RowsInView();
-  set(SB_VERT, tall, rows - 1, model_.RowsInView(), shot_.topRow - model_.FixedRows());
-  const int width = std::accumulate(shot_.widths.begin(), shot_.widths.end(), 0);
-  const bool wide = static_cast<float>(width) > model_.Width();
+  const bool tall = shot_.IsTall(), wide = shot_.IsWide();
+  set(SB_VERT, tall, shot_.Rows() - shot_.fixedRows - 1, shot_.rowsInView, shot_.topRow - shot_.fixedRows);
   // Without room under the rows the keys and the wheel alone scroll sideways.
-  const int rest = Host().Measure().ToPixels(model_.Height() - static_cast<float>(model_.Rows() * shot_.rowHeight));
-  const bool room = tall || rest >= GetSystemMetrics(SM_CYHSCROLL);
-  set(SB_HORZ, wide && room, model_.Cols() - model_.FixedCols() - 1, 1, shot_.leftCol - model_.FixedCols());
+  const bool room = tall || Host().Measure().ToPixels(shot_.HeightBelow()) >= GetSystemMetrics(SM_CYHSCROLL);
+  set(SB_HORZ, wide && room, shot_.Cols() - shot_.fixedCols - 1, 1, shot_.leftCol - shot_.fixedCols);
 }
 
 RECT GridView::CellRect(int row, int col) const {
-  const bool fixedRow = row < model_.FixedRows(), fixedCol = col < model_.FixedCols();
-  if ((!fixedRow && row < shot_.topRow) || (!fixedCol && col < shot_.leftCol)) return {};
-  float left = 0;
-  for (int before = 0; before < col; ++before) {
-    if (before < model_.FixedCols() || before >= shot_.leftCol) {
-      left += static_cast<float>(shot_.widths[static_cast<std::size_t>(before)]);
-    }
-  }
-  const int rowsAbove = fixedRow ? row : model_.FixedRows() + row - shot_.topRow;
-  return Host().Measure().PixelRect(left, static_cast<float>(rowsAbove * shot_.rowHeight),
-                                    static_cast<float>(shot_.widths[static_cast<std::size_t>(col)]),
-                                    static_cast<float>(shot_.rowHeight));
+  const GridPlace place = shot_.PlaceOf(row, col);
+  return place.IsEmpty() ? RECT{} : Host().Measure().PixelRect(place.left, place.top, place.width, place.height);
 }
 
 void GridView::Paint() {
@@ -171,8 +105,8 @@ void GridView::Draw(HDC context, const RECT& area) {
   SelectObject(context, Host().Tools().Font(Look(), Host().Measure()));
   SelectObject(context, GetStockObject(DC_PEN));
   SetBkMode(context, TRANSPARENT);
-  for (int row = 0; row < static_cast<int>(shot_.cells.size()); ++row) {
-    for (int col = 0; col < static_cast<int>(shot_.widths.size()); ++col) {
+  for (int row = 0; row < shot_.Rows(); ++row) {
+    for (int col = 0; col < shot_.Cols(); ++col) {
       const RECT place = CellRect(row, col);
       if (!IsEmpty(place)) DrawCell(context, row, col, place);
     }
@@ -182,13 +116,13 @@ void GridView::Draw(HDC context, const RECT& area) {
 }
 
 void GridView::DrawCell(HDC context, int row, int col, const RECT& place) {
-  const GridCell& cell = shot_.cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
-  const bool fixed = model_.IsFixed(row, col);
+  const GridCell& cell = shot_.At(row, col);
+  const bool fixed = shot_.IsFixed(row, col);
   FillRect(context, &place, fixed ? GetSysColorBrush(COLOR_BTNFACE) : Host().Tools().Brush(ColourOf(cell.backColor)));
   SetDCPenColor(context, GetSysColor(fixed ? COLOR_BTNSHADOW : COLOR_3DLIGHT));
   DrawEdge(context, place.right - 1, place.top, place.right - 1, place.bottom);
   DrawEdge(context, place.left, place.bottom - 1, place.right, place.bottom - 1);
-  if (!fixed && row == shot_.row && col == shot_.col) {
+  if (!fixed && shot_.IsCurrent(row, col)) {
     const HBRUSH mark = GetSysColorBrush(shot_.focus ? COLOR_HIGHLIGHT : COLOR_BTNSHADOW);
     RECT frame = place;
     for (int line = 0; line < Host().Measure().Of(2); ++line) {
@@ -206,7 +140,7 @@ void GridView::DrawCell(HDC context, int row, int col, const RECT& place) {
   }
   RECT needed = {};
   DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &needed, Line | DT_CALCRECT);
-  if (!ShowsEnd(row, col) || WidthOf(needed) <= WidthOf(inner)) {
+  if (!shot_.ShowsEnd(row, col) || WidthOf(needed) <= WidthOf(inner)) {
     DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &inner, Line | DT_END_ELLIPSIS);
     return;
   }
@@ -220,9 +154,7 @@ void GridView::DrawCell(HDC context, int row, int col, const RECT& place) {
   DrawTextW(context, cut.c_str(), static_cast<int>(cut.size()), &inner, Line);
 }
 
-std::wstring GridView::TextAt(int row, int col) const {
-  return WithVisibleControls(Wide(shot_.cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)].text));
-}
+std::wstring GridView::TextAt(int row, int col) const { return WithVisibleControls(Wide(shot_.At(row, col).text)); }
 
 RECT GridView::TextRect(int row, int col) const {
   RECT rect = CellRect(row, col);
@@ -231,8 +163,8 @@ RECT GridView::TextRect(int row, int col) const {
 }
 
 GridView::Spot GridView::SpotAt(POINT point) const {
-  for (int row = 0; row < model_.Rows(); ++row) {
-    for (int col = 0; col < model_.Cols(); ++col) {
+  for (int row = 0; row < shot_.Rows(); ++row) {
+    for (int col = 0; col < shot_.Cols(); ++col) {
       if (Contains(CellRect(row, col), point)) return {row, col};
     }
   }
@@ -240,8 +172,8 @@ GridView::Spot GridView::SpotAt(POINT point) const {
 }
 
 int GridView::EdgeAt(POINT point) const {
-  if (!model_.UserResizing() || model_.FixedRows() == 0 || point.y >= CellRect(0, 0).bottom) return -1;
-  for (int col = model_.Cols() - 1; col >= 0; --col) {
+  if (!model_.UserResizing() || shot_.fixedRows == 0 || point.y >= CellRect(0, 0).bottom) return -1;
+  for (int col = shot_.Cols() - 1; col >= 0; --col) {
     const RECT place = CellRect(0, col);
     if (!IsEmpty(place) && std::abs(place.right - point.x) <= Host().Measure().Of(EdgeReach)) return col;
   }
@@ -288,14 +220,14 @@ void GridView::Pressed(UINT message, WPARAM keys, POINT point) {
 void GridView::Moved(POINT point) {
   if (resizedCol_ < 0) return;
   const int change = static_cast<int>(Host().Measure().ToTwips(point.x - resizeFrom_));
-  const int width = std::clamp(resizeWidth_ + change, Narrowest, WidestOf(resizedCol_, shot_.widths));
+  const int width = shot_.WidthWithin(resizedCol_, resizeWidth_ + change);
   Host().Carry(model_, [&](Hand& hand) { hand.ResizeColumn(model_, resizedCol_, width); });
 }
 
 void GridView::Wheel(WPARAM wParam) {
   constexpr int RowsOfStep = 3;
   const int turned = GET_WHEEL_DELTA_WPARAM(wParam);
-  const bool tall = model_.Rows() - model_.FixedRows() > model_.RowsInView();
+  const bool tall = shot_.IsTall();
   const bool sideways = (GET_KEYSTATE_WPARAM(wParam) & MK_SHIFT) != 0 || !tall;
   const int steps = sideways ? turned / WHEEL_DELTA : turned * RowsOfStep / WHEEL_DELTA;
   if (steps == 0) return;

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <vector>
-
-#include "forms/grid.h"
+#include "forms/grid_shot.h"
 #include "win32/control_view.h"
 
 namespace plexel {
@@ -22,6 +20,8 @@ class GridView : public ControlView {
   void GoTo(int row, int col);
   void DoubleClick(int row, int col);
   Grid& Cells() const { return model_; }
+  /// What is drawn.
+  const GridShot& Drawn() const { return shot_; }
   /// The place of a cell in the window; empty when it is scrolled out of view.
   RECT CellRect(int row, int col) const;
   /// The cell at a point of the window; row and column -1 beside all cells.
@@ -38,26 +38,11 @@ class GridView : public ControlView {
   void SyncMore() override;
 
  private:
-  /// What is drawn.
-  struct Shot {
-    GridCells cells;
-    std::vector<int> widths;
-    int row = 0, col = 0, topRow = 0, leftCol = 0, rowHeight = 0;
-    bool focus = false, enabled = true, showsEnd = false;
-    bool operator==(const Shot& other) const;
-  };
-
-  Shot Take() const;
-  /// The widths in twips as they are drawn. Where the user may change them, each column keeps an edge that the mouse
-  /// can take, with a piece of the next column in view behind it, whatever width the model has.
-  std::vector<int> DrawnWidths() const;
-  int WidestOf(int col, const std::vector<int>& widths) const;
-  void TellReaders(const Shot& before) const;
+  void TellReaders(const GridShot& before) const;
   void SyncScrollBars();
   void Paint();
   void Draw(HDC context, const RECT& area);
   void DrawCell(HDC context, int row, int col, const RECT& place);
-  bool ShowsEnd(int row, int col) const { return shot_.showsEnd && row == shot_.row && col == shot_.col; }
   RECT TextRect(int row, int col) const;
   /// The column whose right edge in the header lies at a point, or -1.
   int EdgeAt(POINT point) const;
@@ -68,7 +53,7 @@ class GridView : public ControlView {
   void ScrollTo(int topRow, int leftCol);
 
   Grid& model_;
-  Shot shot_;
+  GridShot shot_;
   GridAccessible* accessible_ = nullptr;  ///< for readers of the screen, once one has asked
   bool taken_ = false;
   int resizedCol_ = -1, resizeFrom_ = 0, resizeWidth_ = 0;
