@@ -53,6 +53,7 @@ class ComboWidget : public QComboBox {
     text_ = text;
     update();
   }
+  const QString& Shown() const { return text_; }
 
   /// The form says how large it is: no entry is measured for it.
   QSize sizeHint() const override { return size(); }
@@ -95,6 +96,8 @@ ComboView::ComboView(ComboBox& model, QWidget& parent, UserActs& acts)
 }
 
 QWidget& ComboView::Outer() const { return *box_; }
+
+QString ComboView::Shown() const { return box_->Shown(); }
 
 void ComboView::Unfold() { box_->showPopup(); }
 

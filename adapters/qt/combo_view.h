@@ -14,6 +14,8 @@ class ComboView : public ControlView {
   QWidget& Outer() const override;
   bool ClicksItself() const override { return true; }
   void Unfold() override;
+  /// The text that stands in the folded box.
+  QString Shown() const;
 
  protected:
   void SyncMore() override;

@@ -193,7 +193,9 @@ FrameView::FrameView(Frame& model, QWidget& parent, UserActs&) : ControlView(mod
 }
 
 void FrameView::SyncMore() {
-  if (titled_ != nullptr) titled_->Title(WithLetter(model_.Caption()));
+  if (titled_ == nullptr) return;
+  titled_->Title(WithLetter(model_.Caption()));
+  titled_->setAccessibleName(ToQt(ReadCaption(model_.Caption()).text));
 }
 
 StatusView::StatusView(StatusBar& model, QWidget& parent, UserActs&)

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog_visits.h"
 #include "element/ctlPlexelBaseElement.h"
 #include "files/data_directory.h"
 
@@ -50,16 +51,7 @@ Desk::~Desk() {
 
 std::shared_ptr<ctlPlexelBaseElement> Desk::Element(enumTactisBaseElementType type) {
   auto element = component.Create("F1", host);
-  element->ElementType(type);
-  element->TargetSystem("Standard");
-  element->PressKeyDefLayer1("[Ctrl Left+a\u2039\u203A]");
-  element->PressKeyDefLayer2("[F1\u2039\u203A][Enter\u2039\u203A]");
-  element->ReleaseKeyDefLayer2("[Shift Left\u203A]");
-  element->HardwareNumberButton(12);
-  element->HardwareNumberLed(14);
-  element->HardwareNumberKey(3);
-  element->HardwareNumberKey2(5);
-  element->LEDTypeLayer1(UserLed);
+  dialogs::Visit{type}.SetUp(*element);
   element->ParentWindow(window);
   return element;
 }

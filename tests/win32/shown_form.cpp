@@ -8,6 +8,7 @@
 #include "forms/caption.h"
 #include "forms/characters.h"
 #include "win32/form_view.h"
+#include "win32/grid_view.h"
 
 namespace plexel {
 
@@ -26,6 +27,32 @@ std::string TextOfWindow(HWND window) {
   text.resize(
       static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
   return Utf8(text);
+}
+
+std::string EntryOf(HWND box, int entry) {
+  std::wstring text(1100, L'\0');
+  text.resize(static_cast<std::size_t>(
+      SendMessageW(box, CB_GETLBTEXT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(text.data()))));
+  return Utf8(text);
+}
+
+std::string TextOfTab(HWND strip, int page) {
+  std::wstring text(200, L'\0');
+  TCITEMW item = {};
+  item.mask = TCIF_TEXT;
+  item.pszText = text.data();
+  item.cchTextMax = static_cast<int>(text.size());
+  SendMessageW(strip, TCM_GETITEMW, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
+  return Utf8(item.pszText);
+}
+
+/// The window that has the title of a frame; null for a frame without one.
+HWND TitleOf(HWND frame) {
+  HWND box = FindWindowExW(frame, nullptr, WC_BUTTONW, nullptr);
+  while (box != nullptr && (GetWindowLongW(box, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) {
+    box = FindWindowExW(frame, box, WC_BUTTONW, nullptr);
+  }
+  return box;
 }
 
 /// Collects what is not as it should be.
@@ -118,11 +145,7 @@ class Comparison {
       }
       case ControlKind::Frame: {
         const auto& frame = static_cast<Frame&>(control);
-        HWND box = FindWindowExW(window, nullptr, WC_BUTTONW, nullptr);
-        while (box != nullptr && (GetWindowLongW(box, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) {
-          box = FindWindowExW(window, box, WC_BUTTONW, nullptr);
-        }
-        if (frame.Border() && frame.Height() > 90) Caption(name, box, frame.Caption());
+        if (frame.Border() && frame.Height() > 90) Caption(name, TitleOf(window), frame.Caption());
         return;
       }
       case ControlKind::TabStrip:
@@ -148,10 +171,7 @@ class Comparison {
       Same(name + ": entry", SendMessageW(window, CB_GETCURSEL, 0, 0), box.ListIndex());
     }
     for (int entry = 0; entry < box.ListCount(); ++entry) {
-      std::wstring text(1100, L'\0');
-      text.resize(static_cast<std::size_t>(
-          SendMessageW(window, CB_GETLBTEXT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(text.data()))));
-      Same(name + ": entry " + std::to_string(entry), Utf8(text), box.List(entry));
+      Same(name + ": entry " + std::to_string(entry), EntryOf(window, entry), box.List(entry));
     }
   }
 
@@ -160,13 +180,7 @@ class Comparison {
     Same(name + ": pages", TabCtrl_GetItemCount(window), strip.Pages());
     Same(name + ": page in front", TabCtrl_GetCurSel(window), strip.Tab());
     for (int page = 0; page < strip.Pages(); ++page) {
-      std::wstring text(200, L'\0');
-      TCITEMW item = {};
-      item.mask = TCIF_TEXT;
-      item.pszText = text.data();
-      item.cchTextMax = static_cast<int>(text.size());
-      SendMessageW(window, TCM_GETITEMW, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
-      Same(name + ": tab", ReadCaption(Utf8(item.pszText)).text, ReadCaption(strip.TabCaption(page)).text);
+      Same(name + ": tab", ReadCaption(TextOfTab(window, page)).text, ReadCaption(strip.TabCaption(page)).text);
     }
   }
 
@@ -175,7 +189,99 @@ class Comparison {
   std::vector<std::string> found_;
 };
 
+using dialogs::Lines;
+using dialogs::ToldControl;
+using dialogs::YesOrNo;
+
+std::string CaptionOf(HWND window) { return dialogs::Readable(TextOfWindow(window)); }
+
+ToldControl ToldOf(const Control& control, const ControlView& view) {
+  const HWND window = view.Outer();
+  ToldControl told{control.FullName(), IsWindowVisible(window) != FALSE, IsWindowEnabled(window) != FALSE, {}};
+  const auto fact = [&](const char* name, std::string value) { told.facts.emplace_back(name, std::move(value)); };
+  switch (control.Kind()) {
+    case ControlKind::OptionButton:
+      fact("set", YesOrNo(SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED));
+      [[fallthrough]];
+    case ControlKind::CommandButton:
+    case ControlKind::Label:
+      fact("caption", CaptionOf(window));
+      break;
+    case ControlKind::Frame: {
+      const HWND title = TitleOf(window);
+      fact("caption", title == nullptr ? std::string() : CaptionOf(title));
+      break;
+    }
+    case ControlKind::ComboBox: {
+      std::vector<std::string> entries;
+      const auto count = static_cast<int>(SendMessageW(window, CB_GETCOUNT, 0, 0));
+      for (int entry = 0; entry < count; ++entry) entries.push_back(EntryOf(window, entry));
+      fact("text", TextOfWindow(window));
+      fact("entry", std::to_string(SendMessageW(window, CB_GETCURSEL, 0, 0)));
+      fact("entries", Lines(entries));
+      break;
+    }
+    case ControlKind::TextBox:
+      fact("text", TextOfWindow(window));
+      fact("locked", YesOrNo((GetWindowLongW(window, GWL_STYLE) & ES_READONLY) != 0));
+      break;
+    case ControlKind::TabStrip: {
+      const HWND strip = view.FocusWindow();
+      std::vector<std::string> tabs;
+      for (int page = 0; page < TabCtrl_GetItemCount(strip); ++page) {
+        tabs.push_back(dialogs::Readable(TextOfTab(strip, page)));
+      }
+      fact("tabs", Lines(tabs));
+      fact("front", std::to_string(TabCtrl_GetCurSel(strip)));
+      break;
+    }
+    case ControlKind::Grid: {
+      const auto& grid = static_cast<const GridView&>(view);
+      fact("cell", std::to_string(grid.Drawn().row) + " " + std::to_string(grid.Drawn().col));
+      fact("cells", dialogs::CellsOf(grid.Drawn().cells));
+      break;
+    }
+    case ControlKind::StatusBar:
+      fact("text", TextOfWindow(window));
+      break;
+    default:
+      break;
+  }
+  return told;
+}
+
+std::string FocusOf(FormView& view) {
+  const HWND focus = GetFocus();
+  for (const Control* const control : view.Model().Controls()) {
+    const ControlView* const one = view.ViewOf(control);
+    if (one != nullptr && one->FocusWindow() == focus) return control->FullName();
+  }
+  return {};
+}
+
 }  // namespace
+
+dialogs::ToldForm ToldOfWindows(FormView& view) {
+  dialogs::ToldForm told;
+  told.title = TextOfWindow(view.Window());
+  for (const Control* const control : view.Model().Controls()) {
+    if (dialogs::IsTold(*control)) told.controls.push_back(ToldOf(*control, *view.ViewOf(control)));
+  }
+  told.focus = FocusOf(view);
+  return told;
+}
+
+std::vector<std::string> FollowTab(FormView& view) {
+  return dialogs::FollowTab(FocusOf(view), [&view] {
+    MSG key = {};
+    key.hwnd = GetFocus();
+    key.message = WM_KEYDOWN;
+    key.wParam = VK_TAB;
+    key.lParam = 1 | (static_cast<LPARAM>(MapVirtualKeyW(VK_TAB, MAPVK_VK_TO_VSC)) << 16U);
+    view.TakeMessage(key);
+    return FocusOf(view);
+  });
+}
 
 RECT PlaceOfTab(HWND strip, int page) {
   RECT place = {};

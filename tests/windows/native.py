@@ -2,8 +2,11 @@
 
 import contextlib
 import os
+import pathlib
 import re
 import subprocess
+
+TELLINGS = pathlib.Path(__file__).resolve().parents[1] / "dialogs"
 
 
 @contextlib.contextmanager
@@ -37,7 +40,8 @@ class Native:
         with display(layout) as name:
             run = self.wine.run(self.build / ("build-" + self.bits) / "bin" / "test_win32.exe", *words, data=self.data,
                                 environment={"DISPLAY": name, "PLEXEL_LAYOUT": layout,
-                                             "PLEXEL_PICTURES": self.wine.name(self.pictures)})
+                                             "PLEXEL_PICTURES": self.wine.name(self.pictures),
+                                             "PLEXEL_TELLINGS": self.wine.name(TELLINGS)})
             self.wine.close()  # with the display, the desktop that it has shown goes
         told = run.stdout.decode("utf-8", "replace")
         self.assertEqual(run.returncode, 0, told[-6000:])
