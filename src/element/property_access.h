@@ -62,6 +62,26 @@ PropertyData GetData(const Element& element) {
   }
 }
 
+/// A whole number or a boolean in the range of the property's type.
+template <PropertyType type, typename T, Setter<T> set>
+void SetWhole(Element& element, std::int32_t value) {
+  if constexpr (type == PropertyType::Bool) {
+    (element.*set)(Boolean::Raw(static_cast<std::int16_t>(value)));
+  } else {
+    (element.*set)(static_cast<T>(value));
+  }
+}
+
+template <PropertyType type, typename T, Setter<T> set>
+consteval auto SetWholeOf() {
+  constexpr bool whole = type != PropertyType::Double && type != PropertyType::String;
+  if constexpr (whole) {
+    return SetWhole<type, T, set>;
+  } else {
+    return nullptr;
+  }
+}
+
 template <PropertyType type, typename T, Setter<T> set>
 void SetData(Element& element, const PropertyData& value, std::string_view name) {
   if constexpr (type == PropertyType::Double) {
@@ -71,10 +91,10 @@ void SetData(Element& element, const PropertyData& value, std::string_view name)
     (element.*set)(text != nullptr ? *text : ToText(value));
   } else if constexpr (type == PropertyType::Bool) {
     using Range = std::numeric_limits<std::int16_t>;
-    (element.*set)(Boolean::Raw(static_cast<std::int16_t>(ToInteger(value, name, Range::min(), Range::max()))));
+    SetWhole<type, T, set>(element, ToInteger(value, name, Range::min(), Range::max()));
   } else {
     using Range = std::numeric_limits<Native<type>>;
-    (element.*set)(static_cast<T>(ToInteger(value, name, Range::min(), Range::max())));
+    SetWhole<type, T, set>(element, ToInteger(value, name, Range::min(), Range::max()));
   }
 }
 
@@ -113,7 +133,8 @@ consteval PropertyRow MakeRow(std::string_view name, NoticeStyle notice, Storage
           GetData<type, T, get>,
           SetData<type, T, set>,
           LoadData<type, T, set>,
-          SaveData<type, T, get>};
+          SaveData<type, T, get>,
+          SetWholeOf<type, T, set>()};
 }
 
 /// A property that is stored.
@@ -132,12 +153,20 @@ consteval PropertyRow Choice(std::string_view name, NoticeStyle notice, Storage 
 template <PropertyType type, Getter<Native<type>> get, Setter<Native<type>> set>
 consteval PropertyRow Unstored(std::string_view name, NoticeStyle notice) {
   using T = Native<type>;
-  return {name, type, notice, {}, GetData<type, T, get>, SetData<type, T, set>, nullptr, nullptr};
+  return {name,
+          type,
+          notice,
+          {},
+          GetData<type, T, get>,
+          SetData<type, T, set>,
+          nullptr,
+          nullptr,
+          SetWholeOf<type, T, set>()};
 }
 
 /// A property that is reached by the typed interface only.
 consteval PropertyRow Closed(std::string_view name, PropertyType type) {
-  return {name, type, NoticeStyle::None, {}, nullptr, nullptr, nullptr, nullptr};
+  return {name, type, NoticeStyle::None, {}, nullptr, nullptr, nullptr, nullptr, nullptr};
 }
 
 }  // namespace plexel::property_access

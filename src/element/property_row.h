@@ -49,6 +49,8 @@ struct PropertyRow {
   void (*set)(Element&, const PropertyData&, std::string_view name);
   void (*load)(Element&, const BagValue&);
   BagValue (*save)(const Element&);
+  /// Sets a whole number or a boolean that lies in the range of its type; null for a property of another type.
+  void (*setWhole)(Element&, std::int32_t);
 };
 
 }  // namespace plexel

@@ -50,6 +50,19 @@ TEST_F(PropertyTableOfElement, AnyOtherKeyHasNoNumber) {
   }
 }
 
+TEST_F(PropertyTableOfElement, WholeNumbersAndBooleansAreSetWithoutAWayAround) {
+  int whole = 0;
+  for (const PropertyRow& row : PropertyTable()) {
+    EXPECT_EQ(row.setWhole != nullptr, row.type <= PropertyType::Bool) << row.name;
+    if (row.setWhole == nullptr) continue;
+    ++whole;
+    ASSERT_NE(Get(*element, row), PropertyData(2)) << row.name;
+    row.setWhole(*element, 2);
+    EXPECT_EQ(Get(*element, row), PropertyData(2)) << row.name;
+  }
+  EXPECT_EQ(whole, 32);
+}
+
 TEST_F(PropertyTableOfElement, EveryRowIsFoundByItsName) {
   for (const PropertyRow& row : PropertyTable()) EXPECT_EQ(FindProperty(row.name), &row) << row.name;
 }
