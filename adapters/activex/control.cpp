@@ -15,6 +15,7 @@ namespace plexel::activex {
 Control::Control(IUnknown* outer)
     : outer_(outer != nullptr ? outer : this),
       parts_(SharedParts::Get()),
+      inForce_(parts_->Services()),
       host_(std::make_unique<Host>(*this)),
       faces_(std::make_unique<Faces>(*this)),
       points_(std::make_unique<ConnectionPoints>(*this)),
@@ -47,24 +48,41 @@ HRESULT Control::QueryInterface(REFIID iid, void** object) {
 ULONG Control::AddRef() { return ++holds_; }
 
 ULONG Control::Release() {
-  --holds_;
-  if (holds_ > 0 && holds_ == entries_) CloseDialogs();
-  if (holds_ > 0) return holds_;
-  // Whoever is told of the end may hold the control meanwhile.
-  holds_ = std::numeric_limits<ULONG>::max() / 2;
-  End();
-  delete this;
+  if (--holds_ > 0) return holds_;
+  if (IsInside()) {
+    hasToSettle_ = true;
+    CloseDialogs();
+  } else {
+    Go();
+  }
   return 0;
 }
 
-void Control::End() noexcept {
+bool Control::IsInside() const {
+  const HostCall* call = inForce_.innermost;
+  while (call != nullptr && &call->services != &services_) call = call->around;
+  return call != nullptr;
+}
+
+void Control::Settle() noexcept {
+  if (IsInside()) return;
+  hasToSettle_ = false;
+  ++holds_;  // whoever is let go of may call
+  LetGoOfFormer();
+  Release();
+}
+
+void Control::Go() noexcept {
+  holds_ = std::numeric_limits<ULONG>::max() / 2;  // whoever is told of the end may hold the control meanwhile
   (void)Guarded("Release", [&] {
     place_->Close();
     if (element_ != nullptr) element_->UserControl_Terminate();
     return S_OK;
   });
+  LetGoOfFormer();
   if (element_ != nullptr) LetGo(*element_);
   Site(nullptr);
+  delete this;
 }
 
 /// The component may keep an element that has been worked on, but it keeps nothing of the host's with it.
@@ -100,9 +118,9 @@ void Control::Take(std::shared_ptr<Element> element) {
   if (element_ != nullptr) {
     element_->Detach();
     former_.push_back(std::move(element_));
+    hasToSettle_ = true;
   }
   element_ = std::move(element);
-  if (entries_ == 0) LetGoOfFormer();
 }
 
 void Control::Site(IOleClientSite* site) {

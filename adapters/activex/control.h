@@ -86,7 +86,7 @@ class Control final : public IUnknown, private module::Use {
   /// Runs what a host has called. The control outlives the call, whatever the host does meanwhile; what it shows is
   /// brought up to date, and what it asks for is answered by its own host's services.
   template <typename Procedure>
-  HRESULT Run(std::string_view member, Procedure&& procedure) noexcept {
+  [[gnu::always_inline]] inline HRESULT Run(const std::string_view& member, Procedure&& procedure) noexcept {
     const Entry entry(*this);
     return Guarded(member, [&] {
       if constexpr (std::is_void_v<std::invoke_result_t<Procedure>>) {
@@ -100,29 +100,22 @@ class Control final : public IUnknown, private module::Use {
 
  private:
   /// A call from outside.
-  class Entry {
+  class Entry : private HostCall {
    public:
     explicit Entry(Control& control) noexcept
-        : control_(control), before_(control.parts_->Services().Ask(&control.services_)) {
-      ++control_.holds_;
-      ++control_.entries_;
+        : HostCall{control.services_, control.inForce_.innermost}, control_(control) {
+      control.inForce_.innermost = this;
     }
     ~Entry() {
       if (control_.isSeen_) control_.ShowChanges();
-      control_.parts_->Services().Ask(before_);
-      if (--control_.entries_ == 0 && !control_.former_.empty()) control_.LetGoOfFormer();
-      if (control_.holds_ > control_.entries_ + 1) {
-        --control_.holds_;
-      } else {
-        control_.Release();
-      }
+      control_.inForce_.innermost = around;
+      if (control_.hasToSettle_) control_.Settle();
     }
     Entry(const Entry&) = delete;
     Entry& operator=(const Entry&) = delete;
 
    private:
     Control& control_;
-    HostServices* before_;
   };
 
   class Host;
@@ -132,8 +125,13 @@ class Control final : public IUnknown, private module::Use {
   ~Control();
   /// An interface of the control by its identifier; null when it has none.
   IUnknown* FaceOf(REFIID iid);
-  /// The element says farewell to its host.
-  void End() noexcept;
+  /// Whether a call has not returned.
+  bool IsInside() const;
+  /// Does what has waited for the last call to return, if that has: former elements go, and the control when nobody
+  /// holds it.
+  void Settle() noexcept;
+  /// The end of the control.
+  void Go() noexcept;
   void Take(std::shared_ptr<Element> element);
   static void LetGo(Element& element) noexcept;
   void LetGoOfFormer() noexcept;
@@ -141,11 +139,11 @@ class Control final : public IUnknown, private module::Use {
   void ShowChanges() noexcept;
   void TellSize();
 
-  ULONG holds_ = 0;
-  ULONG entries_ = 0;
+  ULONG holds_ = 0;  ///< of hosts; a call keeps the control without one
   int dialogs_ = 0;
   IUnknown* outer_;
   std::shared_ptr<SharedParts> parts_;
+  ControlSurroundings& inForce_;
   HostServices services_;
   std::unique_ptr<Host> host_;
   std::shared_ptr<Element> element_;
@@ -158,7 +156,8 @@ class Control final : public IUnknown, private module::Use {
   float shownWidth_, shownHeight_;  ///< of the element's surface, twips; the container's size counts until they change
   Surface shown_;                   ///< as it was last drawn
   bool changed_ = false;
-  bool isSeen_ = false;  ///< by a window or a sink
+  bool isSeen_ = false;       ///< by a window or a sink
+  bool hasToSettle_ = false;  ///< when the last call returns
 };
 
 }  // namespace plexel::activex

@@ -18,17 +18,17 @@ FileSurroundings& ControlSurroundings::Files() {
 }
 
 LanguageService& ControlSurroundings::Language() {
-  if (host_ != nullptr && host_->language.host) return host_->language;
+  if (innermost != nullptr && innermost->services.language.host) return innermost->services.language;
   return Files().Language();
 }
 
 SettingsService& ControlSurroundings::Settings() {
-  if (host_ != nullptr && host_->settings.host) return host_->settings;
+  if (innermost != nullptr && innermost->services.settings.host) return innermost->services.settings;
   return Files().Settings();
 }
 
 CapabilityService& ControlSurroundings::Capabilities() {
-  if (host_ != nullptr && host_->capabilities.host) return host_->capabilities;
+  if (innermost != nullptr && innermost->services.capabilities.host) return innermost->services.capabilities;
   return Files().Capabilities();
 }
 

@@ -10,6 +10,12 @@
 
 namespace plexel::activex {
 
+/// A call of a host, as long as it lasts. It is that host's services that the component asks.
+struct HostCall {
+  HostServices& services;
+  const HostCall* around;  ///< the one that it came within, null for none
+};
+
 /// The services of the component: those that the host of the control in question offers, else those kept in the files
 /// beside the library, which are read at their first use. Failure (Platform) at each use when they cannot be read.
 class ControlSurroundings : public Surroundings {
@@ -19,13 +25,12 @@ class ControlSurroundings : public Surroundings {
   CapabilityService& Capabilities() override;
   ParameterFileReader& ParameterFiles() override;
 
-  /// From now on it is these that a host offers; null for none. Gives those before.
-  HostServices* Ask(HostServices* services) { return std::exchange(host_, services); }
+  /// The innermost call of a host that has not returned; null for none. Calls are entered and left one within another.
+  const HostCall* innermost = nullptr;
 
  private:
   FileSurroundings& Files();
 
-  HostServices* host_ = nullptr;
   std::unique_ptr<FileSurroundings> files_;
   std::optional<std::string> problem_;  ///< why there are no files
 };

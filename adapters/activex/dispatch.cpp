@@ -16,28 +16,19 @@ namespace {
 
 constexpr WORD Putting = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
-/// The type in which callers by name give and get a property.
-VARTYPE TypeOf(PropertyType type) {
-  switch (type) {
-    case PropertyType::Int16:
-      return VT_I2;
-    case PropertyType::Int32:
-      return VT_I4;
-    case PropertyType::UInt8:
-      return VT_UI1;
-    case PropertyType::Bool:
-      return VT_BOOL;
-    case PropertyType::Double:
-      return VT_R8;
-    case PropertyType::String:
-      return VT_BSTR;
-    case PropertyType::Object:
-      return VT_DISPATCH;
-    case PropertyType::Record:
-      return VT_RECORD;
-  }
-  return VT_EMPTY;
-}
+const std::span<const PropertyRow> properties = PropertyTable();
+
+/// The place of a member, properties first; beyond all for no number of a member.
+std::size_t RowOf(DISPID member) { return static_cast<std::size_t>(member) - 1; }
+
+/// The types in which callers by name give and get properties, in the order of PropertyType; whole numbers and booleans
+/// stand first.
+constexpr std::array<VARTYPE, 8> types = {VT_I2, VT_I4, VT_UI1, VT_BOOL, VT_R8, VT_BSTR, VT_DISPATCH, VT_RECORD};
+static_assert(static_cast<std::size_t>(PropertyType::Record) + 1 == types.size());
+
+constexpr VARTYPE TypeOf(PropertyType type) { return types[static_cast<std::size_t>(type)]; }
+
+constexpr bool IsWhole(PropertyType type) { return type <= PropertyType::Bool; }
 
 /// A number that a colour may be written as: 32 bits, with a sign or without.
 void ConvertWhole(const VARIANT& value, LCID locale, VARIANT& converted) {
@@ -52,26 +43,33 @@ void ConvertWhole(const VARIANT& value, LCID locale, VARIANT& converted) {
   }
 }
 
-PropertyData DataOf(const VARIANT& value) {
+/// The number in a value of a type that a whole number or a boolean has.
+std::int32_t WholeIn(const VARIANT& value) {
   switch (V_VT(&value)) {
-    case VT_I2:
-      return std::int32_t{V_I2(&value)};
     case VT_I4:
-      return std::int32_t{V_I4(&value)};
+      return V_I4(&value);
     case VT_UI1:
-      return std::int32_t{V_UI1(&value)};
-    case VT_BOOL:
-      return std::int32_t{V_BOOL(&value)};
-    case VT_R8:
-      return V_R8(&value);
+      return V_UI1(&value);
     default:
-      return NarrowOf(V_BSTR(&value));
+      return V_I2(&value);  // a boolean lies in the same place
   }
 }
 
-PropertyData Converted(const VARIANT& given, const PropertyRow& row, LCID locale) {
-  const VARTYPE type = TypeOf(row.type);
-  if (V_VT(&given) == type) return DataOf(given);
+/// Whether a call puts one value, and no more than that.
+bool PutsOneValue(WORD flags, const DISPPARAMS* given) {
+  return flags == DISPATCH_PROPERTYPUT && given != nullptr && given->cArgs == 1 && given->rgvarg != nullptr &&
+         given->cNamedArgs == 1 && given->rgdispidNamedArgs != nullptr &&
+         *given->rgdispidNamedArgs == DISPID_PROPERTYPUT;
+}
+
+PropertyData DataOf(const VARIANT& value) {
+  if (V_VT(&value) == VT_R8) return V_R8(&value);
+  if (V_VT(&value) == VT_BSTR) return NarrowOf(V_BSTR(&value));
+  return WholeIn(value);
+}
+
+/// A value of another type than the property's.
+PropertyData Converted(const VARIANT& given, VARTYPE type, LCID locale) {
   Variant converted;
   if (type == VT_I4) {
     ConvertWhole(given, locale, converted.Get());
@@ -152,15 +150,16 @@ bool IsOfTheCall(HRESULT result) { return HRESULT_FACILITY(result) == FACILITY_D
 }  // namespace
 
 template <typename Procedure>
-HRESULT Dispatch::Told(const Request& request, Procedure&& procedure) {
+[[gnu::always_inline]] inline HRESULT Dispatch::Told(EXCEPINFO* trouble, const std::string_view& member,
+                                                     Procedure&& procedure) {
   try {
     return procedure();
   } catch (const ResultError& error) {
     if (IsOfTheCall(error.Result())) return error.Result();
     throw;
   } catch (...) {
-    if (request.trouble == nullptr) throw;
-    Fill(*request.trouble, TroubleNow(MemberName(request.member)));
+    if (trouble == nullptr) throw;
+    Fill(*trouble, TroubleNow(member));
     return DISP_E_EXCEPTION;
   }
 }
@@ -189,7 +188,7 @@ HRESULT Dispatch::GetIDsOfNames(REFIID kind, LPOLESTR* names, UINT count, DISPID
   if (names[0] == nullptr) return E_POINTER;
   numbers[0] = MemberNumber(names[0]);
   bool all = numbers[0] != DISPID_UNKNOWN;
-  const auto method = static_cast<std::size_t>(numbers[0] - 1) - PropertyTable().size();
+  const auto method = static_cast<std::size_t>(numbers[0] - 1) - properties.size();
   for (UINT index = 1; index < count; ++index) {
     if (names[index] != nullptr && all && method < Methods().size()) {
       const auto arguments = Methods()[method].arguments;
@@ -202,18 +201,43 @@ HRESULT Dispatch::GetIDsOfNames(REFIID kind, LPOLESTR* names, UINT count, DISPID
   return all ? S_OK : DISP_E_UNKNOWNNAME;
 }
 
-HRESULT Dispatch::Invoke(const Request& request) {
-  if (request.kind != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-  if (request.arguments == nullptr) return E_POINTER;
-  if (request.member < 1) return DISP_E_MEMBERNOTFOUND;
-  const auto row = static_cast<std::size_t>(request.member - 1);
-  const auto properties = PropertyTable();
-  if (row >= properties.size() + Methods().size()) return DISP_E_MEMBERNOTFOUND;
-  if (request.answer != nullptr) VariantInit(request.answer);
-  return control_.Run(MemberName(request.member), [&] {
-    return Told(request, [&] {
-      return row < properties.size() ? InvokeProperty(request, properties[row])
-                                     : InvokeMethod(request, row - properties.size());
+[[gnu::always_inline]] inline HRESULT Dispatch::PutWhole(const PropertyRow& property, std::int32_t value,
+                                                         EXCEPINFO* trouble) {
+  return control_.Run(property.name, [&] {
+    return Told(trouble, property.name, [&] {
+      property.setWhole(control_.TheElement(), value);
+      return S_OK;
+    });
+  });
+}
+
+/// The commonest of all calls has a short road: a number of the property's own type.
+HRESULT Dispatch::Invoke(DISPID member, REFIID kind, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* answer,
+                         EXCEPINFO* trouble, UINT* wrongArgument) {
+  const std::size_t row = RowOf(member);
+  if (row < properties.size() && kind == IID_NULL && PutsOneValue(flags, arguments)) {
+    const PropertyRow& property = properties[row];
+    const VARIANT& value = *arguments->rgvarg;
+    if (V_VT(&value) == TypeOf(property.type) && IsWhole(property.type)) {
+      return PutWhole(property, WholeIn(value), trouble);
+    }
+  }
+  return InvokeAny(member, kind, locale, flags, arguments, answer, trouble, wrongArgument);
+}
+
+HRESULT Dispatch::InvokeAny(DISPID number, REFIID kind, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* answer,
+                            EXCEPINFO* trouble, UINT* wrongArgument) {
+  if (kind != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+  if (arguments == nullptr) return E_POINTER;
+  const std::size_t row = RowOf(number);
+  const bool isProperty = row < properties.size();
+  if (!isProperty && row - properties.size() >= Methods().size()) return DISP_E_MEMBERNOTFOUND;
+  if (answer != nullptr) V_VT(answer) = VT_EMPTY;
+  const Request request{locale, flags, arguments, answer, wrongArgument};
+  const std::string_view member = isProperty ? properties[row].name : Methods()[row - properties.size()].name;
+  return control_.Run(member, [&] {
+    return Told(trouble, member, [&] {
+      return isProperty ? InvokeProperty(request, properties[row]) : InvokeMethod(request, row - properties.size());
     });
   });
 }
@@ -239,7 +263,9 @@ HRESULT Dispatch::Put(const Request& request, const PropertyRow& row) {
     Check(element_.put_TactisBaseElementScanCodeBuffer(&RecordIn(value, *control_.Shared().ScanCodeInfo().Get())));
     return S_OK;
   }
-  row.set(control_.TheElement(), Converted(value, row, request.locale), row.name);
+  const VARTYPE type = TypeOf(row.type);
+  row.set(control_.TheElement(), V_VT(&value) == type ? DataOf(value) : Converted(value, type, request.locale),
+          row.name);
   return S_OK;
 }
 

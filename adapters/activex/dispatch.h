@@ -4,6 +4,8 @@
 #include <ole2.h>
 #include <windows.h>
 
+#include <string_view>
+
 #include "activex/control.h"
 #include "element/property_row.h"
 
@@ -13,26 +15,28 @@ namespace plexel::activex {
 /// system's own calls by name do not do everywhere.
 class Dispatch {
  public:
-  /// One call, as IDispatch gets it.
-  struct Request {
-    DISPID member;
-    REFIID kind;
-    LCID locale;
-    WORD flags;
-    DISPPARAMS* arguments;
-    VARIANT* answer;
-    EXCEPINFO* trouble;
-    UINT* wrongArgument;
-  };
-
   Dispatch(Control& control, _ctlPlexelBaseElement& element) : control_(control), element_(element) {}
 
   HRESULT GetTypeInfoCount(UINT* count);
   HRESULT GetTypeInfo(UINT index, ITypeInfo** type);
   HRESULT GetIDsOfNames(REFIID kind, LPOLESTR* names, UINT count, DISPID* numbers);
-  HRESULT Invoke(const Request& request);
+  /// What a call of IDispatch gets, in its order.
+  HRESULT Invoke(DISPID member, REFIID kind, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* answer,
+                 EXCEPINFO* trouble, UINT* wrongArgument);
 
  private:
+  /// What a call brings.
+  struct Request {
+    LCID locale;
+    WORD flags;
+    DISPPARAMS* arguments;
+    VARIANT* answer;
+    UINT* wrongArgument;
+  };
+
+  HRESULT InvokeAny(DISPID member, REFIID kind, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* answer,
+                    EXCEPINFO* trouble, UINT* wrongArgument);
+  HRESULT PutWhole(const PropertyRow& property, std::int32_t value, EXCEPINFO* trouble);
   HRESULT InvokeProperty(const Request& request, const PropertyRow& row);
   HRESULT InvokeMethod(const Request& request, std::size_t method);
   HRESULT Put(const Request& request, const PropertyRow& row);
@@ -42,7 +46,7 @@ class Dispatch {
   HRESULT FetchRecord(VARIANT& answer);
   /// Runs a call with an exception told as those who call by name expect it.
   template <typename Procedure>
-  HRESULT Told(const Request& request, Procedure&& procedure);
+  HRESULT Told(EXCEPINFO* trouble, const std::string_view& member, Procedure&& procedure);
 
   Control& control_;
   _ctlPlexelBaseElement& element_;

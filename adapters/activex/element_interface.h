@@ -29,7 +29,7 @@ class ElementInterface final : public Face<_ctlPlexelBaseElement> {
   }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID kind, LCID locale, WORD flags, DISPPARAMS* arguments,
                                    VARIANT* answer, EXCEPINFO* trouble, UINT* wrongArgument) override {
-    return dispatch_.Invoke({member, kind, locale, flags, arguments, answer, trouble, wrongArgument});
+    return dispatch_.Invoke(member, kind, locale, flags, arguments, answer, trouble, wrongArgument);
   }
 
   HRESULT STDMETHODCALLTYPE put_DPIFontScaleFactor(double Value) override {
@@ -303,12 +303,12 @@ class ElementInterface final : public Face<_ctlPlexelBaseElement> {
   }
 
   template <typename Inside, typename Outside>
-  HRESULT Put(std::string_view name, void (E::*set)(Inside), Outside value) {
+  [[gnu::always_inline]] inline HRESULT Put(const std::string_view& name, void (E::*set)(Inside), Outside value) {
     return TheControl().Run(name,
                             [&] { (TheControl().TheElement().*set)(In<std::remove_cvref_t<Inside>, Outside>(value)); });
   }
   template <typename Inside, typename Outside>
-  HRESULT Get(std::string_view name, Inside (E::*get)() const, Outside* value) {
+  [[gnu::always_inline]] inline HRESULT Get(const std::string_view& name, Inside (E::*get)() const, Outside* value) {
     if (value == nullptr) return E_POINTER;
     return Guarded(name, [&] {
       *value = Out<Outside>((TheControl().TheElement().*get)());

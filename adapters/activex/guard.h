@@ -40,7 +40,7 @@ HRESULT Tell(const Trouble& trouble) noexcept;
 
 /// Runs what a host has called; `member` is its name.
 template <typename Procedure>
-HRESULT Guarded(std::string_view member, Procedure&& procedure) noexcept {
+[[gnu::always_inline]] inline HRESULT Guarded(const std::string_view& member, Procedure&& procedure) noexcept {
   try {
     return std::forward<Procedure>(procedure)();
   } catch (...) {

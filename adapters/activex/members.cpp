@@ -93,13 +93,4 @@ DISPID MemberNumber(const wchar_t* name) {
   return index.Find(name);
 }
 
-std::string_view MemberName(DISPID member) {
-  if (member < 1) return {};
-  const auto row = static_cast<std::size_t>(member - 1);
-  const auto properties = PropertyTable();
-  if (row < properties.size()) return properties[row].name;
-  const std::size_t method = row - properties.size();
-  return method < methods.size() ? methods[method].name : std::string_view();
-}
-
 }  // namespace plexel::activex

@@ -36,8 +36,6 @@ enum class MethodNumber : std::size_t {
 DISPID PropertyNumber(std::string_view name);
 /// The number of a member, the case of whose name does not matter; DISPID_UNKNOWN for none.
 DISPID MemberNumber(const wchar_t* name);
-/// The name of a member, for messages; empty for none.
-std::string_view MemberName(DISPID member);
 
 /// Whether two names of Latin letters and digits are the same but for case.
 bool SameName(std::string_view name, const wchar_t* asked);
