@@ -109,6 +109,10 @@ std::vector<std::uint8_t> StreamOf(const ctlPlexelBaseElement& element) {
   for (const PropertyRow& row : PropertyTable()) {
     if (IsWritten(row)) std::visit(Writer{values}, row.save(element));
   }
+  return Sealed(values);
+}
+
+std::vector<std::uint8_t> Sealed(Bytes values) {
   std::vector<std::uint8_t> bytes(Magic.begin(), Magic.end());
   PutNumber(bytes, Version, 4);
   PutNumber(bytes, static_cast<std::uint32_t>(values.size() + ChecksumSize), 4);

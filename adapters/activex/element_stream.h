@@ -23,6 +23,9 @@ inline constexpr std::size_t StreamHeadSize = 12;
 /// How many bytes follow a head; nothing when it is no head of this format.
 std::optional<std::size_t> BytesBehind(std::span<const std::uint8_t> head);
 
+/// The stream of values that have been written one behind the other: with its head and its checksum.
+std::vector<std::uint8_t> Sealed(std::span<const std::uint8_t> values);
+
 /// The values of a whole stream, head included; nothing when it is damaged.
 std::optional<FlatBag> BagOf(std::span<const std::uint8_t> stream);
 
