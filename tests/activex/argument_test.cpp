@@ -317,4 +317,38 @@ TEST_F(Arguments, AValueOfAWrongTypeInABagEndsItsReading) {
   EXPECT_EQ(bag.holds, 0U);
 }
 
+TEST_F(Arguments, AnAnswerOfAWrongTypeFromTheHostIsNoAnswer) {
+  struct Answering : Container {
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID* numbers) override {
+      *numbers = 5;
+      return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* answer, EXCEPINFO*,
+                                     UINT*) override {
+      if (answer != nullptr) *answer = given;
+      return S_OK;
+    }
+    VARIANT given{};
+  } site;
+  ASSERT_EQ(site.Place(control.Get()), S_OK);
+  site.lacking = {__uuidof(IOleWindow)};  // its window is asked for by name
+  auto* const form = static_cast<IDispatch*>(static_cast<NoNames<IDispatch>*>(&site));
+  int refused = 0;
+  for (const VARIANT& value : ValuesOfEveryType()) {
+    site.given = value;
+    VARIANT_BOOL defined = VARIANT_TRUE;
+    if (FAILED(control->CheckIfLedIsAlreadyDefined(::PowerLed, 1, &defined))) {
+      ++refused;
+      EXPECT_EQ(defined, VARIANT_FALSE) << V_VT(&value);
+    }
+    EXPECT_EQ(control->putref_ParentWindow(form), S_OK) << V_VT(&value);
+    EXPECT_EQ(control->putref_ParentWindow(nullptr), S_OK);
+    InvalidateRect(site.ControlWindow(), nullptr, FALSE);
+    UpdateWindow(site.ControlWindow());
+  }
+  EXPECT_GT(refused, 400);
+  site.TakeOut();
+  EXPECT_EQ(site.holds, 0U);
+}
+
 }  // namespace plexel::activex

@@ -17,10 +17,11 @@ namespace {
 class Language : public TestObject<NoNames<IPlexelLanguage>> {
  public:
   HRESULT STDMETHODCALLTYPE GetText(LONG Number, BSTR* given) override {
-    *given = FAILED(result) ? nullptr : SysAllocString((L"text " + std::to_wstring(Number)).c_str());
+    *given = FAILED(result) || isMute ? nullptr : SysAllocString((L"text " + std::to_wstring(Number)).c_str());
     return result;
   }
   HRESULT result = S_OK;
+  bool isMute = false;  ///< its texts are null, which is an empty text
 };
 
 /// Settings that no files have.
@@ -43,12 +44,13 @@ class Settings : public TestObject<NoNames<IPlexelSettings>> {
     return Give("GetWindowPosition", twips, given);
   }
   HRESULT result = S_OK;
+  bool isMute = false;
   std::set<std::string> asked;
 
  private:
   HRESULT Give(const char* name, const std::wstring& text, BSTR* given) {
     asked.emplace(name);
-    *given = FAILED(result) ? nullptr : SysAllocString(text.c_str());
+    *given = FAILED(result) || isMute ? nullptr : SysAllocString(text.c_str());
     return result;
   }
 };
@@ -222,6 +224,13 @@ TEST_F(Services, ThoseThatFailLeaveTheDialogUsable) {
   EXPECT_LE(seen.leds, 1);
   EXPECT_EQ(control->Refresh(), S_OK);
   EXPECT_EQ(DialogOver(container.window), nullptr);
+}
+
+TEST_F(Services, ANullTextIsAnEmptyOne) {
+  language.isMute = settings.isMute = true;
+  OfferAll();
+  EXPECT_EQ(Look().title, L"");
+  EXPECT_EQ(control->Refresh(), S_OK);
 }
 
 TEST_F(Services, AHostMayTakeThemAwayWhileTheDialogIsOpen) {
