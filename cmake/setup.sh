@@ -91,7 +91,7 @@ package_windows() {
 # Builds the tests that run there themselves.
 build_windows_tests() {
   local folder=build/windows/build-x64 log=build/windows-tests.log
-  if ! cmake -DPLEXEL_BUILD_WINDOWS_TESTS=ON "$folder" >"$log" 2>&1 || ! cmake --build "$folder" --target test_win32 test_activex test_host >>"$log" 2>&1; then
+  if ! cmake -DPLEXEL_BUILD_WINDOWS_TESTS=ON "$folder" >"$log" 2>&1 || ! cmake --build "$folder" --target test_win32 test_activex test_host control_example >>"$log" 2>&1; then
     tail -n 60 "$log" >&2
     echo "the tests for Windows cannot be built; all of it is in $log" >&2
     return 1

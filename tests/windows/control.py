@@ -2,10 +2,13 @@
 
 import pathlib
 import re
+import shutil
+import tempfile
 
 from native import display
 
-SCRIPTS = pathlib.Path(__file__).resolve().parents[1] / "activex" / "scripts"
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+SCRIPTS = ROOT / "tests" / "activex" / "scripts"
 DESK = "{0C4B1F2E-6D0B-4C1B-9C37-5A1B2E6F7D10}"
 PROG_ID = "PlexelBaseElement.ctlPlexelBaseElement"
 
@@ -60,6 +63,28 @@ class Control:
                 told = run.stdout.decode("utf-8", "replace").splitlines()
                 expected = [line.replace(" True", " " + language("True")) for line in values]
                 self.assertEqual(told, expected + [heard, "crossed [a] 77 [a]", "error 6 XElementSize:" + source, "DONE"])
+
+    def test_the_code_of_the_page_does_what_the_page_says(self):
+        page = (ROOT / "docs" / "windows.md").read_text(encoding="utf-8")
+        code = {language: block for language, block in re.findall(r"^```(\w+)\n(.*?)^```$", page, re.MULTILINE | re.DOTALL)}
+        self.assertEqual(code["cpp"], (ROOT / "examples" / "control" / "main.cpp").read_text(encoding="utf-8"))
+        self.regsvr32()
+        self.addCleanup(self.regsvr32, "/u")
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="plexel-page-"))
+        self.addCleanup(shutil.rmtree, folder)
+        example = [self.build / ("build-" + self.bits) / "bin" / "control_example.exe"]
+        for language in ("vbs", "js"):
+            (folder / ("page." + language)).write_text(code[language], encoding="ascii")
+        for words, told in ((example, ["[Ctrl Left+a]"]),
+                            (["cscript", self.wine.name(folder / "page.vbs")], ["[a] Pump 2"]),
+                            (["cscript", self.wine.name(folder / "page.js")], ["6 in XElementSize", "ShowX is true"])):
+            with self.subTest(words=words), display("us") as name:
+                run = self.wine.run(*words, data=self.data, environment={"DISPLAY": name})
+                self.wine.close()  # with the display, the desktop that it has shown goes
+                self.assertEqual(run.stdout.decode("utf-8", "replace").splitlines(), told, run)
+                self.assertEqual(run.returncode, 0, run)
+                for line in told:
+                    self.assertIn("`" + line + "`", page)
 
     def test_the_container_of_the_tests(self):
         self.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
