@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "streams/stream_properties.h"
+#include "files/stream_properties.h"
 #include "world/world.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "activex/element_stream.h"
+#include "files/element_stream.h"
 
 namespace plexel::activex {
 

@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "activex/element_stream.h"
 #include "element/property_table.h"
+#include "files/element_stream.h"
 #include "world/world.h"
 
 namespace plexel {
@@ -37,13 +37,13 @@ struct Silent : ElementHost {
 
 /// As a host loads it: from the front, by as many bytes as the head tells.
 std::optional<FlatBag> Load(const Bytes& stream) {
-  const std::optional<FlatBag> bag = activex::BagOf(stream);
-  if (stream.size() < activex::StreamHeadSize) {
+  const std::optional<FlatBag> bag = BagOf(stream);
+  if (stream.size() < StreamHeadSize) {
     Require(!bag, "a stream has a head");
     return bag;
   }
-  const auto behind = activex::BytesBehind(std::span(stream).first(activex::StreamHeadSize));
-  Require(!bag || (behind && *behind + activex::StreamHeadSize == stream.size()), "a head tells the size");
+  const auto behind = BytesBehind(std::span(stream).first(StreamHeadSize));
+  Require(!bag || (behind && *behind + StreamHeadSize == stream.size()), "a head tells the size");
   return bag;
 }
 
@@ -53,8 +53,8 @@ void Check(World& world, const Bytes& stream) {
   CheckKeys(*bag);
   Silent host;
   const auto element = world.component.Read("F1", host, *bag);
-  activex::ReadRest(*element, *bag);
-  Require(activex::StreamOf(*element) == stream, "what is loaded is saved as the same bytes");
+  ReadRest(*element, *bag);
+  Require(StreamOf(*element) == stream, "what is loaded is saved as the same bytes");
 }
 
 }  // namespace
@@ -62,13 +62,13 @@ void Check(World& world, const Bytes& stream) {
 void CheckStream(World& world, std::string_view content) {
   const Bytes bytes(content.begin(), content.end());
   Check(world, bytes);
-  const Bytes sealed = activex::Sealed(bytes);
+  const Bytes sealed = Sealed(bytes);
   Check(world, sealed);
   // Any damage is found.
   for (const std::size_t place : {std::size_t{0}, sealed.size() / 2, sealed.size() - 1}) {
     Bytes damaged = sealed;
     damaged[place] ^= 0x10U;
-    Require(!activex::BagOf(damaged), "a stream with another bit is refused");
+    Require(!BagOf(damaged), "a stream with another bit is refused");
   }
 }
 

@@ -1,4 +1,4 @@
-#include "activex/element_stream.h"
+#include "files/element_stream.h"
 
 #include <array>
 #include <string>
@@ -7,7 +7,7 @@
 #include "element/property_table.h"
 #include "services/failure_styles.h"
 
-namespace plexel::activex {
+namespace plexel {
 
 namespace {
 
@@ -154,4 +154,4 @@ void ReadRest(ctlPlexelBaseElement& element, const FlatBag& bag) {
   }
 }
 
-}  // namespace plexel::activex
+}  // namespace plexel

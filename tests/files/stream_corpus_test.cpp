@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "activex/element_stream.h"
 #include "files/data_directory.h"
+#include "files/element_stream.h"
 #include "stream_properties.h"
 #include "world/temporary_directory.h"
 #include "world/world.h"
@@ -40,7 +40,7 @@ TEST(StreamCorpus, HoldsStreamsThatAreRead) {
   for (const auto& file : Corpus()) {
     const std::string content = Content(file);
     const std::vector<std::uint8_t> bytes(content.begin(), content.end());
-    if (activex::BagOf(bytes) || activex::BagOf(activex::Sealed(bytes))) ++read;
+    if (BagOf(bytes) || BagOf(Sealed(bytes))) ++read;
   }
   EXPECT_GE(read, 4U);
 }

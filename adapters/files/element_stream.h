@@ -10,7 +10,7 @@
 #include "element/ctlPlexelBaseElement.h"
 #include "files/flat_bag.h"
 
-namespace plexel::activex {
+namespace plexel {
 
 /// An element as bytes: what it stores in a bag under its 38 keys, each with its value, those at their default too, so
 /// that it comes back as it was. The format says its version and ends in a checksum of all that is ahead of it: any
@@ -32,4 +32,4 @@ std::optional<FlatBag> BagOf(std::span<const std::uint8_t> stream);
 /// Gives an element that was read from a bag those values that a failing setter kept it from.
 void ReadRest(ctlPlexelBaseElement& element, const FlatBag& bag);
 
-}  // namespace plexel::activex
+}  // namespace plexel
