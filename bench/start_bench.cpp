@@ -1,6 +1,6 @@
-// From the start of a program to its first picture: the editor with a project, and in turn with it the peer, an empty
-// window of the toolkit. Both run as processes of their own on the X server that DISPLAY names, where nothing else may
-// be to be seen.
+// From the start of a program to its first picture: the editor with a project, and in turn with it the peers, an empty
+// window of the toolkit and one with a line of text, for which the toolkit looks at the fonts of the system. All run as
+// processes of their own on the X server that DISPLAY names, where nothing else may be to be seen.
 //
 //   plexel_bench_start ROUNDS PROGRAM WORD ...
 
@@ -11,6 +11,7 @@
 #include <xcb/xcb.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMainWindow>
 #include <QScreen>
 #include <algorithm>
@@ -29,12 +30,13 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr std::string_view PeerWord = "--window";
+constexpr std::string_view PeerWord = "--window", TextPeerWord = "--window-with-text";
 
-/// The peer: a window of the toolkit as large as the editor's, with nothing in it.
-int ShowWindow(int count, char** words) {
+/// The peers: a window of the toolkit as large as the editor's, with nothing or a line of text in it.
+int ShowWindow(int count, char** words, bool text) {
   QApplication application(count, words);
   QMainWindow window;
+  if (text) window.setCentralWidget(new QLabel("Plexel"));
   window.resize(QSize(1360, 940).boundedTo(window.screen()->availableSize() - QSize(60, 60)));
   window.show();
   return QApplication::exec();
@@ -125,7 +127,8 @@ double Median(std::vector<double> times) {
 }
 
 int Measure(int rounds, const std::vector<std::string>& program) {
-  const std::vector<std::string> peer = {std::filesystem::canonical("/proc/self/exe").string(), std::string(PeerWord)};
+  const std::string self = std::filesystem::canonical("/proc/self/exe").string();
+  const std::vector<std::string> peer = {self, std::string(PeerWord)}, textPeer = {self, std::string(TextPeerWord)};
   // No configuration and no unsaved work of the user's own.
   std::string home = (std::filesystem::temp_directory_path() / "plexel_bench_XXXXXX").string();
   if (::mkdtemp(home.data()) == nullptr) throw std::runtime_error("no directory can be made");
@@ -135,22 +138,26 @@ int Measure(int rounds, const std::vector<std::string>& program) {
   const ScreenWatch screen;
   StartTime(screen, program);
   StartTime(screen, peer);
-  std::vector<double> ours, peers, shares;
+  std::vector<double> ours, peers, textPeers, shares, textShares;
   for (int round = 0; round < rounds; ++round) {
     ours.push_back(StartTime(screen, program));
     peers.push_back(StartTime(screen, peer));
+    textPeers.push_back(StartTime(screen, textPeer));
     shares.push_back(ours.back() / peers.back());
+    textShares.push_back(ours.back() / textPeers.back());
   }
   std::filesystem::remove_all(home);
   std::cout << "start to the first picture, medians of " << rounds << ": " << Median(ours) << " ms, an empty window "
-            << Median(peers) << " ms, " << Median(shares) << " times\n";
+            << Median(peers) << " ms, " << Median(shares) << " times; one with a line of text " << Median(textPeers)
+            << " ms, " << Median(textShares) << " times\n";
   return 0;
 }
 
 }  // namespace
 
 int main(int count, char** words) {
-  if (count == 2 && words[1] == PeerWord) return ShowWindow(count, words);
+  if (count == 2 && words[1] == PeerWord) return ShowWindow(count, words, false);
+  if (count == 2 && words[1] == TextPeerWord) return ShowWindow(count, words, true);
   try {
     const int rounds = count > 2 ? std::atoi(words[1]) : 0;
     if (rounds < 1) throw std::runtime_error("the call is: plexel_bench_start ROUNDS PROGRAM WORD ...");
