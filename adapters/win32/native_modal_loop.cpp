@@ -59,6 +59,8 @@ void NativeModalLoop::Pump(const FormView& view, const std::exception_ptr& throw
       PostQuitMessage(static_cast<int>(message.wParam));
       return;
     }
+    // A timer comes when nothing else waits: it finds the windows in line with the model too.
+    if (message.message == WM_TIMER) SyncAll();
     if (open_.back().view->TakeMessage(message)) continue;
     TranslateMessage(&message);
     DispatchMessageW(&message);
