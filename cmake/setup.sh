@@ -69,13 +69,16 @@ build() {
 
 # Builds what Windows needs, each bitness with its data in a folder that can be handed on.
 build_windows() {
-  local bits
+  local bits topics
   build tools
   for bits in x64 x86; do
     CXX="" build "windows-$bits"  # the compiler is the preset's
     cmake --install "build/windows/build-$bits" --component plexel-programs --strip >>"build/windows-$bits.log"
     cmake --install "build/windows/build-$bits" --component plexel-data >>"build/windows-$bits.log"
     build/tools/bin/plexel-layout-tables >"build/windows/$bits/data/keyboard.layouts"
+    for topics in data/Help/*/; do
+      python3 cmake/windows/help_file.py "$topics" "build/windows/$bits/data/Help/$(basename "$topics").chm"
+    done
   done
 }
 

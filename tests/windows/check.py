@@ -5,6 +5,7 @@ x64 and x86. Names of tests choose among them, as unittest understands them."""
 import pathlib
 import re
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
@@ -62,6 +63,26 @@ class Built(unittest.TestCase):
             layouts = (data / "keyboard.layouts").read_text(encoding="utf-8")
             for name in ("us", "de", "de(nodeadkeys)", "fr", "us(dvorak)"):
                 self.assertIn(f"\n[{name}]\n", "\n" + layouts, bits)
+
+
+class Help(unittest.TestCase):
+    """The help files, taken apart again."""
+
+    def test_every_topic_stands_under_its_number(self):
+        for bits in BITS:
+            for topics in sorted((ROOT / "data" / "Help").iterdir()):
+                with self.subTest(bits=bits, topics=topics.name), tempfile.TemporaryDirectory() as folder:
+                    subprocess.run(["extract_chmLib", BUILD / bits / "data" / "Help" / (topics.name + ".chm"), folder],
+                                   capture_output=True, check=True)
+                    folder = pathlib.Path(folder)
+                    numbers, names = (folder / "#IVB").read_bytes(), (folder / "#STRINGS").read_bytes()
+                    told = {}
+                    for number, place in struct.iter_unpack("<II", numbers[4:]):
+                        told[number] = names[place:names.index(b"\0", place)].decode("ascii")
+                    wanted = {int(file.stem): file.read_bytes() for file in topics.glob("*.html")}
+                    self.assertGreater(len(wanted), 15)
+                    self.assertEqual(told, {number: f"/{number}.html" for number in wanted})
+                    self.assertEqual({number: (folder / name[1:]).read_bytes() for number, name in told.items()}, wanted)
 
 
 class Packages(unittest.TestCase):
