@@ -91,14 +91,20 @@ package_windows() {
   done
 }
 
-# Builds the tests that run there themselves.
+# Builds the tests that run there themselves, of each bitness for which this system's Wine has its part.
 build_windows_tests() {
-  local folder=build/windows/build-x64 log=build/windows-tests.log
-  if ! cmake -DPLEXEL_BUILD_WINDOWS_TESTS=ON "$folder" >"$log" 2>&1 || ! cmake --build "$folder" --target test_win32 test_activex test_host control_example >>"$log" 2>&1; then
-    tail -n 60 "$log" >&2
-    echo "the tests for Windows cannot be built; all of it is in $log" >&2
-    return 1
-  fi
+  local bits folder example log=build/windows-tests.log
+  for bits in x64 $(if [ -e /usr/lib/wine/wine ]; then echo x86; fi); do
+    folder=build/windows/build-$bits
+    example=$([ "$bits" = x86 ] || echo control_example)
+    # shellcheck disable=SC2086
+    if ! cmake -DPLEXEL_BUILD_WINDOWS_TESTS=ON "$folder" >"$log" 2>&1 ||
+      ! cmake --build "$folder" --target test_win32 test_activex test_host $example >>"$log" 2>&1; then
+      tail -n 60 "$log" >&2
+      echo "the tests for Windows cannot be built; all of it is in $log" >&2
+      return 1
+    fi
+  done
 }
 
 # Whether a window can be opened: a display is named and answers.

@@ -377,18 +377,19 @@ TEST_F(Robustness, TwoHundredControlsComeAndGo) {
   }
 }
 
+static DWORD WINAPI AskForAControl(void* answer) {
+  CoInitialize(nullptr);
+  ComPointer<_ctlPlexelBaseElement> other;
+  *static_cast<HRESULT*>(answer) =
+      Library::Instance().Factory()->CreateInstance(nullptr, __uuidof(_ctlPlexelBaseElement), other.OutVoid());
+  other = nullptr;
+  CoUninitialize();
+  return 0;
+}
+
 TEST_F(Robustness, AnotherThreadGetsNoControlWhileOneIsThere) {
   HRESULT result = S_OK;
-  const auto ask = [](void* answer) -> DWORD {
-    CoInitialize(nullptr);
-    ComPointer<_ctlPlexelBaseElement> other;
-    *static_cast<HRESULT*>(answer) =
-        Library::Instance().Factory()->CreateInstance(nullptr, __uuidof(_ctlPlexelBaseElement), other.OutVoid());
-    other = nullptr;
-    CoUninitialize();
-    return 0;
-  };
-  HANDLE thread = CreateThread(nullptr, 0, ask, &result, 0, nullptr);
+  HANDLE thread = CreateThread(nullptr, 0, AskForAControl, &result, 0, nullptr);
   WaitForSingleObject(thread, INFINITE);
   CloseHandle(thread);
   EXPECT_EQ(result, RPC_E_WRONG_THREAD);

@@ -86,22 +86,23 @@ std::vector<std::wstring> HostUser::Events() const {
   return lines;
 }
 
+struct HostUser::Wanted {
+  const wchar_t *kind, *text;
+  HWND found;
+};
+
+BOOL CALLBACK HostUser::EndAtWanted(HWND child, LPARAM data) {
+  auto& wanted = *reinterpret_cast<Wanted*>(data);
+  wchar_t name[64] = {};
+  GetClassNameW(child, name, 64);
+  if (_wcsicmp(name, wanted.kind) != 0 || (wanted.text != nullptr && TextOf(child) != wanted.text)) return TRUE;
+  wanted.found = child;
+  return FALSE;
+}
+
 HWND HostUser::Find(HWND within, const wchar_t* kind, const wchar_t* text) {
-  struct Wanted {
-    const wchar_t *kind, *text;
-    HWND found;
-  } wanted = {kind, text, nullptr};
-  EnumChildWindows(
-      within,
-      [](HWND child, LPARAM data) -> BOOL {
-        auto& one = *reinterpret_cast<Wanted*>(data);
-        wchar_t name[64] = {};
-        GetClassNameW(child, name, 64);
-        if (_wcsicmp(name, one.kind) != 0 || (one.text != nullptr && TextOf(child) != one.text)) return TRUE;
-        one.found = child;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&wanted));
+  Wanted wanted = {kind, text, nullptr};
+  EnumChildWindows(within, EndAtWanted, reinterpret_cast<LPARAM>(&wanted));
   return wanted.found;
 }
 

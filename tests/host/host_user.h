@@ -39,6 +39,8 @@ class HostUser {
   DWORD Ended();
 
  private:
+  struct Wanted;
+  static BOOL CALLBACK EndAtWanted(HWND child, LPARAM wanted);
   PROCESS_INFORMATION process_ = {};
   HWND window_ = nullptr;
 };

@@ -16,19 +16,21 @@ namespace plexel {
 
 namespace {
 
+const wchar_t *theTitle, *theButton;
+
+void CALLBACK PressIfOpen(HWND, UINT, UINT_PTR timer, DWORD) {
+  const HWND dialog = FindWindowW(L"PlexelForm", theTitle);
+  const HWND found = dialog == nullptr ? nullptr : FindWindowExW(dialog, nullptr, L"Button", theButton);
+  if (found == nullptr) return;
+  KillTimer(nullptr, timer);
+  PostMessageW(found, BM_CLICK, 0, 0);
+}
+
 /// Presses a button of the dialog that opens, as soon as it is there.
 void PressWhenOpen(const wchar_t* title, const wchar_t* button) {
-  static const wchar_t *theTitle, *theButton;
   theTitle = title;
   theButton = button;
-  const auto tick = [](HWND, UINT, UINT_PTR timer, DWORD) {
-    const HWND dialog = FindWindowW(L"PlexelForm", theTitle);
-    const HWND found = dialog == nullptr ? nullptr : FindWindowExW(dialog, nullptr, L"Button", theButton);
-    if (found == nullptr) return;
-    KillTimer(nullptr, timer);
-    PostMessageW(found, BM_CLICK, 0, 0);
-  };
-  SetTimer(nullptr, 0, 20, tick);
+  SetTimer(nullptr, 0, 20, PressIfOpen);
 }
 
 }  // namespace

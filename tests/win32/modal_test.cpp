@@ -11,13 +11,14 @@ namespace plexel {
 
 namespace {
 
+BOOL CALLBACK CountWindow(HWND, LPARAM count) {
+  ++*reinterpret_cast<int*>(count);
+  return TRUE;
+}
+
 int WindowsOfThread() {
   int count = 0;
-  const auto note = [](HWND, LPARAM given) -> BOOL {
-    ++*reinterpret_cast<int*>(given);
-    return TRUE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), note, reinterpret_cast<LPARAM>(&count));
+  EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
   return count;
 }
 

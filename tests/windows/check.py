@@ -13,7 +13,7 @@ import unittest
 import zipfile
 
 from control import Control
-from host import Host, HostOnScreen
+from host import Host
 from native import Native
 from wine import Wine, runs_32_bit
 
@@ -142,7 +142,7 @@ class Run:
     @classmethod
     def setUpClass(cls):
         cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="plexel-windows-"))
-        cls.wine = Wine(BUILD / ("prefix-" + cls.bits))
+        cls.wine = Wine(BUILD / ("prefix-" + cls.bits), cls.bits)
         cls.program = BUILD / cls.bits / "plexel.exe"
         cls.data = cls.folder / "data"
         shutil.copytree(expectations.DATA, cls.data)
@@ -233,57 +233,49 @@ class Run:
         self.assertNotIn(b"\r", given.stdout)
 
 
-class Native64(Native, unittest.TestCase):
+class X64:
     bits = "x64"
     build = BUILD
     data = ROOT / "data"
-    pictures = BUILD / "pictures"
-
-    @classmethod
-    def setUpClass(cls):
-        cls.wine = Wine(BUILD / ("prefix-native-" + cls.bits))
-        cls.pictures.mkdir(exist_ok=True)
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.wine.close()
-
-
-class Control64(Control, unittest.TestCase):
-    bits = "x64"
-    build = BUILD
-    data = ROOT / "data"
-
-    @classmethod
-    def setUpClass(cls):
-        cls.wine = Wine(BUILD / ("prefix-control-" + cls.bits))
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.wine.close()
-
-
-class Host64(HostOnScreen, unittest.TestCase):
-    bits = "x64"
-    build = BUILD
-    data = ROOT / "data"
-    pictures = BUILD / "pictures"
 
 
 @unittest.skipUnless(runs_32_bit(), "this system's Wine has no part for programs of 32 bit")
-class Host32(Host, unittest.TestCase):
+class X86:
     bits = "x86"
     build = BUILD
     data = ROOT / "data"
 
 
-class Run64(Run, unittest.TestCase):
-    bits = "x64"
+class Run64(X64, Run, unittest.TestCase):
+    pass
 
 
-@unittest.skipUnless(runs_32_bit(), "this system's Wine has no part for programs of 32 bit")
-class Run32(Run, unittest.TestCase):
-    bits = "x86"
+class Run32(X86, Run, unittest.TestCase):
+    pass
+
+
+class Native64(X64, Native, unittest.TestCase):
+    pass
+
+
+class Native32(X86, Native, unittest.TestCase):
+    pass
+
+
+class Control64(X64, Control, unittest.TestCase):
+    pass
+
+
+class Control32(X86, Control, unittest.TestCase):
+    pass
+
+
+class Host64(X64, Host, unittest.TestCase):
+    pass
+
+
+class Host32(X86, Host, unittest.TestCase):
+    pass
 
 
 if __name__ == "__main__":

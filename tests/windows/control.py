@@ -6,6 +6,7 @@ import shutil
 import tempfile
 
 from native import display
+from wine import Wine
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SCRIPTS = ROOT / "tests" / "activex" / "scripts"
@@ -14,9 +15,17 @@ PROG_ID = "PlexelBaseElement.ctlPlexelBaseElement"
 
 
 class Control:
-    """One bitness. Subclasses tell which, and have the Wine and the folder of what was built."""
+    """One bitness. Subclasses tell which, and the folder of what was built."""
 
     bits = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.wine = Wine(cls.build / ("prefix-control-" + cls.bits), cls.bits)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.wine.close()
 
     def control(self):
         return self.build / self.bits / "PlexelBaseElement.ocx"
@@ -72,10 +81,12 @@ class Control:
         self.addCleanup(self.regsvr32, "/u")
         folder = pathlib.Path(tempfile.mkdtemp(prefix="plexel-page-"))
         self.addCleanup(shutil.rmtree, folder)
-        example = [self.build / ("build-" + self.bits) / "bin" / "control_example.exe"]
+        examples = []
+        if self.bits == "x64":
+            examples.append(([self.build / ("build-" + self.bits) / "bin" / "control_example.exe"], ["[Ctrl Left+a]"]))
         for language in ("vbs", "js"):
             (folder / ("page." + language)).write_text(code[language], encoding="ascii")
-        for words, told in ((example, ["[Ctrl Left+a]"]),
+        for words, told in (*examples,
                             (["cscript", self.wine.name(folder / "page.vbs")], ["[a] Pump 2"]),
                             (["cscript", self.wine.name(folder / "page.js")], ["6 in XElementSize", "ShowX is true"])):
             with self.subTest(words=words), display("us") as name:

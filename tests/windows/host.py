@@ -46,14 +46,16 @@ UNREAD = b"FocusColor=string no number\r\n"
 
 
 class Host:
-    """One bitness. Subclasses tell which, and have the Wine and the folders of what was built and of the tests."""
+    """One bitness. Subclasses tell which, and the folders of what was built and of the data."""
 
     bits = None
 
     @classmethod
     def setUpClass(cls):
         cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="plexel-host-"))
-        cls.wine = Wine(cls.build / ("prefix-host-" + cls.bits))
+        cls.pictures = cls.build / ("pictures-" + cls.bits)
+        cls.pictures.mkdir(exist_ok=True)
+        cls.wine = Wine(cls.build / ("prefix-host-" + cls.bits), cls.bits)
         cls.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
         cls.register()
 
@@ -175,14 +177,10 @@ class Host:
         self.assertIn(b"CLSIDFromProgID", run.stderr)
         self.assertFalse((self.folder / "none.plexel").exists())
 
-
-class HostOnScreen(Host):
-    """What needs a display. Wine draws the frames of windows by itself: there is no window manager to wait for."""
-
     def on_screen(self, program, *words):
+        """Wine draws the frames of windows by itself: there is no window manager to wait for."""
         self.wine.close()  # a desktop that is there knows no display
         with display("us") as name:
-            self.pictures.mkdir(exist_ok=True)
             run = self.wine.run(program, *words, data=self.data,
                                 environment={"DISPLAY": name, "PLEXEL_PICTURES": self.wine.name(self.pictures)})
             self.wine.close()  # with the display, the desktop that it has shown goes

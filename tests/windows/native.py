@@ -6,6 +6,8 @@ import pathlib
 import re
 import subprocess
 
+from wine import Wine
+
 TELLINGS = pathlib.Path(__file__).resolve().parents[1] / "dialogs"
 
 
@@ -27,9 +29,19 @@ def display(layout):
 
 
 class Native:
-    """One bitness. Subclasses tell which, and have the Wine and the folder of what was built."""
+    """One bitness. Subclasses tell which, and the folder of what was built."""
 
     bits = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.wine = Wine(cls.build / ("prefix-native-" + cls.bits), cls.bits)
+        cls.pictures = cls.build / ("pictures-" + cls.bits)
+        cls.pictures.mkdir(exist_ok=True)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.wine.close()
 
     def set(self, key, name, kind, value):
         self.wine.call("wine", "reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f")

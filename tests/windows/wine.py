@@ -7,10 +7,12 @@ import subprocess
 
 
 class Wine:
-    """A prefix that is made when it is missing. Its server ends with the object."""
+    """A prefix of a bitness, made when it is missing. Its server ends with the object."""
 
-    def __init__(self, prefix):
+    def __init__(self, prefix, bits="x64"):
+        self.program = shutil.which("wine" if bits == "x86" else "wine64") or shutil.which("wine") or "/usr/lib/wine/wine64"
         self.environment = dict(os.environ, WINEPREFIX=str(pathlib.Path(prefix).resolve()), WINEDEBUG="-all",
+                                WINEARCH="win32" if bits == "x86" else "win64",
                                 WINEDLLOVERRIDES="mscoree=d;mshtml=d;winedbg.exe=d;winemenubuilder.exe=d")
         self.environment.pop("DISPLAY", None)
         if not pathlib.Path(prefix, "system.reg").exists():
@@ -25,7 +27,7 @@ class Wine:
         environment = dict(self.environment, **(environment or {}))
         if data:
             environment["PLEXEL_DATA"] = self.name(data)
-        return subprocess.run([wine(), str(program), *words], env=environment, capture_output=True, timeout=120, **options)
+        return subprocess.run([self.program, str(program), *words], env=environment, capture_output=True, timeout=120, **options)
 
     def close(self):
         subprocess.run([self.server(), "-k"], env=self.environment, capture_output=True)
@@ -38,10 +40,6 @@ class Wine:
     def name(file):
         """A file of this system as programs for Windows name it."""
         return "Z:" + str(pathlib.Path(file).resolve()).replace("/", "\\")
-
-
-def wine():
-    return shutil.which("wine64") or shutil.which("wine") or "/usr/lib/wine/wine64"
 
 
 def runs_32_bit():
