@@ -252,15 +252,20 @@ class Editor:
         self.wait_modified(False)
         return read_project(self.project)
 
+    def ready_for_keys(self):
+        """Waits until no menu takes the keys any more, and the window has them."""
+        self.desktop.no_popup()
+        return self.desktop.window(MAIN)
+
     def quit(self):
         """Leaves by Ctrl+Q and looks at what the editor left behind."""
-        self.desktop.window(MAIN)
+        self.ready_for_keys()
         press(self.desktop, "LeftCtrl+q")
         self.wait_end()
 
     def leave_changed(self):
         """Leaves by Ctrl+Q without saving what has changed."""
-        main = self.desktop.window(MAIN)
+        main = self.ready_for_keys()
         press(self.desktop, "LeftCtrl+q")
         self.desktop.window("Plexel", [main.id])
         press(self.desktop, "Tab Return")
