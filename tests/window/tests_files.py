@@ -63,8 +63,7 @@ def recent(tools, folder):
                 editor = Editor(desktop, tools, project, scale=scale, language=language, settings={})
                 if name != "third":
                     editor.quit()
-            press(desktop, menu)
-            wait_for("the list of projects", lambda: len([one for one in desktop.windows() if one["popup"]]) == 2)
+            open_list(desktop, menu)
             desktop.picture(tools.pictures / f"recent-{language}-{scale}.png", editor.window)
             press(desktop, "3")
             wait_open(desktop, "first.plexel")
@@ -77,9 +76,15 @@ def recent(tools, folder):
             editor.quit()
             expect_recent(editor, f"{own}/first.plexel {own}/second.plexel")
             editor = Editor(desktop, tools, scale=scale, language=language)
-            press(desktop, f"{menu} {empty}")
+            open_list(desktop, menu)
+            press(desktop, empty)
             editor.quit()
             expect_recent(editor, "")
+
+
+def open_list(desktop, menu):
+    press(desktop, menu)
+    wait_for("the list of projects", lambda: len([one for one in desktop.windows() if one["popup"]]) == 2)
 
 
 def expect_recent(editor, files):
