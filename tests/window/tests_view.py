@@ -1,5 +1,7 @@
 """The picture and the window themselves: zoom, what of the definitions is shown, and what a restart brings back."""
 
+import time
+
 from desktop import Box, Desktop, Failed, wait_for
 from editor import MAIN, Editor
 from keys import KEYS, press
@@ -194,6 +196,16 @@ def places(tools, folder):
 
 
 def arrangement(editor):
-    """Where the window lies, and where the picture of the panel in it, which all that is shown beside it moves."""
-    key = editor.element("F1")
-    return str(editor.desktop.window(MAIN)), str(key)
+    """Where the window lies, and where the picture of the panel in it, which all that is shown beside it moves, once
+    nothing moves any more."""
+    def now():
+        return str(editor.desktop.window(MAIN)), str(editor.element("F1"))
+
+    def still():
+        first = now()
+        for _ in range(4):
+            time.sleep(0.15)
+            if now() != first:
+                return None
+        return first
+    return wait_for("the window to come to rest", still)
