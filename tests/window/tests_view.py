@@ -176,8 +176,14 @@ def places(tools, folder):
             editor = Editor(desktop, tools, project, scale=scale, language=language, settings={})
             first = editor.window
             grip = (first.left + 300 * scale, first.top - 8)
-            desktop.drag(grip, (grip[0] + 24, grip[1] + 30))
-            wait_for("the window to follow the mouse", lambda: desktop.window(MAIN).left == first.left + 24)
+
+            def moved():
+                """A window manager that is busy lets a drag pass."""
+                if desktop.window(MAIN).left == first.left:
+                    desktop.drag(grip, (grip[0] + 24, grip[1] + 30))
+                    time.sleep(0.5)
+                return desktop.window(MAIN).left == first.left + 24
+            wait_for("the window to follow the mouse", moved)
             press(desktop, "LeftCtrl+f F5 Esc LeftShift+F5")
             panel = wait_for("the virtual panel", lambda: next(
                 (one for one in desktop.windows() if one["title"].startswith(editor.texts[21122].split("%1")[0])), None))
