@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstddef>
+#include <cstring>
 
 namespace plexel {
 namespace {
@@ -12,7 +14,10 @@ constexpr std::uint8_t KeyboardEvent = 85;
 /// What an event says, given as the kind of event that the server sends.
 template <typename Event>
 DesktopEvent Read(const Event& event) {
-  return ReadServerEvent(reinterpret_cast<const xcb_generic_event_t&>(event), KeyboardEvent);
+  // Each event comes with room for what the library adds to it.
+  alignas(xcb_generic_event_t) std::array<std::byte, sizeof(Event) + sizeof(xcb_generic_event_t)> sent{};
+  std::memcpy(sent.data(), &event, sizeof(event));
+  return ReadServerEvent(reinterpret_cast<const xcb_generic_event_t&>(sent), KeyboardEvent);
 }
 
 DesktopEvent ReadFocus(std::uint8_t type, std::uint8_t detail, std::uint8_t mode) {
