@@ -105,7 +105,8 @@ TEST_F(Editor, ALayoutThatKnowsFewerDocksIsPassedOver) {
   EditorStore(File("")).Layout(LayoutOf({"inspector", "problems", "events"}));
   MainWindow another(component, surroundings, platform, help, File("state"));
   another.show();
-  const auto docks = [&](const MainWindow& shown) {
+  const auto docks = [&](MainWindow& shown) {
+    for (const char* const name : {"events", "overview", "trial"}) shown.findChild<QDockWidget*>(name)->show();
     QStringList names;
     for (const QDockWidget* const dock : shown.tabifiedDockWidgets(shown.findChild<QDockWidget*>("problems"))) {
       names.append(dock->objectName());
