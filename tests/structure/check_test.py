@@ -151,6 +151,10 @@ class Texts(Trees):
         self.write("src/forms/a.cpp", "int a;\n// TO" "DO: the rest\n")
         self.assert_fails("src/forms/a.cpp:2:")
 
+    def test_of_tests_that_do_not_run_fail(self):
+        self.write("tests/files/a_test.cpp", "int a;\nGTEST_" "SKIP();\n")
+        self.assert_fails("tests/files/a_test.cpp:2:")
+
     def test_with_a_message_box_that_guesses_mark_up_fail(self):
         self.write("apps/editor/a.cpp", "PlainBox fine(this);\nQMessageBox box(this);\n")
         self.assert_fails("apps/editor/a.cpp:2:")
