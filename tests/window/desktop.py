@@ -12,7 +12,7 @@ import time
 import zlib
 from pathlib import Path
 
-from keys import KEYS
+from keys import KEYS, press
 
 PATIENCE = 30  # seconds that anything may take before it counts as not happening
 
@@ -263,6 +263,14 @@ class Desktop:
             return [one for one in self.windows() if one["popup"]]
         return Box(*wait_for("a menu or list", find)[-1]["client"])
 
+    def open_menu(self, words):
+        """Opens a menu by its keys, and menus in it. Each stands still before the next key: the first of them gets the
+        keyboard from the server a moment after it has come up, and takes it from the one in it if that is there by then."""
+        for count, word in enumerate(words.split(), start=1):
+            press(self, word)
+            wait_for(f"{count} menus", lambda: len([one for one in self.windows() if one["popup"]]) == count)
+            self.still(self.popup())
+
     def no_popup(self):
         wait_for("the end of a menu or list", lambda: not self.has_popup())
 
@@ -287,19 +295,24 @@ class Desktop:
     def picture(self, file, box):
         """Keeps a picture of the box once nothing moves there any more, and tells how many colours a part of its
         pixels has."""
+        ppm = self.still(box)
+        keep(file, ppm)
+        pixels = ppm.split(b"\n", 3)[3]
+        return len({pixels[place:place + 3] for place in range(0, len(pixels), 3 * 7)})
+
+    def still(self, box):
+        """What a box looks like once nothing moves there any more."""
         raw = self.folder / "picture.ppm"
         last = []
 
-        def still():
+        def look():
             self.do(f"picture {box} {raw}")
             last.append(raw.read_bytes())
             time.sleep(0.1)
             return len(last) > 1 and last[-1] == last[-2]
 
-        wait_for("a picture that stands still", still)
-        keep(file, last[-1])
-        pixels = last[-1].split(b"\n", 3)[3]
-        return len({pixels[place:place + 3] for place in range(0, len(pixels), 3 * 7)})
+        wait_for("a picture that stands still", look)
+        return last[-1]
 
     def keep_picture(self, file):
         """Keeps a picture of the whole screen as it is now."""

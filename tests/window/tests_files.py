@@ -63,12 +63,13 @@ def recent(tools, folder):
                 editor = Editor(desktop, tools, project, scale=scale, language=language, settings={})
                 if name != "third":
                     editor.quit()
-            open_list(desktop, menu)
+            desktop.open_menu(menu)
             desktop.picture(tools.pictures / f"recent-{language}-{scale}.png", editor.window)
             press(desktop, "3")
             wait_open(desktop, "first.plexel")
             (own / "third.plexel").unlink()
-            press(desktop, f"{menu} 2")
+            desktop.open_menu(menu)
+            press(desktop, "2")
             asked = box_of(desktop)
             press(desktop, "Return")
             desktop.gone(asked)
@@ -76,15 +77,10 @@ def recent(tools, folder):
             editor.quit()
             expect_recent(editor, f"{own}/first.plexel {own}/second.plexel")
             editor = Editor(desktop, tools, scale=scale, language=language)
-            open_list(desktop, menu)
+            desktop.open_menu(menu)
             press(desktop, empty)
             editor.quit()
             expect_recent(editor, "")
-
-
-def open_list(desktop, menu):
-    press(desktop, menu)
-    wait_for("the list of projects", lambda: len([one for one in desktop.windows() if one["popup"]]) == 2)
 
 
 def expect_recent(editor, files):

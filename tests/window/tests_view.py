@@ -140,7 +140,8 @@ def layer_shown(tools, folder):
             editor = Editor(desktop, tools, project, scale=scale, language=language, settings={})
             keys = Keys(editor)
             for letter, layers in (("1", (1,)), ("2", (2,)), ("3", (3,)), ("a", (1, 2))):
-                press(desktop, f"{view} {letter}")
+                desktop.open_menu(view)
+                press(desktop, letter)
                 desktop.no_popup()
                 wanted = {"F2": 1 in layers, "F7": 2 in layers}
                 wait_for(f"the ticks of layer {letter}", lambda: keys.ticks() == wanted)
