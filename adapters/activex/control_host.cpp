@@ -3,10 +3,10 @@
 #include <array>
 #include <span>
 
-#include "activex/bstr.h"
 #include "activex/connection_points.h"
 #include "activex/container_question.h"
 #include "activex/members.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 

@@ -4,11 +4,12 @@
 #include <array>
 #include <string>
 
-#include "activex/bstr.h"
+#include "activex/conversion.h"
 #include "activex/members.h"
 #include "activex/record_values.h"
-#include "activex/variant.h"
 #include "element/property_table.h"
+#include "win32/bstr.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 

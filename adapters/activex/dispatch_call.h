@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "activex/variant.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 

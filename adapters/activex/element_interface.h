@@ -8,10 +8,10 @@
 #include <string_view>
 #include <type_traits>
 
-#include "activex/bstr.h"
 #include "activex/dispatch.h"
 #include "activex/face.h"
 #include "activex/record_values.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 

@@ -7,9 +7,9 @@
 #include <exception>
 #include <new>
 
-#include "activex/bstr.h"
 #include "activex/com_pointer.h"
 #include "platform/failure.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 

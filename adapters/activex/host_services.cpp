@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "activex/bstr.h"
 #include "platform/failure.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 

@@ -3,9 +3,10 @@
 #include <cstring>
 
 #include "activex/com_pointer.h"
+#include "activex/conversion.h"
 #include "activex/guard.h"
 #include "activex/record_info.h"
-#include "activex/variant.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 

@@ -2,9 +2,9 @@
 
 #include <cstring>
 
-#include "activex/bstr.h"
 #include "activex/guard.h"
 #include "activex/record_fields.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 

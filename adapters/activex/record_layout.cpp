@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "activex/bstr.h"
 #include "activex/guard.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 
@@ -92,7 +92,7 @@ Field FieldAt(ITypeInfo& owner, UINT index) {
   Bstr name;
   UINT count = 0;
   Check(owner.GetNames(description->memid, name.Out(), 1, &count));
-  field.name.assign(name.Get(), SysStringLen(name.Get()));
+  field.name = ContentOf(name.Get());
   field.offset = description->oInst;
   Describe(field, owner, description->elemdescVar.tdesc);
   return field;
@@ -117,7 +117,7 @@ RecordLayout RecordLayout::Of(ITypeInfo& type) {
   RecordLayout layout;
   Bstr name;
   Check(type.GetDocumentation(MEMBERID_NIL, name.Out(), nullptr, nullptr, nullptr));
-  layout.name.assign(name.Get(), SysStringLen(name.Get()));
+  layout.name = ContentOf(name.Get());
   layout.id = attributes->guid;
   layout.size = attributes->cbSizeInstance;
   for (UINT index = 0; index < attributes->cVars; ++index) {

@@ -5,8 +5,8 @@
 #include <tuple>
 #include <type_traits>
 
-#include "activex/bstr.h"
 #include "platform/clean_up.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 

@@ -1,6 +1,7 @@
 #include "win32/grid_accessible.h"
 
 #include "forms/caption.h"
+#include "win32/bstr.h"
 #include "win32/grid_view.h"
 #include "win32/wide_text.h"
 
@@ -11,8 +12,8 @@ namespace {
 bool IsItself(const VARIANT& child) { return child.lVal == CHILDID_SELF; }
 
 HRESULT Give(const std::wstring& text, BSTR* given) {
-  *given = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-  return *given == nullptr ? E_OUTOFMEMORY : S_OK;
+  *given = NewBstr(text);
+  return S_OK;
 }
 
 HRESULT Give(LONG number, VARIANT* given) {

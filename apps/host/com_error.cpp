@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdio>
 
-#include "host/variant.h"
+#include "win32/bstr.h"
 #include "win32/wide_text.h"
 
 namespace plexel::host {
@@ -18,7 +18,7 @@ std::string ToldReason() {
   Microsoft::WRL::ComPtr<IErrorInfo> told;
   Bstr words;
   if (GetErrorInfo(0, told.GetAddressOf()) != S_OK || FAILED(told->GetDescription(words.Out()))) return {};
-  return Narrow(ContentOf(words.Get()));
+  return NarrowOf(words.Get());
 }
 
 std::string SystemsReason(HRESULT result) {

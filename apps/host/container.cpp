@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <exception>
 
-#include "host/variant.h"
+#include "win32/variant.h"
 
 namespace plexel::host {
 

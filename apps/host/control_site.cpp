@@ -5,8 +5,7 @@
 
 #include <exception>
 
-#include "host/variant.h"
-#include "win32/wide_text.h"
+#include "win32/bstr.h"
 
 namespace plexel::host {
 
@@ -129,7 +128,7 @@ HRESULT ControlSite::Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS*, VARI
       V_BOOL(answer) = VARIANT_TRUE;
       return S_OK;
     case DISPID_AMBIENT_DISPLAYNAME:
-      V_BSTR(answer) = NewBstr(Wide(name_));
+      V_BSTR(answer) = NewBstr(name_);
       V_VT(answer) = VT_BSTR;
       return S_OK;
     default:

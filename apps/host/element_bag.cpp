@@ -1,7 +1,7 @@
 #include "host/element_bag.h"
 
-#include "host/bag_value.h"
-#include "host/variant.h"
+#include "win32/bag_value.h"
+#include "win32/variant.h"
 #include "win32/wide_text.h"
 
 namespace plexel::host {

@@ -3,8 +3,8 @@
 #include <array>
 #include <cstdint>
 
-#include "host/variant.h"
-#include "win32/wide_text.h"
+#include "win32/bstr.h"
+#include "win32/variant.h"
 
 namespace plexel::host {
 
@@ -23,11 +23,11 @@ std::string InWords(VARIANTARG& argument) {
   Variant value, text;
   if (FAILED(VariantCopyInd(&value.Get(), &argument))) return "?";
   const VARTYPE type = V_VT(&value.Get());
-  if (type == VT_BSTR) return '"' + Narrow(ContentOf(V_BSTR(&value.Get()))) + '"';
+  if (type == VT_BSTR) return '"' + NarrowOf(V_BSTR(&value.Get())) + '"';
   if (type == VT_BOOL) return std::to_string(V_BOOL(&value.Get()));
   constexpr LCID Neutral = LOCALE_INVARIANT;
   if (FAILED(VariantChangeTypeEx(&text.Get(), &value.Get(), Neutral, 0, VT_BSTR))) return "?";
-  return Narrow(ContentOf(V_BSTR(&text.Get())));
+  return NarrowOf(V_BSTR(&text.Get()));
 }
 
 }  // namespace

@@ -7,8 +7,7 @@
 
 #include "files/file_error.h"
 #include "host/com_error.h"
-#include "host/variant.h"
-#include "win32/wide_text.h"
+#include "win32/bstr.h"
 
 namespace plexel::host {
 
@@ -30,7 +29,7 @@ void SetWhatIsSaved(Element& element, const PanelPart& part, const Panel& panel)
   const PanelElement& described = *part.element;
   Check(element.put_SizeX(described.sizeX), "SizeX");
   Check(element.put_OriginalPosX(part.box.left), "OriginalPosX");
-  Check(element.put_TargetSystem(Bstr(Wide(panel.targetSystem)).Get()), "TargetSystem");
+  Check(element.put_TargetSystem(Bstr(panel.targetSystem).Get()), "TargetSystem");
   Check(element.put_HardwareNumberLed(described.hardwareNumberLed), "HardwareNumberLed");
   Check(element.put_HardwareNumberButton(described.hardwareNumberButton), "HardwareNumberButton");
   for (std::size_t index = 0; index < keyNumbers.size(); ++index) {

@@ -4,8 +4,8 @@
 #include <exception>
 #include <string>
 
-#include "host/variant.h"
-#include "win32/wide_text.h"
+#include "win32/bstr.h"
+#include "win32/variant.h"
 
 namespace plexel::host {
 
@@ -28,7 +28,7 @@ HRESULT LanguageOffer::GetText(LONG number, BSTR* text) {
   try {
     std::string given;
     texts_.GetText(number, given);
-    *text = NewBstr(Wide(given));
+    *text = NewBstr(given);
     return S_OK;
   } catch (const std::exception&) {
     return E_FAIL;

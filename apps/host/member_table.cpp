@@ -3,7 +3,8 @@
 #include <array>
 #include <type_traits>
 
-#include "host/variant.h"
+#include "win32/bstr.h"
+#include "win32/variant.h"
 #include "win32/wide_text.h"
 
 namespace plexel::host {

@@ -11,6 +11,7 @@
 #include "activex/library.h"
 #include "activex/sinks.h"
 #include "activex/text.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 
@@ -57,15 +58,11 @@ std::vector<VARIANT> ValuesOfEveryType() {
 std::vector<std::wstring> AllValues(IDispatch* element, int properties) {
   std::vector<std::wstring> values;
   for (DISPID member = 1; member <= properties; ++member) {
-    VARIANT value, text;
-    VariantInit(&value);
-    VariantInit(&text);
+    Variant value, text;
     DISPPARAMS none{};
-    element->Invoke(member, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr);
-    const bool shown = SUCCEEDED(VariantChangeType(&text, &value, 0, VT_BSTR));
-    values.emplace_back(shown && V_BSTR(&text) != nullptr ? V_BSTR(&text) : L"");
-    VariantClear(&value);
-    VariantClear(&text);
+    element->Invoke(member, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value.Get(), nullptr, nullptr);
+    const bool shown = SUCCEEDED(VariantChangeType(&text.Get(), &value.Get(), 0, VT_BSTR));
+    values.emplace_back(shown ? ContentOf(V_BSTR(&text.Get())) : L"");
   }
   return values;
 }

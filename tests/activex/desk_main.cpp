@@ -12,6 +12,7 @@
 #include "activex/container.h"
 #include "activex/late.h"
 #include "activex/sinks.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 
@@ -67,14 +68,11 @@ class Desk : public NoNames<IDispatch> {
   virtual ~Desk() = default;
 
   HRESULT Listen(VARIANT& given) {
-    VARIANT control;
-    VariantInit(&control);
-    VariantCopyInd(&control, &given);
-    if (V_VT(&control) != VT_DISPATCH) return DISP_E_TYPEMISMATCH;
-    connection_ = std::make_unique<Connection>(V_DISPATCH(&control), __uuidof(__ctlPlexelBaseElement), &sink_);
-    const HRESULT result = container_.Place(V_DISPATCH(&control));
-    VariantClear(&control);
-    return result;
+    Variant control;
+    VariantCopyInd(&control.Get(), &given);
+    if (V_VT(&control.Get()) != VT_DISPATCH) return DISP_E_TYPEMISMATCH;
+    connection_ = std::make_unique<Connection>(V_DISPATCH(&control.Get()), __uuidof(__ctlPlexelBaseElement), &sink_);
+    return container_.Place(V_DISPATCH(&control.Get()));
   }
 
   ULONG holds_ = 0;

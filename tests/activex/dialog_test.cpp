@@ -6,7 +6,6 @@
 #include "activex/library.h"
 #include "activex/open_dialog.h"
 #include "activex/sinks.h"
-#include "activex/text.h"
 
 namespace plexel::activex {
 

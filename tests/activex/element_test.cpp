@@ -21,10 +21,10 @@ struct Element : testing::Test {
 
 std::wstring Description() {
   ComPointer<IErrorInfo> error;
-  BSTR text = nullptr;
+  Bstr text;
   if (GetErrorInfo(0, error.Out()) != S_OK) return {};
-  error->GetDescription(&text);
-  return Taken(text);
+  error->GetDescription(text.Out());
+  return std::wstring(ContentOf(text.Get()));
 }
 
 }  // namespace
@@ -59,14 +59,12 @@ TEST_F(Element, KeepsBooleansAsTheyAreGiven) {
 
 TEST_F(Element, CarriesTextsOfAnyCharacters) {
   const std::wstring marks = L"[a\u2039\u203A] \u00E4\u64CD\U0001F600";
-  EXPECT_EQ(control->put_PressKeyDefLayer1(Text(marks.c_str())), S_OK);
+  EXPECT_EQ(control->put_PressKeyDefLayer1(Bstr(marks).Get()), S_OK);
   BSTR text = nullptr;
   EXPECT_EQ(control->get_PressKeyDefLayer1(&text), S_OK);
   EXPECT_EQ(Taken(text), marks);
   const std::wstring inside(L"a\0b", 3);
-  BSTR given = SysAllocStringLen(inside.data(), 3);
-  EXPECT_EQ(control->put_ButtonNotes(given), S_OK);
-  SysFreeString(given);
+  EXPECT_EQ(control->put_ButtonNotes(Bstr(inside).Get()), S_OK);
   EXPECT_EQ(control->get_ButtonNotes(&text), S_OK);
   EXPECT_EQ(Taken(text), inside);
   EXPECT_EQ(control->put_ButtonNotes(nullptr), S_OK);

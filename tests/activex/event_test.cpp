@@ -5,7 +5,7 @@
 #include "activex/late.h"
 #include "activex/library.h"
 #include "activex/sinks.h"
-#include "activex/text.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 
@@ -30,7 +30,7 @@ TEST_F(Events, ANoticeThatNamesAPropertyTellsItsNumberAndOthersMarkTheControlCha
   control->put_ShowX(VARIANT_TRUE);
   control->put_SizeX(3);
   control->put_ZoomFactor(100);
-  control->put_ButtonNotes(Text(L"x"));
+  control->put_ButtonNotes(Bstr(L"x").Get());
   control->put_VantaEnabled(VARIANT_TRUE);
   // The zoom applies the sizes again.
   EXPECT_EQ(notices.heard, (std::vector<DISPID>{41, DISPID_UNKNOWN, 13, DISPID_UNKNOWN, DISPID_UNKNOWN, 44}));
@@ -41,7 +41,7 @@ TEST_F(Events, ATextThatIsAValueNamesNoPropertyUnlessItIsAName) {
   const Connection connection(control.Get(), __uuidof(IPropertyNotifySink), &notices);
   control->put_WizardOn(VARIANT_TRUE);
   notices.heard.clear();
-  control->put_PressKeyDefLayer1(Text(L"[a]"));
+  control->put_PressKeyDefLayer1(Bstr(L"[a]").Get());
   EXPECT_EQ(notices.heard, std::vector<DISPID>{DISPID_UNKNOWN});
 }
 
@@ -103,8 +103,8 @@ TEST_F(Events, APressGivesNoKeysToAControlWhoseContainerKeepsThem) {
 
 TEST_F(Events, TheFocusSendsTheDefinition) {
   Container container;
-  control->put_PressKeyDefLayer1(Text(L"[a]"));
-  control->put_ReleaseKeyDefLayer4(Text(L"[z]"));
+  control->put_PressKeyDefLayer1(Bstr(L"[a]").Get());
+  control->put_ReleaseKeyDefLayer4(Bstr(L"[z]").Get());
   control->put_LEDTypeLayer3(::RunLed);
   const Connection connection(control.Get(), __uuidof(__ctlPlexelBaseElement), &sink);
   ASSERT_EQ(container.Place(control.Get(), true), S_OK);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "activex/text.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 
@@ -47,11 +48,11 @@ HRESULT Late::Put(const wchar_t* name, VARIANT value, WORD way) {
 HRESULT Late::Put(const wchar_t* name, long value) { return Put(name, Number(value)); }
 
 HRESULT Late::Put(const wchar_t* name, const wchar_t* value) {
-  const Text text(value);
+  const Bstr text(value);
   VARIANT variant;
   VariantInit(&variant);
   V_VT(&variant) = VT_BSTR;
-  V_BSTR(&variant) = text;
+  V_BSTR(&variant) = text.Get();
   return Put(name, variant);
 }
 
@@ -62,14 +63,11 @@ HRESULT Late::Get(const wchar_t* name, VARIANT& value) {
 }
 
 std::wstring Late::Get(const wchar_t* name) {
-  VARIANT value;
-  if (const HRESULT result = Get(name, value); FAILED(result)) return L"failed " + std::to_wstring(result);
-  const std::wstring type = std::to_wstring(V_VT(&value));
-  if (FAILED(VariantChangeType(&value, &value, 0, VT_BSTR))) {
-    VariantClear(&value);
-    return type;
-  }
-  return type + L":" + Taken(V_BSTR(&value));
+  Variant value, text;
+  if (const HRESULT result = Get(name, value.Get()); FAILED(result)) return L"failed " + std::to_wstring(result);
+  const std::wstring type = std::to_wstring(V_VT(&value.Get()));
+  if (FAILED(VariantChangeType(&text.Get(), &value.Get(), 0, VT_BSTR))) return type;
+  return (type + L":").append(ContentOf(V_BSTR(&text.Get())));
 }
 
 HRESULT Late::Call(const wchar_t* name, std::vector<VARIANT> arguments, VARIANT* answer) {

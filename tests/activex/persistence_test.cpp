@@ -10,7 +10,8 @@
 #include "activex/library.h"
 #include "activex/object.h"
 #include "activex/sinks.h"
-#include "activex/text.h"
+#include "win32/bstr.h"
+#include "win32/variant.h"
 
 namespace plexel::activex {
 
@@ -37,10 +38,10 @@ class Bag : public TestObject<IPropertyBag> {
   std::vector<std::wstring> Lines() const {
     std::vector<std::wstring> lines;
     for (const auto& [key, value] : values) {
-      VARIANT text;
-      VariantInit(&text);
-      VariantChangeType(&text, const_cast<VARIANT*>(&value), 0, VT_BSTR);
-      lines.push_back(key + L"=" + std::to_wstring(V_VT(&value)) + L":" + Taken(V_BSTR(&text)));
+      Variant text;
+      VariantChangeType(&text.Get(), const_cast<VARIANT*>(&value), 0, VT_BSTR);
+      lines.push_back(key + L"=" + std::to_wstring(V_VT(&value)) + L":");
+      lines.back() += ContentOf(V_BSTR(&text.Get()));
     }
     return lines;
   }

@@ -9,7 +9,6 @@
 #include "activex/late.h"
 #include "activex/library.h"
 #include "activex/sinks.h"
-#include "activex/text.h"
 
 namespace plexel::activex {
 

@@ -7,7 +7,7 @@
 #include "activex/container.h"
 #include "activex/library.h"
 #include "activex/open_dialog.h"
-#include "activex/text.h"
+#include "win32/bstr.h"
 
 namespace plexel::activex {
 
@@ -79,7 +79,7 @@ struct Services : testing::Test {
     container.Place(control.Get());
     control->putref_ParentWindow(static_cast<IDispatch*>(static_cast<NoNames<IDispatch>*>(&container)));
     control->put_ElementType(::RectLed);
-    control->put_TargetSystem(Text(L"Standard"));
+    control->put_TargetSystem(Bstr(L"Standard").Get());
   }
   ~Services() override {
     container.TakeOut();

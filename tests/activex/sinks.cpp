@@ -2,6 +2,9 @@
 
 #include <array>
 
+#include "win32/bstr.h"
+#include "win32/variant.h"
+
 namespace plexel::activex {
 
 HRESULT EventSink::QueryInterface(REFIID iid, void** object) {
@@ -16,12 +19,10 @@ HRESULT EventSink::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* argument
       L"", L"DirectInputStatusChanged", L"SendKeyDefinition", L"MouseClicked", L"MouseDblClicked", L"ProjectModified"};
   std::wstring line = names.at(static_cast<std::size_t>(event));
   for (UINT index = arguments->cArgs; index-- > 0;) {
-    VARIANT text;
-    VariantInit(&text);
-    const bool shown = SUCCEEDED(VariantChangeType(&text, &arguments->rgvarg[index], 0, VT_BSTR));
+    Variant text;
+    const bool shown = SUCCEEDED(VariantChangeType(&text.Get(), &arguments->rgvarg[index], 0, VT_BSTR));
     line += L"|" + std::to_wstring(V_VT(&arguments->rgvarg[index]) & ~VT_BYREF) + L":";
-    if (shown) line.append(V_BSTR(&text), SysStringLen(V_BSTR(&text)));
-    VariantClear(&text);
+    if (shown) line.append(ContentOf(V_BSTR(&text.Get())));
   }
   heard.push_back(line);
   if (onEvent) onEvent(event);

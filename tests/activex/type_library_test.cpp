@@ -415,12 +415,11 @@ TEST(TypeLibrary, GivesTheNumbersByWhichScriptsCall) {
     FUNCDESC* function = nullptr;
     type->GetFuncDesc(index, &function);
     if (function->memid > 0 && function->memid < 0x60000000) {
-      BSTR name = nullptr;
-      type->GetDocumentation(function->memid, &name, nullptr, nullptr, nullptr);
+      Bstr name;
+      type->GetDocumentation(function->memid, name.Out(), nullptr, nullptr, nullptr);
       DISPID number = 0;
-      EXPECT_EQ(control->GetIDsOfNames(IID_NULL, &name, 1, 0, &number), S_OK) << index;
+      EXPECT_EQ(control->GetIDsOfNames(IID_NULL, name.Out(), 1, 0, &number), S_OK) << index;
       EXPECT_EQ(number, function->memid);
-      SysFreeString(name);
       ++found;
     }
     type->ReleaseFuncDesc(function);

@@ -5,7 +5,8 @@
 
 #include "host/control_site.h"
 #include "host/language_offer.h"
-#include "host/variant.h"
+#include "win32/bstr.h"
+#include "win32/variant.h"
 #include "win32/wide_text.h"
 
 namespace plexel::host {

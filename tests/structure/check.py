@@ -18,9 +18,9 @@ from multiprocessing.pool import ThreadPool
 # standard library. `known_by`: the only shipped rooms that may include it, None for any above.
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
 XKB, XCB, QT = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h"
-WINDOWS = r"(windows|windowsx|commctrl|gdiplus|objidl|oleacc)\.h"
+WINDOWS = r"(windows|windowsx|commctrl|gdiplus|objidl|ole2|oleacc)\.h"
 SYSTEM = r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|windows\.h|direct\.h|io\.h|share\.h"
-COM = r"ole2\.h|olectl\.h|ocidl\.h|servprov\.h|comcat\.h|PlexelBaseElement\.h"
+COM = r"olectl\.h|ocidl\.h|servprov\.h|comcat\.h|PlexelBaseElement\.h"
 ROOMS = [
     Room("src", "platform", 0),
     Room("src", "forms", 1),
@@ -78,6 +78,9 @@ SINGLE = [Once(what, re.compile(pattern), homes) for what, pattern, homes in (
     ("the syntax of sections and keys", r"(front\(\) [=!]= |starts_with\()'\['",
      ("adapters/files/parameter_syntax.cpp", "adapters/files/ini_walk.cpp", "adapters/files/project_reader.h",
       "adapters/keyboard/layout_tables.cpp")),
+    ("a value or a text of automation that is owned", r"\bSysAllocStringLen\(|\b(VariantClear|SysFreeString)\(&?\w+_\)",
+     ("adapters/win32/bstr.h", "adapters/win32/variant.h")),
+    ("a value of a bag as one of automation", r"\bV_VT\(.*\) = VT_UI1;", ("adapters/win32/bag_value.cpp",)),
     ("a list of files", r"\bdirectory_iterator\b", ("adapters/files/file_lists.cpp",)),
 )]
 # The same of tests: world/world.h has platform, surroundings, host and component, apart from tests of these themselves.

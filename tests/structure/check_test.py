@@ -185,6 +185,10 @@ class Facts(Trees):
                            ("a byte order mark that is read", r'text.starts_with("\xEF\xBB\xBF")'),
                            ("the line of a place in a text", r"1 + std::count(text.begin(), place, '\n');"),
                            ("the syntax of sections and keys", "if (line.front() == '[') section = line;"),
+                           ("a value or a text of automation that is owned", "~Text() { SysFreeString(text_); }"),
+                           ("a value or a text of automation that is owned", "~Value() { VariantClear(&value_); }"),
+                           ("a value or a text of automation that is owned", "return SysAllocStringLen(text.data(), size);"),
+                           ("a value of a bag as one of automation", "V_VT(&given) = VT_UI1;"),
                            ("a list of files", "for (const auto& entry : std::filesystem::directory_iterator(folder)) {")):
             self.write("adapters/files/a.cpp", "\n" + line + "\n")
             self.assert_fails("adapters/files/a.cpp:2: %s stands elsewhere" % what)

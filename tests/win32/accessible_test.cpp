@@ -3,6 +3,7 @@
 
 #include "element/ctlPlexelBaseElement.h"
 #include "services/dialogs.h"
+#include "win32/bstr.h"
 #include "win32/desk.h"
 
 namespace plexel {
@@ -16,22 +17,16 @@ VARIANT Child(LONG number) {
   return child;
 }
 
-std::wstring Take(BSTR text) {
-  std::wstring taken(text == nullptr ? L"" : text, SysStringLen(text));
-  SysFreeString(text);
-  return taken;
-}
-
 std::wstring NameOf(IAccessible& object, LONG child) {
-  BSTR text = nullptr;
-  object.get_accName(Child(child), &text);
-  return Take(text);
+  Bstr text;
+  object.get_accName(Child(child), text.Out());
+  return std::wstring(ContentOf(text.Get()));
 }
 
 std::wstring ValueOf(IAccessible& object, LONG child) {
-  BSTR text = nullptr;
-  object.get_accValue(Child(child), &text);
-  return Take(text);
+  Bstr text;
+  object.get_accValue(Child(child), text.Out());
+  return std::wstring(ContentOf(text.Get()));
 }
 
 LONG RoleOf(IAccessible& object, LONG child) {

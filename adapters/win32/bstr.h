@@ -3,18 +3,26 @@
 #include <ole2.h>
 #include <windows.h>
 
+#include <new>
 #include <string>
 #include <string_view>
 
-namespace plexel::activex {
+namespace plexel {
 
 /// Texts of automation, which are UTF-16. Inside the component texts are UTF-8.
 
-/// The text, whose null pointer is the empty one, in UTF-8.
+/// What a text holds, whose null pointer is the empty one.
+inline std::wstring_view ContentOf(BSTR text) { return {text == nullptr ? L"" : text, SysStringLen(text)}; }
+/// The same in UTF-8.
 std::string NarrowOf(BSTR text);
+
 /// A text as a result, which whoever gets it frees. std::bad_alloc without memory.
+inline BSTR NewBstr(std::wstring_view wide) {
+  BSTR text = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+  if (text == nullptr) throw std::bad_alloc();
+  return text;
+}
 BSTR NewBstr(std::string_view utf8);
-BSTR NewBstr(std::wstring_view wide);
 
 /// A text that is freed at the end.
 class Bstr {
@@ -34,4 +42,4 @@ class Bstr {
   BSTR text_ = nullptr;
 };
 
-}  // namespace plexel::activex
+}  // namespace plexel

@@ -1,11 +1,10 @@
-#include "host/bag_value.h"
+#include "win32/bag_value.h"
 
 #include <string>
 
-#include "host/variant.h"
-#include "win32/wide_text.h"
+#include "win32/bstr.h"
 
-namespace plexel::host {
+namespace plexel {
 
 namespace {
 
@@ -32,7 +31,7 @@ struct Put {
     V_R8(&value) = kept;
   }
   void operator()(const std::string& kept) const {
-    V_BSTR(&value) = NewBstr(Wide(kept));
+    V_BSTR(&value) = NewBstr(kept);
     V_VT(&value) = VT_BSTR;
   }
 };
@@ -52,7 +51,7 @@ std::optional<BagValue> BagValueOf(const VARIANT& value) {
     case VT_R8:
       return V_R8(&value);
     case VT_BSTR:
-      return Narrow(ContentOf(V_BSTR(&value)));
+      return NarrowOf(V_BSTR(&value));
     default:
       return std::nullopt;
   }
@@ -60,4 +59,4 @@ std::optional<BagValue> BagValueOf(const VARIANT& value) {
 
 void PutBagValue(const BagValue& kept, VARIANT& value) { std::visit(Put{value}, kept); }
 
-}  // namespace plexel::host
+}  // namespace plexel
