@@ -4,6 +4,7 @@
 
 #include "activex/guard.h"
 #include "win32/bstr.h"
+#include "win32/wide_text.h"
 
 namespace plexel::activex {
 
@@ -102,11 +103,7 @@ Field FieldAt(ITypeInfo& owner, UINT index) {
 
 const Field* RecordLayout::Find(std::wstring_view asked) const {
   for (const Field& field : fields) {
-    const int length = static_cast<int>(asked.size());
-    if (field.name.size() == asked.size() &&
-        CompareStringOrdinal(field.name.data(), length, asked.data(), length, TRUE) == CSTR_EQUAL) {
-      return &field;
-    }
+    if (SameInAnyCase(field.name, asked)) return &field;
   }
   return nullptr;
 }

@@ -46,6 +46,11 @@ int UnitsAhead(std::wstring_view text, int characters) {
   return static_cast<int>(std::min(units, text.size()));
 }
 
+bool SameInAnyCase(std::wstring_view a, std::wstring_view b) {
+  const int size = static_cast<int>(a.size());
+  return a.size() == b.size() && CompareStringOrdinal(a.data(), size, b.data(), size, TRUE) == CSTR_EQUAL;
+}
+
 std::wstring WithVisibleControls(std::wstring text) {
   constexpr wchar_t EmptyBox = 0x25A1, FirstPrintable = 0x20, Delete = 0x7F, LastControl = 0x9F;
   std::replace_if(

@@ -15,6 +15,9 @@ std::string InSystemCodePage(std::string_view text);
 int CharactersAhead(std::wstring_view text, int units);
 int UnitsAhead(std::wstring_view text, int characters);
 
+/// Whether two names are the same but for the case of their letters.
+bool SameInAnyCase(std::wstring_view a, std::wstring_view b);
+
 /// The text with a visible sign for each control character.
 std::wstring WithVisibleControls(std::wstring text);
 

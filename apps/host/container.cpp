@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <exception>
 
-#include "win32/variant.h"
-
 namespace plexel::host {
 
 namespace {
@@ -13,14 +11,6 @@ namespace {
 constexpr DISPID Question = 1, WindowHandle = 2;
 constexpr std::array members = {NamedMember{L"CheckIfLedIsAlreadyDefined", Question},
                                 NamedMember{L"hWnd", WindowHandle}};
-
-HRESULT NumberOf(VARIANTARG& argument, LONG& number) {
-  Variant value;
-  HRESULT result = VariantCopyInd(&value.Get(), &argument);
-  if (SUCCEEDED(result)) result = VariantChangeType(&value.Get(), &value.Get(), 0, VT_I4);
-  if (SUCCEEDED(result)) number = V_I4(&value.Get());
-  return result;
-}
 
 }  // namespace
 
@@ -103,8 +93,8 @@ HRESULT Container::Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* argumen
 HRESULT Container::AnswerLed(const DISPPARAMS& arguments, VARIANT* answer) const {
   if (arguments.cArgs != 2) return DISP_E_BADPARAMCOUNT;
   LONG type = 0, layer = 0;
-  if (const HRESULT result = NumberOf(arguments.rgvarg[1], type); FAILED(result)) return result;
-  if (const HRESULT result = NumberOf(arguments.rgvarg[0], layer); FAILED(result)) return result;
+  if (const HRESULT result = TakeNumber(arguments.rgvarg[1], type); FAILED(result)) return result;
+  if (const HRESULT result = TakeNumber(arguments.rgvarg[0], layer); FAILED(result)) return result;
   bool defined = false;
   try {
     defined = ledIsDefined && ledIsDefined(type, layer);

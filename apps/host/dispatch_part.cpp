@@ -2,16 +2,10 @@
 
 #include <algorithm>
 
+#include "win32/variant.h"
+#include "win32/wide_text.h"
+
 namespace plexel::host {
-
-namespace {
-
-bool Same(std::wstring_view a, std::wstring_view b) {
-  return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
-         CSTR_EQUAL;
-}
-
-}  // namespace
 
 HRESULT FindMember(std::span<const NamedMember> members, LPOLESTR* names, UINT count, DISPID* numbers) {
   if (names == nullptr || numbers == nullptr) return E_POINTER;
@@ -19,9 +13,17 @@ HRESULT FindMember(std::span<const NamedMember> members, LPOLESTR* names, UINT c
   if (count == 0) return S_OK;
   const std::wstring_view wanted = names[0];
   for (const NamedMember& member : members) {
-    if (Same(member.name, wanted)) numbers[0] = member.number;
+    if (SameInAnyCase(member.name, wanted)) numbers[0] = member.number;
   }
   return count == 1 && numbers[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+HRESULT TakeNumber(VARIANTARG& argument, LONG& number) {
+  Variant value;
+  HRESULT result = VariantCopyInd(&value.Get(), &argument);
+  if (SUCCEEDED(result)) result = VariantChangeType(&value.Get(), &value.Get(), 0, VT_I4);
+  if (SUCCEEDED(result)) number = V_I4(&value.Get());
+  return result;
 }
 
 }  // namespace plexel::host

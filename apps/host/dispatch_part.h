@@ -18,6 +18,9 @@ struct NamedMember {
 /// which there are none.
 HRESULT FindMember(std::span<const NamedMember> members, LPOLESTR* names, UINT count, DISPID* numbers);
 
+/// Takes a number out of an argument, or of what it refers to, as automation converts it.
+HRESULT TakeNumber(VARIANTARG& argument, LONG& number);
+
 /// IDispatch, or an interface derived from it, of an object without a type library. Who derives tells the members and
 /// answers Invoke.
 template <typename Interface>

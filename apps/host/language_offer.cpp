@@ -5,7 +5,6 @@
 #include <string>
 
 #include "win32/bstr.h"
-#include "win32/variant.h"
 
 namespace plexel::host {
 
@@ -40,12 +39,11 @@ HRESULT LanguageOffer::Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* arg
   if (arguments == nullptr) return E_POINTER;
   if (number != members.front().number) return DISP_E_MEMBERNOTFOUND;
   if (arguments->cArgs != 1) return DISP_E_BADPARAMCOUNT;
-  Variant wanted;
-  HRESULT result = VariantCopyInd(&wanted.Get(), &arguments->rgvarg[0]);
-  if (SUCCEEDED(result)) result = VariantChangeType(&wanted.Get(), &wanted.Get(), 0, VT_I4);
+  LONG wanted = 0;
+  HRESULT result = TakeNumber(arguments->rgvarg[0], wanted);
   if (FAILED(result)) return result;
   Bstr text;
-  result = GetText(V_I4(&wanted.Get()), text.Out());
+  result = GetText(wanted, text.Out());
   if (FAILED(result) || answer == nullptr) return result;
   V_BSTR(answer) = NewBstr(ContentOf(text.Get()));
   V_VT(answer) = VT_BSTR;

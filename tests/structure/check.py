@@ -81,6 +81,7 @@ SINGLE = [Once(what, re.compile(pattern), homes) for what, pattern, homes in (
     ("a value or a text of automation that is owned", r"\bSysAllocStringLen\(|\b(VariantClear|SysFreeString)\(&?\w+_\)",
      ("adapters/win32/bstr.h", "adapters/win32/variant.h")),
     ("a value of a bag as one of automation", r"\bV_VT\(.*\) = VT_UI1;", ("adapters/win32/bag_value.cpp",)),
+    ("names in any case as the system compares them", r"\bCompareStringOrdinal\(", ("adapters/win32/wide_text.cpp",)),
     ("a list of files", r"\bdirectory_iterator\b", ("adapters/files/file_lists.cpp",)),
 )]
 # The same of tests: world/world.h has platform, surroundings, host and component, apart from tests of these themselves.

@@ -189,6 +189,7 @@ class Facts(Trees):
                            ("a value or a text of automation that is owned", "~Value() { VariantClear(&value_); }"),
                            ("a value or a text of automation that is owned", "return SysAllocStringLen(text.data(), size);"),
                            ("a value of a bag as one of automation", "V_VT(&given) = VT_UI1;"),
+                           ("names in any case as the system compares them", "return CompareStringOrdinal(a, 1, b, 1, TRUE) == CSTR_EQUAL;"),
                            ("a list of files", "for (const auto& entry : std::filesystem::directory_iterator(folder)) {")):
             self.write("adapters/files/a.cpp", "\n" + line + "\n")
             self.assert_fails("adapters/files/a.cpp:2: %s stands elsewhere" % what)
