@@ -94,11 +94,8 @@ bool HostWindow::TakesKey(MSG& message) {
 
 LRESULT HostWindow::Message(UINT message, WPARAM wide, LPARAM wider) {
   switch (message) {
-    case WM_ERASEBKGND: {
-      const RECT inside = Inside();
-      FillRect(reinterpret_cast<HDC>(wide), &inside, GetSysColorBrush(COLOR_BTNFACE));
-      return 1;
-    }
+    case WM_ERASEBKGND:
+      return Fill(wide, COLOR_BTNFACE);
     case WM_SIZE:
       LayOut();
       return 0;

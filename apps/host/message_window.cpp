@@ -38,6 +38,12 @@ LRESULT MessageWindow::AsUsual(UINT message, WPARAM wide, LPARAM wider) const {
   return DefWindowProcW(handle_, message, wide, wider);
 }
 
+LRESULT MessageWindow::Fill(WPARAM wide, int colour) const {
+  const RECT inside = Inside();
+  FillRect(reinterpret_cast<HDC>(wide), &inside, GetSysColorBrush(colour));
+  return 1;
+}
+
 LRESULT CALLBACK MessageWindow::Procedure(HWND window, UINT message, WPARAM wide, LPARAM wider) {
   if (message == WM_NCCREATE) {
     auto* const made = static_cast<MessageWindow*>(reinterpret_cast<CREATESTRUCTW*>(wider)->lpCreateParams);

@@ -26,6 +26,8 @@ class MessageWindow {
   virtual LRESULT Message(UINT message, WPARAM wide, LPARAM wider) = 0;
   /// What the system does with a message by itself.
   LRESULT AsUsual(UINT message, WPARAM wide, LPARAM wider) const;
+  /// Answers WM_ERASEBKGND with one of the system's colours all over.
+  LRESULT Fill(WPARAM wide, int colour) const;
   void Destroy();
 
  private:

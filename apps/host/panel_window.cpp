@@ -60,11 +60,8 @@ void PanelWindow::Show(std::unique_ptr<PanelPicture> picture) {
 
 LRESULT PanelWindow::Message(UINT message, WPARAM wide, LPARAM wider) {
   switch (message) {
-    case WM_ERASEBKGND: {
-      const RECT inside = Inside();
-      FillRect(reinterpret_cast<HDC>(wide), &inside, GetSysColorBrush(COLOR_APPWORKSPACE));
-      return 1;
-    }
+    case WM_ERASEBKGND:
+      return Fill(wide, COLOR_APPWORKSPACE);
     case WM_SIZE:
       if (ground_ != nullptr) LayOut();
       return 0;
