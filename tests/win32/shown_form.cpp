@@ -9,31 +9,24 @@
 #include "forms/characters.h"
 #include "win32/form_view.h"
 #include "win32/grid_view.h"
+#include "win32/wide_text.h"
 
 namespace plexel {
 
 namespace {
 
-std::string Utf8(std::wstring_view text) {
-  std::string bytes(text.size() * 3 + 1, '\0');
-  bytes.resize(
-      static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
-                                                   static_cast<int>(bytes.size()), nullptr, nullptr)));
-  return bytes;
-}
-
 std::string TextOfWindow(HWND window) {
   std::wstring text(4000, L'\0');
   text.resize(
       static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-  return Utf8(text);
+  return Narrow(text);
 }
 
 std::string EntryOf(HWND box, int entry) {
   std::wstring text(1100, L'\0');
   text.resize(static_cast<std::size_t>(
       SendMessageW(box, CB_GETLBTEXT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(text.data()))));
-  return Utf8(text);
+  return Narrow(text);
 }
 
 std::string TextOfTab(HWND strip, int page) {
@@ -43,7 +36,7 @@ std::string TextOfTab(HWND strip, int page) {
   item.pszText = text.data();
   item.cchTextMax = static_cast<int>(text.size());
   SendMessageW(strip, TCM_GETITEMW, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
-  return Utf8(item.pszText);
+  return Narrow(item.pszText);
 }
 
 /// The window that has the title of a frame; null for a frame without one.
