@@ -108,6 +108,19 @@ TEST_F(ElementInteraction, RefreshTakesTheSettingsOver) {
   EXPECT_EQ(element->XElementSize(), XSizeSmall);
 }
 
+TEST_F(ElementInteraction, RefreshTakesEachOptionFromItsOwnNumber) {
+  HeadlessSettings& settings = surroundings.Settings();
+  for (const std::int32_t number : {2, 3, 4, 5}) {
+    settings.Option(number, True);
+    element->Refresh();
+    EXPECT_EQ(element->WizardOn(), number == 2 ? True : False) << number;
+    EXPECT_EQ(element->ShowX(), number == 3 ? True : False) << number;
+    EXPECT_EQ(element->ShowXPermanent(), number == 4 ? True : False) << number;
+    EXPECT_EQ(element->ShowDefined(), number == 5 ? True : False) << number;
+    settings.Option(number, False);
+  }
+}
+
 TEST_F(ElementInteraction, RefreshAnnouncesItsStepsInTheirOrder) {
   element->Refresh();
   const Values expected = {255, 1, "ShowX", "ShowXPermanent", 0, "KeyDefinedColor", "ShowDefined", "XElementSize",

@@ -166,6 +166,19 @@ TEST(Description, OfAMenuEntryHasNoPlace) {
   EXPECT_EQ(NamesIn(entry.Describe()), (Strings{"Kind", "Enabled", "Visible", "Caption"}));
 }
 
+TEST(Description, OfAFrameTellsAllThatAControlHasButATabStop) {
+  TestForm form;
+  const Frame frame(form, "fraA");
+  EXPECT_EQ(NamesIn(frame.Describe()), (Strings{"Kind", "Left", "Top", "Width", "Height", "Enabled", "Visible",
+                                                "HelpContextID", "ToolTipText", "Caption"}));
+}
+
+TEST(Description, OfAShapeIsNeitherEnabledNorHelped) {
+  TestForm form;
+  const Shape shape(form, "shpA");
+  EXPECT_EQ(NamesIn(shape.Describe()), (Strings{"Kind", "Left", "Top", "Width", "Height", "Visible", "BackColor"}));
+}
+
 TEST(Description, OfAShapeAndAPictureAndAStatusBarTellsWhatTheyShow) {
   TestForm form;
   Shape shape(form, "shpA");

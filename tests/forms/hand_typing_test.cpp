@@ -136,6 +136,17 @@ TEST(CaretKeys, PassOverALineBreakInOneStep) {
   EXPECT_EQ(form.After(form.txtNotes, "a\r\nb", 3, {key::Left}), "a|\r\nb");
 }
 
+TEST(CaretKeys, TakeAReturnWithoutItsLineFeedForACharacter) {
+  TypingForm form;
+  EXPECT_EQ(form.After(form.txtNotes, "a\rb", 1, {key::Right}), "a\r|b");
+  EXPECT_EQ(form.After(form.txtNotes, "a\rb", 2, {key::Left}), "a|\rb");
+  EXPECT_EQ(form.After(form.txtNotes, "a\rb", 3, {key::Left}), "a\r|b");
+  EXPECT_EQ(form.After(form.txtNotes, "a\rb", 0, {key::End}), "a\rb|");
+  EXPECT_EQ(form.After(form.txtNotes, "a\r", 2, {key::Left}), "a|\r");
+  EXPECT_EQ(form.After(form.txtNotes, "a\r", 1, {key::Right}), "a\r|");
+  EXPECT_EQ(form.After(form.txtNotes, "a\nb", 1, {key::Right}), "a\n|b");
+}
+
 TEST(CaretKeys, GoToTheEndsOfTheLine) {
   TypingForm form;
   EXPECT_EQ(form.After(form.txtNotes, "ab\r\ncd\r\nef", 5, {key::Home}), "ab\r\n|cd\r\nef");

@@ -210,6 +210,24 @@ TEST(CodeBuffer, RemovingTheFirstOfTwoGroupsFillsAsManyBytesAsItTookAndNoMore) {
   EXPECT_EQ(Hex({buffer.Value.begin(), buffer.Value.begin() + 8}), "FF 22 33 FF FF FF 44 55");
 }
 
+TEST(CodeBuffer, RemovingTheFirstOfTwoGroupsFillsTheLastByteThatStaysAndTheLastThatWas) {
+  Buffer buffer;
+  buffer.Value = {0x00, 0x11, 0xFF, 0x22, 0x33, 0x44, 0x55};
+  buffer.NextValue = 5;
+  EXPECT_TRUE(RemoveFirstCodeGroup(buffer));
+  EXPECT_EQ(buffer.NextValue, 3);
+  EXPECT_EQ(Hex({buffer.Value.begin(), buffer.Value.begin() + 7}), "FF 22 33 FF FF FF 55");
+}
+
+TEST(CodeBuffer, RemovingTheFirstGroupFailsAheadOfNextValueWhenTheLastByteIsOutside) {
+  Buffer buffer;
+  buffer.Value = {0x00, 0x11, 0xFF, 0x22, 0x33};
+  buffer.NextValue = 89;
+  EXPECT_EQ(KindOf([&] { RemoveFirstCodeGroup(buffer); }), FailureKind::Index);
+  EXPECT_EQ(buffer.NextValue, 89);
+  EXPECT_EQ(Hex({buffer.Value.begin(), buffer.Value.begin() + 3}), "FF 22 33");
+}
+
 TEST(CodeBuffer, RemovingTheOnlyGroupFillsTheWholeBufferWithMarks) {
   Buffer buffer = With({0x1C}, {0xF0, 0x1C}, MakeAndBreak);
   buffer.Value[88] = 0x12;

@@ -176,6 +176,15 @@ TEST(KeyNames, NoNameIsLongerThanTheBuffer) {
   EXPECT_EQ(Name(0x41), std::string(100, ' '));
 }
 
+TEST(KeyNames, TheLayoutHasRoomForFortyEightCharacters) {
+  ScanCodeSession session;
+  const std::u16string doubled(50, u'\u6161');  // two letters a each
+  session.platform.Layout().KeyText(0x41, 98, doubled);
+  session.platform.Layout().KeyText(0x6E, 98, doubled);
+  EXPECT_EQ(Name(0x41), std::string(96, 'a') + "  ");
+  EXPECT_EQ(Name(0x6E), "Numpad " + std::string(96, 'a') + "  ");
+}
+
 TEST(KeyNames, EveryBracketOfANameIsSpelledOut) {
   ScanCodeSession session;
   session.platform.Layout().KeyText(0x41, 2, u"\u5D5B");

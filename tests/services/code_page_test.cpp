@@ -101,8 +101,8 @@ TEST(CodePage, EveryCharacterComesBackUnharmed) {
 }
 
 TEST(CodePage, BrokenEscapesAreConversionFailures) {
-  for (const char* bytes : {"\\", "\\n", "\\u", "\\u{", "\\u{}", "\\u{12", "\\u{G}", "\\u{-1}", "\\u{ 1}", "\\u{D800}",
-                            "\\u{110000}", "\\u{FFFFFFFFFF}", "\\x{100}", "\\x{}", "x\\"}) {
+  for (const char* bytes : {"\\", "\\n", "\\n{41}", "\\U{41}", "\\u", "\\u{", "\\u{}", "\\u{12", "\\u{G}", "\\u{-1}",
+                            "\\u{ 1}", "\\u{D800}", "\\u{110000}", "\\u{FFFFFFFFFF}", "\\x{100}", "\\x{}", "x\\"}) {
     try {
       FromCodePageEscaped(bytes);
       ADD_FAILURE() << bytes;

@@ -59,8 +59,8 @@ TEST(Conversion, TiesAreRoundedToTheEvenNumber) {
 }
 
 TEST(Conversion, WhatIsNoNumberIsAConversionFailure) {
-  for (const char* text : {"",   " ",   "abc",   "1a",   "1 2", "--1", "+-1",  "-",   ".",   "e5",
-                           "1e", "1e+", "1.2.3", "0x10", "&H",  "&HG", "&H-1", "nan", "inf", "1,5"}) {
+  for (const char* text : {"",    " ",     "abc",  "1a", "1 2", "--1",   "+-1",  "-",    ".",   "e5",  "1e",
+                           "1e+", "1.2.3", "0x10", "&H", "&HG", "&H12G", "&Hzz", "&H-1", "nan", "inf", "1,5"}) {
     EXPECT_EQ(KindOf([&] { TextToNumber(text); }), FailureKind::Conversion) << text;
   }
 }
@@ -110,6 +110,7 @@ TEST(Conversion, ANumberTooLargeForItsTypeIsAnOverflow) {
   EXPECT_EQ(KindOf([] { TextToNumber("&H10000000000000000"); }), FailureKind::Overflow);
   EXPECT_EQ(KindOf([] { TextToNumber("1e99999999999999999999"); }), FailureKind::Overflow);
   EXPECT_EQ(KindOf([] { TextToNumber("1" + std::string(400, '0') + "e-5"); }), FailureKind::Overflow);
+  EXPECT_EQ(KindOf([] { TextToNumber("0.1e+400"); }), FailureKind::Overflow);
 }
 
 TEST(Conversion, ANumberTooSmallForItsTypeIsZero) {
@@ -139,6 +140,12 @@ TEST(Conversion, SevenDigitsNeedNoExponent) {
   EXPECT_EQ(SingleToText(100000.0F), "100000");
   EXPECT_EQ(SingleToText(9999999.0F), "9999999");
   EXPECT_NE(SingleToText(10000000.0F).find('e'), std::string::npos);
+}
+
+TEST(Conversion, FourPlacesBehindThePointNeedNoExponent) {
+  EXPECT_EQ(SingleToText(1e-4F), "0.0001");
+  EXPECT_EQ(SingleToText(-1e-4F), "-0.0001");
+  EXPECT_EQ(SingleToText(9e-5F), "9e-05");
 }
 
 TEST(Conversion, ATextOfASingleReadsBackAsTheSameNumber) {
