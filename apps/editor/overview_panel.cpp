@@ -24,22 +24,27 @@
 namespace plexel {
 
 OverviewPanel::OverviewPanel(Selection& selection, const LiveProblems& problems, QWidget* parent)
-    : QDockWidget(parent), model_(problems), table_(new OverviewTable(model_, selection)) {
+    : LateDock(parent), model_(problems), selection_(selection) {
   setObjectName("overview");
   SetHelpTopic(*this, help_topics::Overview);
+  model_.onNote = [this](int place, const QString& note) { SetNote(place, note); };
+  // The editor in the cell is gone before a question comes.
+  model_.onLed = [this](int place, std::int32_t layer, enumLedType type) {
+    QTimer::singleShot(0, this, [this, place, layer, type] { AskLed(place, layer, type); });
+  };
+  Retranslate();
+}
+
+void OverviewPanel::MakeContent() {
+  table_ = new OverviewTable(model_, selection_);
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   layout->setContentsMargins(4, 4, 4, 4);
   layout->addWidget(MakeTools());
   layout->addWidget(table_);
   setWidget(content);
-  model_.onNote = [this](int place, const QString& note) { SetNote(place, note); };
-  // The editor in the cell is gone before a question comes.
-  model_.onLed = [this](int place, std::int32_t layer, enumLedType type) {
-    QTimer::singleShot(0, this, [this, place, layer, type] { AskLed(place, layer, type); });
-  };
   connect(&model_, &QAbstractItemModel::modelReset, this, [this] { ShowFound(); });
-  Retranslate();
+  NameContent();
 }
 
 QWidget* OverviewPanel::MakeTools() {
@@ -113,13 +118,17 @@ void OverviewPanel::ProblemsReset() {
 
 void OverviewPanel::Retranslate() {
   setWindowTitle(Say(Text::Overview));
+  if (IsMade()) NameContent();
+  model_.Retranslate();
+}
+
+void OverviewPanel::NameContent() {
   words_->setPlaceholderText(Say(Text::FindWords));
   words_->setToolTip(Say(Text::FindTip));
   press_->setText(Say(listener_->Hears() ? Text::PressNow : Text::PressKeys));
   press_->setToolTip(Say(Text::PressTip));
   pick_->setPlaceholderText(Say(Text::PickKey));
   pick_->setToolTip(Say(Text::PickTip));
-  model_.Retranslate();
 }
 
 void OverviewPanel::Find() {
@@ -164,7 +173,7 @@ void OverviewPanel::ShowFound() {
 }
 
 void OverviewPanel::showEvent(QShowEvent* event) {
-  QDockWidget::showEvent(event);
+  LateDock::showEvent(event);
   words_->setClearButtonEnabled(true);  // the toolkit looks through the desktop's icons for it, which takes its time
   if (!stale_) return ShowFound();
   stale_ = false;
@@ -172,13 +181,14 @@ void OverviewPanel::showEvent(QShowEvent* event) {
 }
 
 void OverviewPanel::hideEvent(QHideEvent* event) {
-  QDockWidget::hideEvent(event);
+  LateDock::hideEvent(event);
+  if (!IsMade()) return;
   listener_->Stop();
   if (onFound) onFound({});
 }
 
 bool OverviewPanel::eventFilter(QObject* receiver, QEvent* event) {
-  if (receiver != words_ || event->type() != QEvent::KeyPress) return QDockWidget::eventFilter(receiver, event);
+  if (receiver != words_ || event->type() != QEvent::KeyPress) return LateDock::eventFilter(receiver, event);
   const auto& key = *static_cast<const QKeyEvent*>(event);
   switch (key.key()) {
     case Qt::Key_Return:

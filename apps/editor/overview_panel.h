@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDockWidget>
 #include <functional>
 #include <span>
 
+#include "editor/late_dock.h"
 #include "editor/overview_model.h"
 #include "editor/selection.h"
 
@@ -19,7 +19,7 @@ class OverviewTable;
 
 /// A dock with all elements and layers of the project as a table, and with what finds lines in it: words, or a key
 /// that is pressed. While it is hidden it does nothing.
-class OverviewPanel : public QDockWidget {
+class OverviewPanel : public LateDock {
  public:
   /// Selection and problems must outlive it.
   OverviewPanel(Selection& selection, const LiveProblems& problems, QWidget* parent);
@@ -37,6 +37,7 @@ class OverviewPanel : public QDockWidget {
   void FindByPressing();
 
   OverviewModel& Model() { return model_; }
+  /// Once it has been shown.
   OverviewTable& Table() { return *table_; }
 
   /// What is found, by places; empty while nothing is looked for.
@@ -45,12 +46,14 @@ class OverviewPanel : public QDockWidget {
   std::function<void(StepKind kind, int place, const std::function<void()>& act)> change;
 
  protected:
+  void MakeContent() override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
   QWidget* MakeTools();
+  void NameContent();
   void LookForWords();
   void LookForKeys(const std::vector<KeyCode>& keys);
   void FillKeys();
@@ -62,10 +65,11 @@ class OverviewPanel : public QDockWidget {
   bool AgreesToTwice(const ctlPlexelBaseElement& other, std::int32_t layer, enumLedType type);
 
   OverviewModel model_;
+  Selection& selection_;
   PanelDocument* document_ = nullptr;
-  bool stale_ = true;  ///< the model does not know the document yet
-  QString sought_;     ///< the keys that are looked for, by name
-  OverviewTable* table_ = nullptr;
+  bool stale_ = true;               ///< the model does not know the document yet
+  QString sought_;                  ///< the keys that are looked for, by name
+  OverviewTable* table_ = nullptr;  ///< and those below: null until it is first shown
   QLineEdit* words_ = nullptr;
   QToolButton* press_ = nullptr;
   QComboBox* pick_ = nullptr;

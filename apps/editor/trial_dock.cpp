@@ -73,19 +73,23 @@ QString KeyList(const std::vector<KeyCode>& keys) {
   return names.join(", ");
 }
 
-TrialDock::TrialDock(QWidget* parent)
-    : QDockWidget(parent),
-      state_(new QLabel),
-      down_(new QLabel),
-      textTitle_(new QLabel),
-      hint_(new QLabel),
-      events_(new QTreeWidget),
-      timeLine_(new TimeLineView),
-      text_(new QPlainTextEdit),
-      letGo_(new QPushButton),
-      clear_(new QPushButton) {
+TrialDock::TrialDock(QWidget* parent) : LateDock(parent) {
   setObjectName("trial");
   SetHelpTopic(*this, help_topics::Trial);
+  auto* leave = new QAction(this);
+  leave->setShortcut(Qt::Key_Escape);
+  leave->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  addAction(leave);
+  connect(leave, &QAction::triggered, this, [this] { onLeave(); });
+}
+
+void TrialDock::MakeContent() {
+  for (QLabel** const label : {&state_, &down_, &textTitle_, &hint_}) *label = new QLabel;
+  events_ = new QTreeWidget;
+  timeLine_ = new TimeLineView;
+  text_ = new QPlainTextEdit;
+  letGo_ = new QPushButton;
+  clear_ = new QPushButton;
   events_->setRootIsDecorated(false);
   events_->setUniformRowHeights(true);
   events_->setColumnCount(4);
@@ -127,15 +131,15 @@ TrialDock::TrialDock(QWidget* parent)
   setWidget(content);
   connect(letGo_, &QPushButton::clicked, this, [this] { onLetGoOfAll(); });
   connect(clear_, &QPushButton::clicked, this, [this] { onClear(); });
-  auto* leave = new QAction(this);
-  leave->setShortcut(Qt::Key_Escape);
-  leave->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-  addAction(leave);
-  connect(leave, &QAction::triggered, this, [this] { onLeave(); });
+  NameContent();
 }
 
 void TrialDock::Retranslate() {
   setWindowTitle(Say(Text::TrialTitle));
+  if (IsMade()) NameContent();
+}
+
+void TrialDock::NameContent() {
   events_->setHeaderLabels(
       {Say(Text::ColumnElement), Say(Text::TrialAct), Say(Text::TrialBytes), Say(Text::TrialCommands)});
   textTitle_->setText(Say(Text::TrialText));

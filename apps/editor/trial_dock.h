@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDockWidget>
 #include <functional>
 
+#include "editor/late_dock.h"
 #include "project/trial.h"
 
 class QLabel;
@@ -21,10 +21,11 @@ QString PanelFunctionText(KeyCode byte);
 QString KeyList(const std::vector<KeyCode>& keys);
 
 /// Tells what elements that are tried send, and what a PC makes of it.
-class TrialDock : public QDockWidget {
+class TrialDock : public LateDock {
  public:
   explicit TrialDock(QWidget* parent);
 
+  /// Once it has been shown, as all that asks for what it tells.
   void Show(const Trial& trial, const PanelDocument& document);
   /// Takes the texts of the language in force.
   void Retranslate();
@@ -37,17 +38,19 @@ class TrialDock : public QDockWidget {
   std::function<void()> onLetGoOfAll, onClear, onLeave;
 
  protected:
+  void MakeContent() override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void NameContent();
   void ShowEvents(const Trial& trial, const PanelDocument& document);
   void ShowTimeLine(const Trial& trial, const PanelDocument& document);
 
-  QLabel *state_, *down_, *textTitle_, *hint_;
-  QTreeWidget* events_;
-  TimeLineView* timeLine_;
-  QPlainTextEdit* text_;
-  QPushButton *letGo_, *clear_;
+  QLabel *state_ = nullptr, *down_ = nullptr, *textTitle_ = nullptr, *hint_ = nullptr;
+  QTreeWidget* events_ = nullptr;
+  TimeLineView* timeLine_ = nullptr;
+  QPlainTextEdit* text_ = nullptr;
+  QPushButton *letGo_ = nullptr, *clear_ = nullptr;
 };
 
 }  // namespace plexel

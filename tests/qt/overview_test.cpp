@@ -16,6 +16,18 @@ namespace {
 
 using Column = OverviewModel::Column;
 
+TEST_F(Editor, TheOverviewHoldsNothingBeforeItIsShown) {
+  EXPECT_EQ(window.Overview().widget(), nullptr);
+  window.SettingsChanged();
+  ChangeNotes("F1", "changed");
+  window.Overview().hide();
+  EXPECT_EQ(window.Overview().widget(), nullptr);
+  window.Overview().Find();
+  ASSERT_NE(window.Overview().widget(), nullptr);
+  EXPECT_FALSE(window.Overview().findChild<QLineEdit*>("FindWords")->placeholderText().isEmpty());
+  EXPECT_GT(window.Overview().Model().rowCount(), 46);
+}
+
 class Overview : public Editor {
  protected:
   Overview() { window.Overview().show(); }
