@@ -70,25 +70,30 @@ QString EditorStore::Keep() {
   if (changed_.empty()) return {};
   if (!unread_.empty()) return Say(Text::StoreNotKept) + ' ' + ToQt(unread_);
   try {
-    Values values = Read();
+    const Values stored = Read();
+    Values values = stored;
     for (const auto& [name, value] : changed_) values.insert_or_assign(name, value);
-    std::string text, section;
-    for (const auto& [name, value] : values) {
-      const std::size_t slash = std::min(name.find('/'), name.size() - 1);
-      if (const std::string own = name.substr(0, slash); own != section) {
-        section = own;
-        text += '[' + section + "]\n";
-      }
-      text += name.substr(slash + 1) + '=' + value + '\n';
-    }
-    MakeOwnDirectory(file_.parent_path());
-    WriteWholeFile(file_, text);
+    if (values != stored) Write(values);
     values_ = std::move(values);
     changed_.clear();
     return {};
   } catch (const std::exception& failure) {
     return Say(Text::StoreNotKept) + ' ' + ToQt(std::string_view(failure.what()));
   }
+}
+
+void EditorStore::Write(const Values& values) const {
+  std::string text, section;
+  for (const auto& [name, value] : values) {
+    const std::size_t slash = std::min(name.find('/'), name.size() - 1);
+    if (const std::string own = name.substr(0, slash); own != section) {
+      section = own;
+      text += '[' + section + "]\n";
+    }
+    text += name.substr(slash + 1) + '=' + value + '\n';
+  }
+  MakeOwnDirectory(file_.parent_path());
+  WriteWholeFile(file_, text);
 }
 
 std::string EditorStore::Value(const char* name) const {

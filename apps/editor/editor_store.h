@@ -45,6 +45,7 @@ class EditorStore {
   /// By SECTION/KEY, as they stand in the file.
   using Values = std::map<std::string, std::string>;
   Values Read() const;
+  void Write(const Values& values) const;
   std::string Value(const char* name) const;
   void Put(const char* name, std::string value);
   QByteArray Packed(const char* name) const;

@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QMimeData>
 #include <QToolBar>
+#include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <initializer_list>
 #include <string>
@@ -72,6 +74,20 @@ TEST_F(EditorStoreTest, WhatAnotherEditorHasKeptStays) {
   EXPECT_EQ(mine.Keep(), "");
   EXPECT_TRUE(EditorStore(Folder()).Labels());
   EXPECT_EQ(EditorStore(Folder()).Recent(), QStringList("/a.plexel"));
+}
+
+TEST_F(EditorStoreTest, WhatTheFileHoldsAlreadyIsNotWrittenAgain) {
+  EditorStore store(Folder());
+  store.AddRecent("/a.plexel");
+  EXPECT_EQ(store.Keep(), "");
+  const auto written = std::filesystem::last_write_time(Folder() / "editor.ini") - std::chrono::hours(1);
+  std::filesystem::last_write_time(Folder() / "editor.ini", written);
+  store.AddRecent("/a.plexel");
+  EXPECT_EQ(store.Keep(), "");
+  EXPECT_EQ(std::filesystem::last_write_time(Folder() / "editor.ini"), written);
+  store.AddRecent("/b.plexel");
+  EXPECT_EQ(store.Keep(), "");
+  EXPECT_NE(std::filesystem::last_write_time(Folder() / "editor.ini"), written);
 }
 
 TEST_F(EditorStoreTest, ADamagedFileIsAnEmptyOne) {
