@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QSvgRenderer>
+#include <filesystem>
 #include <map>
 #include <memory>
 
@@ -20,7 +21,8 @@ QSvgRenderer& Renderer(const std::string& name) {
   static std::map<std::string, std::unique_ptr<QSvgRenderer>> renderers;
   std::unique_ptr<QSvgRenderer>& renderer = renderers[name];
   if (renderer) return *renderer;
-  const QString file = QString::fromStdString((DataDirectory() / "pictures" / (name + ".svg")).string());
+  static const std::filesystem::path pictures = DataDirectory() / "pictures";
+  const QString file = QString::fromStdString((pictures / (name + ".svg")).string());
   renderer = std::make_unique<QSvgRenderer>(file);
   if (!renderer->isValid()) qWarning("%s: the picture cannot be read", qUtf8Printable(file));
   return *renderer;
