@@ -1,11 +1,11 @@
 #include <QApplication>
 #include <QFileInfo>
-#include <QProxyStyle>
 #include <iostream>
 #include <string_view>
 
 #include "component/component.h"
 #include "editor/call.h"
+#include "editor/editor_style.h"
 #include "editor/end_signals.h"
 #include "editor/key_guard.h"
 #include "editor/log_panel.h"
@@ -24,15 +24,6 @@ namespace plexel {
 namespace {
 
 constexpr QSize IconSize(64, 64);
-
-/// The desktop's style without icons on the buttons of some boxes and none on others.
-class PlainButtons : public QProxyStyle {
- public:
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override {
-    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
-  }
-};
 
 void TellInBox(QMessageBox::Icon icon, const QString& text, QWidget* parent) {
   PlainBox box(parent);
@@ -104,7 +95,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Plexel");
   QApplication::setApplicationVersion(plexel::ProgramVersion);
-  QApplication::setStyle(new plexel::PlainButtons);
+  QApplication::setStyle(new plexel::EditorStyle);
   QApplication::setFont(plexel::DialogFont());
   QApplication::setWindowIcon(plexel::PicturePixmap("plexel", plexel::IconSize, 2));
   try {
