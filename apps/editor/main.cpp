@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QFileInfo>
+#include <clocale>
 #include <iostream>
 #include <string_view>
 
@@ -7,6 +8,7 @@
 #include "editor/call.h"
 #include "editor/editor_style.h"
 #include "editor/end_signals.h"
+#include "editor/font_configuration.h"
 #include "editor/key_guard.h"
 #include "editor/log_panel.h"
 #include "editor/main_window.h"
@@ -92,12 +94,15 @@ int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
   }
+  std::setlocale(LC_ALL, "");  // the toolkit's own setting of it changes nothing then
+  plexel::FontConfiguration fonts;
   QApplication application(argc, argv);
   QApplication::setApplicationName("Plexel");
   QApplication::setApplicationVersion(plexel::ProgramVersion);
   QApplication::setStyle(new plexel::EditorStyle);
-  QApplication::setFont(plexel::DialogFont());
   QApplication::setWindowIcon(plexel::PicturePixmap("plexel", plexel::IconSize, 2));
+  fonts.Await();
+  QApplication::setFont(plexel::DialogFont());
   try {
     return call.pdf.isEmpty() ? plexel::Run(call.project) : plexel::WritePdf(call);
   } catch (const std::exception& failure) {

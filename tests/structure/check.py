@@ -40,7 +40,7 @@ ROOMS = [
     Room("adapters", "qt", 9, QT),
     Room("", "project", 10, r"nlohmann/json\.hpp"),
     Room("apps", "cli", 11, r"nlohmann/json\.hpp"),
-    Room("apps", "editor", 11, QT + r"|fcntl\.h|unistd\.h"),
+    Room("apps", "editor", 11, QT + r"|fcntl\.h|unistd\.h|fontconfig/fontconfig\.h"),
     Room("apps", "host", 11, WINDOWS + "|" + COM + r"|commdlg\.h|oaidl\.h|wrl/client\.h"),
     Room("apps", "pictures", 12, QT),
     Room("apps", "layouts", 12, XKB),
