@@ -37,14 +37,15 @@ void TellInBox(QMessageBox::Icon icon, const QString& text, QWidget* parent) {
 
 /// Tells what could not be read of the user's own files.
 void TellProblems(const FileSurroundings& surroundings, const FileRegistry& registry, const FileSettings& settings,
-                  QWidget* parent) {
+                  QWidget& window) {
   QStringList problems;
   for (const FileError& problem : settings.Problems()) problems.append(ToQt(std::string_view(problem.what())));
   if (registry.Problem()) problems.append(ToQt(std::string_view(registry.Problem()->what())));
   if (surroundings.LanguageProblem()) problems.append(ToQt(std::string_view(surroundings.LanguageProblem()->what())));
   if (problems.isEmpty()) return;
+  window.show();
   for (const QString& problem : problems) qWarning("%s", qUtf8Printable(problem));
-  TellInBox(QMessageBox::Warning, Say(Text::FilesDamaged) + "\n\n" + problems.join('\n'), parent);
+  TellInBox(QMessageBox::Warning, Say(Text::FilesDamaged) + "\n\n" + problems.join('\n'), &window);
 }
 
 int Run(const QString& project) {
@@ -54,14 +55,14 @@ int Run(const QString& project) {
   Component component(platform, surroundings);
 
   MainWindow window(component, surroundings, platform, help, StateDirectory());
-  window.show();
   const EndSignals ends([&window] { return window.KeepWork(); }, [&window] { return window.close(); });
-  TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), &window);
+  TellProblems(surroundings, surroundings.UserRegistry(), surroundings.Settings(), window);
   if (window.OfferLostWork()) {
     window.TellNotOpened(project);
   } else if ((project.isEmpty() || !window.OpenProject(project.toStdString())) && !window.StartEmpty()) {
     return 1;
   }
+  window.show();
   return ends.Heard() ? 0 : QApplication::exec();
 }
 

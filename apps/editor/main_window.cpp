@@ -309,6 +309,7 @@ void MainWindow::Guarded(const std::function<void()>& act) {
 void MainWindow::Tell(Text what, const QString& reason) {
   qWarning("%s %s", qUtf8Printable(Say(what)), qUtf8Printable(reason));
   log_->Append(reason);
+  show();  // which it may not be yet when the program starts
   PlainBox box(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this);
   box.setIcon(QMessageBox::Warning);
   box.setWindowTitle("Plexel");

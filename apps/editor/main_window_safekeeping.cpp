@@ -278,6 +278,7 @@ bool MainWindow::OfferLostWork() {
   std::vector<std::string> damaged;
   std::vector<LostWork> found = safekeeping_.FindLost(damaged);
   bool brought = false;
+  if (!found.empty()) show();
   for (LostWork& work : found) {
     if (brought) break;  // a window has one project; the others are offered at the next start
     const LostAnswer answer = AskAboutLost(work.content, Site(), this);

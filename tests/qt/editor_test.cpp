@@ -52,6 +52,14 @@ TEST(EditorTexts, BothLanguagesHaveTheSameOfThem) {
   EXPECT_GT(OwnNumbers(english).size(), 60U);
 }
 
+TEST_F(Editor, WhatIsToldAtTheStartStandsOverItsWindow) {
+  window.hide();
+  bool shown = false;
+  AnswerNextBox([&](QMessageBox& box) { shown = window.isVisible() && box.parentWidget() == &window; });
+  EXPECT_FALSE(window.OpenProject(File("missing.plexel")));
+  EXPECT_TRUE(shown);
+}
+
 TEST_F(Editor, OnePanelPlaceHasOneElementOfItsKind) {
   const PanelDocument& document = *window.Document();
   for (const PanelDocument::Place& place : document.Places()) {
