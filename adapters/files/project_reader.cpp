@@ -28,18 +28,16 @@ bool ReadBytes(std::string_view text, udtTactisBaseElement_TACTIS_SCANCODE& code
     const std::uint8_t low = text.size() > 1 ? ascii::HexValue(text[1]) : ascii::NoDigit;
     if (high == ascii::NoDigit || low == ascii::NoDigit) return false;
     text.remove_prefix(2);
-    std::size_t run = 1;
-    if (!text.empty() && text.front() == '*') {
-      const std::string_view digits = text.substr(1, text.find(' ') - 1);
-      const auto length = ParseNumber<std::size_t>(digits, 1, codes.Value.size());
-      if (!length) return false;
-      run = *length;
-      text.remove_prefix(1 + digits.size());
-    }
-    if (count + run > codes.Value.size()) return false;
-    std::fill_n(codes.Value.begin() + static_cast<std::ptrdiff_t>(count), run,
-                static_cast<std::uint8_t>(high * 16 + low));
-    count += run;
+    if (count == codes.Value.size()) return false;
+    const auto byte = static_cast<std::uint8_t>(high * 16 + low);
+    codes.Value[count++] = byte;
+    if (text.empty() || text.front() != '*') continue;
+    const std::string_view digits = text.substr(1, text.find(' ') - 1);
+    const auto run = ParseNumber<std::size_t>(digits, 1, codes.Value.size());
+    if (!run || count + *run - 1 > codes.Value.size()) return false;
+    text.remove_prefix(1 + digits.size());
+    std::fill_n(codes.Value.begin() + static_cast<std::ptrdiff_t>(count), *run - 1, byte);
+    count += *run - 1;
   }
   return true;
 }
@@ -225,18 +223,18 @@ std::string ProjectReader::OtherKey() const {
 void ProjectReader::StoreCodes(ProjectElement& element, std::string_view text) {
   const auto name = std::find(BufferNames.begin(), BufferNames.end(), key_);
   if (name == BufferNames.end()) Refuse("there is no code buffer \"" + Excerpt(key_) + "\"");
-  SavedCodes saved;
-  saved.buffer = static_cast<std::int32_t>(name - BufferNames.begin());
+  const auto buffer = static_cast<std::int32_t>(name - BufferNames.begin());
   const bool stored = std::any_of(element.codes.begin(), element.codes.end(),
-                                  [&saved](const SavedCodes& other) { return other.buffer == saved.buffer; });
+                                  [buffer](const SavedCodes& other) { return other.buffer == buffer; });
   if (stored) Refuse("\"" + Excerpt(key_) + "\" stands twice");
   const std::size_t blank = std::min(text.find(' '), text.size());
   const auto next = ParseNumber<std::int32_t>(text.substr(0, blank), 0, udtTactisBaseElement_TACTIS_SCANCODE::Size - 1);
   if (!next) Refuse("the last index of a code buffer must be a number from 0 to 88");
+  if (element.codes.empty()) element.codes.reserve(BufferNames.size());
+  SavedCodes& saved = element.codes.emplace_back();
+  saved.buffer = buffer;
   saved.codes.NextValue = *next;
   if (!ReadBytes(text.substr(blank), saved.codes)) Refuse("a code buffer is up to 89 bytes of two digits each");
-  if (element.codes.empty()) element.codes.reserve(BufferNames.size());
-  element.codes.push_back(saved);
 }
 
 void ProjectReader::RefuseCount(std::string_view how) const {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 #include "files/project_syntax.h"
 #include "forms/ascii.h"
@@ -19,6 +20,19 @@ void AppendEscape(std::string& out, char c) {
   const auto code = static_cast<unsigned char>(c);
   const std::array<char, 6> escape = {'\\', 'u', '{', digit(code >> 4U), digit(code & 0xFU), '}'};
   out.append(escape.data(), escape.size());
+}
+
+/// How many bytes at the start are ASCII, the backslash apart. It looks at eight at once.
+std::size_t PlainLength(std::string_view bytes) {
+  constexpr std::uint64_t ones = 0x0101010101010101, highBits = ones << 7U, backslashes = ones * '\\';
+  std::size_t length = 0;
+  for (std::uint64_t word = 0; length + sizeof(word) <= bytes.size(); length += sizeof(word)) {
+    std::memcpy(&word, bytes.data() + length, sizeof(word));
+    // Of bytes without their high bit, those that are 0 alone get it when 1 is taken away.
+    if (((word | ((word ^ backslashes) - ones)) & highBits) != 0) break;
+  }
+  while (length < bytes.size() && static_cast<signed char>(bytes[length]) >= 0 && bytes[length] != '\\') ++length;
+  return length;
 }
 
 /// Appends a text of plain characters and marks, the usual content of a definition; false for any other.
@@ -63,15 +77,9 @@ void AppendProjectText(std::string& out, std::string_view text, std::string_view
 }
 
 std::string ReadProjectText(std::string_view bytes) {
-  const auto isHigh = [](char c) { return static_cast<signed char>(c) < 0; };
-  std::size_t highs = 0;
-  bool escaped = false;
-  for (const char c : bytes) {
-    highs += isHigh(c) ? 1 : 0;
-    escaped |= c == '\\';
-  }
-  if (escaped) return FromCodePageEscaped(bytes);
-  if (highs == 0) return std::string(bytes);
+  std::size_t plain = PlainLength(bytes);
+  if (plain == bytes.size()) return std::string(bytes);
+  if (bytes.find('\\', plain) != std::string_view::npos) return FromCodePageEscaped(bytes);
   static const auto characters = [] {
     std::array<std::string, 128> made;
     for (std::size_t index = 0; index < made.size(); ++index)
@@ -79,16 +87,13 @@ std::string ReadProjectText(std::string_view bytes) {
     return made;
   }();
   constexpr std::size_t longest = 3;
-  std::string text(bytes.size() + highs * (longest - 1), '\0');
-  char* put = text.data();
-  for (const char c : bytes) {
-    if (isHigh(c)) {
-      put = std::ranges::copy(characters[static_cast<std::uint8_t>(c) - 128U], put).out;
-    } else {
-      *put++ = c;
-    }
+  std::string text;
+  text.reserve(plain + (bytes.size() - plain) * longest);
+  for (; plain < bytes.size(); plain = PlainLength(bytes)) {
+    text.append(bytes, 0, plain).append(characters[static_cast<std::uint8_t>(bytes[plain]) - 128U]);
+    bytes.remove_prefix(plain + 1);
   }
-  text.resize(static_cast<std::size_t>(put - text.data()));
+  text += bytes;
   return text;
 }
 

@@ -21,17 +21,6 @@ bool HasUtf16Mark(std::string_view content) {
   return content.starts_with(Utf16Little) || content.starts_with(Utf16Big);
 }
 
-bool LineWalk::Next(std::string_view& line) {
-  if (position_ >= text_.size()) return false;
-  if (lineFeed_ < position_) lineFeed_ = Find('\n');
-  if (carriageReturn_ < position_) carriageReturn_ = Find('\r');
-  const std::size_t end = std::min(lineFeed_, carriageReturn_);
-  line = std::string_view(text_.data() + position_, end - position_);
-  position_ = end == carriageReturn_ && lineFeed_ == end + 1 ? end + 2 : end + 1;
-  ++number_;
-  return true;
-}
-
 TextFile::TextFile(std::filesystem::path file, std::size_t limit) : path_(std::move(file)) {
   content_ = ReadWholeFile(path_, limit);
   Check();

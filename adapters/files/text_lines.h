@@ -30,6 +30,17 @@ class LineWalk {
   std::size_t number_ = 0;
 };
 
+inline bool LineWalk::Next(std::string_view& line) {
+  if (position_ >= text_.size()) return false;
+  if (lineFeed_ < position_) lineFeed_ = Find('\n');
+  if (carriageReturn_ < position_) carriageReturn_ = Find('\r');
+  const std::size_t end = std::min(lineFeed_, carriageReturn_);
+  line = std::string_view(text_.data() + position_, end - position_);
+  position_ = end == carriageReturn_ && lineFeed_ == end + 1 ? end + 2 : end + 1;
+  ++number_;
+  return true;
+}
+
 /// A text file in memory, checked for what no text of this program holds.
 class TextFile {
  public:
