@@ -38,7 +38,7 @@ class ProjectReadAhead {
   const ProjectElement* Next();
 
   /// How many elements the thread hands over at once. A project of no more has none.
-  static constexpr std::size_t PortionSize = 256;
+  static constexpr std::size_t PortionSize = 64;
 
  private:
   struct Portion {
