@@ -1,11 +1,14 @@
 // Walks over every dialog in memory, and writes what each shows on standard output: the words that other renderers are
-// held against. Its words: the folder of the data, and a language.
+// held against. Its words: the folder of the data, and a language; or `design` alone, for what every dialog is given
+// before it is loaded.
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <string_view>
 
 #include "component/component.h"
 #include "dialogs/dialog_visits.h"
+#include "dialogs/told_design.h"
 #include "dialogs/told_form.h"
 #include "files/file_surroundings.h"
 #include "headless/headless_platform.h"
@@ -62,8 +65,12 @@ int Tell(const std::filesystem::path& data, const std::string& language) {
 }  // namespace plexel::dialogs
 
 int main(int count, char** words) {
-  if (count != 3) return 2;
   try {
+    if (count == 2 && words[1] == std::string_view("design")) {
+      std::cout << plexel::dialogs::DesignOfAll();
+      return 0;
+    }
+    if (count != 3) return 2;
     return plexel::dialogs::Tell(words[1], words[2]);
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
