@@ -160,6 +160,12 @@ TEST(Grid, WithoutRoomShowsOneRow) {
   EXPECT_EQ(form.msgA.RowsInView(), 3);
 }
 
+TEST(Grid, WhoseRowsHaveNoHeightHasThemAllInView) {
+  GridForm form;
+  form.msgA.RowHeight(0);
+  EXPECT_EQ(form.msgA.RowsInView(), form.msgA.Rows() - form.msgA.FixedRows());
+}
+
 TEST(Grid, WithRoomForAllDoesNotScroll) {
   GridForm form;
   form.msgA.Place(0, 0, 9000, 9000);

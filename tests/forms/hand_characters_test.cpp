@@ -34,6 +34,14 @@ TEST(KeyPress, OfACodeThatIsNoneIsRefused) {
   EXPECT_NE(FailureOf(FailureKind::InvalidCall, [&] { form.hand.KeyPress(-1); }), "");
 }
 
+TEST(KeyPress, TakesTheLowestAndTheHighestCode) {
+  KeysForm form;
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.KeyPress(0), 0); }), Strings{"txtLine KeyPress 0"});
+  EXPECT_EQ(form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.KeyPress(255), 255); }),
+            Strings{"txtLine KeyPress 255"});
+  EXPECT_EQ(form.txtLine.Text(), "ÿ");
+}
+
 TEST(KeyPress, FollowsAKeyDownThatWasTakenAway) {
   KeysForm form;
   form.txtLine.OnKeyDown = [](std::int16_t& keyCode, std::int16_t) { keyCode = 0; };

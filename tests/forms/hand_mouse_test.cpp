@@ -50,6 +50,40 @@ TEST(Click, IsRefusedByADisabledControlAndChangesNothing) {
             Strings{});
 }
 
+TEST(Act, OfEveryKindIsRefusedByADisabledControlAndChangesNothing) {
+  MouseForm form;
+  form.msgA.UserResizing(true);
+  for (Control* control : form.Controls()) control->Enabled(false);
+  const std::vector<std::pair<Control*, std::function<void()>>> acts = {
+      {&form.cmdA, [&] { form.hand.Click(form.cmdA); }},
+      {&form.msgA, [&] { form.hand.Click(form.msgA, 2, 2); }},
+      {&form.txtA, [&] { form.hand.DblClick(form.txtA); }},
+      {&form.msgA, [&] { form.hand.DblClick(form.msgA, 2, 2); }},
+      {&form.labLink, [&] { form.hand.MouseDown(form.labLink, 1, 0, 0, 0); }},
+      {&form.cmdA, [&] { form.hand.Focus(form.cmdA); }},
+      {&form.cmbA, [&] { form.hand.Select(form.cmbA, 0); }},
+      {&form.txtA, [&] { form.hand.Type(form.txtA, "x"); }},
+      {&form.txtA, [&] { form.hand.Edit(form.txtA, "x", 0); }},
+      {&form.msgA, [&] { form.hand.Cell(form.msgA, 2, 2); }},
+      {&form.msgA, [&] { form.hand.ResizeColumn(form.msgA, 1, 500); }},
+      {&form.msgA, [&] { form.hand.Scroll(form.msgA, 2, 1); }},
+      {&form.sstA, [&] { form.hand.Tab(form.sstA, 1); }},
+      {&form.sstA, [&] { form.hand.DblClickTab(form.sstA, 1); }},
+  };
+  for (std::size_t i = 0; i < acts.size(); ++i) {
+    const auto& [control, act] = acts[i];
+    EXPECT_EQ(form.Raised([&, &act = act, &control = control] {
+      EXPECT_EQ(FailureOf(Invalid, act), control->FullName() + " is disabled") << "act " << i;
+    }),
+              Strings{})
+        << "act " << i;
+  }
+  EXPECT_EQ(form.txtA.Text(), "");
+  EXPECT_EQ(form.msgA.ColWidth(1), 960);
+  EXPECT_EQ(form.msgA.Row(), 1);
+  EXPECT_EQ(form.sstA.Tab(), 0);
+}
+
 TEST(Click, IsRefusedByAHiddenControl) {
   MouseForm form;
   form.labLink.Visible(false);
