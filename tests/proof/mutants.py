@@ -84,8 +84,10 @@ class Trial:
         return failed
 
     def order(self, file):
+        """The steps for a source: its own room's first, then the others, but long ones of its own room alone."""
         own = "test_" + room_of(file)
-        return sorted(self.steps, key=lambda step: step.name != own)
+        return sorted((step for step in self.steps if not step.long or step.name.startswith(own)),
+                      key=lambda step: step.name != own)
 
     def outcome(self, place, mutant, source):
         """`refused` by the compiler, `survived`, or the name of the step that notices it."""

@@ -185,7 +185,7 @@ class Trials(unittest.TestCase):
         for call in (["cmake", "-G", "Ninja", "-S", tree, "-B", tree / "out"], ["ninja", "-C", tree / "out"]):
             subprocess.run(call, check=True, capture_output=True)
         cls.built = Built(tree, tree / "out")
-        cls.trial = Trial(cls.built, [Step("test_room", [str(tree / "out/bin/test_room")], "", 0.1)])
+        cls.trial = Trial(cls.built, [Step("test_room", [str(tree / "out/bin/test_room")], "", seconds=0.1)])
         cls.texts = {path: path.read_bytes() for path in tree.rglob("*") if path.is_file() and "out" not in path.parts}
 
     @classmethod
