@@ -71,6 +71,13 @@ TEST(FoldedText, HasNeitherCaseNorAccent) {
   EXPECT_EQ(characters::Folded("Straße Æ Þ ÿ"), "strasse ae th y");
 }
 
+TEST(FoldedText, OfEveryLetterIsItsLetterWithoutCaseAndAccent) {
+  EXPECT_EQ(characters::Folded("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), "abcdefghijklmnopqrstuvwxyz");
+  EXPECT_EQ(characters::Folded("ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞß"), "aaaaaaaeceeeeiiiidnoooooouuuuythss");
+  EXPECT_EQ(characters::Folded("àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþÿ"), "aaaaaaaeceeeeiiiidnoooooouuuuythy");
+  EXPECT_EQ(characters::Folded("@[`{¿Ā"), "@[`{¿Ā");
+}
+
 TEST(FoldedText, KeepsWhatIsNoLetterOfLatin1) { EXPECT_EQ(characters::Folded("×÷_€1Ω\xFF"), "×÷_€1Ω\xFF"); }
 
 TEST(Characters, AWellFormedTextHasNoBrokenByte) {

@@ -113,6 +113,13 @@ TEST(Conversion, ANumberTooLargeForItsTypeIsAnOverflow) {
   EXPECT_EQ(KindOf([] { TextToNumber("0.1e+400"); }), FailureKind::Overflow);
 }
 
+TEST(Conversion, WhatStandsBehindATextIsNotRead) {
+  const std::string more = "1" + std::string(400, '0') + "e-5000";
+  EXPECT_EQ(KindOf([&] { TextToNumber(std::string_view(more).substr(0, more.size() - 3)); }), FailureKind::Overflow);
+  EXPECT_EQ(TextToNumber(std::string_view("1234").substr(0, 2)), 12.0);
+  EXPECT_EQ(TextToNumber(std::string_view("&H1234").substr(0, 4)), 18.0);
+}
+
 TEST(Conversion, ANumberTooSmallForItsTypeIsZero) {
   EXPECT_EQ(TextToNumber("1e-400"), 0.0);
   EXPECT_EQ(TextToSingle("1e-60"), 0.0F);

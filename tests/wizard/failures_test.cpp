@@ -311,6 +311,16 @@ TEST(WizardFailures, AHelpViewerThatFailsIsNotReported) {
   EXPECT_EQ(session.closed, Names{dialogs::frmButtonWizardPage1});
 }
 
+TEST(WizardFailures, APage1ThatAnExceptionEndsLeavesNoPageChangingBehind) {
+  WizardSession session(Rect);
+  session.Then([] {
+    Module().bWizardPageChanging = True;
+    throw 5;
+  });
+  EXPECT_THROW(session.element->OpenConfigurationDialog(), int);
+  EXPECT_EQ(Module().bWizardPageChanging, False);
+}
+
 TEST(WizardFailures, AHookThatCannotBeRemovedDoesNotKeepPage1Open) {
   WizardSession session(Rect);
   session.DblClick("txtScanCodes").Then([&] { session.platform.faults.Turn(Fault::Unhook, true); }).Close();
