@@ -391,6 +391,16 @@ TEST_F(ProblemsTest, ARecheckTellsWhoWasTouched) {
   EXPECT_EQ(problems.Of(2).size(), 2u);
 }
 
+TEST_F(ProblemsTest, ARecheckLeavesThoseAloneWithWhomAValueIsSharedAsBefore) {
+  Add(Led);
+  ctlPlexelBaseElement& second = Add(Led);
+  second.LEDTypeLayer1(UserLed);
+  Add(Led).LEDTypeLayer1(UserLed);
+  Problems problems(Order());
+  second.LEDTypeLayer2(AlarmLed);
+  EXPECT_EQ(problems.Recheck(second), std::vector<std::size_t>{1});
+}
+
 TEST_F(ProblemsTest, ARecheckOfManyTellsWhoWasTouched) {
   for (int count = 0; count < 40; ++count) Add(Led).LEDTypeLayer1(UserLed);
   for (int count = 0; count < 3; ++count) Add(Led);
