@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <system_error>
@@ -228,13 +229,19 @@ Project PanelDocument::Content() const {
 
 void PanelDocument::Save(const std::filesystem::path& file) {
   const std::string text = ProjectFileText(file, Content());
-  WriteWholeFile(file, text);
+  std::optional<FileWarning> told;
+  try {
+    WriteWholeFile(file, text);
+  } catch (const FileWarning& warning) {
+    told = warning;
+  }
   file_ = file;
   hash_ = HashOf(text);
   fileForeign_ = foreign_;
   filePanel_ = panel_;
   unsaved_.clear();
   fileIsOther_ = false;
+  if (told) throw FileWarning(*told);
 }
 
 std::vector<PanelDifference> PanelDocument::InstalledPanelDiffers(const std::filesystem::path& panelDirectory) const {

@@ -49,7 +49,8 @@ class PanelDocument {
   PanelDocument(const PanelDocument&) = delete;
   PanelDocument& operator=(const PanelDocument&) = delete;
 
-  /// Writes the project and takes the file as its own; FileError when that fails. The file holds the elements at rest,
+  /// Writes the project and takes the file as its own; FileError when that fails, and a FileWarning, when all is done,
+  /// where it is to be told of. The file holds the elements at rest,
   /// whatever is selected and however far it is zoomed; what the screen shows stays.
   void Save(const std::filesystem::path& file);
   /// What Save writes.

@@ -4,6 +4,7 @@
 #include <numeric>
 #include <system_error>
 
+#include "files/beside.h"
 #include "files/file_error.h"
 #include "files/file_lists.h"
 #include "files/path_text.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr const char* Extension = ".recovery";
 constexpr const char* LockExtension = ".lock";
-constexpr const char* HalfExtension = ".new";  // of a file while WriteWholeFile fills it
 
 std::filesystem::path LockOf(std::filesystem::path file) { return file.replace_extension(LockExtension); }
 
@@ -109,7 +109,7 @@ namespace {
 /// Removes what programs that were killed have left beside recovery files: halves of new ones, and locks of no file.
 void SweepBehindKilled(const std::filesystem::path& directory) {
   std::error_code error;
-  for (const std::filesystem::path& half : FilesWith(HalfExtension, directory, error)) {
+  for (const std::filesystem::path& half : FilesWith(HalfEnding, directory, error)) {
     const std::string name = TextOf(half.filename());
     const std::size_t end = name.find(Extension);
     if (end == std::string::npos) continue;

@@ -25,4 +25,10 @@ class FileError : public std::runtime_error {
   std::string reason_;
 };
 
+/// A file that is written whole, of which something is to be told all the same: `Reason()` says what.
+class FileWarning : public FileError {
+ public:
+  using FileError::FileError;
+};
+
 }  // namespace plexel

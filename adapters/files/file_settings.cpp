@@ -117,9 +117,17 @@ void FileSettings::Save() {
   std::error_code error;
   std::filesystem::create_directories(file_.parent_path(), error);
   if (error) throw FileError(file_, 0, "cannot be written: " + error.message());
-  WriteWholeFile(file_, content);
-  problems_.clear();
-  registry_.AllowOverwriting();
+  const auto isWritten = [this] {
+    problems_.clear();
+    registry_.AllowOverwriting();
+  };
+  try {
+    WriteWholeFile(file_, content);
+  } catch (const FileWarning&) {
+    isWritten();
+    throw;
+  }
+  isWritten();
 }
 
 }  // namespace plexel

@@ -70,7 +70,8 @@ Project ParseProject(const TextFile& file);
 /// The text that WriteProject would write to a file; FileError with its name for a project that cannot be written.
 std::string ProjectFileText(const std::filesystem::path& file, const Project& project);
 
-/// Reads and writes a project file; FileError when that fails, and then nothing has changed.
+/// Reads and writes a project file; FileError when that fails, and then nothing has changed. A FileWarning tells of a
+/// file that was written.
 Project ReadProject(const std::filesystem::path& file);
 void WriteProject(const std::filesystem::path& file, const Project& project);
 

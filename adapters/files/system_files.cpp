@@ -1,12 +1,12 @@
 #include "files/system_files.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <system_error>
+#include <vector>
 
+#include "files/beside.h"
 #include "files/file_error.h"
-#include "files/path_text.h"
-#include "files/process_lock.h"
+#include "files/filling.h"
 #include "files/system_operations.h"
 
 namespace plexel {
@@ -14,20 +14,6 @@ namespace plexel {
 namespace {
 
 std::string ReasonOf(int error) { return std::generic_category().message(error); }
-
-/// Writes and flushes the content of a new file. The handle is closed in every case.
-int Fill(FilePort& port, int handle, std::string_view content) {
-  int error = 0;
-  while (error == 0 && !content.empty()) {
-    std::size_t written = 0;
-    error = port.Write(handle, content, written);
-    if (error == 0 && written == 0) error = EIO;
-    if (error == 0) content.remove_prefix(std::min(written, content.size()));
-  }
-  if (error == 0) error = port.Flush(handle);
-  const int closed = port.Close(handle);
-  return error != 0 ? error : closed;
-}
 
 /// Where links lead, of which the last one may lead nowhere yet.
 std::filesystem::path EndOfLinks(const std::filesystem::path& file) {
@@ -42,19 +28,6 @@ std::filesystem::path EndOfLinks(const std::filesystem::path& file) {
     throw FileError(file, 0, "cannot be written: " + failure.code().message());
   }
   return target;
-}
-
-constexpr int NameAttempts = 100;
-
-/// Creates a file beside the target under a name that is not taken.
-int CreateBeside(FilePort& port, const std::filesystem::path& target, std::filesystem::path& file, int& handle) {
-  int error = EEXIST;
-  for (int attempt = 0; error == EEXIST && attempt < NameAttempts; ++attempt) {
-    file = target;
-    file += "." + std::to_string(ProcessNumber()) + "-" + std::to_string(attempt) + ".new";
-    error = port.Create(file, target, handle);
-  }
-  return error;
 }
 
 }  // namespace
@@ -80,21 +53,52 @@ void MakeOwnDirectory(const std::filesystem::path& directory) {
   if (error != 0) throw FileError(directory, 0, "cannot be made: " + ReasonOf(error));
 }
 
+namespace {
+
+/// Puts a new file in the place of an old one. What is to be told of it all the same, or empty.
+std::string WriteBeside(const std::filesystem::path& name, const std::filesystem::path& target,
+                        std::string_view content, FilePort& port) {
+  std::filesystem::path beside;
+  FileTraits lost;
+  int handle = -1;
+  int error = CreateBeside(port, target, HalfEnding, beside, handle, lost);
+  if (error != 0) throw FileError(name, 0, CannotBeWritten(error));
+  error = WriteAll(port, handle, 0, content);
+  if (error == 0) error = port.Flush(handle);
+  if (error == 0) {
+    error = port.Replace(handle, beside, target);
+  } else {
+    static_cast<void>(port.Close(handle));  // the file goes
+  }
+  if (error != 0) {
+    const int left = port.Remove(beside);
+    throw FileError(name, 0, CannotBeWritten(error) + LeftOver(beside, left));
+  }
+  error = FlushDirectoryOf(port, target);
+  return error == 0 ? std::string() : MayNotOutlast(error);
+}
+
+}  // namespace
+
 void WriteWholeFile(const std::filesystem::path& file, std::string_view content, FilePort& port) {
-  const std::filesystem::path target = WritableTarget(EndOfLinks(file));
+  const WritableFile target = WritableTarget(EndOfLinks(file));
+  const std::vector<std::filesystem::path> left = StandingBeside(target.file);
+  ClearLeftOver(left, HalfEnding);
+  const std::string told = WriteBeside(file, target.file, content, port);
+  if (!told.empty()) throw FileWarning(file, 0, told);
+}
+
+FileTraits LostByWriting(const std::filesystem::path& file, FilePort& port) {
+  FileTraits lost;
+  const WritableFile target = WritableTarget(EndOfLinks(file));
+  if (target.names != 1) return lost;
   std::filesystem::path beside;
   int handle = -1;
-  int error = CreateBeside(port, target, beside, handle);
-  if (error != 0) throw FileError(file, 0, "cannot be written: " + ReasonOf(error));
-  error = Fill(port, handle, content);
-  if (error == 0) error = port.Rename(beside, target);
-  if (error != 0) {
-    std::string reason = "cannot be written: " + ReasonOf(error);
-    if (port.Remove(beside) != 0) reason += " (" + TextOf(beside) + " is left over)";
-    throw FileError(file, 0, reason);
-  }
-  // The new file stands complete under its name; a system that cannot flush directories has nothing more to give.
-  static_cast<void>(port.FlushDirectory(target.has_parent_path() ? target.parent_path() : "."));
+  const int error = CreateBeside(port, target.file, HalfEnding, beside, handle, lost);
+  if (error != 0) throw FileError(file, 0, CannotBeWritten(error));
+  static_cast<void>(port.Close(handle));   // nothing was written to it
+  static_cast<void>(port.Remove(beside));  // what stays is cleared by the saving that follows
+  return lost;
 }
 
 }  // namespace plexel

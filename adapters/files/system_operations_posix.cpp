@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdint>
 #include <system_error>
+#include <utility>
 
 #include "files/file_error.h"
 
@@ -64,18 +66,28 @@ int MakeDirectory(const std::filesystem::path& directory) {
   return ::mkdir(directory.c_str(), 0700) == 0 || errno == EEXIST ? 0 : errno;
 }
 
-std::filesystem::path WritableTarget(const std::filesystem::path& file) {
+WritableFile WritableTarget(const std::filesystem::path& file) {
   struct stat status {};
   if (::stat(file.c_str(), &status) != 0) {
     if (errno != ENOENT) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
-    return file;
+    return {file, 0};
   }
   if (!S_ISREG(status.st_mode)) throw FileError(file, 0, "cannot be written: it is no regular file");
   if (::access(file.c_str(), W_OK) != 0) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
   std::error_code error;
-  const std::filesystem::path target = std::filesystem::canonical(file, error);
+  std::filesystem::path target = std::filesystem::canonical(file, error);
   if (error) throw FileError(file, 0, "cannot be written: " + error.message());
-  return target;
+  return {std::move(target), status.st_nlink};
+}
+
+std::uintmax_t NamesOf(const std::filesystem::path& file) {
+  struct stat status {};
+  return ::stat(file.c_str(), &status) == 0 ? status.st_nlink : 0;
+}
+
+std::size_t LongestName(const std::filesystem::path& directory) {
+  const long limit = ::pathconf(directory.c_str(), _PC_NAME_MAX);
+  return limit > 0 ? static_cast<std::size_t>(limit) : NAME_MAX;
 }
 
 }  // namespace plexel

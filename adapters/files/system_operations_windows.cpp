@@ -64,22 +64,32 @@ int MakeDirectory(const std::filesystem::path& directory) {
   return _wmkdir(directory.c_str()) == 0 || errno == EEXIST ? 0 : errno;
 }
 
-std::filesystem::path WritableTarget(const std::filesystem::path& file) {
+WritableFile WritableTarget(const std::filesystem::path& file) {
   const auto refuse = [&file](const std::string& reason) { return FileError(file, 0, "cannot be written: " + reason); };
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(file, error);
-  if (status.type() == std::filesystem::file_type::not_found) return file;
+  if (status.type() == std::filesystem::file_type::not_found) return {file, 0};
   if (!std::filesystem::status_known(status)) throw refuse(error.message());
   if (!std::filesystem::is_regular_file(status)) throw refuse("it is no regular file");
   const DWORD attributes = GetFileAttributesW(file.c_str());
   if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) throw refuse("it is marked as read-only");
-  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return file;
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return {file, NamesOf(file)};
   const ReadHandle handle(file);
   std::wstring target(std::size_t{1} << 15U, L'\0');  // longer than any name
   const DWORD length = GetFinalPathNameByHandleW(handle.Get(), target.data(), static_cast<DWORD>(target.size()), 0);
   if (length == 0 || length >= target.size()) throw refuse(LastReason());
   target.resize(length);
-  return target;
+  return {target, NamesOf(target)};
+}
+
+std::uintmax_t NamesOf(const std::filesystem::path& file) {
+  const ReadHandle handle(file);
+  BY_HANDLE_FILE_INFORMATION information = {};
+  return GetFileInformationByHandle(handle.Get(), &information) == FALSE ? 0 : information.nNumberOfLinks;
+}
+
+std::size_t LongestName(const std::filesystem::path&) {
+  return 255;  // of the system's characters, each of which has one byte at least
 }
 
 }  // namespace plexel

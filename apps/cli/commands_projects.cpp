@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include <array>
+#include <iostream>
 
 #include "cli/command_error.h"
 #include "files/data_directory.h"
@@ -33,7 +34,7 @@ void SaveProject(Workbench& bench, Arguments& arguments, Json&) {
     const std::string& name = place.element->Name();
     if (!bench.Has(*place.element)) throw CommandError("the element " + Excerpt(name) + " of the project was dropped");
   }
-  bench.projects.Save(file);
+  bench.projects.Save(file, std::cerr);
 }
 
 constexpr auto commands =

@@ -90,7 +90,7 @@ int RunDiff(std::span<const std::string> arguments, const Streams& streams) {
   const std::vector<ProjectDifference> differences = DifferencesOf(first, second);
   std::string lines;
   for (const ProjectDifference& one : differences) lines += call.Has("--json") ? LineOf(one) : SentenceOf(one, files);
-  WriteOutput(std::string(StandardStream), lines, streams.output);
+  WriteOutput(std::string(StandardStream), lines, streams);
   return differences.empty() ? AllSucceeded : SomeFailed;
 }
 

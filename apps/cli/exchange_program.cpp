@@ -19,7 +19,7 @@ int RunExport(std::span<const std::string> arguments, const Streams& streams) {
   if (document.size() > exchange_words::DocumentLimit) {
     throw FileError(InputName(files.front()), 0, "the document of the project is too large");
   }
-  WriteOutput(files.size() > 1 ? files[1] : std::string(StandardStream), document, streams.output);
+  WriteOutput(files.size() > 1 ? files[1] : std::string(StandardStream), document, streams);
   return AllSucceeded;
 }
 
@@ -36,7 +36,7 @@ int RunImport(std::span<const std::string> arguments, const Streams& streams) {
     throw FileError(InputName(source), 0, std::string("is no project: ") + failure.what());
   }
   if (content.size() > ProjectLimit) throw FileError(InputName(source), 0, "the project is too large");
-  WriteOutput(target, content, streams.output);
+  WriteOutput(target, content, streams);
   return AllSucceeded;
 }
 

@@ -4,6 +4,7 @@
 
 #include "files/file_error.h"
 #include "files/path_text.h"
+#include "files/replacing.h"
 #include "files/system_files.h"
 #include "files/text_lines.h"
 
@@ -38,10 +39,12 @@ Project ReadInputProject(const std::string& file, std::istream& standardInput) {
   return ParseProject(TextFile(InputName(file), ReadInput(file, ProjectLimit, standardInput)));
 }
 
-void WriteOutput(const std::string& file, std::string_view content, std::ostream& standardOutput) {
+void WriteOutput(const std::string& file, std::string_view content, const Streams& streams) {
   if (file != StandardStream) {
-    WriteWholeFile(PathOf(file), content);
-  } else if (!standardOutput.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
+    const std::filesystem::path path = PathOf(file);
+    TellReplacing(
+        path, [&] { WriteWholeFile(path, content); }, streams.errors);
+  } else if (!streams.output.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
     throw FileError("standard output", 0, "cannot be written");
   }
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "cli/streams.h"
 #include "files/project_file.h"
 
 namespace plexel {
@@ -21,7 +22,7 @@ std::string ReadInput(const std::string& file, std::size_t limit, std::istream& 
 /// A project; FileError when it is none.
 Project ReadInputProject(const std::string& file, std::istream& standardInput);
 
-/// Replaces a file as a whole; FileError when that fails.
-void WriteOutput(const std::string& file, std::string_view content, std::ostream& standardOutput);
+/// Replaces a file as a whole; FileError when that fails. What it loses by it is told before (TellReplacing).
+void WriteOutput(const std::string& file, std::string_view content, const Streams& streams);
 
 }  // namespace plexel

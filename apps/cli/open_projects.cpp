@@ -1,6 +1,7 @@
 #include "cli/open_projects.h"
 
 #include "files/path_text.h"
+#include "files/replacing.h"
 
 namespace plexel {
 
@@ -21,10 +22,12 @@ const PanelDocument& OpenProjects::Open(const Source& source, const PanelDocumen
   return *opened_.back().document;
 }
 
-void OpenProjects::Save(const std::string& file) const {
+void OpenProjects::Save(const std::string& file, std::ostream& errors) const {
   if (opened_.empty()) return;
   const Opened& latest = opened_.back();
-  WriteProject(file.empty() ? latest.file : PathOf(file), latest.document->Content());
+  const std::filesystem::path target = file.empty() ? latest.file : PathOf(file);
+  TellReplacing(
+      target, [&] { WriteProject(target, latest.document->Content()); }, errors);
 }
 
 }  // namespace plexel

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -28,8 +29,9 @@ class OpenProjects {
 
   /// The project to save, null before the first one.
   const PanelDocument* Latest() const { return opened_.empty() ? nullptr : opened_.back().document.get(); }
-  /// Writes the project to save, into the file that it was read from when none is named; FileError when that fails.
-  void Save(const std::string& file) const;
+  /// Writes the project to save, into the file that it was read from when none is named, as TellReplacing
+  /// does; FileError when that fails.
+  void Save(const std::string& file, std::ostream& errors) const;
 
  private:
   struct Opened {

@@ -49,8 +49,7 @@ int RunReport(std::span<const std::string> arguments, const Streams& streams) {
   const auto document = bench.Open(file, streams.input);
   const std::string name = file == StandardStream ? std::string() : TextOf(PathOf(file).filename());
   WriteOutput(call.Value(kind.option).value_or(""),
-              kind.write(ReportOf(*document, name, language ? ReportWordsInForce() : EnglishReportWords())),
-              streams.output);
+              kind.write(ReportOf(*document, name, language ? ReportWordsInForce() : EnglishReportWords())), streams);
   return AllSucceeded;
 }
 

@@ -15,6 +15,7 @@
 #include "editor/report_pdf.h"
 #include "editor/version.h"
 #include "files/data_directory.h"
+#include "files/replacing.h"
 #include "files/system_files.h"
 #include "qt/fonts.h"
 #include "qt/pictures.h"
@@ -75,7 +76,10 @@ int WritePdf(const Call& call) {
   EditorHost host;
   const PanelDocument::Site site{component, host, std::make_shared<EditorWindowObject>(), DataDirectory() / "panels"};
   const auto document = PanelDocument::Open(call.project.toStdString(), site);
-  WriteWholeFile(call.pdf.toStdString(), ReportPdf(*document, QFileInfo(call.project).fileName()));
+  const std::string report = ReportPdf(*document, QFileInfo(call.project).fileName());
+  const std::filesystem::path file = call.pdf.toStdString();
+  TellReplacing(
+      file, [&] { WriteWholeFile(file, report); }, std::cerr);
   return 0;
 }
 

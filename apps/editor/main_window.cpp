@@ -26,6 +26,7 @@
 #include "editor/virtual_panel.h"
 #include "editor/wait_cursor.h"
 #include "files/data_directory.h"
+#include "files/file_error.h"
 #include "qt/captions.h"
 #include "qt/plain_box.h"
 #include "qt/units.h"
@@ -229,15 +230,22 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
 bool MainWindow::SaveProject(const std::filesystem::path& file) {
   if (!MayOverwrite(file)) return false;
   try {
+    if (!MayReplace(file)) return false;
     const WaitCursor waits;
     safekeeping_.BeforeSave(file);
     // What is saved unchanged keeps every byte of its file.
     if (document_->Modified() || document_->File().empty()) document_->CarriesPanel(true);
-    document_->Save(file);
+    std::optional<FileWarning> told;
+    try {
+      document_->Save(file);
+    } catch (const FileWarning& warning) {
+      told = warning;
+    }
     safekeeping_.Saved();
     notice_->hide();
     WasUsed(file);
     ShowTitle();
+    if (told) TellSaved(*told);
     return true;
   } catch (const std::exception& failure) {
     Tell(Text::SaveFailed, failure.what());

@@ -31,6 +31,7 @@ namespace plexel {
 
 class ElidedLabel;
 class Inspector;
+class FileWarning;
 class LogPanel;
 class OverviewPanel;
 class NoticeBar;
@@ -169,6 +170,10 @@ class MainWindow : public QMainWindow {
   void ShowFileDifference();
   /// False when the user does not want to write over a file that somebody else has changed.
   bool MayOverwrite(const std::filesystem::path& file);
+  /// False when the user does not want a file replaced that loses something by it. FileError when it cannot be written.
+  bool MayReplace(const std::filesystem::path& file);
+  /// Tells of a file that is saved.
+  void TellSaved(const FileWarning& warning);
   void ShowVersions();
   /// Tells what of the file's values no element could read.
   void TellUnread();

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "editor/report_pdf.h"
+#include "files/file_error.h"
 #include "files/system_files.h"
 #include "project/exchange_words.h"
 #include "project/panel_svg.h"
@@ -86,9 +87,13 @@ bool MainWindow::Import(const std::filesystem::path& file) {
 
 bool MainWindow::Export(const QString& suffix, const std::filesystem::path& file) {
   try {
+    if (!MayReplace(file)) return false;
     for (const ExportKind& kind : kinds) {
       if (suffix == kind.suffix) WriteWholeFile(file, kind.make(*document_, ProjectName()));
     }
+    return true;
+  } catch (const FileWarning& warning) {
+    TellSaved(warning);
     return true;
   } catch (const std::exception& failure) {
     Tell(Text::ExportFailed, failure.what());

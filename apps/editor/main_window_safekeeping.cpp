@@ -20,6 +20,7 @@
 #include "editor/versions_dialog.h"
 #include "editor/wait_cursor.h"
 #include "files/file_error.h"
+#include "files/system_files.h"
 #include "qt/plain_box.h"
 #include "qt/units.h"
 
@@ -103,6 +104,21 @@ bool Confirm(const QString& question, const QString& yes, QWidget* parent) {
   box.setDefaultButton(reject);
   box.exec();
   return box.clickedButton() == accept;
+}
+
+QString WordsOf(const FileTrait& trait) {
+  const QString name = ToQt(trait.name);
+  switch (trait.kind) {
+    case FileTrait::Kind::Owner:
+      return Say(Text::LosesOwner).arg(name);
+    case FileTrait::Kind::Group:
+      return Say(Text::LosesGroup).arg(name);
+    case FileTrait::Kind::AccessList:
+      return Say(Text::LosesAccessList);
+    case FileTrait::Kind::Attribute:
+      break;
+  }
+  return Say(Text::LosesAttribute).arg(name);
 }
 
 struct PanelText {
@@ -260,6 +276,23 @@ bool MainWindow::MayOverwrite(const std::filesystem::path& file) {
   if (state.now == PanelDocument::OnDisk::Unreadable) log_->Append(ToQt(state.reason));
   if (state.now == PanelDocument::OnDisk::Same || state.now == PanelDocument::OnDisk::Gone) return true;
   return Confirm(Say(Text::AskOverwrite), Say(Text::Overwrite), this);
+}
+
+bool MainWindow::MayReplace(const std::filesystem::path& file) {
+  WaitCursor waits;
+  const FileTraits lost = LostByWriting(file);
+  waits.End();
+  if (lost.empty()) return true;
+  QStringList words;
+  for (const FileTrait& trait : lost) words.append(WordsOf(trait));
+  return Confirm(Say(Text::ReplacedWithout).arg(ToQt(file.filename().string()), words.join(", ")),
+                 Say(Text::SaveAllTheSame), this);
+}
+
+void MainWindow::TellSaved(const FileWarning& warning) {
+  const QString words = Say(Text::SavedBut) + ' ' + ToQt(std::string_view(warning.what()));
+  log_->Append(words);
+  notice_->Tell(words, {{Say(Text::OK), [this] { notice_->hide(); }}});
 }
 
 void MainWindow::ShowVersions() {

@@ -26,7 +26,7 @@ struct Watch {
   // Of FileFaults:
   std::string directory;
   int left = 0, error = 0;
-  std::string failed;
+  std::string always, failed;
   std::set<int> handles;  ///< of files below the directory
   // Of LateFile:
   std::string late;
@@ -44,9 +44,9 @@ bool IsBelow(std::string_view path, std::string_view directory) {
   return path.starts_with(directory) && (path.size() == directory.size() || path[directory.size()] == '/');
 }
 
-/// Counts an operation below the directory; true when it is the one that fails.
+/// Counts an operation below the directory; true when it is one that fails.
 bool CountDown(Watch& watch, const char* operation) {
-  if (watch.left == 0 || --watch.left > 0) return false;
+  if (watch.always != operation && (watch.left == 0 || --watch.left > 0)) return false;
   watch.failed = operation;
   errno = watch.error;
   return true;
@@ -101,9 +101,16 @@ FileFaults::FileFaults(const std::filesystem::path& directory, int number, int e
   TheWatch().directory = directory.string();
   TheWatch().left = number;
   TheWatch().error = error;
+  TheWatch().always.clear();
   TheWatch().failed.clear();
   TheWatch().handles.clear();
   faulty = true;
+}
+
+FileFaults::FileFaults(const std::filesystem::path& directory, const char* operation, int error)
+    : FileFaults(directory, 0, error) {
+  const std::lock_guard lock(TheWatch().mutex);
+  TheWatch().always = operation;
 }
 
 FileFaults::~FileFaults() { faulty = false; }
@@ -199,7 +206,7 @@ int FaultyOpenAt(int directory, const char* path, int flags, ...) {
   va_start(more, flags);
   const mode_t mode = ModeOf(flags, more);
   va_end(more);
-  if (Fails("open", path)) return -1;
+  if (Fails("openat", path)) return -1;
   return plexel::Opened(path, Next<int(int, const char*, int, ...)>("openat")(directory, path, flags, mode));
 }
 PLEXEL_STANDS_FOR("fopen", std::FILE* FaultyFileOpen(const char* path, const char* mode));
@@ -218,6 +225,12 @@ ssize_t FaultyRead(int handle, void* bytes, std::size_t count) {
 PLEXEL_STANDS_FOR("write", ssize_t FaultyWrite(int handle, const void* bytes, std::size_t count));
 ssize_t FaultyWrite(int handle, const void* bytes, std::size_t count) {
   return Fails("write", handle) ? -1 : Next<ssize_t(int, const void*, std::size_t)>("write")(handle, bytes, count);
+}
+PLEXEL_STANDS_FOR("pwrite", ssize_t FaultyWriteAt(int handle, const void* bytes, std::size_t count, off_t place));
+ssize_t FaultyWriteAt(int handle, const void* bytes, std::size_t count, off_t place) {
+  return Fails("pwrite", handle)
+             ? -1
+             : Next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite")(handle, bytes, count, place);
 }
 PLEXEL_STANDS_FOR("writev", ssize_t FaultyWriteParts(int handle, const iovec* parts, int count));
 ssize_t FaultyWriteParts(int handle, const iovec* parts, int count) {
@@ -254,9 +267,45 @@ int FaultyGive(int handle, uid_t owner, gid_t group) {
 }
 
 PLEXEL_STANDS_FOR("fsync", int FaultyFlush(int handle));
-int FaultyFlush(int handle) { return Fails("fsync", handle) ? -1 : Next<int(int)>("fsync")(handle); }
+int FaultyFlush(int handle) {
+  struct stat status {};
+  const bool isDirectory =
+      plexel::faulty && Next<int(int, struct stat*)>("fstat")(handle, &status) == 0 && S_ISDIR(status.st_mode);
+  return Fails(isDirectory ? "fsync of a directory" : "fsync", handle) ? -1 : Next<int(int)>("fsync")(handle);
+}
 PLEXEL_STANDS_FOR("fdatasync", int FaultyFlushData(int handle));
 int FaultyFlushData(int handle) { return Fails("fdatasync", handle) ? -1 : Next<int(int)>("fdatasync")(handle); }
+
+// Extended attributes, access lists among them.
+PLEXEL_STANDS_FOR("listxattr", ssize_t FaultyListAttributes(const char* path, char* names, std::size_t size));
+ssize_t FaultyListAttributes(const char* path, char* names, std::size_t size) {
+  return Fails("listxattr", path) ? -1 : Next<ssize_t(const char*, char*, std::size_t)>("listxattr")(path, names, size);
+}
+PLEXEL_STANDS_FOR("getxattr",
+                  ssize_t FaultyAttribute(const char* path, const char* name, void* value, std::size_t size));
+ssize_t FaultyAttribute(const char* path, const char* name, void* value, std::size_t size) {
+  if (Fails("getxattr", path)) return -1;
+  return Next<ssize_t(const char*, const char*, void*, std::size_t)>("getxattr")(path, name, value, size);
+}
+PLEXEL_STANDS_FOR("fgetxattr", ssize_t FaultyAttributeOf(int handle, const char* name, void* value, std::size_t size));
+ssize_t FaultyAttributeOf(int handle, const char* name, void* value, std::size_t size) {
+  if (Fails("fgetxattr", handle)) return -1;
+  return Next<ssize_t(int, const char*, void*, std::size_t)>("fgetxattr")(handle, name, value, size);
+}
+PLEXEL_STANDS_FOR("fsetxattr", int FaultyGiveAttribute(int handle, const char* name, const void* value,
+                                                       std::size_t size, int flags));
+int FaultyGiveAttribute(int handle, const char* name, const void* value, std::size_t size, int flags) {
+  if (Fails("fsetxattr", handle)) return -1;
+  return Next<int(int, const char*, const void*, std::size_t, int)>("fsetxattr")(handle, name, value, size, flags);
+}
+PLEXEL_STANDS_FOR("fremovexattr", int FaultyTakeAttribute(int handle, const char* name));
+int FaultyTakeAttribute(int handle, const char* name) {
+  return Fails("fremovexattr", handle) ? -1 : Next<int(int, const char*)>("fremovexattr")(handle, name);
+}
+PLEXEL_STANDS_FOR("pathconf", long FaultyLimitOf(const char* path, int name));
+long FaultyLimitOf(const char* path, int name) {
+  return Fails("pathconf", path) ? -1 : Next<long(const char*, int)>("pathconf")(path, name);
+}
 
 #define PLEXEL_BY_PATH(name, Function, Type)                                         \
   PLEXEL_STANDS_FOR(name, int Function(const char* path, Type value));               \

@@ -7,13 +7,15 @@
 
 namespace plexel {
 
-/// Makes one operation on files fail. Each call into the system's library is looked at on its way, whoever makes it:
+/// Makes operations on files fail. Each call into the system's library is looked at on its way, whoever makes it:
 /// the program, the standard library or the toolkit; nothing in shipped code knows of it. One at a time.
 class FileFaults {
  public:
   /// Of the operations below a directory, itself among them, the one of this number, from 1, fails with an error number
   /// of the system.
   FileFaults(const std::filesystem::path& directory, int number, int error);
+  /// Each operation of this name fails.
+  FileFaults(const std::filesystem::path& directory, const char* operation, int error);
   ~FileFaults();
   FileFaults(const FileFaults&) = delete;
   FileFaults& operator=(const FileFaults&) = delete;

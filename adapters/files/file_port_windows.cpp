@@ -1,4 +1,4 @@
-#include "files/system_files.h"
+#include "files/file_port.h"
 
 #include <fcntl.h>
 #include <io.h>
@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
+#include <cstdio>
 #include <system_error>
 
 #include "files/last_error.h"
@@ -23,23 +25,35 @@ int ResultOf(BOOL success) {
   return error.category() == std::generic_category() ? error.value() : EIO;
 }
 
+/// Others may read the file while it is open, and nothing else.
+int OpenBy(const std::filesystem::path& file, int flags, int& handle) {
+  return _wsopen_s(&handle, file.c_str(), flags | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _SH_DENYWR,
+                   _S_IREAD | _S_IWRITE);
+}
+
 class WindowsFiles : public FilePort {
  public:
-  int Create(const std::filesystem::path& file, const std::filesystem::path&, int& handle) override {
-    return _wsopen_s(&handle, file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT, _SH_DENYWR,
-                     _S_IREAD | _S_IWRITE);
+  int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle,
+             FileTraits& lost) override {
+    const int error = OpenBy(file, _O_CREAT | _O_EXCL, handle);
+    if (error != 0 || GetFileAttributesW(model.c_str()) == INVALID_FILE_ATTRIBUTES) return error;
+    return GiveTraits(model, file, handle, lost);
   }
-  int Write(int handle, std::string_view bytes, std::size_t& written) override {
+  int Open(const std::filesystem::path& file, int& handle) override { return OpenBy(file, 0, handle); }
+  int Write(int handle, std::size_t place, std::string_view bytes, std::size_t& written) override {
+    if (_lseeki64(handle, static_cast<std::int64_t>(place), SEEK_SET) < 0) return errno;
     constexpr std::size_t most = std::size_t{1} << 30U;
     const int count = _write(handle, bytes.data(), static_cast<unsigned>(std::min(bytes.size(), most)));
     if (count < 0) return errno;
     written = static_cast<std::size_t>(count);
     return 0;
   }
+  int Resize(int handle, std::size_t size) override { return _chsize_s(handle, static_cast<std::int64_t>(size)); }
   int Flush(int handle) override { return _commit(handle) == 0 ? 0 : errno; }
   int Close(int handle) override { return _close(handle) == 0 ? 0 : errno; }
   /// A file that is replaced hands its rights and attributes on.
-  int Rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
+  int Replace(int handle, const std::filesystem::path& from, const std::filesystem::path& to) override {
+    if (const int error = Close(handle); error != 0) return error;
     if (ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != FALSE) {
       return 0;
     }
