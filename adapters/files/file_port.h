@@ -16,7 +16,8 @@ class FilePort {
   /// does. Where `model` exists, the new file is given what that has besides its content (GiveTraits).
   virtual int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle,
                      FileTraits& lost) = 0;
-  /// Opens a file for writing and holds it until it is closed: EWOULDBLOCK (on Windows EACCES) while another does.
+  /// Opens a file for writing and holds it until it is closed: EWOULDBLOCK (on Windows EACCES) while another does, and
+  /// an error too where files cannot be held.
   virtual int Open(const std::filesystem::path& file, int& handle) = 0;
   /// Writes a part of the bytes, at least one, at a place of the file; `written` tells how many.
   virtual int Write(int handle, std::size_t place, std::string_view bytes, std::size_t& written) = 0;

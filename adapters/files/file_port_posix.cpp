@@ -14,14 +14,12 @@ namespace {
 
 int ResultOf(int outcome) { return outcome == 0 ? 0 : errno; }
 
-/// Holds a file that is open: EWOULDBLOCK when another does. Not every kind of file can be held; it is left without
-/// then.
-int Hold(int handle) { return ::flock(handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK ? errno : 0; }
+int Hold(int handle) { return ResultOf(::flock(handle, LOCK_EX | LOCK_NB)); }
 
-/// Holds a new file. EEXIST when somebody has taken it for left over in the meantime.
+/// Holds a new file, where files can be held at all. EEXIST when somebody has taken it for left over in the meantime.
 int HoldNew(int handle) {
   struct stat status {};
-  if (Hold(handle) != 0) return EEXIST;
+  if (Hold(handle) == EWOULDBLOCK) return EEXIST;
   if (::fstat(handle, &status) != 0) return errno;
   return status.st_nlink == 0 ? EEXIST : 0;
 }

@@ -7,6 +7,7 @@
 #include "files/beside.h"
 #include "files/file_error.h"
 #include "files/filling.h"
+#include "files/in_place.h"
 #include "files/system_operations.h"
 
 namespace plexel {
@@ -30,18 +31,41 @@ std::filesystem::path EndOfLinks(const std::filesystem::path& file) {
   return target;
 }
 
+/// What a file holds; of one that is half written, what it held before.
+std::string ReadPart(const std::filesystem::path& file, std::size_t limit, bool& complete) {
+  std::string content = ReadUpTo(file, limit, complete);
+  if (!MayBeHalfWritten(content)) return content;
+  PutOldContentBack(file, SystemFiles());
+  // Where that was not possible it is read from the copy, which goes when the file is whole.
+  constexpr int attempts = 3;
+  for (int attempt = 0; attempt < attempts; ++attempt) {
+    content = ReadUpTo(file, limit, complete);
+    const auto copy = MayBeHalfWritten(content) ? OldContentOf(file) : std::nullopt;
+    if (!copy) break;
+    try {
+      return ReadUpTo(*copy, limit, complete);
+    } catch (const FileError&) {
+      if (std::error_code error; std::filesystem::exists(*copy, error)) throw;
+    }
+  }
+  if (MayBeHalfWritten(content) && NamesOf(file) > 1) {
+    throw FileError(file, 0, "cannot be read: it is half written; what it held may stand beside another of its names");
+  }
+  return content;
+}
+
 }  // namespace
 
 std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit) {
   bool complete = false;
-  std::string content = ReadUpTo(file, limit, complete);
+  std::string content = ReadPart(file, limit, complete);
   if (!complete) throw FileError(file, 0, "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
   return content;
 }
 
 std::string ReadFileStart(const std::filesystem::path& file, std::size_t limit) {
   bool complete = false;
-  return ReadUpTo(file, limit, complete);
+  return ReadPart(file, limit, complete);
 }
 
 void MakeOwnDirectory(const std::filesystem::path& directory) {
@@ -84,7 +108,9 @@ void WriteWholeFile(const std::filesystem::path& file, std::string_view content,
   const WritableFile target = WritableTarget(EndOfLinks(file));
   const std::vector<std::filesystem::path> left = StandingBeside(target.file);
   ClearLeftOver(left, HalfEnding);
-  const std::string told = WriteBeside(file, target.file, content, port);
+  const bool inPlace = target.names > 1;
+  const std::string told = (inPlace ? WriteInPlace : WriteBeside)(file, target.file, content, port);
+  if (!inPlace) ClearLeftOver(left, OldEnding);
   if (!told.empty()) throw FileWarning(file, 0, told);
 }
 

@@ -113,5 +113,16 @@ TEST(FileTraits, AFileThatDoesNotStandYetLosesNothing) {
   EXPECT_EQ(directory.CountFiles(), 0U);
 }
 
+TEST(FileTraits, OfAFileOfSeveralNamesNothingIsLost) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("file", "old");
+  GiveSampleAccessList(file);
+  std::filesystem::create_hard_link(file, directory / "other");
+  const FileFaults faults(directory.Path(), "fsetxattr", EPERM);
+  EXPECT_TRUE(LostByWriting(file).empty());
+  WriteWholeFile(file, "new");
+  EXPECT_EQ(AttributeOf(file, AccessListName), SampleAccessList());
+}
+
 }  // namespace
 }  // namespace plexel

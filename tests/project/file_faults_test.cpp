@@ -11,6 +11,7 @@
 #include "project/project_import.h"
 #include "project/recovery.h"
 #include "project/versions.h"
+#include "world/access_list.h"
 #include "world/fault_walk.h"
 #include "world/temporary_directory.h"
 
@@ -102,6 +103,43 @@ TEST_F(EachFileOperationFails, SavingThroughALinkLeavesTheLink) {
         EXPECT_EQ(Content(file), told ? before : FormatProject(document->Content()));
         EXPECT_EQ(directory.CountFiles(), 2U);
       });
+}
+
+TEST_F(EachFileOperationFails, SavingAFileOfTwoNamesAndAnAccessListLeavesBothNamesAndTheList) {
+  const auto file = directory / "a.plexel", other = directory / "b.plexel", listed = directory / "c.plexel";
+  std::string before;
+  int turn = 0;
+  const int failed = FailEachFileOperation(
+      directory.Path(),
+      [&] {
+        std::filesystem::remove(other);
+        document->Save(listed);
+        GiveSampleAccessList(listed);
+        document->Save(file);
+        std::filesystem::create_hard_link(file, other);
+        before = Content(file);
+        Note("turn " + std::to_string(++turn));
+      },
+      [&] {
+        Try([&] { document->Save(listed); });
+        const bool failedThere = told.has_value();
+        Try([&] { document->Save(file); });
+        ASSERT_FALSE(failedThere && told);
+      },
+      [&](int error) {
+        ExpectReason(error);
+        EXPECT_EQ(Content(file), told ? before : FormatProject(document->Content()));
+        // Who cannot see that a file stands, or may not give the list, puts one there without.
+        if (error != ENOENT) {
+          EXPECT_EQ(Content(other), Content(file));
+        }
+        if (error != ENOENT && error != EACCES) {
+          EXPECT_EQ(AttributeOf(listed, AccessListName), SampleAccessList());
+        }
+        const bool copyIsLeft = warned && warned->find("is left over") != warned->npos;
+        EXPECT_EQ(directory.CountFiles(), copyIsLeft ? 4U : 3U);
+      });
+  EXPECT_GE(failed, 5 * 30);
 }
 
 TEST_F(EachFileOperationFails, OpeningGivesTheProjectOrTheReason) {

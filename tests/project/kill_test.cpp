@@ -10,6 +10,7 @@
 #include <stdexcept>
 
 #include "files/file_error.h"
+#include "files/in_place.h"
 #include "files/system_files.h"
 #include "project/open_document.h"
 #include "project/recovery.h"
@@ -122,6 +123,24 @@ TEST_F(Killed, InSavingTheOldOrTheNewFileIsWholeTwoThousandTimes) {
   EXPECT_EQ(most, 2U) << "each process clears away what the one before has left";
   document->Save(file);
   EXPECT_EQ(directory.CountFiles(), 1U);
+}
+
+TEST_F(Killed, InSavingAFileOfTwoNamesTheOldOrTheNewContentIsWholeTwoThousandTimes) {
+  const auto other = directory / "b.plexel";
+  document->Save(file);
+  std::filesystem::create_hard_link(file, other);
+  bool isOneFile = true, foundHalf = false;
+  const Writer writer{[&](std::size_t turn) { PutState(turn); }, [&](std::size_t) { document->Save(file); }};
+  EXPECT_FALSE(IsEverTorn(writer, [&] {
+    foundHalf = foundHalf || MayBeHalfWritten(Content(file));
+    const bool whole = ProjectIsWhole();
+    isOneFile = isOneFile && Content(other) == Content(file) && std::filesystem::hard_link_count(file) == 2;
+    return whole && !MayBeHalfWritten(Content(file));
+  }));
+  EXPECT_TRUE(isOneFile);
+  EXPECT_TRUE(foundHalf) << "none was killed in the middle";
+  document->Save(file);
+  EXPECT_EQ(directory.CountFiles(), 2U) << "what the killed ones have left beside it is gone";
 }
 
 TEST_F(Killed, AFileThatIsWrittenInPlaceIsTorn) {
