@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -19,6 +20,35 @@ namespace {
 
 using namespace std::string_literals;
 using ::testing::HasSubstr;
+
+/// The system's files, which write a byte at a time; ahead of one of their operations the program ends.
+class EndingFiles : public FilePort {
+ public:
+  explicit EndingFiles(int last) : left_(last) {}
+  int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle,
+             FileTraits& lost) override {
+    return Next().Create(file, model, handle, lost);
+  }
+  int Open(const std::filesystem::path& file, int& handle) override { return Next().Open(file, handle); }
+  int Write(int handle, std::size_t place, std::string_view bytes, std::size_t& written) override {
+    return Next().Write(handle, place, bytes.substr(0, 1), written);
+  }
+  int Resize(int handle, std::size_t size) override { return Next().Resize(handle, size); }
+  int Flush(int handle) override { return Next().Flush(handle); }
+  int Close(int handle) override { return Next().Close(handle); }
+  int Replace(int handle, const std::filesystem::path& from, const std::filesystem::path& to) override {
+    return Next().Replace(handle, from, to);
+  }
+  int Remove(const std::filesystem::path& file) override { return Next().Remove(file); }
+  int FlushDirectory(const std::filesystem::path& directory) override { return Next().FlushDirectory(directory); }
+
+ private:
+  FilePort& Next() {
+    if (--left_ < 0) ::_exit(1);
+    return SystemFiles();
+  }
+  int left_;
+};
 
 /// A file of two names.
 class InPlace : public ::testing::Test {
@@ -142,6 +172,31 @@ TEST_F(InPlace, ADiskThatTakesNothingMoreLeavesTheCopyAndSaysWhere) {
   const auto copy = NameBeside(file, 0, OldEnding);
   EXPECT_THAT(error->what(), HasSubstr("(what it held stands in " + copy.string() + ")"));
   EXPECT_EQ(Content(copy), "old");
+}
+
+TEST_F(InPlace, AProgramThatEndsAheadOfAnyOperationLeavesTheOldOrTheNewContent) {
+  const std::string old = "old content", content = "new";
+  int ended = 0, half = 0;
+  for (bool done = false; !done; ++ended) {
+    WriteWholeFile(file, old);
+    const pid_t process = ::fork();
+    if (process == 0) {
+      EndingFiles files(ended);
+      WriteWholeFile(file, content, files);
+      ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(process, &status, 0), process);
+    done = status == 0;
+    const std::string left = Content(other);
+    half += MayBeHalfWritten(left) ? 1 : 0;
+    EXPECT_TRUE(MayBeHalfWritten(left) || left == old || left == content) << ended << ": " << left;
+    EXPECT_THAT(Read(file), ::testing::AnyOf(old, content)) << ended;
+    EXPECT_EQ(Content(other), Content(file));
+  }
+  EXPECT_GE(half, 5) << "of " << ended;
+  WriteWholeFile(file, old);
+  EXPECT_EQ(directory.CountFiles(), 2U);
 }
 
 TEST_F(InPlace, EachFileOperationFailsAndTheFileIsTheOldOrTheNewOne) {
