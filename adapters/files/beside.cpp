@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "files/file_error.h"
+#include "files/file_lists.h"
 #include "files/path_text.h"
 #include "files/process_lock.h"
 #include "files/system_operations.h"
@@ -55,14 +56,12 @@ std::filesystem::path NameBeside(const std::filesystem::path& file, int number, 
 
 std::vector<std::filesystem::path> StandingBeside(const std::filesystem::path& file) {
   const std::string start = StartOf(file);
-  std::vector<std::filesystem::path> files;
   std::error_code error;
-  std::filesystem::directory_iterator entries(DirectoryOf(file), error);
-  for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    const std::string name = TextOf(entries->path().filename());
-    if (name.starts_with(start) && IsTail(std::string_view(name).substr(start.size())))
-      files.push_back(entries->path());
-  }
+  std::vector<std::filesystem::path> files = FilesNamed(start, DirectoryOf(file), error);
+  std::erase_if(files, [&start](const std::filesystem::path& beside) {
+    const std::string name = TextOf(beside.filename());
+    return !IsTail(std::string_view(name).substr(start.size()));
+  });
   return files;
 }
 

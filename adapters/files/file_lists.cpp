@@ -7,15 +7,33 @@
 
 namespace plexel {
 
-std::vector<std::filesystem::path> FilesWith(std::string_view extension, const std::filesystem::path& directory,
-                                             std::error_code& error) {
+namespace {
+
+/// The files of a directory that are wanted, sorted.
+template <typename IsWanted>
+std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& directory, std::error_code& error,
+                                           IsWanted&& isWanted) {
   std::vector<std::filesystem::path> files;
   std::filesystem::directory_iterator entries(directory, error);
   for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
-    if (TextOf(entries->path().extension()) == extension) files.push_back(entries->path());
+    if (isWanted(entries->path())) files.push_back(entries->path());
   }
   std::sort(files.begin(), files.end());
   return files;
+}
+
+}  // namespace
+
+std::vector<std::filesystem::path> FilesWith(std::string_view extension, const std::filesystem::path& directory,
+                                             std::error_code& error) {
+  return FilesOf(directory, error,
+                 [extension](const std::filesystem::path& file) { return TextOf(file.extension()) == extension; });
+}
+
+std::vector<std::filesystem::path> FilesNamed(std::string_view start, const std::filesystem::path& directory,
+                                              std::error_code& error) {
+  return FilesOf(directory, error,
+                 [start](const std::filesystem::path& file) { return TextOf(file.filename()).starts_with(start); });
 }
 
 std::vector<std::filesystem::path> ExistingFilesWith(std::string_view extension,

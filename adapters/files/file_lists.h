@@ -13,7 +13,11 @@ namespace plexel {
 std::vector<std::filesystem::path> FilesWith(std::string_view extension, const std::filesystem::path& directory,
                                              std::error_code& error);
 
-/// The same. A directory that does not exist has none; FileError when it cannot be read.
+/// The same, of those whose names begin so.
+std::vector<std::filesystem::path> FilesNamed(std::string_view start, const std::filesystem::path& directory,
+                                              std::error_code& error);
+
+/// As FilesWith. A directory that does not exist has none; FileError when it cannot be read.
 std::vector<std::filesystem::path> ExistingFilesWith(std::string_view extension,
                                                      const std::filesystem::path& directory);
 

@@ -19,7 +19,8 @@ from multiprocessing.pool import ThreadPool
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
 XKB, XCB, QT = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h"
 WINDOWS = r"(windows|windowsx|commctrl|gdiplus|objidl|ole2|oleacc)\.h"
-SYSTEM = r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|windows\.h|direct\.h|io\.h|share\.h"
+SYSTEM = (r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|sys/xattr\.h|grp\.h|pwd\.h|windows\.h|aclapi\.h|direct\.h|io\.h"
+          r"|share\.h")
 COM = r"olectl\.h|ocidl\.h|servprov\.h|comcat\.h|PlexelBaseElement\.h"
 ROOMS = [
     Room("src", "platform", 0),
