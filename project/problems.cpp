@@ -126,6 +126,7 @@ std::vector<Problem> Problems::SharedOf(std::size_t element) const {
     if (!number) problem.layers.push_back(static_cast<std::int32_t>(value.kind) + 1);
   });
   std::vector<Problem> problems;
+  problems.reserve(pairs.size());
   for (auto& [key, problem] : pairs) problems.push_back(std::move(problem));
   std::ranges::sort(problems, ComesFirst);
   return problems;

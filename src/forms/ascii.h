@@ -26,9 +26,9 @@ inline constexpr std::uint8_t NoDigit = 0xFF;
 inline constexpr auto HexValues = [] {
   std::array<std::uint8_t, 256> values{};
   values.fill(NoDigit);
-  for (std::uint8_t value = 0; value < HexDigits.size(); ++value) {
-    values[static_cast<std::uint8_t>(HexDigits[value])] = value;
-    values[static_cast<std::uint8_t>(Lower(HexDigits[value]))] = value;
+  for (std::size_t value = 0; value < HexDigits.size(); ++value) {
+    values[static_cast<std::uint8_t>(HexDigits[value])] = static_cast<std::uint8_t>(value);
+    values[static_cast<std::uint8_t>(Lower(HexDigits[value]))] = static_cast<std::uint8_t>(value);
   }
   return values;
 }();
