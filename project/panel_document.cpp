@@ -98,8 +98,8 @@ std::unique_ptr<PanelDocument> PanelDocument::Open(const std::filesystem::path& 
   const TextFile text(file, ReadWholeFile(file, ProjectLimit));
   ProjectReadAhead reader(text);
   const std::size_t hash = HashOf(text.Text());
-  std::unique_ptr<PanelDocument> document = Of(
-      reader.Panel(), reader.PanelText(), [&reader] { return reader.Next(); }, file, site);
+  std::unique_ptr<PanelDocument> document =
+      Of(reader.Panel(), reader.PanelText(), [&reader] { return reader.Next(); }, file, site);
   document->file_ = file;
   document->hash_ = hash;
   return document;

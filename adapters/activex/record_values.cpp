@@ -18,8 +18,8 @@ using Outside = RecordOutside;
 /// The fields of one name, inside and outside.
 template <typename InsideField, typename OutsideField>
 struct Pair {
-  InsideField Inside::*inside;
-  OutsideField Outside::*outside;
+  InsideField Inside::* inside;
+  OutsideField Outside::* outside;
 };
 template <typename InsideField, typename OutsideField>
 Pair(InsideField Inside::*, OutsideField Outside::*) -> Pair<InsideField, OutsideField>;

@@ -18,7 +18,7 @@ int Hold(int handle) { return ResultOf(::flock(handle, LOCK_EX | LOCK_NB)); }
 
 /// Holds a new file, where files can be held at all. EEXIST when somebody has taken it for left over in the meantime.
 int HoldNew(int handle) {
-  struct stat status {};
+  struct stat status{};
   if (Hold(handle) == EWOULDBLOCK) return EEXIST;
   if (::fstat(handle, &status) != 0) return errno;
   return status.st_nlink == 0 ? EEXIST : 0;
@@ -31,7 +31,7 @@ class PosixFiles : public FilePort {
  public:
   int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle,
              FileTraits& lost) override {
-    struct stat status {};
+    struct stat status{};
     const bool hasModel = ::stat(model.c_str(), &status) == 0;
     if (!hasModel && errno != ENOENT) return errno;
     handle = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, hasModel ? 0600 : 0666);

@@ -35,8 +35,7 @@ FileTrait Owner(uid_t user) {
 
 FileTrait Group(gid_t group) {
   std::array<char, 4096> room{};
-  struct group entry {
-  }, *found = nullptr;
+  struct group entry{}, *found = nullptr;
   const bool known = ::getgrgid_r(group, &entry, room.data(), room.size(), &found) == 0 && found != nullptr;
   return {FileTrait::Kind::Group, known ? entry.gr_name : std::to_string(group)};
 }
@@ -48,7 +47,7 @@ FileTrait Attribute(const std::string& name) {
 
 /// Both where the user may, else the group.
 int GiveOwner(const struct stat& model, int handle, FileTraits& lost) {
-  struct stat own {};
+  struct stat own{};
   if (::fstat(handle, &own) != 0) return errno;
   if (own.st_uid == model.st_uid && own.st_gid == model.st_gid) return 0;
   if (::fchown(handle, model.st_uid, model.st_gid) == 0) return 0;
@@ -122,8 +121,7 @@ mode_t ModeFor(mode_t mode, const FileTraits& lost) {
 }  // namespace
 
 int GiveTraits(const std::filesystem::path& model, const std::filesystem::path&, int handle, FileTraits& lost) {
-  struct stat status {
-  }, own{};
+  struct stat status{}, own{};
   if (::stat(model.c_str(), &status) != 0) return errno;
   int error = GiveOwner(status, handle, lost);
   if (error == 0) error = GiveAttributes(model.c_str(), handle, lost);

@@ -17,8 +17,7 @@ namespace {
 
 /// Whether the name still stands for the file that is open: its last holder may have removed it in the meantime.
 bool IsStill(const std::filesystem::path& file, int handle) {
-  struct stat named {
-  }, open{};
+  struct stat named{}, open{};
   return ::stat(file.c_str(), &named) == 0 && ::fstat(handle, &open) == 0 && named.st_dev == open.st_dev &&
          named.st_ino == open.st_ino;
 }

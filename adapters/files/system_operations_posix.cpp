@@ -41,7 +41,7 @@ class ReadHandle {
 std::string ReadUpTo(const std::filesystem::path& file, std::size_t limit, bool& complete) {
   const auto refuse = [&file](const std::string& reason) { return FileError(file, 0, "cannot be read: " + reason); };
   const ReadHandle handle(file);
-  struct stat status {};
+  struct stat status{};
   if (handle.Get() < 0 || ::fstat(handle.Get(), &status) != 0) throw refuse(ReasonOf(errno));
   if (S_ISDIR(status.st_mode)) throw refuse("it is a directory");
   if (!S_ISREG(status.st_mode)) throw refuse("it is no regular file");
@@ -67,7 +67,7 @@ int MakeDirectory(const std::filesystem::path& directory) {
 }
 
 WritableFile WritableTarget(const std::filesystem::path& file) {
-  struct stat status {};
+  struct stat status{};
   if (::stat(file.c_str(), &status) != 0) {
     if (errno != ENOENT) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
     return {file, 0};
@@ -81,7 +81,7 @@ WritableFile WritableTarget(const std::filesystem::path& file) {
 }
 
 std::uintmax_t NamesOf(const std::filesystem::path& file) {
-  struct stat status {};
+  struct stat status{};
   return ::stat(file.c_str(), &status) == 0 ? status.st_nlink : 0;
 }
 

@@ -135,8 +135,7 @@ void DesktopCapture::FormDeactivated(FormView&) { desktop_->Ungrab(); }
 bool DesktopCapture::eventFilter(QObject*, QEvent* event) {
   // A popup takes the keyboard for itself and drops the grab when it closes.
   if (event->type() == QEvent::Hide && hooks_.Installed(HookKind::LowLevelKeyboard)) {
-    QMetaObject::invokeMethod(
-        this, [this] { UpdateGrab(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { UpdateGrab(); }, Qt::QueuedConnection);
   }
   return false;
 }

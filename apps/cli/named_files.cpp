@@ -42,8 +42,7 @@ Project ReadInputProject(const std::string& file, std::istream& standardInput) {
 void WriteOutput(const std::string& file, std::string_view content, const Streams& streams) {
   if (file != StandardStream) {
     const std::filesystem::path path = PathOf(file);
-    TellReplacing(
-        path, [&] { WriteWholeFile(path, content); }, streams.errors);
+    TellReplacing(path, [&] { WriteWholeFile(path, content); }, streams.errors);
   } else if (!streams.output.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
     throw FileError("standard output", 0, "cannot be written");
   }

@@ -26,8 +26,7 @@ void OpenProjects::Save(const std::string& file, std::ostream& errors) const {
   if (opened_.empty()) return;
   const Opened& latest = opened_.back();
   const std::filesystem::path target = file.empty() ? latest.file : PathOf(file);
-  TellReplacing(
-      target, [&] { WriteProject(target, latest.document->Content()); }, errors);
+  TellReplacing(target, [&] { WriteProject(target, latest.document->Content()); }, errors);
 }
 
 }  // namespace plexel

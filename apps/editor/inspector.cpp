@@ -157,8 +157,7 @@ void Inspector::ShowElements() {
   } else {
     title_->SetText(one ? WithVisibleControls(ToQt(At(places_.front()).Name()))
                         : Say(Text::ChosenCount).arg(places_.size()));
-    ShowShared(
-        *kind_, [this](int place) { return At(place).ElementType(); }, KindText);
+    ShowShared(*kind_, [this](int place) { return At(place).ElementType(); }, KindText);
   }
   kind_->setVisible(!places_.empty());
   numbers_->setVisible(one);
@@ -206,9 +205,7 @@ void Inspector::ShowLayer(std::int32_t layer) {
         [](const LayerRoom& room) { return Say(Text::RoomLeft).arg(room.used).arg(room.free); });
     lines.room->SetLook(TextLine::Look::Quiet);
   }
-  if (leds)
-    ShowShared(
-        *lines.led.value, [&](int place) { return At(place).LEDTypeLayer(layer); }, LedWords);
+  if (leds) ShowShared(*lines.led.value, [&](int place) { return At(place).LEDTypeLayer(layer); }, LedWords);
 }
 
 void Inspector::ShowProblems() {

@@ -78,8 +78,7 @@ int WritePdf(const Call& call) {
   const auto document = PanelDocument::Open(call.project.toStdString(), site);
   const std::string report = ReportPdf(*document, QFileInfo(call.project).fileName());
   const std::filesystem::path file = call.pdf.toStdString();
-  TellReplacing(
-      file, [&] { WriteWholeFile(file, report); }, std::cerr);
+  TellReplacing(file, [&] { WriteWholeFile(file, report); }, std::cerr);
   return 0;
 }
 

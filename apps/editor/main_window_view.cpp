@@ -67,9 +67,8 @@ void MainWindow::MakeSelectMenu(QMenu& menu) {
   select->addSeparator();
   for (const KindChoice& choice : kindChoices) {
     QAction* const action = select->addAction(QString());
-    connect(action, &QAction::triggered, this, [this, &choice] {
-      Guarded([&] { SelectKinds({choice.kinds.begin(), choice.kinds.end()}); });
-    });
+    connect(action, &QAction::triggered, this,
+            [this, &choice] { Guarded([&] { SelectKinds({choice.kinds.begin(), choice.kinds.end()}); }); });
     named_.push_back({action, choice.text});
   }
 }

@@ -32,8 +32,7 @@ void MainWindow::ShowVirtualPanel() {
   keyGuard_->onKilled = [this] { virtualPanel_->LetGoOfAll(); };
   // The window is on its way out of one of its own events.
   virtualPanel_->onClose = [this] {
-    QMetaObject::invokeMethod(
-        this, [this] { CloseVirtualPanel(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { CloseVirtualPanel(); }, Qt::QueuedConnection);
   };
   virtualPanel_->show();
 }

@@ -12,8 +12,8 @@ using Kept = plexel::udtTactisBaseElement_ScanCodeInfo;
 
 /// The same buffer in the control's record and in a project's.
 struct Buffer {
-  ::udtTactisBaseElement_TACTIS_SCANCODE Record::*record;
-  plexel::udtTactisBaseElement_TACTIS_SCANCODE Kept::*kept;
+  ::udtTactisBaseElement_TACTIS_SCANCODE Record::* record;
+  plexel::udtTactisBaseElement_TACTIS_SCANCODE Kept::* kept;
 };
 constexpr std::array buffers = {Buffer{&Record::strLayer1PressScanCode, &Kept::strLayer1PressScanCode},
                                 Buffer{&Record::strLayer1ReleaseScanCode, &Kept::strLayer1ReleaseScanCode},

@@ -8,9 +8,9 @@ namespace plexel {
 /// One direction of the layout.
 struct ctlPlexelBaseElement::Axis {
   float (Screen::*twipsPerPixel)();
-  float Surface::*extent;
-  float SurfaceShape::*start;
-  float SurfaceShape::*length;
+  float Surface::* extent;
+  float SurfaceShape::* start;
+  float SurfaceShape::* length;
 };
 
 namespace {

@@ -14,7 +14,7 @@ namespace plexel {
 namespace {
 
 /// How many rows have a place in an order.
-template <std::int32_t Storage::*order>
+template <std::int32_t Storage::* order>
 consteval std::size_t CountOf() {
   std::size_t count = 0;
   for (const PropertyRow& row : propertyRows) count += row.storage.*order != 0 ? 1 : 0;
@@ -22,7 +22,7 @@ consteval std::size_t CountOf() {
 }
 
 /// The rows that have a place in an order, in that order. Does not compile when places are missing or doubled.
-template <std::int32_t Storage::*order>
+template <std::int32_t Storage::* order>
 consteval auto RowsBy() {
   constexpr std::size_t none = propertyRows.size();
   std::array<std::size_t, CountOf<order>()> rows{};

@@ -273,7 +273,7 @@ class Dump {
     type.GetDocumentation(member, &name, nullptr, nullptr, nullptr);
     return Narrow(Taken(name));
   }
-  static UINT Count(ITypeInfo& type, WORD TYPEATTR::*count) {
+  static UINT Count(ITypeInfo& type, WORD TYPEATTR::* count) {
     TYPEATTR* attributes = nullptr;
     type.GetTypeAttr(&attributes);
     const UINT counted = attributes->*count;

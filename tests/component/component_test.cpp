@@ -17,17 +17,14 @@ namespace plexel {
 namespace {
 
 template <typename Element>
-concept MakesItself = requires(ElementHost& host, const PropertyBag& bag) {
-  Element::Create(std::string(), host);
-}
-|| requires(ElementHost& host, const PropertyBag& bag) { Element::Read(std::string(), host, bag); }
-|| std::is_constructible_v<Element, std::string, ElementHost&>;
+concept MakesItself =
+    requires(ElementHost& host, const PropertyBag& bag) { Element::Create(std::string(), host); } ||
+    requires(ElementHost& host, const PropertyBag& bag) { Element::Read(std::string(), host, bag); } ||
+    std::is_constructible_v<Element, std::string, ElementHost&>;
 template <typename Element>
-concept ShowsItsInside = requires(Element& element) {
-  element.RaiseProjectModified();
-}
-|| requires(Element& element) { element.RaiseDirectInputStatusChanged(True); }
-|| requires(Element& element) { element.IsDefinitionEmpty(); };
+concept ShowsItsInside = requires(Element& element) { element.RaiseProjectModified(); } || requires(Element& element) {
+  element.RaiseDirectInputStatusChanged(True);
+} || requires(Element& element) { element.IsDefinitionEmpty(); };
 
 TEST(Component, WithoutItNoElementCanBeMade) { static_assert(!MakesItself<ctlPlexelBaseElement>); }
 

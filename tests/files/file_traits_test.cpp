@@ -20,7 +20,7 @@ using ::testing::HasSubstr;
 constexpr const char* NoteName = "user.plexel.note";
 
 struct stat StatusOf(const std::filesystem::path& file) {
-  struct stat status {};
+  struct stat status{};
   EXPECT_EQ(::stat(file.c_str(), &status), 0);
   return status;
 }

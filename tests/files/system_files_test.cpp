@@ -128,7 +128,7 @@ TEST(MakeOwnDirectory, MakesAllThatIsMissingForTheUserAlone) {
   const TemporaryDirectory directory;
   MakeOwnDirectory(directory / "a/b");
   MakeOwnDirectory(directory / "a/b");
-  struct stat status {};
+  struct stat status{};
   ASSERT_EQ(::stat((directory / "a").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0700U);
   EXPECT_TRUE(std::filesystem::is_directory(directory / "a/b"));
@@ -145,7 +145,7 @@ TEST(WriteWholeFile, PermissionsOfTheOldFileStay) {
   const auto file = directory.Put("file", "old");
   ASSERT_EQ(::chmod(file.c_str(), 0640), 0);
   WriteWholeFile(file, "new");
-  struct stat status {};
+  struct stat status{};
   ASSERT_EQ(::stat(file.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
 }
@@ -160,7 +160,7 @@ TEST(WriteWholeFile, OwnerAndGroupOfTheOldFileStay) {
   ASSERT_EQ(::chown(file.c_str(), owner, group), 0);
   ASSERT_EQ(::chmod(file.c_str(), 02664), 0);
   WriteWholeFile(file, "new");
-  struct stat status {};
+  struct stat status{};
   ASSERT_EQ(::stat(file.c_str(), &status), 0);
   EXPECT_EQ(status.st_uid, owner);
   EXPECT_EQ(status.st_gid, group);

@@ -10,8 +10,7 @@ namespace {
 class Undo : public OpenDocument {};
 
 TEST_F(Undo, AStepIsNamedByItsKindAndItsOnlyElement) {
-  Change(
-      {"F3"}, [&] { Element("F3").ButtonNotes("start"); }, StepKind::Notes);
+  Change({"F3"}, [&] { Element("F3").ButtonNotes("start"); }, StepKind::Notes);
   EXPECT_EQ(document->Steps().ToUndo().name, (StepName{StepKind::Notes, "F3", 1}));
 }
 

@@ -257,9 +257,8 @@ TEST_F(ProblemList, OneChangeAmongManyElementsMovesTheRowsOfItsElementAlone) {
   int resets = 0;
   std::vector<int> removed;
   QObject::connect(&model, &ProblemModel::modelReset, &context, [&] { ++resets; });
-  QObject::connect(&model, &ProblemModel::rowsRemoved, &context, [&](const QModelIndex&, int first, int last) {
-    removed = {first, last};
-  });
+  QObject::connect(&model, &ProblemModel::rowsRemoved, &context,
+                   [&](const QModelIndex&, int first, int last) { removed = {first, last}; });
   problems.onChanged = [&](std::span<const std::size_t> places) { model.Update(places); };
   document->Places()[700].element->PressKeyDefLayer1("");
   problems.Changed(std::array<std::size_t, 1>{700});

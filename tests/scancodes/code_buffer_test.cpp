@@ -122,17 +122,11 @@ TEST(CodeBuffer, ACodeThatIsNoByteFails) {
 
 TEST(CodeBuffer, LengthsBeyondTheSequenceFail) {
   Buffer buffer = InitialBuffer();
-  EXPECT_EQ(KindOf([&] {
-              AppendCodeGroup(buffer, {Filled(0xFF, 102), Filled(0xFF, 0)}, MakeOnly, 0);
-            }),
+  EXPECT_EQ(KindOf([&] { AppendCodeGroup(buffer, {Filled(0xFF, 102), Filled(0xFF, 0)}, MakeOnly, 0); }),
             FailureKind::Index);
-  EXPECT_EQ(KindOf([&] {
-              AppendCodeGroup(buffer, {Filled(0xFF, 0), Filled(0xFF, 102)}, BreakOnly, 0);
-            }),
+  EXPECT_EQ(KindOf([&] { AppendCodeGroup(buffer, {Filled(0xFF, 0), Filled(0xFF, 102)}, BreakOnly, 0); }),
             FailureKind::Index);
-  EXPECT_EQ(KindOf([&] {
-              AppendCodeGroup(buffer, {Filled(0xFF, 0), Filled(0xFF, 101)}, BreakOnly, 0);
-            }),
+  EXPECT_EQ(KindOf([&] { AppendCodeGroup(buffer, {Filled(0xFF, 0), Filled(0xFF, 101)}, BreakOnly, 0); }),
             FailureKind::Index);
 }
 

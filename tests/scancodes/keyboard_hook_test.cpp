@@ -146,9 +146,8 @@ TEST(KeyboardHook, TheSelectedOptionTellsMarksAndCodes) {
 }
 
 TEST(KeyboardHook, PrintAloneIsOneKeyAtItsRelease) {
-  const Captured captured = InDialog([](Capturing& keyboard, StandInConfigurationDialog&) {
-    keyboard.Up({0x2C, 0x37, true});
-  });
+  const Captured captured =
+      InDialog([](Capturing& keyboard, StandInConfigurationDialog&) { keyboard.Up({0x2C, 0x37, true}); });
   EXPECT_EQ(captured.text, "[Print" + M + B + "]");
   EXPECT_EQ(captured.codes, "FF E0 12 E0 7C E0 F0 7C E0 F0 12 FF");
 }

@@ -44,9 +44,8 @@ TEST(WizardKeyTypePage, DeviceType2OffersAtMostThreePanelFunctions) {
   WizardSession session(Oval);
   for (int query = 0; query < CapabilityCount; ++query) session.Grant(static_cast<Capability>(query));
   session.element->DeviceType(2);
-  Look(session, [&] {
-    EXPECT_EQ(Items(session, "cmdSpecialIPCFunction"), (Names{Text(2608), Text(2603), Text(2604)}));
-  });
+  Look(session,
+       [&] { EXPECT_EQ(Items(session, "cmdSpecialIPCFunction"), (Names{Text(2608), Text(2603), Text(2604)})); });
 }
 
 TEST(WizardKeyTypePage, AFunctionIsOfferedOnlyWhenTheTargetSystemAnswersOne) {

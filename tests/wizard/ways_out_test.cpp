@@ -153,8 +153,7 @@ TEST(WizardWaysOut, CancelEscapeAndTheCloseBoxOfPage2RestoreStoreThePositionAndC
 TEST(WizardWaysOut, BackOnPage2RestoresAndStoresNothingAndPage1Stays) {
   WayOut way(OvalLed);
   way.ChangeKey();
-  const Outcome outcome = way.Leave(
-      page2, [&] { way.Click("cmdBack"); }, true);
+  const Outcome outcome = way.Leave(page2, [&] { way.Click("cmdBack"); }, true);
   EXPECT_FALSE(outcome.restored);
   EXPECT_EQ(outcome.left, "none");
   EXPECT_EQ(outcome.pageChanging, True);
@@ -192,8 +191,7 @@ TEST(WizardWaysOut, BackOnPage3RestoresAndStoresNothingAndPage2Stays) {
   WayOut way(OvalLed);
   way.ChangeKey();
   way.ChangeLed();
-  const Outcome outcome = way.Leave(
-      page3, [&] { way.Click("cmdBack"); }, true);
+  const Outcome outcome = way.Leave(page3, [&] { way.Click("cmdBack"); }, true);
   EXPECT_FALSE(outcome.restored);
   EXPECT_EQ(outcome.left, "none");
   EXPECT_EQ(outcome.pageChanging, True);
@@ -203,8 +201,7 @@ TEST(WizardWaysOut, BackOnPage3RestoresAndStoresNothingAndPage2Stays) {
 TEST(WizardWaysOut, BackOnPage3OfARectReturnsToPage1) {
   WayOut way(Rect);
   way.ChangeKey();
-  const Outcome outcome = way.Leave(
-      page3, [&] { way.Click("cmdBack"); }, true);
+  const Outcome outcome = way.Leave(page3, [&] { way.Click("cmdBack"); }, true);
   EXPECT_EQ(outcome.pageChanging, True);
   EXPECT_EQ(way.Stayed(), page1);
 }

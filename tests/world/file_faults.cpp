@@ -268,7 +268,7 @@ int FaultyGive(int handle, uid_t owner, gid_t group) {
 
 PLEXEL_STANDS_FOR("fsync", int FaultyFlush(int handle));
 int FaultyFlush(int handle) {
-  struct stat status {};
+  struct stat status{};
   const bool isDirectory =
       plexel::faulty && Next<int(int, struct stat*)>("fstat")(handle, &status) == 0 && S_ISDIR(status.st_mode);
   return Fails(isDirectory ? "fsync of a directory" : "fsync", handle) ? -1 : Next<int(int)>("fsync")(handle);
