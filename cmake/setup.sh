@@ -1,4 +1,5 @@
-# Shared by ./run, ./test and bench/run, with the repository as the current directory.
+# shellcheck shell=bash
+# Shared by ./run, ./test, ./check and bench/run, with the repository as the current directory.
 
 # Installs the Debian packages that are missing, those of a section too when it is named. Other systems have packages of
 # their own, there CMake names what it does not find.
@@ -42,9 +43,8 @@ require_programs() {
   return 1
 }
 
-# Configures and builds a preset, with the compiler that CXX names. What the tools say is kept in a file and shown when they
-# fail.
-build() {
+# Configures a preset, with the compiler that CXX names. What the tools say is kept in a file and shown when they fail.
+configure() {
   local folder="build/$1" log="build/$1.log" new="" fresh="" before
   require_programs || return 1
   [ -d "$folder" ] || new=yes
@@ -60,11 +60,26 @@ build() {
     echo "CMake cannot build this here; all that it says is in $log" >&2
     return 1
   fi
-  if ! cmake --build --preset "$1" >>"$log" 2>&1; then
+}
+
+# Configures and builds a preset, or of a preset that is configured the targets that are named.
+build() {
+  local log="build/$1.log"
+  if [ $# -eq 1 ]; then configure "$1" || return 1; fi
+  if ! cmake --build --preset "$1" ${2:+--target "${@:2}"} >>"$log" 2>&1; then
     tail -n 60 "$log" >&2
     echo "the build has failed; all of it is in $log" >&2
     return 1
   fi
+}
+
+# Makes ready what tools of clang ask of a preset: its commands and its precompiled headers.
+build_headers() {
+  local headers
+  configure "$1" || return 1
+  headers=$(ninja -C "build/$1" -t targets all | sed -n 's/^\([^:]*cmake_pch\.hxx\.pch\):.*/\1/p')
+  # shellcheck disable=SC2086
+  build "$1" $headers
 }
 
 # Builds what Windows needs, each bitness with its data in a folder that can be handed on.

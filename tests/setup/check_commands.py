@@ -24,7 +24,7 @@ NO_CMAKE_WORDS = """CMake Error at cmake/dependencies.cmake:1 (message):
 """
 LISTED = [line for line in (ROOT / "packages").read_text(encoding="utf-8").splitlines() if not line.startswith("#")]
 PACKAGES = LISTED[:LISTED.index("[test]")]
-TEST_PACKAGES = LISTED[LISTED.index("[test]") + 1:LISTED.index("[bench]")]
+TEST_PACKAGES = LISTED[LISTED.index("[test]") + 1:LISTED.index("[check]")]
 
 
 class System(unittest.TestCase):

@@ -2,7 +2,8 @@
 """Holds a tree against the rules of docs/architecture.md: includes run downward only and never in a circle, shipped code never
 includes tests, a room takes from outside only what it is made for, what stands once stands once, every header compiles by itself.
 
-usage: check.py ROOT BUILD: the tree and a build of it, whose compile_commands.json tells how each room is compiled"""
+usage: check.py ROOT BUILD VERDICTS: the tree, a build of it, whose compile_commands.json tells how each room is compiled, and a
+folder that keeps which headers compile"""
 
 import json
 import os
@@ -13,6 +14,8 @@ import sys
 import tempfile
 from collections import namedtuple
 from multiprocessing.pool import ThreadPool
+
+from verdicts import Sources, Verdicts, version_of
 
 # One row a room. A room knows itself and those of a lower level; one that stands in no folder is included by its own name. `foreign`: what it may include in angle brackets apart from the
 # standard library. `known_by`: the only shipped rooms that may include it, None for any above.
@@ -238,10 +241,16 @@ def flags_by_folder(root, build):
     return flags
 
 
-def check_headers_alone(tree, build, problems):
-    """Returns the number of headers that were compiled. Folders that the build leaves out are left out."""
+def check_headers_alone(tree, build, verdicts, problems):
+    """Returns the number of headers that were looked at. Folders that the build leaves out are left out, and headers that
+    compiled before are not compiled again."""
     flags = flags_by_folder(tree.root, build)
     headers = [file for file in tree.shipped() if file.endswith(".h") and os.path.dirname(file) in flags]
+    sources = Sources(tree.root, INCLUDED_FROM)
+    versions = {words[0]: version_of(words[0]) for words in flags.values()}
+    keys = {header: sources.key([header], versions[words[0]], *words)
+            for header in headers for words in [flags[os.path.dirname(header)]]}
+    asked = [header for header in headers if not verdicts.is_good(keys[header])]
 
     def compile_alone(folder, header):
         unit = os.path.join(folder, header.replace("/", "_") + ".cpp")
@@ -251,10 +260,13 @@ def check_headers_alone(tree, build, problems):
                               check=False)
 
     with tempfile.TemporaryDirectory() as folder, ThreadPool(os.cpu_count()) as pool:
-        results = pool.map(lambda header: compile_alone(folder, header), headers)
-    for header, result in zip(headers, results):
-        if result.returncode != 0:
+        results = pool.map(lambda header: compile_alone(folder, header), asked)
+    for header, result in zip(asked, results):
+        if result.returncode == 0:
+            verdicts.put_good(keys[header])
+        else:
             problems.append("%s does not compile alone:\n%s" % (header, result.stderr))
+    verdicts.drop_others()
     return len(headers)
 
 
@@ -306,9 +318,9 @@ def check_text(root):
 
 
 def main():
-    root, build = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
+    root, build, kept = (os.path.abspath(word) for word in sys.argv[1:])
     tree, problems = check_text(root)
-    headers = check_headers_alone(tree, build, problems)
+    headers = check_headers_alone(tree, build, Verdicts(kept), problems)
     print("\n".join(problems))
     print("%d files, %d headers alone, %d problems" % (len(tree.texts), headers, len(problems)))
     return 1 if problems or not tree.shipped() or not headers else 0

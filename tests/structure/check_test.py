@@ -8,8 +8,10 @@ import os
 import sys
 import tempfile
 import unittest
+from unittest import mock
 
 import check
+from verdicts import Verdicts
 
 COMPILER = "c++"
 
@@ -230,7 +232,7 @@ class HeadersAlone(Trees):
 
     def compiled(self):
         problems = []
-        count = check.check_headers_alone(check.Tree(self.root), self.root, problems)
+        count = check.check_headers_alone(check.Tree(self.root), self.root, Verdicts(os.path.join(self.root, "kept")), problems)
         return count, problems
 
     def test_that_are_whole_pass(self):
@@ -257,6 +259,22 @@ class HeadersAlone(Trees):
         self.build("adapters/qt/a.cpp", "-std=c++20")
         self.assertEqual(self.compiled(), (1, []))
 
+    def test_are_not_compiled_again_until_something_that_they_take_in_changes(self):
+        self.write("src/forms/b.h", "#pragma once\nstruct B {};\n")
+        self.write("adapters/files/a.h", '#pragma once\n#include "forms/b.h"\nB Name();\n')
+        self.build("adapters/files/a.cpp", "-std=c++20")
+        self.assertEqual(self.compiled(), (1, []))
+        with mock.patch.object(check.subprocess, "run", side_effect=self.only_versions(check.subprocess.run)):
+            self.assertEqual(self.compiled(), (1, []))
+        self.write("src/forms/b.h", "#pragma once\n")
+        self.assertEqual(len(self.compiled()[1]), 1)
+        self.assertEqual(len(self.compiled()[1]), 1)
+
+    def only_versions(self, run):
+        def call(command, **how):
+            self.assertIn("--version", command)
+            return run(command, **how)
+        return call
 
 
 if __name__ == "__main__":
