@@ -10,7 +10,7 @@ from pathlib import Path
 ROOT = Path(sys.argv[1])
 CHAPTERS_OF_HOST = ["Life cycle", "What you implement, and what stands ready", "Threads", "Events", "Failures", "Texts", "Ownership"]
 NOT_OF_THE_KEYBOARD = ["Alt+Tab", "Alt+Escape", "Ctrl+Escape", "Windows keys", "Print", "Ctrl+Alt+Delete", "Ctrl+Alt+F1", "Wayland"]
-TRIED = ["Debian 12: GCC 12", "Debian 13: GCC 14", "Debian 13: Clang 19"]
+TRIED = ["Debian 12: GCC 12", "Debian 12: Clang 19", "Debian 13: GCC 14", "Debian 13: Clang 19"]
 VIRTUAL = re.compile(r"virtual [\w:]+&? (\w+)\(")
 
 

