@@ -58,8 +58,8 @@ class Missing(unittest.TestCase):
         self.assertEqual(named, [
             "find_package(PkgConfig)", "pkg_check_modules(xkbcommon)", "find_package(nlohmann_json)",
             "find_package(Qt6 COMPONENTS Widgets)", "find_package(Qt6 COMPONENTS Svg)",
-            "pkg_check_modules(xkbcommon-x11 xcb-xtest xcb)", "find_program(doxygen)", "find_package(Python3 COMPONENTS Interpreter)",
-            "python3: from jsonschema import Draft202012Validator", "find_package(GTest)",
+            "pkg_check_modules(xkbcommon-x11 xcb-xtest xcb)", "pkg_check_modules(fontconfig)", "find_program(doxygen)",
+            "find_package(Python3 COMPONENTS Interpreter)", "python3: from jsonschema import Draft202012Validator", "find_package(GTest)",
             "find_package(Qt6 COMPONENTS Test)", "find_package(Qt6 COMPONENTS UiPlugin)", "find_package(Qt6 COMPONENTS UiTools)",
             "pkg_check_modules(xcb-xtest xcb)", "find_program(Xvfb)",
             "find_program(openbox)", "find_program(setxkbmap)", "find_package(benchmark)",
