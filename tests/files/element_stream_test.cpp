@@ -25,6 +25,13 @@ TEST(ElementStream, BringsBackAnElement) {
   EXPECT_EQ(StreamOf(*other), stream);
 }
 
+TEST(ElementStream, BeginsWithItsMarkAndItsVersion) {
+  World world;
+  const auto stream = StreamOf(*world.component.Create("F1", world.host));
+  ASSERT_GE(stream.size(), 8U);
+  EXPECT_EQ(std::vector<int>(stream.begin(), stream.begin() + 8), (std::vector<int>{'P', 'l', 'x', 'E', 1, 0, 0, 0}));
+}
+
 TEST(ElementStream, AnyByteThatIsLostOrAddedIsFound) {
   World world;
   const auto stream = StreamOf(*world.component.Create("F1", world.host));

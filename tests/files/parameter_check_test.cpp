@@ -69,6 +69,10 @@ TEST(ParameterCheck, AKeyThatStandsTwiceIsFound) {
   EXPECT_THAT(Check(Entry(1) + "makecode=1\n"), ElementsAre(At(6, "MAKECODE stands already in line 4")));
 }
 
+TEST(ParameterCheck, OfAKeyThatStandsTwiceTheFirstValueCounts) {
+  EXPECT_THAT(Check(Entry(1) + "makecode=zz\n"), ElementsAre(At(6, "MAKECODE stands already in line 4")));
+}
+
 TEST(ParameterCheck, AnUnknownKeyIsFound) {
   EXPECT_THAT(Check(Entry(1) + "REMARK033=Nom\n"), ElementsAre(At(6, "\"REMARK033\" is unknown")));
 }

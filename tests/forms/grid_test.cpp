@@ -65,6 +65,20 @@ TEST(Grid, HasNoCellOutside) {
   EXPECT_TRUE(form.log.empty());
 }
 
+TEST(Grid, HasNoColumnOutside) {
+  GridForm form;
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(6); }), "msgA has no cell (0, 6)");
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(-1); }), "msgA has no cell (0, -1)");
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(6, 1); }), "msgA has no cell (0, 6)");
+}
+
+TEST(Grid, OfOneRowHasColumnsToo) {
+  TestForm form;
+  Grid grid(form, "msgB", 1, 2, 0, 0);
+  grid.ColWidth(1, 300);
+  EXPECT_EQ(grid.ColWidth(1), 300);
+}
+
 TEST(Grid, ColoursItsCurrentCell) {
   GridForm form;
   form.msgA.Current(2, 3);

@@ -28,6 +28,15 @@ TEST(KeyPress, TakenAwayByAHandlerEntersNothing) {
   EXPECT_EQ(form.txtLine.Text(), "");
 }
 
+TEST(KeyPress, ThatAHandlerMakesNoCharacterOfTheCodePageEntersNothing) {
+  for (const std::int16_t code : std::initializer_list<std::int16_t>{-1, -191, 0x100, 0x141, 0x7FFF}) {
+    KeysForm form;
+    form.txtLine.OnKeyPress = [code](std::int16_t& keyAscii) { keyAscii = code; };
+    form.Raised(form.txtLine, [&] { EXPECT_EQ(form.hand.KeyPress('a'), code); });
+    EXPECT_EQ(form.txtLine.Text(), "") << code;
+  }
+}
+
 TEST(KeyPress, OfACodeThatIsNoneIsRefused) {
   KeysForm form;
   EXPECT_NE(FailureOf(FailureKind::InvalidCall, [&] { form.hand.KeyPress(256); }), "");

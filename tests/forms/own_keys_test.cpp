@@ -162,6 +162,38 @@ TEST(TabStripKeys, BringTheNextPageThatIsOnToTheFront) {
   EXPECT_EQ(form.log, (Strings{"sstA", "sstA"}));
 }
 
+TEST(TabStripKeys, TurnPageByPage) {
+  ChoiceForm form;
+  form.sstA.SetFocus();
+  std::vector<int> pages;
+  for (const std::int16_t keyCode : {key::Right, key::Right, key::Right, key::Left, key::Left, key::Left}) {
+    form.hand.KeyDown(keyCode, 0);
+    pages.push_back(form.sstA.Tab());
+  }
+  EXPECT_EQ(pages, (std::vector<int>{1, 2, 3, 2, 1, 0}));
+}
+
+TEST(TabStripKeys, OtherThanLeftAndRightTurnNoPage) {
+  ChoiceForm form;
+  form.sstA.SetFocus();
+  form.sstA.Tab(1);
+  for (const std::int16_t keyCode : {key::Up, key::Down, key::Home, key::End, key::Space}) {
+    form.hand.KeyDown(keyCode, 0);
+    EXPECT_EQ(form.sstA.Tab(), 1) << keyCode;
+  }
+  EXPECT_TRUE(form.log.empty());
+}
+
+TEST(TabStripKeys, StayWhereEveryPageOnThatSideIsOff) {
+  ChoiceForm form;
+  form.sstA.TabEnabled(0, false);
+  form.sstA.SetFocus();
+  form.sstA.Tab(1);
+  form.hand.KeyDown(key::Left, 0);
+  EXPECT_EQ(form.sstA.Tab(), 1);
+  EXPECT_TRUE(form.log.empty());
+}
+
 TEST(TabStripKeys, StopAtTheEnds) {
   ChoiceForm form;
   form.sstA.SetFocus();
@@ -231,6 +263,13 @@ TEST(GridKeys, ScrollTheCellIntoView) {
   form.AfterKey(3, 1, key::Down);
   EXPECT_EQ(form.log, (Strings{"EnterCell", "Scroll"}));
   EXPECT_EQ(form.msgA.TopRow(), 2);
+}
+
+TEST(GridKeys, OfNoDirectionLeaveAFixedCellToo) {
+  GridKeysForm form;
+  EXPECT_EQ(form.AfterKey(0, 0, 'A'), (Pair{0, 0}));
+  EXPECT_EQ(form.AfterKey(0, 0, key::Space), (Pair{0, 0}));
+  EXPECT_EQ(form.AfterKey(0, 0, key::Down), (Pair{1, 1}));
 }
 
 TEST(GridKeys, WithControlOrAltMoveNothing) {

@@ -114,5 +114,16 @@ TEST_F(ForeignValuesOf, AValueThatItsElementCannotReadIsNamed) {
   EXPECT_THAT(PanelDocument::Open(file, Site())->Unread(), ElementsAre("F1: HardwareNumberButton", "F2: SizeX"));
 }
 
+TEST_F(ForeignValuesOf, APlaceThatThePanelLacksIsAMatterOfTheWholeFile) {
+  Project project{"Large", {}};
+  project.elements.push_back({"Z9", {}, {}});
+  try {
+    PanelDocument::Of(project, "a.plexel", Site());
+    ADD_FAILURE() << "no failure";
+  } catch (const FileError& error) {
+    EXPECT_STREQ(error.what(), "a.plexel: the panel \"Large\" has no place \"Z9\"");
+  }
+}
+
 }  // namespace
 }  // namespace plexel

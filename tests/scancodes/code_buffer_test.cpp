@@ -230,6 +230,17 @@ TEST(CodeBuffer, RemovingTheOnlyGroupFillsTheWholeBufferWithMarks) {
   for (const std::uint8_t byte : buffer.Value) EXPECT_EQ(byte, 0xFF);
 }
 
+TEST(CodeBuffer, AnEmptyGroupIsRemovedLikeAnyOther) {
+  Buffer alone = With({}, {}, MakeOnly);
+  EXPECT_TRUE(RemoveFirstCodeGroup(alone));
+  EXPECT_EQ(alone.NextValue, 0);
+  Buffer first = With({}, {}, MakeOnly);
+  Append(first, {0x1C}, {}, MakeOnly);
+  EXPECT_EQ(Used(first), "FF FF 1C FF");
+  EXPECT_TRUE(RemoveFirstCodeGroup(first));
+  EXPECT_EQ(Used(first), "FF 1C FF");
+}
+
 TEST(CodeBuffer, AnEmptyBufferHasNoGroupToRemove) {
   Buffer buffer = InitialBuffer();
   EXPECT_FALSE(RemoveFirstCodeGroup(buffer));
@@ -283,10 +294,14 @@ TEST(CodeBuffer, RemovingFromABrokenNextValueFailsOrDoesNothing) {
   buffer.NextValue = 200;
   EXPECT_EQ(KindOf([&] { RemoveFirstCodeGroup(buffer); }), FailureKind::Index);
   EXPECT_EQ(KindOf([&] { RemoveLastCodeGroup(buffer); }), FailureKind::Index);
-  buffer.NextValue = std::numeric_limits<std::int32_t>::min();
-  EXPECT_FALSE(RemoveFirstCodeGroup(buffer));
-  RemoveLastCodeGroup(buffer);
-  EXPECT_EQ(buffer.NextValue, std::numeric_limits<std::int32_t>::min());
+  for (const std::int32_t next : {std::numeric_limits<std::int32_t>::min(), -1, 0}) {
+    buffer = InitialBuffer();
+    buffer.NextValue = next;
+    const Buffer before = buffer;
+    EXPECT_FALSE(RemoveFirstCodeGroup(buffer));
+    RemoveLastCodeGroup(buffer);
+    EXPECT_EQ(buffer, before) << next;
+  }
 }
 
 TEST(CodeBuffer, GroupEndsAreCountedInBothBuffersUpToNextValue) {

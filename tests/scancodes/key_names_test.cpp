@@ -199,6 +199,12 @@ TEST(KeyNames, ADeadKeyHasItsAccentAndIsTakenOutOfTheLayout) {
   EXPECT_EQ(session.platform.faults.Calls(Fault::Layout), 3);
 }
 
+TEST(KeyNames, ADeadKeyIsNamedByOneByte) {
+  ScanCodeSession session;
+  session.platform.Layout().KeyText(0xC0, -1, u"\u3130");
+  EXPECT_EQ(Name(0xC0), "0");
+}
+
 TEST(KeyNames, ALivingKeyIsAskedOnce) {
   ScanCodeSession session;
   Name(0x41);

@@ -108,6 +108,7 @@ TEST(CodePage, BrokenEscapesAreConversionFailures) {
       ADD_FAILURE() << bytes;
     } catch (const Failure& failure) {
       EXPECT_EQ(failure.Kind(), FailureKind::Conversion) << bytes;
+      EXPECT_STREQ(failure.what(), "broken escape in a text") << bytes;
     }
   }
 }
