@@ -13,7 +13,7 @@ namespace plexel {
 /// Walks over the lines of a text. LF, CR LF and CR each end a line, mixed as they come.
 class LineWalk {
  public:
-  explicit LineWalk(std::string_view text) : text_(text), lineFeed_(Find('\n')), carriageReturn_(Find('\r')) {}
+  explicit LineWalk(std::string_view text) : text_(text), lineFeed_(LineFeed()) {}
   /// Gives the next line without its end; false behind the last one. A text that ends in a line end has no empty line
   /// behind it.
   bool Next(std::string_view& line);
@@ -21,22 +21,33 @@ class LineWalk {
   std::size_t Number() const { return number_; }
 
  private:
-  std::size_t Find(char end) const { return std::min(text_.find(end, position_), text_.size()); }
+  std::size_t LineFeed() const { return std::min(text_.find('\n', position_), text_.size()); }
+  void FindCarriageReturn();
 
   std::string_view text_;
   std::size_t position_ = 0;
-  std::size_t lineFeed_;        ///< the next LF at or behind the position, the end of the text when there is none
-  std::size_t carriageReturn_;  ///< the same for CR
+  std::size_t lineFeed_;      ///< the next LF at or behind the position, the end of the text when there is none
+  std::size_t noReturn_ = 0;  ///< up to here there is no CR behind the position
   std::size_t number_ = 0;
 };
 
+/// Looks for a CR ahead of the next LF, by pieces that the cache still holds when their lines are read.
+inline void LineWalk::FindCarriageReturn() {
+  constexpr std::size_t piece = std::size_t{1} << 13U;
+  noReturn_ = std::max(noReturn_, position_);
+  while (noReturn_ < lineFeed_ && text_[noReturn_] != '\r') {
+    const std::string_view next = text_.substr(noReturn_, piece);
+    noReturn_ += std::min(next.find('\r'), next.size());
+  }
+}
+
 inline bool LineWalk::Next(std::string_view& line) {
   if (position_ >= text_.size()) return false;
-  if (lineFeed_ < position_) lineFeed_ = Find('\n');
-  if (carriageReturn_ < position_) carriageReturn_ = Find('\r');
-  const std::size_t end = std::min(lineFeed_, carriageReturn_);
+  if (lineFeed_ < position_) lineFeed_ = LineFeed();
+  if (noReturn_ < lineFeed_) FindCarriageReturn();
+  const std::size_t end = std::min(lineFeed_, noReturn_);
   line = std::string_view(text_.data() + position_, end - position_);
-  position_ = end == carriageReturn_ && lineFeed_ == end + 1 ? end + 2 : end + 1;
+  position_ = end == noReturn_ && lineFeed_ == end + 1 ? end + 2 : end + 1;
   ++number_;
   return true;
 }

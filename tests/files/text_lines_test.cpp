@@ -50,6 +50,15 @@ TEST(LineWalk, ManyCarriageReturnsAreLinesEach) {
   EXPECT_EQ(LinesOf(text).size(), text.size());
 }
 
+TEST(LineWalk, ACarriageReturnFarIntoALongLineEndsIt) {
+  // Around the ends of the pieces by which it is looked for, and behind a line that was looked through already.
+  for (const std::size_t length : {8191U, 8192U, 8193U, 16383U, 16384U, 20000U}) {
+    const std::string line(length, 'x');
+    EXPECT_THAT(LinesOf(line + "\rb\nc\r\n" + line + "\r\n" + line), ElementsAre(line, "b", "c", line, line)) << length;
+    EXPECT_THAT(LinesOf("a\n" + line + "\n" + line + "\rd"), ElementsAre("a", line, line, "d")) << length;
+  }
+}
+
 TEST(LineOf, CountsTheLineThatHoldsThePosition) {
   EXPECT_EQ(LineOf("ab\r\ncd", 0), 1U);
   EXPECT_EQ(LineOf("ab\r\ncd", 4), 2U);
