@@ -4,7 +4,7 @@
 
 namespace bench {
 
-/// Calls of operator new in this program so far.
+/// Calls of operator new by this thread so far.
 std::int64_t Allocations();
 
 }  // namespace bench
