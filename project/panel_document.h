@@ -144,7 +144,7 @@ class PanelDocument {
   using Foreign = std::map<std::size_t, ForeignValues>;
 
   /// The panel is read from its text.
-  PanelDocument(std::string panelName, std::string panelText, const std::filesystem::path& origin)
+  PanelDocument(std::string panelName, const std::string& panelText, const std::filesystem::path& origin)
       : panelName_(std::move(panelName)),
         panel_(std::make_shared<const DocumentPanel>(DocumentPanel{panelText, ParsePanel(origin, panelText)})),
         filePanel_(panel_) {}

@@ -51,7 +51,7 @@ std::string SearchableText(const ReportRow& row, std::string_view beside) {
   return characters::Folded(text);
 }
 
-KeySearch::KeySearch(std::vector<KeyCode> keys) {
+KeySearch::KeySearch(const std::vector<KeyCode>& keys) {
   for (const KeyCode key : keys) {
     if (std::ranges::find(keys_, key) == keys_.end()) keys_.push_back(key);
   }

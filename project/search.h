@@ -35,7 +35,7 @@ std::string SearchableText(const ReportRow& row, std::string_view beside = {});
 /// Keys that go down together, or a command to the panel, looked for in the bytes.
 class KeySearch {
  public:
-  explicit KeySearch(std::vector<KeyCode> keys = {});
+  explicit KeySearch(const std::vector<KeyCode>& keys = {});
   bool IsEmpty() const { return keys_.empty(); }
   const std::vector<KeyCode>& Keys() const { return keys_; }
 
