@@ -51,10 +51,10 @@ class Inspector : public QDockWidget {
 
  private:
   struct Row {
-    TextLine *caption, *value;
+    TextLine *caption = nullptr, *value = nullptr;
   };
   struct Layer {
-    TextLine *heading, *room;
+    TextLine *heading = nullptr, *room = nullptr;
     Row press, release, led;
   };
   void MakeContent();
@@ -76,12 +76,13 @@ class Inspector : public QDockWidget {
   const LiveProblems& problems_;
   PanelDocument* document_ = nullptr;
   std::vector<int> places_;  ///< those that are told of
-  QWidget* body_;
-  TextLine *title_, *kind_, *numbers_, *nothing_, *problemsTitle_, *notesTitle_;
+  QWidget* body_ = nullptr;
+  TextLine *title_ = nullptr, *kind_ = nullptr, *numbers_ = nullptr, *nothing_ = nullptr;
+  TextLine *problemsTitle_ = nullptr, *notesTitle_ = nullptr;
   std::array<Layer, LayerCount> layers_{};
   std::vector<TextLine*> problemLines_;
-  QVBoxLayout* problemBox_;
-  QPlainTextEdit* notes_;
+  QVBoxLayout* problemBox_ = nullptr;
+  QPlainTextEdit* notes_ = nullptr;
   int notesPlace_ = -1;      ///< whose notes stand in the field, -1 for none that can be edited
   std::string storedNotes_;  ///< as the element holds them
   QString typed_;            ///< what stood in the field before the last key
