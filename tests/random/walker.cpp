@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "forms/hand.h"
 #include "services/dialogs.h"
 
 namespace plexel {
@@ -56,7 +55,7 @@ void Walker::Visit() {
   Promise(platform_.Modal().Shown().empty(), "a dialog was left open");
   Promise(!platform_.Hooks().Installed(HookKind::Keyboard), "capture outlived the dialogs");
   Promise(!platform_.Hooks().Installed(HookKind::LowLevelKeyboard), "the task keys stayed locked");
-  Promise(!Module().bDirectInputActive, "direct input outlived the dialogs");
+  Promise(Module().bDirectInputActive == False, "direct input outlived the dialogs");
   Promise(world_.host.Count("ProjectModified") == okClicks_, "the host was told of as many changes as were confirmed");
   confirmed_ += okClicks_;
   if (undone_) {

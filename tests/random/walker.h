@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/hand.h"
 #include "headless/key_road.h"
 #include "world/world.h"
 
