@@ -22,7 +22,7 @@ from verdicts import Sources, Verdicts, version_of
 Room = namedtuple("Room", "folder name level foreign known_by", defaults=("", None))
 XKB, XCB, QT = r"xkbcommon/.*", r"xcb/.*", r"Q\w*|QtGui/\w+\.h"
 WINDOWS = r"(windows|windowsx|commctrl|gdiplus|objidl|ole2|oleacc)\.h"
-SYSTEM = (r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/stat\.h|sys/file\.h|sys/xattr\.h|grp\.h|pwd\.h|windows\.h|aclapi\.h|direct\.h|io\.h"
+SYSTEM = (r"dlfcn\.h|fcntl\.h|poll\.h|unistd\.h|sys/mman\.h|sys/stat\.h|sys/file\.h|sys/xattr\.h|grp\.h|pwd\.h|windows\.h|aclapi\.h|direct\.h|io\.h"
           r"|share\.h")
 COM = r"olectl\.h|ocidl\.h|servprov\.h|comcat\.h|PlexelBaseElement\.h"
 ROOMS = [
