@@ -34,7 +34,7 @@ constexpr auto Kinds = std::to_array<KindTraits>({
     {ControlKind::Shape, "Shape", true, false, true, false},
 });
 
-constexpr bool InOrder() {
+consteval bool InOrder() {
   for (std::size_t i = 0; i < Kinds.size(); ++i) {
     if (Kinds[i].kind != static_cast<ControlKind>(i)) return false;
   }

@@ -9,7 +9,7 @@ namespace plexel {
 /// finds a misspelt one. The text must outlive the name.
 class FormName {
  public:
-  explicit constexpr FormName(std::string_view text) : text_(text) {}
+  explicit consteval FormName(std::string_view text) : text_(text) {}
   constexpr operator std::string_view() const { return text_; }
   operator std::string() const { return std::string(text_); }
   friend constexpr bool operator==(FormName one, FormName other) { return one.text_ == other.text_; }

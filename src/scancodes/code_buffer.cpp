@@ -70,7 +70,7 @@ std::int32_t CountEndMarks(const Buffer& code) {
 std::int32_t CountGroupEnds(std::int32_t lngLayer, const udtTactisBaseElement_ScanCodeInfo& udtBuffer) {
   const Buffer* press = PressBuffer(udtBuffer, lngLayer);
   const Buffer* release = ReleaseBuffer(udtBuffer, lngLayer);
-  if (press == nullptr || release == nullptr) return 0;
+  if (press == nullptr) return 0;  // the layer has neither
   return CountEndMarks(*press) + CountEndMarks(*release);
 }
 

@@ -35,11 +35,11 @@ struct FixedCodes {
   std::int8_t length = 0;
 
   constexpr FixedCodes() = default;
-  constexpr FixedCodes(std::initializer_list<std::uint8_t> list)
+  consteval FixedCodes(std::initializer_list<std::uint8_t> list)
       : count(static_cast<std::uint8_t>(list.size())), length(static_cast<std::int8_t>(list.size())) {
     std::copy(list.begin(), list.end(), codes.begin());
   }
-  constexpr FixedCodes OfLength(std::int8_t other) const {
+  consteval FixedCodes OfLength(std::int8_t other) const {
     FixedCodes same = *this;
     same.length = other;
     return same;

@@ -68,7 +68,7 @@ void ChangeGridCellBuffer(Change change) {
 bool HasRoomForCodes(std::int32_t lngLayer, const Info& udtBuffer, std::int32_t lngNewCodes) {
   const Buffer* press = PressBuffer(udtBuffer, lngLayer);
   const Buffer* release = ReleaseBuffer(udtBuffer, lngLayer);
-  if (press == nullptr || release == nullptr) return false;
+  if (press == nullptr) return false;  // the layer has neither
   const std::int64_t total =
       std::int64_t{press->NextValue} + release->NextValue + lngNewCodes - CountGroupEnds(lngLayer, udtBuffer);
   return total < Module().lngMaxScanCodes;

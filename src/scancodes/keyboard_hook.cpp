@@ -95,8 +95,8 @@ void FinishCombination() {
 bool IsTaskKey(const LowLevelKey& key, bool controlDown) {
   constexpr std::int32_t tab = 0x09, escape = 0x1B, windowsLeft = 0x5B, windowsRight = 0x5C, altDown = 0x20;
   const bool alt = (key.flags & altDown) != 0;
-  return ((key.virtualKey == escape || key.virtualKey == tab) && alt) || (key.virtualKey == escape && controlDown) ||
-         key.virtualKey == windowsLeft || key.virtualKey == windowsRight;
+  if (key.virtualKey == escape) return alt || controlDown;
+  return (key.virtualKey == tab && alt) || key.virtualKey == windowsLeft || key.virtualKey == windowsRight;
 }
 
 bool IsKeyMessage(std::int32_t message) {

@@ -49,15 +49,15 @@ struct Row {
   std::array<KeySequences, 4> variants{};
 };
 
-constexpr KeySequences Simple(std::uint8_t code) { return {Form::Plain, code, {}, {}}; }
-constexpr KeySequences Extended(std::uint8_t code) { return {Form::Extended, code, {}, {}}; }
-constexpr KeySequences Listed(const FixedCodes& make, const FixedCodes& breaking) {
+consteval KeySequences Simple(std::uint8_t code) { return {Form::Plain, code, {}, {}}; }
+consteval KeySequences Extended(std::uint8_t code) { return {Form::Extended, code, {}, {}}; }
+consteval KeySequences Listed(const FixedCodes& make, const FixedCodes& breaking) {
   return {Form::Listed, 0, make, breaking};
 }
 
-constexpr Row FixedRow(const KeySequences& sequences) { return {Rule::Fixed, 0, {sequences}}; }
-constexpr Row SidedRow(std::uint8_t code) { return {Rule::Sided, 0, {Simple(code), Extended(code)}}; }
-constexpr Row CursorRow(std::uint8_t code, std::uint8_t navigationKey) {
+consteval Row FixedRow(const KeySequences& sequences) { return {Rule::Fixed, 0, {sequences}}; }
+consteval Row SidedRow(std::uint8_t code) { return {Rule::Sided, 0, {Simple(code), Extended(code)}}; }
+consteval Row CursorRow(std::uint8_t code, std::uint8_t navigationKey) {
   return {Rule::Cursor,
           navigationKey,
           {Listed({0xE0, 0xF0, 0x12, 0xE0, code}, {0xE0, 0xF0, code, 0xE0, 0x12}),
@@ -89,7 +89,7 @@ inline constexpr CursorKey cursorKeys[] = {
 
 using Table = std::array<Row, 0x77>;
 
-constexpr Table BuildTable() {
+consteval Table BuildTable() {
   using namespace variant;
   Table table{};
   for (const ScanCodePair& key : plainKeys) table[key.scanCode] = FixedRow(Simple(key.code));
@@ -123,7 +123,7 @@ constexpr Table BuildTable() {
 
 inline constexpr Table table = BuildTable();
 
-constexpr std::size_t CountRows(Rule rule) {
+consteval std::size_t CountRows(Rule rule) {
   std::size_t count = 0;
   for (const Row& row : table) count += row.rule == rule ? 1U : 0U;
   return count;

@@ -73,7 +73,7 @@ Number ParseHexadecimal(std::string_view digits, std::string_view text) {
   std::uint64_t value = 0;
   const char* const end = digits.data() + digits.size();
   const auto [stop, error] = std::from_chars(digits.data(), end, value, 16);
-  if (digits.empty() || stop != end || error == std::errc::invalid_argument) FailConversion(text);
+  if (digits.empty() || stop != end) FailConversion(text);
   if (error == std::errc::result_out_of_range) FailOverflow(std::string(text));
   return static_cast<Number>(value);
 }

@@ -130,8 +130,8 @@ enumLedType LedTextToType(std::string_view text) {
 }
 
 std::string LedTypeToText(std::int32_t type) {
-  const auto place = static_cast<std::size_t>(type);
-  return type < 0 || place >= LedFunctions.size() ? std::string() : GetText(LedFunctions[place].textId);
+  const auto place = static_cast<std::size_t>(type);  // far behind the last for a negative one
+  return place >= LedFunctions.size() ? std::string() : GetText(LedFunctions[place].textId);
 }
 
 void StorePositions(std::initializer_list<StoredPosition> positions) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace plexel {
 namespace {
 
@@ -46,6 +48,13 @@ TEST(Caption, IsNotLedToByAnyOtherKey) {
   EXPECT_FALSE(LeadsTo("&&OK", 'O'));
   constexpr std::int16_t keyOfPercent = '%';  // the left arrow
   EXPECT_FALSE(LeadsTo("100 &%", keyOfPercent));
+}
+
+TEST(Caption, IsNotLedToByWhatStandsBesideLettersAndDigits) {
+  for (const char letter : {'/', ':', '@', '[', '!'}) {
+    EXPECT_FALSE(LeadsTo(std::string("&") + letter, letter)) << letter;
+  }
+  for (const char letter : {'0', '9', 'A', 'Z'}) EXPECT_TRUE(LeadsTo(std::string("&") + letter, letter)) << letter;
 }
 
 }  // namespace

@@ -272,5 +272,22 @@ TEST(CaptionLetter, OfADisabledEntryPicksNothing) {
   EXPECT_EQ(form.OpenPopup(), nullptr);
 }
 
+TEST(Letters, AFrameWithNothingInItIsPassedOver) {
+  struct FramesForm : TestForm {
+    CommandButton cmdA{*this, "cmdA"};
+    Frame fraEmpty{*this, "fraEmpty"}, fraFull{*this, "fraFull"};
+    CommandButton cmdB{*this, "cmdB"};
+    Hand hand{*this};
+  } form;
+  form.fraEmpty.Caption("&Frame");
+  form.fraFull.Caption("&Frame");
+  form.cmdB.Inside(form.fraFull);
+  WhileShown(form, [&] {
+    form.cmdA.SetFocus();
+    form.hand.KeyDown('F', key::AltBit);
+    EXPECT_EQ(form.Focus(), &form.cmdB);
+  });
+}
+
 }  // namespace
 }  // namespace plexel

@@ -1,3 +1,4 @@
+#include "forms/acting.h"
 #include "test_form.h"
 
 namespace plexel {
@@ -35,6 +36,7 @@ TEST(Grid, NeedsACellThatIsNotFixed) {
   EXPECT_EQ(failureOf(1, 1, 1, 0), "msgA would have no cell that is not fixed");
   EXPECT_NE(failureOf(1, 1, 0, 1), "");
   EXPECT_NE(failureOf(2, 2, -1, 0), "");
+  EXPECT_NE(failureOf(2, 2, 0, -1), "");
   EXPECT_EQ(failureOf(1, 1, 0, 0), "");
 }
 
@@ -193,6 +195,35 @@ TEST(Grid, CountsItsRefreshes) {
   EXPECT_FALSE(form.msgA.Redraw());
   form.msgA.Refresh();
   EXPECT_EQ(form.msgA.Refreshes(), 1);
+}
+
+TEST(Grid, HasNoCellAheadOfTheFirstAndBehindTheLast) {
+  GridForm form;
+  for (const auto& [row, col] : {std::pair{-1, 1}, {10, 1}, {1, -1}, {1, 6}}) {
+    EXPECT_NE(FailureOf(FailureKind::Index, [&, row = row, col = col] { form.msgA.CellAt(row, col); }), "")
+        << row << ' ' << col;
+  }
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.CellAt(0, 0); }), "");
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.CellAt(9, 5); }), "");
+}
+
+TEST(Grid, TellsTheColoursOfTheCurrentCellAlone) {
+  GridForm form;
+  form.msgA.CellBackColor(0xFFFF);
+  form.msgA.CellForeColor(0xFF);
+  EXPECT_EQ(form.msgA.CellBackColor(), 0xFFFF);
+  EXPECT_EQ(form.msgA.CellForeColor(), 0xFF);
+  form.msgA.Row(2);
+  EXPECT_NE(form.msgA.CellBackColor(), 0xFFFF);
+}
+
+TEST(Grid, IsNotScrolledByAHandlerThatClosedTheForm) {
+  GridForm form;
+  WhileShown(form, [&] {
+    form.msgA.OnEnterCell = [&] { form.Unload(); };
+    MoveTo(form.msgA, 9, 5);
+  });
+  EXPECT_EQ(form.View(), (Pair{1, 1}));
 }
 
 }  // namespace

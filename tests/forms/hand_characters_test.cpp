@@ -132,5 +132,20 @@ TEST(PreviewKey, ActsOnOtherControlsAsEver) {
   EXPECT_EQ(form.msgA.Row(), 2);
 }
 
+TEST(PreviewKey, LeavesNothingToAnEditorThatTheKeyTurnedOff) {
+  KeysForm form;
+  form.txtLine.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.txtLine.Enabled(false); };
+  form.Raised(form.txtLine, [&] { EXPECT_FALSE(form.hand.PreviewKey(key::Delete, 0, 0)); });
+}
+
+TEST(PreviewKey, LeavesNothingWhereNoControlHasTheFocus) {
+  KeysForm form;
+  WhileShown(form, [&] {
+    form.Focus(nullptr);
+    EXPECT_FALSE(form.hand.PreviewKey(key::Delete, 0, 0));
+    EXPECT_FALSE(form.hand.PreviewKey(letterA, 0, 'a'));
+  });
+}
+
 }  // namespace
 }  // namespace plexel

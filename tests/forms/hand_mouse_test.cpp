@@ -305,5 +305,33 @@ TEST(TabClick, IsRefusedByAPageThatIsOff) {
   EXPECT_EQ(form.sstA.Tab(), 0);
 }
 
+TEST(HandMouse, WhatAClickTurnsOffIsNotClickedTwice) {
+  MouseForm form;
+  form.msgA.OnClick = [&] { form.msgA.Enabled(false); };
+  form.sstA.OnClick = [&] { form.sstA.Enabled(false); };
+  EXPECT_EQ(form.Raised([&] { form.hand.DblClick(form.msgA, 1, 1); }), Strings{"msgA GotFocus"});
+  EXPECT_EQ(form.Raised([&] { form.hand.DblClickTab(form.sstA, 1); }), Strings{"sstA GotFocus"});
+}
+
+TEST(HandMouse, AFormThatClosesAsTheFocusComesTakesNoMore) {
+  MouseForm form;
+  form.sstA.OnGotFocus = [&] { form.Unload(); };
+  form.sstA.OnClick = [&] { ADD_FAILURE() << "a click on a form that has closed"; };
+  WhileShown(form, [&] {
+    form.hand.Tab(form.sstA, 2);
+    EXPECT_EQ(form.sstA.Tab(), 0);
+  });
+  form.msgA.OnGotFocus = [&] { form.Unload(); };
+  WhileShown(form, [&] {
+    form.hand.Click(form.msgA, 2, 2);
+    EXPECT_EQ(form.msgA.Row(), 1);
+  });
+  form.txtA.OnGotFocus = [&] { form.Unload(); };
+  WhileShown(form, [&] {
+    form.hand.Type(form.txtA, "text");
+    EXPECT_EQ(form.txtA.Text(), "");
+  });
+}
+
 }  // namespace
 }  // namespace plexel

@@ -297,5 +297,72 @@ TEST(GridKeys, TakenAwayByAHandlerMoveNothing) {
   EXPECT_EQ(form.AfterKey(2, 2, key::Down), (Pair{2, 2}));
 }
 
+TEST(ButtonKeys, ArrowsStayWhereThereIsNothingElse) {
+  struct OneButton : TestForm {
+    CommandButton cmdA{*this, "cmdA"};
+    Hand hand{*this};
+  } form;
+  WhileShown(form, [&] {
+    form.cmdA.SetFocus();
+    form.hand.KeyDown(key::Right, 0);
+    EXPECT_EQ(form.Focus(), &form.cmdA);
+  });
+}
+
+TEST(ButtonKeys, AnArrowOfAButtonThatGaveTheFocusAwayDoesNothing) {
+  struct ThreeButtons : TestForm {
+    CommandButton cmdA{*this, "cmdA"}, cmdB{*this, "cmdB"}, cmdC{*this, "cmdC"};
+    Hand hand{*this};
+  } form;
+  WhileShown(form, [&] {
+    form.cmdA.SetFocus();
+    form.cmdA.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.cmdC.SetFocus(); };
+    form.hand.KeyDown(key::Right, 0);
+    EXPECT_EQ(form.Focus(), &form.cmdC);
+  });
+}
+
+TEST(ButtonKeys, SpaceLetGoElsewherePressesNothing) {
+  struct TwoButtons : TestForm {
+    CommandButton cmdA{*this, "cmdA"}, cmdB{*this, "cmdB"};
+    Hand hand{*this};
+  } form;
+  WhileShown(form, [&] {
+    for (CommandButton* const button : {&form.cmdA, &form.cmdB}) {
+      button->OnClick = [] { ADD_FAILURE() << "a button was pressed"; };
+    }
+    form.cmdA.SetFocus();
+    form.hand.KeyDown(key::Space, 0);
+    form.cmdB.SetFocus();
+    form.hand.KeyUp(key::Space, 0);
+  });
+}
+
+TEST(OptionKeys, AnArrowInAFrameThatTheKeyTurnedOffPicksNothing) {
+  struct FrameForm : TestForm {
+    Frame fraA{*this, "fraA"};
+    OptionButton opt0{*this, "opt", 0}, opt1{*this, "opt", 1};
+    Hand hand{*this};
+  } form;
+  form.opt0.Inside(form.fraA);
+  form.opt1.Inside(form.fraA);
+  WhileShown(form, [&] {
+    form.opt0.SetFocus();
+    form.opt0.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.fraA.Enabled(false); };
+    form.hand.KeyDown(key::Down, 0);
+    EXPECT_FALSE(form.opt1.Value());
+  });
+}
+
+TEST(OptionKeys, AnArrowThatClosesTheFormPicksNothing) {
+  ChoiceForm form;
+  WhileShown(form, [&] {
+    form.opt0.SetFocus();
+    form.opt1.OnGotFocus = [&] { form.Unload(); };
+    form.hand.KeyDown(key::Down, 0);
+  });
+  EXPECT_FALSE(form.opt1.Value());
+}
+
 }  // namespace
 }  // namespace plexel

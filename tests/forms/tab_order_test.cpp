@@ -107,5 +107,21 @@ TEST(TabNeighbour, OfAFormWithoutControlsIsNone) {
   EXPECT_EQ(form.TabNeighbour(true), nullptr);
 }
 
+TEST(TabOrder, HoldsOneOptionButtonOfEachPage) {
+  struct PagesForm : TestForm {
+    TabStrip sstA{*this, "sstA", 2};
+    OptionButton opt0{*this, "opt", 0}, opt1{*this, "opt", 1}, opt2{*this, "opt", 2};
+  } form;
+  form.opt0.OnPage(form.sstA, 0);
+  form.opt1.OnPage(form.sstA, 0);
+  form.opt2.OnPage(form.sstA, 1);
+  EXPECT_EQ(form.opt0.Group(), (std::vector<OptionButton*>{&form.opt0, &form.opt1}));
+  EXPECT_EQ(form.opt2.Group(), std::vector<OptionButton*>{&form.opt2});
+  form.sstA.Tab(1);
+  form.opt0.Value(true);
+  form.opt2.Value(true);
+  EXPECT_TRUE(form.opt0.Value()) << "the other page has a group of its own";
+}
+
 }  // namespace
 }  // namespace plexel

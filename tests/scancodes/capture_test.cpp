@@ -286,5 +286,41 @@ TEST(Capture, ParkingWithoutAnOpenDialogEndsQuietly) {
   }
 }
 
+TEST(Capture, WhenNoHookCanBeRemovedTheFirstFailureIsToldAndAllAreTriedAgain) {
+  ScanCodeSession session;
+  session.surroundings.Settings().Option(9, True);
+  session.InConfigurationDialog([&](StandInConfigurationDialog&) {
+    SetDirectInput(True, 0);
+    ASSERT_EQ(Module().installedHooks.size(), 2U);
+    session.platform.faults.Thrown([] { throw 7; });
+    session.platform.faults.Turn(Fault::Unhook, true);
+    EXPECT_THROW(DropCapture(), int);
+    EXPECT_EQ(Module().installedHooks.size(), 2U);
+    {
+      const LeftHooks leaving;
+    }
+    EXPECT_EQ(Module().installedHooks.size(), 2U) << "what cannot be removed stays for the next time";
+    session.platform.faults.Turn(Fault::Unhook, false);
+    {
+      const LeftHooks leaving;
+    }
+    EXPECT_TRUE(Module().installedHooks.empty());
+    EXPECT_FALSE(Hooked(session, HookKind::Keyboard));
+    EXPECT_FALSE(Hooked(session, HookKind::LowLevelKeyboard));
+  });
+}
+
+TEST(Capture, ThatRunsAsADialogIsMadeGoesOnUntilTheDialogGoes) {
+  ScanCodeSession session;
+  session.InConfigurationDialog([&](StandInConfigurationDialog&) {
+    SetDirectInput(True, 0);
+    {
+      const LeftHooks made;
+      EXPECT_TRUE(Hooked(session, HookKind::Keyboard));
+    }
+    EXPECT_FALSE(Hooked(session, HookKind::Keyboard));
+  });
+}
+
 }  // namespace
 }  // namespace plexel

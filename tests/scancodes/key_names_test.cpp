@@ -244,5 +244,13 @@ TEST(KeyNames, AnyFailureOfTheLayoutIsUnknown) {
   EXPECT_EQ(OldName(0x41), "UnknownKey");
 }
 
+TEST(KeyNames, KeysBetweenAndBehindThoseOfTheTableHaveNoFixedName) {
+  EXPECT_EQ(FixedKeyName(0x70, 0x3B, 0), "F1");
+  EXPECT_EQ(FixedKeyName(0x01, 0, 0), "");
+  EXPECT_EQ(FixedKeyName(0x41, 0x1E, 0), "");
+  EXPECT_EQ(FixedKeyName(0xFF, 0, 0), "");
+  EXPECT_EQ(FixedKeyName(0x7FFFFFFF, 0, 0), "");
+}
+
 }  // namespace
 }  // namespace plexel

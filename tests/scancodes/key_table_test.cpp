@@ -180,5 +180,20 @@ TEST(KeyTable, AnAltGrInTheFirstSlotRemovesNothing) {
   EXPECT_EQ(Count(), 2);
 }
 
+TEST(KeyTable, AControlOfAnotherPlaceAheadOfAltGrStays) {
+  for (const auto& [scanCode, extended] : {std::pair{0x21D, 0}, {0x1D, 1}}) {
+    ScanCodeSession session;
+    Down(0x11, scanCode, extended);
+    Down(0x12, 0x38, 1);
+    RemoveAltGrControl();
+    EXPECT_EQ(Count(), 2) << scanCode << ' ' << extended;
+  }
+  ScanCodeSession session;
+  Down(0x11, 0x1D, 0);
+  Down(0x12, 0x39, 1);  // no Alt Gr
+  RemoveAltGrControl();
+  EXPECT_EQ(Count(), 2);
+}
+
 }  // namespace
 }  // namespace plexel

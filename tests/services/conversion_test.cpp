@@ -161,5 +161,12 @@ TEST(Conversion, ATextOfASingleReadsBackAsTheSameNumber) {
   }
 }
 
+TEST(Conversion, NothingMayFollowTheExponent) {
+  EXPECT_EQ(TextToNumber("1e5"), 1e5);
+  for (const char* const text : {"1e5x", "1e5.", "1e+5e", "1e", "1e-"}) {
+    EXPECT_EQ(KindOf([text] { TextToNumber(text); }), FailureKind::Conversion) << text;
+  }
+}
+
 }  // namespace
 }  // namespace plexel
