@@ -1,14 +1,13 @@
 #!/usr/bin/env python3
 """soak.py BUILD SOURCE [DIALOGS]: a long day in the editor under an X server of its own. The configuration dialog is opened
 and closed again and again; between that, keys are defined, taken back, copied, searched for and saved. Tells along the way
-what the editor holds of memory and handles and how long a dialog takes, and fails when one of them goes on growing."""
+what the editor holds of memory and handles and how long it works for a dialog with what lies between, and fails when one of them goes on growing."""
 
 import os
 import shutil
 import statistics
 import sys
 import tempfile
-import time
 from pathlib import Path
 
 from desktop import Desktop
@@ -31,11 +30,17 @@ def handles(process):
     return len(os.listdir(f"/proc/{process.pid}/fd"))
 
 
+def processor_time(process):
+    """Milliseconds that the editor has worked so far."""
+    words = Path(f"/proc/{process.pid}/stat").read_text(encoding="ascii").rsplit(")", 1)[1].split()
+    return (int(words[11]) + int(words[12])) * 1000 / os.sysconf("SC_CLK_TCK")
+
+
 class Day:
     """Each round opens one dialog. Some do more."""
 
     def __init__(self, desktop, editor):
-        self.desktop, self.editor, self.acts, self.times = desktop, editor, 0, []
+        self.desktop, self.editor, self.acts = desktop, editor, 0
         self.key, self.other = (editor.element(name).centre() for name in (KEY, OTHER))
         desktop.click(self.key)
         press(desktop, "Return")
@@ -48,7 +53,6 @@ class Day:
         self.acts += len(words.split())
 
     def round(self, number):
-        start = time.monotonic()
         self.do("Return")
         self.dialog.window = self.desktop.window(self.dialog.title)
         if number % 20 == 0:
@@ -56,7 +60,6 @@ class Day:
         else:
             self.do("Esc")
             self.dialog.wait_closed()
-            self.times.append(time.monotonic() - start)
         self.desktop.window(MAIN)
         if number % 50 == 0:
             self.copy()
@@ -102,17 +105,18 @@ def main(build, source, dialogs="10000"):
     project = home / "soak.plexel"
     write_empty_project(project, "Large")
     looks, portion = [], max(int(dialogs) // LOOKS, 1)
-    print("dialogs   acts  memory MB  handles  dialog ms", flush=True)
+    print("dialogs   acts  memory MB  handles  work ms", flush=True)
     with Desktop(tools, home) as desktop:
         editor = Editor(desktop, tools, project, panel="Large")
         day = Day(desktop, editor)
+        worked = processor_time(editor.process)
         for number in range(1, portion * LOOKS + 1):
             day.round(number)
             if number % portion == 0:
-                look = (megabytes(editor.process), handles(editor.process), 1000 * statistics.median(day.times))
+                before, worked = worked, processor_time(editor.process)
+                look = (megabytes(editor.process), handles(editor.process), (worked - before) / portion)
                 looks.append(look)
-                day.times.clear()
-                print("%7d %6d %10.1f %8d %10.1f" % (number, day.acts, *look), flush=True)
+                print("%7d %6d %10.1f %8d %8.1f" % (number, day.acts, *look), flush=True)
         editor.quit()
     shutil.rmtree(home)
     names = ("memory", "handles", "time")
