@@ -12,6 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 std::string ToText(const std::optional<BagValue>& value) {
   if (!value) return "none";
@@ -135,6 +136,17 @@ TEST(Difference, EveryByteOfABufferCounts) {
     changed.elements[0].codes[0].codes.Value[place] ^= 1;
     EXPECT_EQ(Between(WithCodes({}, 0), changed).size(), 1U) << place;
   }
+}
+
+TEST(Difference, FloatsAreTheSameByValueAndSignAndOnesThatAreNoNumberAreAlike) {
+  const double none = std::nan("");
+  EXPECT_THAT(Between(With("x", 1.5), With("x", 1.5)), IsEmpty());
+  EXPECT_THAT(Between(With("x", none), With("x", -none)), IsEmpty());
+  EXPECT_THAT(Between(With("x", 1.5), With("x", 2.5)), SizeIs(1));
+  EXPECT_THAT(Between(With("x", none), With("x", 1.5)), SizeIs(1));
+  EXPECT_THAT(Between(With("x", 1.5), With("x", none)), SizeIs(1));
+  EXPECT_THAT(Between(With("x", 1.0), With("x", std::int32_t{1})), SizeIs(1));
+  EXPECT_THAT(Between(With("x", std::int32_t{1}), With("x", 1.0)), SizeIs(1));
 }
 
 }  // namespace

@@ -89,5 +89,16 @@ TEST_F(Stroke, EveryNamedKeyOfAKeyboardIsHeardAsOneKey) {
   }
 }
 
+TEST_F(Stroke, EitherAltMakesPrintTheOtherKey) {
+  constexpr int Print = 99, RightAlt = 100;
+  constexpr KeyCode plainPrint = 0xE07C, printWithAlt = 0x84;
+  Pressed({Print});
+  EXPECT_EQ(stroke.Keys(), std::vector<KeyCode>{plainPrint});
+  Pressed({evdev::LeftAlt, Print});
+  EXPECT_EQ(stroke.Keys(), (std::vector<KeyCode>{0x11, printWithAlt}));
+  Pressed({RightAlt, Print});
+  EXPECT_EQ(stroke.Keys(), (std::vector<KeyCode>{0xE011, printWithAlt}));
+}
+
 }  // namespace
 }  // namespace plexel

@@ -291,5 +291,33 @@ TEST(TimeLine, AKeyWhoseFirstEventFindsItDownWasHeld) {
   EXPECT_EQ(rows[1].marks, Marks({TimeMark::Held, TimeMark::Repeats}));
 }
 
+TEST(TrialPc, ADigitOfThePadIsTypedWithNumLockAndWithoutShift) {
+  constexpr KeyCode numLock = 0x77, pad1 = 0x69, rightShift = 0x59;
+  TrialPc pc;
+  const auto hear = [&](KeyCode code, KeyDeed deed) { pc.Hear({Direction::Press, deed, code}); };
+  const auto tap = [&](KeyCode code) {
+    hear(code, KeyDeed::Down);
+    hear(code, KeyDeed::Up);
+  };
+  tap(pad1);
+  EXPECT_EQ(pc.Text(), "");
+  tap(numLock);
+  tap(pad1);
+  EXPECT_EQ(pc.Text(), "1");
+  hear(rightShift, KeyDeed::Down);
+  tap(pad1);
+  EXPECT_EQ(pc.Text(), "1");
+}
+
+TEST(TrialPc, CapsLockTurnsLettersAlone) {
+  constexpr KeyCode capsLock = 0x58, bracket = 0x54, one = 0x16, letterZ = 0x1A;
+  TrialPc pc;
+  for (const KeyCode code : {capsLock, bracket, one, letterZ}) {
+    pc.Hear({Direction::Press, KeyDeed::Down, code});
+    pc.Hear({Direction::Press, KeyDeed::Up, code});
+  }
+  EXPECT_EQ(pc.Text(), "[1Z");
+}
+
 }  // namespace
 }  // namespace plexel
