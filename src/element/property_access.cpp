@@ -50,8 +50,7 @@ double ToDouble(const PropertyData& value, std::string_view name) {
 
 std::string ToText(const PropertyData& value) {
   if (const auto* integer = std::get_if<std::int32_t>(&value)) return NumberText(*integer);
-  if (const auto* number = std::get_if<double>(&value)) return NumberText(*number);
-  return std::get<std::string>(value);
+  return NumberText(std::get<double>(value));
 }
 
 }  // namespace plexel::property_access

@@ -49,6 +49,7 @@ using Setter = void (Element::*)(T);
 /// Conversions of a value that is to be set; the name stands in their failures.
 std::int32_t ToInteger(const PropertyData& value, std::string_view name, std::int32_t low, std::int32_t high);
 double ToDouble(const PropertyData& value, std::string_view name);
+/// Of a number.
 std::string ToText(const PropertyData& value);
 
 template <PropertyType type, typename T, Getter<T> get>

@@ -6,9 +6,10 @@ namespace plexel {
 
 namespace {
 
-bool SameGroup(const Control* left, const Control* right) {
-  return left->Kind() == ControlKind::OptionButton && right->Kind() == ControlKind::OptionButton &&
-         left->Container() == right->Container() && left->Page() == right->Page();
+/// Whether a control is an option of the same group as another one is.
+bool SameGroup(const Control* option, const Control* control) {
+  return control->Kind() == ControlKind::OptionButton && control->Container() == option->Container() &&
+         control->Page() == option->Page();
 }
 
 bool IsSet(const Control* option) { return static_cast<const OptionButton*>(option)->Value(); }

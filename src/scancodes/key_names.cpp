@@ -89,7 +89,7 @@ class LayoutText {
   LayoutText() { characters_.fill(0x2020); }  // two blanks each
   static constexpr std::int32_t Capacity = 48;
   char16_t* Data() { return characters_.data(); }
-  /// The first `count` bytes, low byte first, without one trailing NUL.
+  /// The first `count` bytes, at least one, low byte first, without one trailing NUL.
   std::string Decode(std::int32_t count) const {
     std::string bytes;
     for (const char16_t character : characters_) {
@@ -97,7 +97,7 @@ class LayoutText {
       bytes += static_cast<char>(character >> 8);
     }
     bytes.resize(std::min(bytes.size(), static_cast<std::size_t>(count)));
-    if (!bytes.empty() && bytes.back() == '\0') bytes.pop_back();
+    if (bytes.back() == '\0') bytes.pop_back();
     return FromCodePage(bytes);
   }
 

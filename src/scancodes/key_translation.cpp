@@ -42,23 +42,14 @@ std::size_t SelectPrintVariant() {
 
 /// The variants that the state of the modifier keys may decide.
 std::size_t SelectByModifiers(const Row& row, std::int32_t virtualKey) {
-  switch (row.rule) {
-    case Rule::Cursor:
-      return SelectCursorVariant();
-    case Rule::Divide:
-      if (virtualKey != virtualKeyDivide) return variant::DivideMainBlock;
-      return IsTrue(SampledState().bShiftDown) ? variant::DivideShift : variant::DividePlain;
-    case Rule::Print:
-      return SelectPrintVariant();
-    case Rule::NumLock:
-      if (virtualKey == virtualKeyNumLock) return variant::NumLockKey;
-      return IsTrue(SampledState().bCtrlDown) ? variant::PauseCtrl : variant::PausePlain;
-    case Rule::None:
-    case Rule::Fixed:
-    case Rule::Sided:
-      break;
+  if (row.rule == Rule::Cursor) return SelectCursorVariant();
+  if (row.rule == Rule::Print) return SelectPrintVariant();
+  if (row.rule == Rule::Divide) {
+    if (virtualKey != virtualKeyDivide) return variant::DivideMainBlock;
+    return IsTrue(SampledState().bShiftDown) ? variant::DivideShift : variant::DividePlain;
   }
-  return variant::Only;
+  if (virtualKey == virtualKeyNumLock) return variant::NumLockKey;
+  return IsTrue(SampledState().bCtrlDown) ? variant::PauseCtrl : variant::PausePlain;
 }
 
 constexpr std::int32_t extendedPrefix = 0xE0, breakPrefix = 0xF0;

@@ -277,5 +277,25 @@ TEST(MenuItem, WithADashIsASeparator) {
   EXPECT_TRUE(entry.Separator());
 }
 
+TEST(CommandButton, OneThatIsNotTheDefaultCannotTakeItAway) {
+  ButtonsForm form;
+  form.cmdA.Default(true);
+  form.cmdA.Cancel(true);
+  form.cmdB.Default(false);
+  form.cmdB.Cancel(false);
+  EXPECT_TRUE(form.cmdA.Default() && form.cmdA.Cancel());
+  form.cmdA.Default(false);
+  form.cmdA.Cancel(false);
+  EXPECT_FALSE(form.cmdA.Default() || form.cmdA.Cancel());
+}
+
+TEST(ComboBox, TellsWhetherItIsSorted) {
+  TestForm form;
+  ComboBox box(form, "cmbA");
+  EXPECT_FALSE(box.Sorted());
+  box.Sorted(true);
+  EXPECT_TRUE(box.Sorted());
+}
+
 }  // namespace
 }  // namespace plexel

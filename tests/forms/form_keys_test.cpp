@@ -289,5 +289,21 @@ TEST(Letters, AFrameWithNothingInItIsPassedOver) {
   });
 }
 
+TEST(Pages, AreTurnedOfTheStripThatCanBeUsed) {
+  struct StripsForm : TestForm {
+    TabStrip sstA{*this, "sstA", 2}, sstB{*this, "sstB", 2};
+    TextBox txtA{*this, "txtA"};
+    Hand hand{*this};
+  } form;
+  form.txtA.OnPage(form.sstA, 0);
+  WhileShown(form, [&] {
+    form.Focus(&form.txtA);
+    form.sstA.Enabled(false);
+    form.hand.Key(key::PageDown, key::ControlBit, 0);
+    EXPECT_EQ(form.sstA.Tab(), 0);
+    EXPECT_EQ(form.sstB.Tab(), 1);
+  });
+}
+
 }  // namespace
 }  // namespace plexel

@@ -102,5 +102,12 @@ TEST(GridShot, TellsWhetherAllComesIntoView) {
   EXPECT_EQ(form.Take().HeightBelow(), 0);
 }
 
+TEST(GridShot, APlaceWithoutWidthOrHeightIsEmpty) {
+  EXPECT_FALSE((GridPlace{0, 0, 1, 1}).IsEmpty());
+  EXPECT_TRUE((GridPlace{5, 5, 0, 1}).IsEmpty());
+  EXPECT_TRUE((GridPlace{5, 5, 1, 0}).IsEmpty());
+  EXPECT_TRUE((GridPlace{5, 5, 1, -1}).IsEmpty());
+}
+
 }  // namespace
 }  // namespace plexel

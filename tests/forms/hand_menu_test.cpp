@@ -91,5 +91,26 @@ TEST(CloseBox, UnloadsWithItsOwnReason) {
   EXPECT_EQ(form.Raised([&] { form.hand.Close(); }), (Strings{"QueryUnload 0", "Unload"}));
 }
 
+TEST(MenuChoice, IsMadeByTheLetterOfTheEntryWithoutCtrl) {
+  struct MenuForm : TestForm {
+    MenuItem mnuPopup{*this, "MNU_POPUP"}, mnuCopy{*this, "MNU_COPY"};
+    Hand hand{*this};
+  } form;
+  int picked = 0;
+  form.mnuCopy.Caption("&Copy");
+  form.mnuCopy.OnClick = [&] { ++picked; };
+  form.mnuPopup.Add(form.mnuCopy);
+  WhileShown(form, [&] {
+    form.OpenPopup(&form.mnuPopup);
+    form.hand.KeyDown('C', key::ControlBit);
+    EXPECT_EQ(form.OpenPopup(), nullptr);
+    EXPECT_EQ(picked, 0);
+    form.OpenPopup(&form.mnuPopup);
+    EXPECT_EQ(form.hand.KeyDown('C', 0), 'C');
+    EXPECT_EQ(form.OpenPopup(), nullptr);
+    EXPECT_EQ(picked, 1);
+  });
+}
+
 }  // namespace
 }  // namespace plexel

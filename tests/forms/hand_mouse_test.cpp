@@ -333,5 +333,16 @@ TEST(HandMouse, AFormThatClosesAsTheFocusComesTakesNoMore) {
   });
 }
 
+TEST(HandMouse, AFormThatAClickClosesIsNotClickedTwice) {
+  MouseForm form;
+  for (Control* const control : {static_cast<Control*>(&form.msgA), static_cast<Control*>(&form.sstA)}) {
+    control->OnClick = [&] { form.Unload(); };
+    control->OnDblClick = [] { ADD_FAILURE() << "a double click on a form that has closed"; };
+  }
+  WhileShown(form, [&] { form.hand.DblClick(form.msgA, 1, 1); });
+  WhileShown(form, [&] { form.hand.DblClickTab(form.sstA, 1); });
+  EXPECT_FALSE(form.IsShown());
+}
+
 }  // namespace
 }  // namespace plexel

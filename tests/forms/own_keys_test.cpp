@@ -338,17 +338,17 @@ TEST(ButtonKeys, SpaceLetGoElsewherePressesNothing) {
   });
 }
 
-TEST(OptionKeys, AnArrowInAFrameThatTheKeyTurnedOffPicksNothing) {
-  struct FrameForm : TestForm {
-    Frame fraA{*this, "fraA"};
+TEST(OptionKeys, AnArrowOnAPageThatTheKeyTurnedAwayPicksNothing) {
+  struct PagesForm : TestForm {
+    TabStrip sstA{*this, "sstA", 2};
     OptionButton opt0{*this, "opt", 0}, opt1{*this, "opt", 1};
     Hand hand{*this};
   } form;
-  form.opt0.Inside(form.fraA);
-  form.opt1.Inside(form.fraA);
+  form.opt0.OnPage(form.sstA, 0);
+  form.opt1.OnPage(form.sstA, 0);
   WhileShown(form, [&] {
     form.opt0.SetFocus();
-    form.opt0.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.fraA.Enabled(false); };
+    form.opt0.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.sstA.Tab(1); };
     form.hand.KeyDown(key::Down, 0);
     EXPECT_FALSE(form.opt1.Value());
   });

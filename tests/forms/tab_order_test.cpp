@@ -123,5 +123,19 @@ TEST(TabOrder, HoldsOneOptionButtonOfEachPage) {
   EXPECT_TRUE(form.opt0.Value()) << "the other page has a group of its own";
 }
 
+TEST(TabOrder, AnOptionButtonOfAPageThatIsNotInFrontStandsForNoOther) {
+  struct PagesForm : TestForm {
+    TabStrip sstA{*this, "sstA", 2};
+    OptionButton opt0{*this, "opt", 0}, opt1{*this, "opt", 1};
+  } form;
+  form.sstA.TabStop(false);
+  form.opt0.OnPage(form.sstA, 0);
+  form.opt1.OnPage(form.sstA, 1);
+  form.Focus(&form.opt0);
+  form.sstA.Tab(1);
+  ASSERT_EQ(form.Focus(), &form.opt0);
+  EXPECT_EQ(form.TabNeighbour(true), &form.opt1);
+}
+
 }  // namespace
 }  // namespace plexel
