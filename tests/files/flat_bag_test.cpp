@@ -74,5 +74,22 @@ TEST(FlatBag, StoringANewKeyRefusesOneThatIsThere) {
   EXPECT_EQ(bag.Size(), 2U);
 }
 
+TEST(FlatBag, IsAnotherWithOneValueMoreOfEitherKind) {
+  FlatBag one, other;
+  for (FlatBag* const bag : {&one, &other}) {
+    bag->Store("SizeX", std::int16_t{20});
+    bag->Store("Foreign", 1.5);
+  }
+  EXPECT_TRUE(one == other);
+  other.Store("Foreign too", 1.5);
+  EXPECT_FALSE(one == other);
+  one.Store("Foreign too", 2.5);
+  EXPECT_FALSE(one == other);
+  one.Store("Foreign too", 1.5);
+  EXPECT_TRUE(one == other);
+  one.Store("SizeY", std::int16_t{20});
+  EXPECT_FALSE(one == other);
+}
+
 }  // namespace
 }  // namespace plexel

@@ -347,5 +347,19 @@ TEST(ProjectFile, APanelStandsWhereTheFormatTellsAndNowhereElse) {
   EXPECT_TRUE(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\nLine=a\n"));
 }
 
+TEST(ProjectFile, CodesOfABufferThatDoesNotExistAreNotSavedAndNotPut) {
+  for (const std::int32_t buffer : {-1, 8}) {
+    Project project = SampleProject();
+    project.elements[1].codes = {{buffer, {}}};
+    EXPECT_THROW(FormatProject(project), Failure) << buffer;
+    udtTactisBaseElement_ScanCodeInfo record, untouched;
+    PutCodes({}, untouched);
+    SavedCodes codes{buffer, {}};
+    codes.codes.NextValue = 5;
+    PutCodes({codes}, record);
+    EXPECT_TRUE(record == untouched) << buffer;
+  }
+}
+
 }  // namespace
 }  // namespace plexel

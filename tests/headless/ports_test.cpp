@@ -178,5 +178,42 @@ TEST_F(Ports, EventsAreCounted) {
   EXPECT_EQ(platform.Events().Rounds(), 1);
 }
 
+TEST_F(Ports, AKeyIsClosedAsOftenAsItWasOpened) {
+  std::intptr_t key = 0;
+  EXPECT_EQ(platform.UserRegistry().OpenKey(Registry::CurrentUser, PositionKey, 0, 2, key), 0);
+  EXPECT_EQ(platform.UserRegistry().CloseKey(key), 0);
+  EXPECT_NE(platform.UserRegistry().SetValue(key, "A", 0, 1, "1", 1), 0);
+  EXPECT_NE(platform.UserRegistry().CloseKey(key), 0);
+  EXPECT_NE(platform.UserRegistry().CloseKey(key + 1), 0);
+  EXPECT_EQ(platform.UserRegistry().Find("A"), nullptr);
+}
+
+TEST_F(Ports, TheSampleLayoutHasDigitsOnBothBlocks) {
+  std::array<char16_t, 1> text{};
+  std::uint16_t word = 0;
+  for (char16_t digit = 0; digit < 10; ++digit) {
+    for (const int first : {0x30, 0x60}) {
+      EXPECT_EQ(platform.Layout().ToUnicode(first + digit, 0, text.data(), 1, 1), 1);
+      EXPECT_EQ(text[0], u'0' + digit);
+      EXPECT_EQ(platform.Layout().ToAscii(first + digit, 0, word, 1), 1);
+      EXPECT_EQ(word, u'0' + digit);
+    }
+  }
+  EXPECT_EQ(platform.Layout().ToUnicode(0x30, 0, text.data(), 0, 1), 0);
+  EXPECT_EQ(platform.Layout().ToAscii(0x70, 0, word, 1), 0);
+  for (const int other : {0x2F, 0x3A, 0x40, 0x5B, 0x5F}) {
+    EXPECT_EQ(platform.Layout().ToUnicode(other, 0, text.data(), 1, 1), 0) << other;
+  }
+}
+
+TEST_F(Ports, TheScreenAnswersInAContextAndToOneQuestion) {
+  const std::intptr_t context = platform.TheScreen().CreateInformationContext();
+  EXPECT_GT(platform.TheScreen().DeviceCapability(context, Screen::LogicalPixelsX), 0);
+  EXPECT_EQ(platform.TheScreen().DeviceCapability(context, Screen::LogicalPixelsX + 1), 0);
+  EXPECT_EQ(platform.TheScreen().DeviceCapability(0, Screen::LogicalPixelsX), 0);
+  platform.TheScreen().DeleteContext(0);
+  platform.TheScreen().DeleteContext(context);
+}
+
 }  // namespace
 }  // namespace plexel
