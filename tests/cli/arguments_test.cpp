@@ -95,5 +95,15 @@ TEST(Arguments, AMissingArgumentIsRefused) {
   EXPECT_THROW(arguments.Text(), CommandError);
 }
 
+TEST(Arguments, ANumberInJsonIsNoWordOfANumber) {
+  const std::vector<Word> number = {{"5", Json(5)}};
+  EXPECT_THROW(Arguments(number, 0).Single(), CommandError);
+  EXPECT_THROW(Arguments(number, 0).Object(), CommandError);
+  const std::vector<Word> word = {{"5", std::nullopt}};
+  EXPECT_THROW(Arguments(word, 0).Object(), CommandError);
+  const std::vector<Word> object = {{"{}", Json::object()}};
+  EXPECT_TRUE(Arguments(object, 0).Object().is_object());
+}
+
 }  // namespace
 }  // namespace plexel

@@ -135,5 +135,44 @@ TEST_F(ScriptRun, ElementsThatAreLeftEndWithTheScriptAndReportNothing) {
   std::free(text);
 }
 
+TEST_F(ScriptRun, WhatIsNoFieldOrNoNumberOfARecordIsRefused) {
+  const std::string put = "put {\"strLayer1PressScanCode\":{";
+  const std::vector<Json> answers =
+      Run("element A\n" + put + "\"Other\":1}}\n" + put + "\"NextValue\":2147483648}}\n" + put +
+          "\"NextValue\":-2147483649}}\n" + put + "\"NextValue\":18446744073709551615}}\n" + put +
+          "\"NextValue\":1.5}}\n" + put + "\"NextValue\":-2147483648}}\n" + put + "\"NextValue\":2147483647}}\n");
+  ASSERT_EQ(answers.size(), 8U);
+  EXPECT_EQ(answers[1]["error"], "a code buffer has no field Other");
+  for (const std::size_t place : {2U, 3U, 4U}) {
+    EXPECT_EQ(answers[place]["error"], "the value of NextValue is no number of 32 bits");
+  }
+  EXPECT_EQ(answers[5]["error"], "the value of NextValue is no whole number");
+  EXPECT_EQ(answers[6]["ok"], true);
+  EXPECT_EQ(answers[7]["ok"], true);
+}
+
+TEST_F(ScriptRun, ARecordIsSetAsAPropertyAndFloatsByWholeNumbersToo) {
+  const std::vector<Json> answers =
+      Run("element A\nset TactisBaseElementScanCodeBuffer {\"strLayer1PressString\":\"[a]\"}\nget PressKeyDefLayer1\n"
+          "set TactisBaseElementScanCodeBuffer 5\nset DPIFontScaleFactor 2\nget DPIFontScaleFactor\n"
+          "set DPIFontScaleFactor {}\nset ParentWindow object\nget ParentWindow\n");
+  ASSERT_EQ(answers.size(), 9U);
+  EXPECT_EQ(answers[2]["value"], "[a]");
+  EXPECT_EQ(answers[3]["error"], "\"5\" is no JSON object");
+  EXPECT_EQ(answers[5]["value"], 2);
+  EXPECT_EQ(answers[6]["error"], "a JSON value is no value of a property");
+  EXPECT_EQ(answers[8]["value"], Json());
+}
+
+TEST_F(ScriptRun, NumbersOfABagOutside32BitsAreFloats) {
+  const std::vector<Json> answers =
+      Run("read A {\"OriginalPosX\":2147483647}\nget OriginalPosX\nread B {\"OriginalPosX\":-2147483648}\nget "
+          "OriginalPosX\n"
+          "read C {\"OriginalPosX\":2147483648}\nread D {\"OriginalPosX\":-2147483649}\n");
+  ASSERT_EQ(answers.size(), 6U);
+  EXPECT_EQ(answers[1]["value"], 2147483647);
+  EXPECT_EQ(answers[3]["value"], -2147483648LL);
+}
+
 }  // namespace
 }  // namespace plexel
