@@ -1,5 +1,7 @@
 #include "project/pasting.h"
 
+#include <functional>
+
 #include "files/file_error.h"
 #include "project/open_document.h"
 
@@ -175,6 +177,20 @@ TEST_F(Paste, AForeignTextIsRefusedWithItsPlace) {
   const std::string wrong = R"({"format":1,"panel":{"name":"x"},"elements":[{"place":"a","properties":)"
                             R"({"LedType1":{"string":"red"}}}]})";
   EXPECT_THROW(DefinitionsIn(wrong), FileError);
+}
+
+TEST_F(Paste, WhatIsSentInAnyWayDoesNotFitAnLed) {
+  const auto misfits = [this](const std::function<void(ElementRecord&)>& change) {
+    ElementRecord record = EmptyDefinition();
+    change(record);
+    return Pasting(*document, {record}, Places({"L1"})).Misfits();
+  };
+  const std::vector<Misfit> none, noKey = {{Kind::NoKey, "L1", 2, ""}};
+  EXPECT_EQ(misfits([](ElementRecord&) {}), none);
+  EXPECT_EQ(misfits([](ElementRecord& record) { record.strLayer2PressString = "[a]"; }), noKey);
+  EXPECT_EQ(misfits([](ElementRecord& record) { record.strLayer2ReleaseString = "[a]"; }), noKey);
+  EXPECT_EQ(misfits([](ElementRecord& record) { record.strLayer2PressScanCode.NextValue = 1; }), noKey);
+  EXPECT_EQ(misfits([](ElementRecord& record) { record.strLayer2ReleaseScanCode.NextValue = 1; }), noKey);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 namespace plexel {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -227,6 +228,35 @@ TEST(PanelSvg, PlacesAreShownWhereTheLegendIsAnother) {
   panel.parts[0].legend = "R1";
   const std::string svg = PanelSvg(panel, PanelPlaces::Shown);
   EXPECT_EQ(svg.find(">R1</text>"), svg.rfind(">R1</text>"));
+}
+
+TEST(PanelSvg, ALegendStandsAtTheSideOfItsAlignment) {
+  Panel panel;
+  panel.parts.resize(1);
+  panel.parts[0].kind = PanelPartKind::Legend;
+  panel.parts[0].box = {10, 0, 40, 40};
+  panel.parts[0].legend = "a";
+  const auto drawn = [&](LegendAlignment alignment) {
+    panel.parts[0].legendAlignment = alignment;
+    return PanelSvg(panel);
+  };
+  EXPECT_THAT(drawn(LegendAlignment::Left), AllOf(HasSubstr("x=\"10.00\""), HasSubstr("text-anchor=\"start\"")));
+  EXPECT_THAT(drawn(LegendAlignment::Right), AllOf(HasSubstr("x=\"50.00\""), HasSubstr("text-anchor=\"end\"")));
+  EXPECT_THAT(drawn(LegendAlignment::Center), AllOf(HasSubstr("x=\"30.00\""), HasSubstr("text-anchor=\"middle\"")));
+}
+
+TEST(PanelSvg, AnLedIsRoundWhenItsCornersAreOrItIsASquare) {
+  Panel panel;
+  panel.parts.resize(1);
+  panel.parts[0].kind = PanelPartKind::Led;
+  const auto drawn = [&](PanelBox box, int radius) {
+    panel.parts[0].box = box;
+    panel.parts[0].cornerRadius = radius;
+    return PanelSvg(panel);
+  };
+  EXPECT_THAT(drawn({0, 0, 10, 10}, 0), HasSubstr("<ellipse"));
+  EXPECT_THAT(drawn({0, 0, 20, 10}, 5), HasSubstr("<ellipse"));
+  EXPECT_THAT(drawn({0, 0, 20, 10}, 0), Not(HasSubstr("<ellipse")));
 }
 
 }  // namespace
