@@ -100,7 +100,7 @@ void Hand::KeyUp(std::int16_t keyCode, std::int16_t) {
   if (keyCode != key::Space) return;
   Control* const armed = form_.Armed();
   form_.Armed(nullptr);
-  if (armed != nullptr && armed->Usable()) Press(*armed);
+  if (armed != nullptr && armed == form_.Focus() && armed->Usable()) Press(*armed);
 }
 
 }  // namespace plexel

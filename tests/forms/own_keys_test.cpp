@@ -364,5 +364,22 @@ TEST(OptionKeys, AnArrowThatClosesTheFormPicksNothing) {
   EXPECT_FALSE(form.opt1.Value());
 }
 
+TEST(ButtonKeys, SpaceOnAButtonThatGaveTheFocusAwayPressesNothing) {
+  struct TwoButtons : TestForm {
+    CommandButton cmdA{*this, "cmdA"}, cmdB{*this, "cmdB"};
+    Hand hand{*this};
+  } form;
+  WhileShown(form, [&] {
+    for (CommandButton* const button : {&form.cmdA, &form.cmdB}) {
+      button->OnClick = [] { ADD_FAILURE() << "a button was pressed"; };
+    }
+    form.cmdA.OnKeyDown = [&](std::int16_t&, std::int16_t) { form.cmdB.SetFocus(); };
+    form.cmdA.SetFocus();
+    form.hand.KeyDown(key::Space, 0);
+    EXPECT_EQ(form.Focus(), &form.cmdB);
+    form.hand.KeyUp(key::Space, 0);
+  });
+}
+
 }  // namespace
 }  // namespace plexel
