@@ -29,12 +29,8 @@ BagValue Converted(PropertyType type, const BagValue& value) {
         return BagToUInt8(value);
       case PropertyType::Bool:
         return BagToBoolean(value);
-      case PropertyType::String:
+      default:  // a text, since nothing else is stored
         return BagToString(value);
-      case PropertyType::Double:
-      case PropertyType::Object:
-      case PropertyType::Record:
-        break;
     }
   } catch (const Failure&) {  // what an element cannot read is compared as it stands
   }

@@ -35,8 +35,6 @@ class ElementChange {
   ElementChange(const ElementValues& wanted, const ElementValues& held);
 
   bool IsEmpty() const { return properties_.empty() && !codes_; }
-  /// Whether the code bytes are among the values.
-  bool HasCodes() const { return codes_.has_value(); }
   /// Gives the element these values, through its setters, and keeps those that it had. The tick of a defined element
   /// follows.
   void Exchange(ctlPlexelBaseElement& element);

@@ -30,11 +30,9 @@ std::size_t VariantOf(const Row& row, const KeyEvent& event, bool ctrl, bool alt
     case Rule::NumLock:
       if (event.virtualKey == virtualKeyNumLock) return variant::NumLockKey;
       return ctrl ? variant::PauseCtrl : variant::PausePlain;
-    case Rule::None:
-    case Rule::Fixed:
-      break;
+    default:
+      return variant::Only;
   }
-  return variant::Only;
 }
 
 /// The keys that go down by the bytes of a key.

@@ -108,11 +108,9 @@ PatternWords WordsOf(const Problem& problem, std::string_view with) {
       return {Joined(distinct(), ", ", LedName), std::string(with)};
     case ProblemRule::NumberTwice:
       return {Joined(problem.values, ", ", Number), std::string(with)};
-    case ProblemRule::NoBytes:
-    case ProblemRule::NoText:
-      break;
+    default:  // of no bytes and of no text the pattern tells all
+      return {};
   }
-  return {};
 }
 
 std::string_view PatternOf(const Problem& problem, const ProblemWords& words) {

@@ -37,7 +37,6 @@ class KeySearch {
  public:
   explicit KeySearch(const std::vector<KeyCode>& keys = {});
   bool IsEmpty() const { return keys_.empty(); }
-  const std::vector<KeyCode>& Keys() const { return keys_; }
 
   /// Where a layer sends them: when the last of them goes down.
   struct Found {
