@@ -66,10 +66,8 @@ void RecoveryKeeper::Changed(std::span<const std::size_t> places) {
 bool RecoveryKeeper::Work(std::size_t elements) {
   if (!due_) return false;
   if (document_ != nullptr && document_->Modified()) {
-    if (stale_.empty() && std::ranges::find(sections_, nullptr) != sections_.end()) {
-      for (std::size_t place = 0; place < sections_.size(); ++place) {
-        if (sections_[place] == nullptr) stale_.insert(stale_.end(), place);
-      }
+    if (stale_.empty() && std::ranges::find(sections_, nullptr) != sections_.end()) {  // then none is made yet
+      for (std::size_t place = 0; place < sections_.size(); ++place) stale_.insert(stale_.end(), place);
     }
     for (; elements > 0 && !stale_.empty(); --elements) {
       const std::size_t place = *stale_.begin();
@@ -99,8 +97,7 @@ void RecoveryKeeper::HandOver() {
 }
 
 void RecoveryKeeper::Flush() {
-  while (Work(sections_.size())) {
-  }
+  Work(sections_.size());
   writer_->Wait();
 }
 

@@ -46,8 +46,8 @@ std::string PlaceOf(const Problem& problem, const ReportWords& words) {
   for (const std::int32_t layer : problem.layers) layers += (layers.empty() ? "" : "+") + std::to_string(layer);
   const bool one = problem.layers.size() == 1;
   std::string place = layers.empty() ? layers : words.With(one ? ReportWord::OnLayer : ReportWord::OnLayers, layers);
-  if (problem.direction) {
-    place += (place.empty() ? "" : ", ") + words.problems.directions[static_cast<std::size_t>(*problem.direction)];
+  if (problem.direction) {  // which is one of a layer
+    place += ", " + words.problems.directions[static_cast<std::size_t>(*problem.direction)];
   }
   return place;
 }

@@ -47,12 +47,9 @@ void SharedValues::Add(std::uint32_t element, std::span<const SharedValue> value
 
 void SharedValues::Remove(std::uint32_t element, std::span<const SharedValue> values) {
   for (const SharedValue& value : values) {
-    const auto found = holders_.find(value);
-    if (found == holders_.end()) continue;
-    Elements& holders = found->second;
-    const auto place = std::ranges::lower_bound(holders, element);
-    if (place != holders.end() && *place == element) holders.erase(place);
-    if (holders.empty()) holders_.erase(found);
+    Elements& holders = holders_.at(value);
+    holders.erase(std::ranges::lower_bound(holders, element));
+    if (holders.empty()) holders_.erase(value);
   }
 }
 

@@ -35,7 +35,7 @@ std::vector<TimeRow> TimeRows(std::span<const KeyReport> reports, std::span<cons
     TimeRow& row = RowOf(rows, KindOf(report), report.code);
     if (row.marks.empty()) row.marks.assign(event, report.wasDown ? TimeMark::Held : TimeMark::Idle);
     if (row.marks.size() < event) row.marks.resize(event, Behind(row.marks.back()));
-    if (row.marks.size() == event) row.marks.push_back(MarkOf(report.deed));
+    row.marks.push_back(MarkOf(report.deed));
   }
   for (TimeRow& row : rows) {
     if (row.marks.size() < reports.size()) row.marks.resize(reports.size(), Behind(row.marks.back()));

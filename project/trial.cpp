@@ -11,11 +11,8 @@ namespace {
 
 /// The layer that a command byte calls, 0 for none.
 std::int32_t LayerOfCommand(KeyCode byte) {
-  for (const SpecialFunction& one : SpecialFunctions()) {
-    if (one.code != byte) continue;
-    if (one.function == Layer2) return 2;
-    if (one.function == Layer3) return 3;
-    return one.function == Layer4 ? 4 : 0;
+  for (const enumSpecialKeyFunctions function : {Layer2, Layer3, Layer4}) {
+    if (SpecialFunctions()[function].code == byte) return function - Layer2 + 2;
   }
   return 0;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/ascii.h"
+
 namespace plexel {
 
 namespace {
@@ -35,7 +37,7 @@ constexpr auto rows = std::to_array<CharacterRow>(
      {0xE04A, '/', '/'},   {0xE05A, '\n', '\n'}});
 static_assert(std::ranges::is_sorted(rows, {}, &CharacterRow::code));
 
-constexpr bool IsLetter(char character) { return character >= 'a' && character <= 'z'; }
+constexpr bool IsLetter(char character) { return ascii::Upper(character) != character; }
 
 }  // namespace
 
