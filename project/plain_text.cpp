@@ -49,7 +49,8 @@ std::string MarkupText(std::string_view text) {
     if (const std::string_view reference = ReferenceOf(next.character); !reference.empty()) {
       markup += reference;
     } else {
-      markup += next.broken || !IsInXml(next.character) ? Replacement : text.substr(0, next.length);
+      const bool stays = !next.broken && IsInXml(next.character);
+      markup += stays ? text.substr(0, next.length) : Replacement;
     }
     text.remove_prefix(next.length);
   }

@@ -22,8 +22,9 @@ TypedJson ToJson(std::uint8_t value) { return {project_syntax::UInt8, NumberText
 TypedJson ToJson(Boolean value) { return {project_syntax::BooleanType, NumberText(value.Value())}; }
 TypedJson ToJson(double value) {
   if (!std::isfinite(value)) return {project_syntax::Double, '"' + NumberText(value) + '"'};
+  const bool isMinusZero = value == 0 && std::signbit(value);
   // A whole number would come back without its sign.
-  return {project_syntax::Double, value == 0 && std::signbit(value) ? "-0.0" : NumberText(value)};
+  return {project_syntax::Double, isMinusZero ? "-0.0" : NumberText(value)};
 }
 TypedJson ToJson(const std::string& value) {
   TypedJson typed{project_syntax::Text, {}};

@@ -161,7 +161,8 @@ std::string_view FixedKeyName(std::int32_t lngVirtualKey, std::int32_t lngScanCo
       return lngExtended == 1 ? "Alt Gr" : "Alt";
     default: {
       const auto* found = std::ranges::lower_bound(keyNames, lngVirtualKey, {}, &KeyName::virtualKey);
-      return found != std::end(keyNames) && found->virtualKey == lngVirtualKey ? found->name : std::string_view();
+      const bool named = found != std::end(keyNames) && found->virtualKey == lngVirtualKey;
+      return named ? found->name : std::string_view();
     }
   }
 }
