@@ -36,8 +36,8 @@ class NameIndex {
     for (std::size_t slot = FirstSlot(name); slots_[slot] != Free; slot = (slot + 1) % SlotCount) {
       const std::string_view candidate = names_[slots_[slot]];
       // The element asks with the very texts of its table. Where constants lie, the compiler does not know.
-      if (!std::is_constant_evaluated() && candidate.data() == name.data() && candidate.size() == name.size()) {
-        return slots_[slot];
+      if (!std::is_constant_evaluated()) {
+        if (candidate.data() == name.data() && candidate.size() == name.size()) return slots_[slot];
       }
       if (candidate == name) return slots_[slot];
     }

@@ -74,10 +74,9 @@ inline void Write(const KeySequences& key, KeyCodes& codes) {
       breaking.codes[2] = code;
       breaking.length = 3;
       break;
-    case Form::Listed:
+    default:  // listed
       key.make.WriteTo(make);
       key.breaking.WriteTo(breaking);
-      break;
   }
 }
 
