@@ -198,6 +198,12 @@ TEST(Exchange, WhatTheSchemaRefusesIsRefusedWithItsPlace) {
             "f.json: /elements/0/properties/: is a value without a key");
   EXPECT_EQ(FaultOf(WithElement("\"properties\":{\"a\":{\"string\":\"\uFFFD4\"}}")),
             "f.json: /elements/0/properties/a/string: must have bytes in hexadecimal behind U+FFFD");
+  EXPECT_EQ(FaultOf(WithElement("\"properties\":{\"\uFFFD4\":{\"int16\":1}}")),
+            "f.json: /elements/0/properties/\uFFFD4: must have bytes in hexadecimal behind U+FFFD");
+}
+
+TEST(Exchange, APlaceShowsNoControlCharacters) {
+  EXPECT_EQ(FaultOf(R"({"\u0001\u001f \u007f~\u00e4":1})"), "f.json: /?? ?~0\u00E4: is unknown here");
 }
 
 TEST(Exchange, AValueOutsideItsTypeIsRefused) {
@@ -230,8 +236,9 @@ TEST(Exchange, AFaultyBufferIsRefused) {
   EXPECT_EQ(FaultOf(WithCodes(codes + "," + codes)), "f.json: /elements/0/codes/1/buffer: stands twice");
   std::string many = "00";
   for (int count = 1; count < 90; ++count) many += " 00";
-  for (const std::string& bytes : {std::string("F"), std::string("FF "), std::string(" FF"), std::string("FFFF"),
-                                   std::string("FF  FF"), std::string("GG"), std::string("FF FF F"), many}) {
+  for (const std::string& bytes :
+       {std::string("F"), std::string("FF "), std::string(" FF"), std::string("FFFF"), std::string("FF  FF"),
+        std::string("FF-FF"), std::string("GG"), std::string("FF FF F"), many}) {
     EXPECT_THAT(FaultOf(WithCodes("{" + press + R"(,"next":0,"bytes":")" + bytes + "\"}")),
                 StartsWith("f.json: /elements/0/codes/0/bytes: must be a row"))
         << bytes;
@@ -247,6 +254,8 @@ TEST(Exchange, ATextTooLongForAProjectFileIsRefusedWithItsPlace) {
             "f.json: /panel/name: is too long for a project");
   EXPECT_EQ(FaultOf(R"({"format":1,"panel":{"name":""},"elements":[{"place":")" + text + R"(","properties":{}}]})"),
             "f.json: /elements/0/place: is too long for a project");
+  EXPECT_EQ(FaultOf(R"({"format":1,"panel":{"name":"P","text":["a",")" + text + R"("]},"elements":[]})"),
+            "f.json: /panel/text/1: is too long for a project");
   EXPECT_EQ(FaultOf(WithElement(R"("properties":{"ButtonNotes":{"string":")" + text.substr(100) + "\"}}")), "nothing");
 }
 

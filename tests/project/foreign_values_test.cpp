@@ -63,6 +63,17 @@ TEST_F(ForeignValuesOf, AFloatThatIsNoNumberIsNoChange) {
   EXPECT_FALSE(document->Modified());
 }
 
+TEST(ForeignValue, IsAnotherOneByItsKeyItsTypeOrTheBitsOfItsFloat) {
+  const ForeignValue one{"x", 1.5};
+  EXPECT_EQ(one, (ForeignValue{"x", 1.5}));
+  EXPECT_NE(one, (ForeignValue{"y", 1.5}));
+  EXPECT_NE(one, (ForeignValue{"x", 2.5}));
+  EXPECT_NE((ForeignValue{"x", 1.0}), (ForeignValue{"x", std::int32_t{1}}));
+  EXPECT_NE((ForeignValue{"x", std::int32_t{1}}), (ForeignValue{"x", 1.0}));
+  EXPECT_NE((ForeignValue{"x", std::int32_t{1}}), (ForeignValue{"y", std::int32_t{1}}));
+  EXPECT_NE((ForeignValue{"x", 0.0}), (ForeignValue{"x", -0.0}));
+}
+
 TEST_F(ForeignValuesOf, AreTakenOverAndTakenBackAsAStep) {
   PutForeign("F3", "Their key", std::string("new"));
   PutForeign("F5", "Third", std::int32_t{1});

@@ -117,6 +117,14 @@ TEST_F(Undo, InsideAStepNothingIsTakenBack) {
   EXPECT_EQ(document->Steps().ToUndo().name.element, "F4");
 }
 
+TEST_F(Undo, InsideAStepNothingIsDoneAgain) {
+  Change({"F3"}, [&] { Element("F3").ButtonNotes("a"); });
+  document->Undo();
+  Change({"F4"}, [&] { document->Redo(); });
+  EXPECT_EQ(Element("F3").ButtonNotes(), "");
+  EXPECT_TRUE(document->Steps().CanRedo());
+}
+
 TEST_F(Undo, WhatAFailureLeavesBehindIsAStep) {
   const auto fail = [&] {
     Element("F3").ButtonNotes("half");

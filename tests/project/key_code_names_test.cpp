@@ -80,6 +80,7 @@ TEST_F(KeyCodeNames, SomeAreAsPeopleKnowThem) {
 TEST_F(KeyCodeNames, ACodeWithoutAKeyIsItsOwnName) {
   EXPECT_EQ(KeyNameOf(0xE023), "E0 23");
   EXPECT_EQ(KeyNameOf(0x02), "02");
+  EXPECT_EQ(KeyNameOf(PauseKey + 1), "E1 14 78");
 }
 
 TEST_F(KeyCodeNames, PanelFunctionsHaveTheNamesOfTheirEnumeration) {

@@ -63,6 +63,14 @@ TEST_F(Stroke, ARepeatChangesNothing) {
   EXPECT_EQ(Pressed({KeyA}), "a");
 }
 
+TEST_F(Stroke, AKeyThatGoesDownAgainInAChordCountsOnce) {
+  Key(evdev::LeftCtrl, true);
+  Key(KeyA, true);
+  Key(KeyA, false);
+  Key(KeyA, true);
+  EXPECT_EQ(stroke.Keys(), (std::vector<KeyCode>{0x14, 0x1C}));
+}
+
 TEST_F(Stroke, TellsTheCursorBlockFromTheNumberPad) {
   EXPECT_EQ(Pressed({Home}), KeyNameOf(0xE06C));
   EXPECT_EQ(Pressed({Left}), KeyNameOf(0xE06B));

@@ -20,5 +20,52 @@ TEST_F(LedsOfADocument, AreDefinedInTheLayersInWhichAnElementShowsThem) {
   }
 }
 
+using PlacesOfADocument = OpenDocument;
+
+TEST_F(PlacesOfADocument, AnElementThatIsNotOnThePanelHasNone) {
+  EXPECT_EQ(document->PlaceOf(Element("F3")), static_cast<int>(PlaceOf("F3")));
+  EXPECT_EQ(document->PlaceOf(*world.component.Create("F3", world.host)), -1);
+}
+
+class OtherDocument : public OpenDocument {
+ protected:
+  Project Carrying() {
+    Project project = document->Content();
+    project.panelText = ReadPanelText(DataDirectory() / "panels/Large.panel");
+    return project;
+  }
+};
+
+TEST_F(OtherDocument, OfAnotherPanelHasOtherElements) {
+  EXPECT_TRUE(document->HasElementsOf(*PanelDocument::New("Large", Site())));
+  EXPECT_FALSE(document->HasElementsOf(*PanelDocument::New("Small", Site())));
+  Project renamed = Carrying();
+  renamed.panel = "Renamed";
+  EXPECT_FALSE(document->HasElementsOf(*PanelDocument::Of(renamed, "a.plexel", Site())));
+}
+
+TEST_F(OtherDocument, ThatCarriesItsPanelBringsItAlong) {
+  const auto other = PanelDocument::Of(Carrying(), "a.plexel", Site());
+  document->Become(StepKind::TakeOver, *other);
+  EXPECT_EQ(document->CarriedPanel(), Carrying().panelText);
+  document->Become(StepKind::TakeOver, *PanelDocument::New("Large", Site()));
+  EXPECT_TRUE(document->CarriesPanel()) << "one that carries none takes none away";
+}
+
+TEST_F(OtherDocument, CodesOfABufferThatThereIsNotArePassedOver) {
+  SavedCodes codes{0, InitialCodes()};
+  codes.codes.Value[1] = 0x1C;
+  codes.codes.NextValue = 1;
+  Project project = document->Content();
+  for (const std::int32_t buffer : {-1, 8, 7}) {
+    codes.buffer = buffer;
+    project.elements.at(PlaceOf("F3")).codes.push_back(codes);
+  }
+  const auto other = PanelDocument::Of(project, "a.plexel", Site());
+  udtTactisBaseElement_ScanCodeInfo expected = Element("F3").TactisBaseElementScanCodeBuffer();
+  *ReleaseBuffer(expected, LayerCount) = codes.codes;
+  EXPECT_EQ(other->Places()[PlaceOf("F3")].element->TactisBaseElementScanCodeBuffer(), expected);
+}
+
 }  // namespace
 }  // namespace plexel

@@ -374,6 +374,19 @@ TEST_F(ProblemsTest, AnotherLanguageBringsItsOwnWords) {
   EXPECT_EQ(problems.Text(problems.All().front(), words), "Loslassen: 00, 100%");
 }
 
+TEST_F(ProblemsTest, AllKeysOfAProblemAreTold) {
+  Define(Add(Rect), 1, {0x14, 0x1C, 0xFF}, {});
+  const Problems problems(Order());
+  EXPECT_TRUE(problems.Text(Only()).starts_with("Ctrl Left, a is still down")) << problems.Text(Only());
+}
+
+TEST_F(ProblemsTest, WordsThatAskForTheDirectionOfAProblemWithoutOneTellNone) {
+  Define(Add(Rect), 1, {0x14, 0xFF}, {});
+  ProblemWords words = EnglishProblemWords();
+  words.patterns[static_cast<std::size_t>(Rule::Held)] = "%1(%d)";
+  EXPECT_EQ(Problems(Order()).Text(Only(), words), "Ctrl Left()");
+}
+
 TEST_F(ProblemsTest, ARecheckOfAStrangerFindsNothing) {
   Add(Rect);
   Problems problems(Order());

@@ -2,7 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <atomic>
+#include <fstream>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -120,6 +123,29 @@ TEST(ReadAheadThread, IsStartedForMoreThanAPortionOnly) {
     EXPECT_EQ(ReadAll(reader).elements.size(), count);
     EXPECT_EQ(started, count > Portion ? 1 : 0);
   }
+}
+
+/// Whether a thread of this program waits.
+bool Waits(pid_t thread) {
+  std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
+  std::string number, name, state;
+  file >> number >> name >> state;
+  return state == "S";
+}
+
+TEST(ReadAheadThread, GoesOnWhenThereIsRoomAgain) {
+  constexpr std::size_t count = 20 * Portion;
+  const TextFile file("a.plexel", FormatProject(Made(count)));
+  std::atomic<pid_t> thread = 0;
+  ProjectReadAhead reader(file, [&thread](std::function<void()> run) {
+    return std::thread([&thread, run = std::move(run)] {
+      thread = ::gettid();
+      run();
+    });
+  });
+  ASSERT_NE(reader.Next(), nullptr);
+  while (!Waits(thread)) std::this_thread::yield();
+  EXPECT_EQ(ReadAll(reader).elements.size(), count - 1);
 }
 
 TEST(ReadAheadThread, AnEmptyProjectHasNone) {

@@ -50,7 +50,7 @@ TEST_F(Recovery, AnUnmodifiedProjectHasNoFile) {
 }
 
 TEST_F(Recovery, TheFileHoldsTheWholeProjectItsNameAndTheTime) {
-  const auto file = directory.Path() / "a % name\n.plexel";
+  const auto file = directory.Path() / "a % name\n~\x7F\u00E4.plexel";
   document->Save(file);
   Watch();
   Note("F3", "unsaved");
@@ -85,6 +85,18 @@ TEST_F(Recovery, SmallPortionsMakeTheSameFile) {
   }
   EXPECT_GE(portions, 46 / 7);
   keeper.Flush();
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
+TEST_F(Recovery, WhenTheProjectHasAnotherFileNoTextIsMadeAnew) {
+  Watch();
+  Note("F3", "a");
+  keeper.Flush();
+  document->FileIsLost(directory.Path() / "b.plexel");
+  keeper.Saved();
+  EXPECT_FALSE(keeper.Work(0)) << "nothing is left to be made";
+  keeper.Flush();
+  EXPECT_EQ(Kept().head.file, directory.Path() / "b.plexel");
   EXPECT_EQ(Kept().project, document->Content());
 }
 
@@ -176,6 +188,23 @@ TEST_F(LostWorkFound, BehindAProgramThatWasKilled) {
   EXPECT_TRUE(damaged.empty());
 }
 
+TEST_F(LostWorkFound, OfAProgramThatHadTheSameNumberStays) {
+  const std::string first = std::to_string(::getpid()) + "-1.recovery";
+  PutLost(first, 10);
+  const RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
+  EXPECT_NE(keeper.File(), Store() / first);
+  const std::vector<LostWork> lost = FindLostWork(Store(), damaged);
+  ASSERT_EQ(lost.size(), 1U);
+  EXPECT_EQ(lost.front().source, Store() / first);
+}
+
+TEST_F(LostWorkFound, WhateverCannotBeLockedBesideIt) {
+  std::filesystem::create_directory(Store() / "1-1.lock");
+  PutLost("1-3.recovery", 10);
+  EXPECT_EQ(FindLostWork(Store(), damaged).size(), 1U);
+  EXPECT_THAT(damaged, ::testing::IsEmpty());
+}
+
 TEST_F(LostWorkFound, NotBehindAProgramThatRuns) {
   RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
   Watch(keeper);
@@ -203,8 +232,13 @@ TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
   std::ofstream(Store() / "1-5.recovery") << "[RECOVERY]\nFormat=1\nFile=a%00\nTime=1";
   std::ofstream(Store() / "1-6.recovery") << "";
   PutLost("1-7.recovery", 20);
+  for (const char* const broken : {"%G0", "%0G"}) {
+    std::ofstream(Store() / ("1-8" + std::string(broken) + ".recovery"))
+        << "[RECOVERY]\nFormat=1\nFile=" << broken << "\nTime=1\n"
+        << FormatProject(document->Content());
+  }
   EXPECT_EQ(FindLostWork(Store(), damaged).size(), 1U);
-  EXPECT_EQ(damaged.size(), 6U);
+  EXPECT_EQ(damaged.size(), 8U);
   EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.recovery"));
 }
 
@@ -216,12 +250,13 @@ TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
   std::ofstream(Store() / "1-2.recovery.1-0.new") << "half";
   PutLost("1-3.recovery", 10);
   std::ofstream(Store() / (mine + ".recovery.9-0.new")) << "being written";
+  std::ofstream(Store() / "a.plexel.9-0.new") << "of no recovery file";
   const auto lost = FindLostWork(Store(), damaged);
   EXPECT_EQ(lost.size(), 1U);
   std::vector<std::string> left;
   for (const auto& entry : std::filesystem::directory_iterator(Store())) left.push_back(entry.path().filename());
-  EXPECT_THAT(left,
-              ::testing::UnorderedElementsAre("1-3.recovery", "1-3.lock", mine + ".lock", mine + ".recovery.9-0.new"));
+  EXPECT_THAT(left, ::testing::UnorderedElementsAre("1-3.recovery", "1-3.lock", mine + ".lock",
+                                                    mine + ".recovery.9-0.new", "a.plexel.9-0.new"));
 }
 
 TEST_F(LostWorkFound, EveryCutOfAFileIsDamage) {

@@ -84,6 +84,33 @@ TEST_F(ReportOfDocument, EachKindHasTheNumbersOfItsParts) {
   EXPECT_EQ(RowOf("R1", 1).ledNumber, "");
 }
 
+TEST_F(ReportOfDocument, AnElementOfNoKnownKindHasEveryNumber) {
+  for (const std::int32_t kind : {Led - 1, Key + 1}) {
+    Element("R1").ElementType(static_cast<enumTactisBaseElementType>(kind));
+    EXPECT_EQ(RowOf("R1", 1).kind, "unknown");
+    EXPECT_EQ(RowOf("R1", 1).buttonNumber, std::to_string(Element("R1").HardwareNumberButton()));
+    EXPECT_EQ(RowOf("R1", 1).ledNumber, std::to_string(Element("R1").HardwareNumberLed()));
+  }
+}
+
+TEST_F(ReportOfDocument, TheBytesEndWhereTheBufferDoes) {
+  udtTactisBaseElement_ScanCodeInfo record = Element("F1").TactisBaseElementScanCodeBuffer();
+  record.strLayer1PressScanCode.NextValue = 1000;
+  Element("F1").TactisBaseElementScanCodeBuffer(record);
+  EXPECT_EQ(RowOf("F1", 1).pressBytes.size(), 3 * record.strLayer1PressScanCode.Value.size() - 1);
+}
+
+TEST_F(ReportOfDocument, AProblemTellsAllItsLayersOrNone) {
+  for (const char* const id : {"L1", "L2"}) {
+    Element(id).LEDTypeLayer1(UserLed);
+    Element(id).LEDTypeLayer3(UserLed);
+    Element(id).HardwareNumberLed(200);
+  }
+  std::vector<std::string> places;
+  for (const ReportProblem& problem : Made().problems) places.push_back(problem.place);
+  EXPECT_THAT(places, testing::IsSupersetOf({"layers 1+3", "layer 3", ""}));
+}
+
 TEST_F(ReportOfDocument, ProblemsAreTold) {
   EXPECT_TRUE(Made().problems.empty());
   Element("F1").PressKeyDefLayer(2, "[a\u2039]");
@@ -119,6 +146,8 @@ TEST_F(ReportOfDocument, AnotherLanguageBringsItsOwnWords) {
   EXPECT_THAT(html, HasSubstr("<html lang=\"xx\">"));
   EXPECT_THAT(html, HasSubstr("up [a\u203A]</dd>"));
   EXPECT_THAT(html, HasSubstr("<td class=\"error\">Grave</td>"));
+  world.surroundings.Language().Set(20914, "without the number");
+  EXPECT_EQ(ReportOf(*document, "a.plexel", ReportWordsInForce()).problems[0].place, "without the number, Down");
   const std::string csv = ReportCsv(report);
   EXPECT_THAT(csv, StartsWith("\uFEFFPlace,kind,"));
   EXPECT_THAT(csv, HasSubstr("F1,Kind,2,"));
@@ -188,6 +217,26 @@ TEST(ReportHtml, AnElementWithoutAnythingStandsInTheTableAlone) {
   const std::string html = ReportHtml(OneRow(WithPress("")).report);
   EXPECT_THAT(html, Not(HasSubstr("<dt>")));
   EXPECT_THAT(html, HasSubstr("<b>F1</b>"));
+}
+
+TEST(ReportHtml, EachTextOrByteOfALayerMakesItALine) {
+  for (std::string ReportRow::* const text :
+       {&ReportRow::press, &ReportRow::release, &ReportRow::pressBytes, &ReportRow::releaseBytes, &ReportRow::led}) {
+    OneRow one(WithPress(""));
+    one.report.rows.push_back(one.report.rows.front());
+    one.report.rows.front().layer = 3;
+    EXPECT_THAT(ReportHtml(one.report), Not(HasSubstr("<td>3</td>")));
+    one.report.rows.front().*text = "x";
+    EXPECT_THAT(ReportHtml(one.report), HasSubstr("<td>3</td>"));
+  }
+}
+
+TEST(ReportHtml, WithoutANameItHasTheTitleOfThePanel) {
+  OneRow one(WithPress(""));
+  one.panel.title = "The panel";
+  EXPECT_THAT(ReportHtml(one.report), HasSubstr("<h1>a.plexel</h1>"));
+  one.report.name.clear();
+  EXPECT_THAT(ReportHtml(one.report), AllOf(HasSubstr("<title>The panel</title>"), HasSubstr("<h1>The panel</h1>")));
 }
 
 TEST(PanelSvg, EveryKindOfPartIsDrawn) {

@@ -83,7 +83,9 @@ TEST(KeySearch, FindsAKeyByWhatItSendsGoingDown) {
 TEST(KeySearch, AKeyThatOnlyComesUpIsNotSent) { EXPECT_FALSE(KeySearch({0x1C}).In(Sending({0xF0, 0x1C, 0xFF}), 1)); }
 
 TEST(KeySearch, TellsWhetherPressOrReleaseSendsIt) {
-  EXPECT_EQ(KeySearch({0x1C}).In(Sending({0x1B, 0xFF}, {0x1C, 0xFF}), 1), (Found{false, true}));
+  const Found found = KeySearch({0x1C}).In(Sending({0x1B, 0xFF}, {0x1C, 0xFF}), 1);
+  EXPECT_EQ(found, (Found{false, true}));
+  EXPECT_TRUE(found);
 }
 
 TEST(KeySearch, AnExtendedKeyIsAnotherOne) {

@@ -120,6 +120,16 @@ TEST(Trial, ALayerHoldsAsLongAsItsKey) {
   EXPECT_EQ(trial.Layer(), 1);
 }
 
+TEST(Trial, EachCommandOfALayerCallsItAndNoOtherCommandDoes) {
+  constexpr std::pair<std::uint8_t, std::int32_t> commands[] = {{0xF1, 2}, {0xF2, 3}, {0xF3, 4}, {0xF4, 1}, {0xF5, 1},
+                                                                {0xF6, 1}, {0xF9, 1}, {0xFB, 1}, {0xFE, 1}};
+  for (const auto& [command, layer] : commands) {
+    Trial trial;
+    EXPECT_EQ(trial.Press(0, Element({command}, {}))->reports.front().deed, KeyDeed::Panel);
+    EXPECT_EQ(trial.Layer(), layer) << static_cast<int>(command);
+  }
+}
+
 TEST(Trial, TheLatestOfTwoLayerKeysCounts) {
   Record both = Element({0xF1}, {});
   Put(both.strLayer2PressScanCode, {0xF2});
