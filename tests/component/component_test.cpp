@@ -7,6 +7,7 @@
 
 #include "element/element_access.h"
 #include "forms/form_directory.h"
+#include "forms/hand.h"
 #include "headless/memory_bag.h"
 #include "scancodes/capture.h"
 #include "services/component_life.h"
@@ -67,6 +68,9 @@ TEST_F(ComponentEnds, AHostMayHearNothing) {
   bool captured = false;
   Open(*element, [&] { captured = SetDirectInput(true, 0) != 0; });
   EXPECT_TRUE(captured);
+  platform.Modal().onRun = [](Form& form) { Hand(form).Click(*form.Find("cmdOK")); };
+  element->OpenConfigurationDialog();
+  EXPECT_EQ(element->WizardOptions(), ManuallyDefined);
 }
 
 TEST_F(ComponentEnds, ASecondOneAtTheSameTimeIsRefusedAndTheFirstGoesOn) {

@@ -5,6 +5,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "element/name_index.h"
 #include "element_fixture.h"
 
 namespace plexel {
@@ -48,6 +49,17 @@ TEST_F(PropertyTableOfElement, AnyOtherKeyHasNoNumber) {
   for (const char* key : {"", "SizeY", "LEDTypeLayer1", "sizeX", "SizeX ", "LedType5"}) {
     EXPECT_EQ(StoredKeyNumber(key), StoredKeyCount) << key;
   }
+}
+
+TEST(NameIndex, TheStartOfANameIsAnotherTextThoughItLiesWhereTheNameDoes) {
+  static constexpr std::string_view name = "fooa", start = name.substr(0, 1);
+  static constexpr NameIndex index{std::array{name}};
+  constexpr std::size_t slots = 128;
+  static_assert(FirstSlotOfName(name.size(), name.front(), name.back(), slots) ==
+                FirstSlotOfName(start.size(), start.front(), start.back(), slots));
+  EXPECT_EQ(index.Find(name), 0U);
+  EXPECT_EQ(index.Find(std::string(name)), 0U);
+  EXPECT_EQ(index.Find(start), 1U);
 }
 
 TEST_F(PropertyTableOfElement, WholeNumbersAndBooleansAreSetWithoutAWayAround) {

@@ -93,6 +93,15 @@ TEST(PageKeys, TurnTheStripAroundTheFocusRatherThanTheFirst) {
   EXPECT_EQ(form.sstA.Tab(), 0);
 }
 
+TEST(PageKeys, TurnTheFirstStripWhenNothingHasTheFocus) {
+  PagesForm form;
+  WhileShown(form, [&] {
+    form.Focus(nullptr);
+    form.hand.Key(key::PageDown, key::ControlBit, 0);
+  });
+  EXPECT_EQ(form.sstA.Tab(), 2);
+}
+
 TEST(GridKeys, MoveTheCellOnAPageThatIsNotInFront) {
   PagesForm form;
   form.sstA.Tab(2);
@@ -235,6 +244,16 @@ TEST(CaptionLetter, ThatSeveralHaveLeadsToTheNextBehindTheFocus) {
   LettersForm form;
   EXPECT_EQ(form.AfterKey('O', key::AltBit, &form.cmdOK), (Strings{"cmdOK LostFocus", "sstA GotFocus", "sstA Click"}));
   EXPECT_EQ(form.sstA.Tab(), 1);
+}
+
+TEST(CaptionLetter, ThatSeveralHaveLeadsToTheFirstWhenNothingHasTheFocus) {
+  LettersForm form;
+  WhileShown(form, [&] {
+    form.Focus(nullptr);
+    form.Taken();
+    form.hand.Key('O', key::AltBit, 0);
+    EXPECT_EQ(form.Taken(), (Strings{"cmdOK GotFocus", "cmdOK Click"}));
+  });
 }
 
 TEST(CaptionLetter, ThatLeadsNowhereIsAnOrdinaryKey) {
