@@ -60,6 +60,7 @@ TEST(NameIndex, TheStartOfANameIsAnotherTextThoughItLiesWhereTheNameDoes) {
   EXPECT_EQ(index.Find(name), 0U);
   EXPECT_EQ(index.Find(std::string(name)), 0U);
   EXPECT_EQ(index.Find(start), 1U);
+  EXPECT_EQ(index.Find(""), 1U);
 }
 
 TEST_F(PropertyTableOfElement, WholeNumbersAndBooleansAreSetWithoutAWayAround) {

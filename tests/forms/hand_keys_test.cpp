@@ -274,6 +274,18 @@ TEST(SpaceKey, PressesNothingWhenTheFocusHasMovedMeanwhile) {
             Strings{});
 }
 
+TEST(SpaceKey, PressesNoButtonThatWasSwitchedOffMeanwhile) {
+  KeysForm form;
+  EXPECT_EQ(form.Raised(form.cmdHelp,
+                        [&] {
+                          form.hand.KeyDown(key::Space, 0);
+                          form.cmdHelp.Enabled(false);
+                          form.Taken();
+                          form.hand.KeyUp(key::Space, 0);
+                        }),
+            Strings{});
+}
+
 TEST(SpaceKey, PressesOnce) {
   KeysForm form;
   EXPECT_EQ(form.Raised(form.cmdHelp,
