@@ -259,6 +259,12 @@ TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
                                                     mine + ".recovery.9-0.new", "a.plexel.9-0.new"));
 }
 
+TEST_F(LostWorkFound, AHeadThatIsCutOffIsToldOfAsSuch) {
+  std::ofstream(Store() / "1-1.recovery") << "[RECOVERY]\nFormat=1\nFile=a\nTime=1";
+  FindLostWork(Store(), damaged);
+  EXPECT_THAT(damaged, ::testing::ElementsAre(HasSubstr("1-1.recovery:4: the file is cut off")));
+}
+
 TEST_F(LostWorkFound, EveryCutOfAFileIsDamage) {
   PutLost("1-1.recovery", 10);
   const std::string whole = [&] {

@@ -319,6 +319,33 @@ TEST(TrialPc, ADigitOfThePadIsTypedWithNumLockAndWithoutShift) {
   EXPECT_EQ(pc.Text(), "1");
 }
 
+TEST(TrialPc, EachKeyTypesWhatStandsOnIt) {
+  constexpr KeyCode numLock = 0x77, leftShift = 0x12;
+  constexpr KeyCode main[] = {0x0E, 0x16, 0x1E, 0x26, 0x25, 0x2E, 0x36, 0x3D, 0x3E, 0x46, 0x45, 0x4E, 0x55,
+                              0x5D, 0x15, 0x1D, 0x24, 0x2D, 0x2C, 0x35, 0x3C, 0x43, 0x44, 0x4D, 0x54, 0x5B,
+                              0x1C, 0x1B, 0x23, 0x2B, 0x34, 0x33, 0x3B, 0x42, 0x4B, 0x4C, 0x52, 0x61, 0x1A,
+                              0x22, 0x21, 0x2A, 0x32, 0x31, 0x3A, 0x41, 0x49, 0x4A, 0x29, 0x0D, 0x5A};
+  constexpr KeyCode pad[] = {0x6C, 0x75, 0x7D, 0x6B,   0x73, 0x74, 0x69, 0x72,
+                             0x7A, 0x70, 0x71, 0xE04A, 0x7C, 0x7B, 0x79, 0xE05A};
+  TrialPc pc;
+  const auto tap = [&pc](KeyCode code) {
+    pc.Hear({Direction::Press, KeyDeed::Down, code});
+    pc.Hear({Direction::Press, KeyDeed::Up, code});
+  };
+  const auto typed = [&](std::span<const KeyCode> keys) {
+    pc.ClearText();
+    for (const KeyCode code : keys) tap(code);
+    return pc.Text();
+  };
+  EXPECT_EQ(typed(main), "`1234567890-=\\qwertyuiop[]asdfghjkl;'<zxcvbnm,./ \t\n");
+  EXPECT_EQ(typed(pad), "/*-+\n");
+  tap(numLock);
+  EXPECT_EQ(typed(pad), "7894561230./*-+\n");
+  pc.Hear({Direction::Press, KeyDeed::Down, leftShift});
+  EXPECT_EQ(typed(main), "~!@#$%^&*()_+|QWERTYUIOP{}ASDFGHJKL:\">ZXCVBNM<>? \t\n");
+  EXPECT_EQ(typed(pad), "/*-+\n");
+}
+
 TEST(TrialPc, CapsLockTurnsLettersAlone) {
   constexpr KeyCode capsLock = 0x58, bracket = 0x54, one = 0x16, letterZ = 0x1A;
   TrialPc pc;
