@@ -1,6 +1,7 @@
 #include "project/versions.h"
 
 #include <algorithm>
+#include <functional>
 #include <system_error>
 
 #include "files/file_error.h"
@@ -36,7 +37,7 @@ std::vector<VersionStore::Version> VersionStore::List(const std::filesystem::pat
   for (const std::filesystem::path& file : ExistingFilesWith(Extension, directory)) {
     if (const auto time = ParseNumber<std::int64_t>(TextOf(file.stem()))) versions.push_back({file, *time});
   }
-  std::ranges::sort(versions, [](const Version& left, const Version& right) { return left.time > right.time; });
+  std::ranges::sort(versions, std::ranges::greater(), &Version::time);
   return versions;
 }
 
