@@ -229,15 +229,18 @@ Project PanelDocument::Content() const {
 
 void PanelDocument::Save(const std::filesystem::path& file) {
   const std::string text = ProjectFileText(file, Content());
+  // Nothing fails once the file is written.
+  std::filesystem::path saved = file;
+  auto foreign = foreign_;
   std::optional<FileWarning> told;
   try {
     WriteWholeFile(file, text);
   } catch (const FileWarning& warning) {
     told = warning;
   }
-  file_ = file;
+  file_ = std::move(saved);
   hash_ = HashOf(text);
-  fileForeign_ = foreign_;
+  fileForeign_ = std::move(foreign);
   filePanel_ = panel_;
   unsaved_.clear();
   fileIsOther_ = false;

@@ -1,6 +1,7 @@
 #include "files/beside.h"
 
 #include <algorithm>
+#include <exception>
 #include <string>
 #include <system_error>
 
@@ -17,10 +18,6 @@ namespace {
 
 /// As long as point, process, number and ending may be together.
 constexpr std::size_t LongestTail = 24;
-
-std::filesystem::path DirectoryOf(const std::filesystem::path& file) {
-  return file.has_parent_path() ? file.parent_path() : ".";
-}
 
 /// What the names of all files beside a file begin with.
 std::string StartOf(const std::filesystem::path& file) {
@@ -49,6 +46,10 @@ bool IsTail(std::string_view text) {
 
 }  // namespace
 
+std::filesystem::path DirectoryOf(const std::filesystem::path& file) {
+  return file.has_parent_path() ? file.parent_path() : ".";
+}
+
 std::filesystem::path NameBeside(const std::filesystem::path& file, int number, std::string_view ending) {
   const std::string tail = std::to_string(ProcessNumber()) + '-' + std::to_string(number);
   return file.parent_path() / PathOf(StartOf(file) + tail + std::string(ending));
@@ -67,10 +68,10 @@ std::vector<std::filesystem::path> StandingBeside(const std::filesystem::path& f
 
 void ClearLeftOver(const std::vector<std::filesystem::path>& files, std::string_view ending) {
   for (const std::filesystem::path& file : files) {
-    if (TextOf(file.extension()) != ending) continue;
     try {
+      if (TextOf(file.extension()) != ending) continue;
       if (std::optional<ProcessLock> left = ProcessLock::Try(file)) left->Remove();
-    } catch (const FileError&) {  // another's
+    } catch (const std::exception&) {  // the next saving looks at it again
     }
   }
 }

@@ -10,6 +10,9 @@ namespace plexel {
 inline constexpr std::string_view HalfEnding = ".new";  ///< the new content, until it is whole
 inline constexpr std::string_view OldEnding = ".old";   ///< the old content, until the new one is whole
 
+/// The directory that a file stands in.
+std::filesystem::path DirectoryOf(const std::filesystem::path& file);
+
 /// The name of such a file: NAME.PROCESS-NUMBER and its ending, by this process. Where that would be longer than names
 /// may be, the start of NAME stands there with a fingerprint of all of it.
 std::filesystem::path NameBeside(const std::filesystem::path& file, int number, std::string_view ending);
@@ -18,7 +21,8 @@ std::filesystem::path NameBeside(const std::filesystem::path& file, int number, 
 /// to its end.
 std::vector<std::filesystem::path> StandingBeside(const std::filesystem::path& file);
 
-/// Removes those with an ending that no living process holds (ProcessLock). What the user may not remove stays.
+/// Removes those with an ending that no living process holds (ProcessLock). What the user may not remove
+/// stays, and so does what takes more memory than there is.
 void ClearLeftOver(const std::vector<std::filesystem::path>& files, std::string_view ending);
 
 }  // namespace plexel

@@ -35,9 +35,13 @@ class WindowsFiles : public FilePort {
  public:
   int Create(const std::filesystem::path& file, const std::filesystem::path& model, int& handle,
              FileTraits& lost) override {
-    const int error = OpenBy(file, _O_CREAT | _O_EXCL, handle);
+    int error = OpenBy(file, _O_CREAT | _O_EXCL, handle);
     if (error != 0 || GetFileAttributesW(model.c_str()) == INVALID_FILE_ATTRIBUTES) return error;
-    return GiveTraits(model, file, handle, lost);
+    error = GiveTraits(model, file, handle, lost);
+    if (error == 0) return 0;
+    _close(handle);
+    DeleteFileW(file.c_str());
+    return error;
   }
   int Open(const std::filesystem::path& file, int& handle) override { return OpenBy(file, 0, handle); }
   int Write(int handle, std::size_t place, std::string_view bytes, std::size_t& written) override {

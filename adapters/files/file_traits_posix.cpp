@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <new>
 #include <string_view>
 
 namespace plexel {
@@ -120,7 +121,7 @@ mode_t ModeFor(mode_t mode, const FileTraits& lost) {
 
 }  // namespace
 
-int GiveTraits(const std::filesystem::path& model, const std::filesystem::path&, int handle, FileTraits& lost) {
+int GiveTraits(const std::filesystem::path& model, const std::filesystem::path&, int handle, FileTraits& lost) try {
   struct stat status{}, own{};
   if (::stat(model.c_str(), &status) != 0) return errno;
   int error = GiveOwner(status, handle, lost);
@@ -129,6 +130,8 @@ int GiveTraits(const std::filesystem::path& model, const std::filesystem::path&,
   const mode_t mode = ModeFor(status.st_mode & 07777U, lost);
   if (error == 0 && (own.st_mode & 07777U) != mode && ::fchmod(handle, mode) != 0) error = errno;
   return error;
+} catch (const std::bad_alloc&) {
+  return ENOMEM;
 }
 
 }  // namespace plexel

@@ -4,6 +4,8 @@
 #include <windows.h>
 
 #include <array>
+#include <cerrno>
+#include <new>
 
 #include "files/path_text.h"
 
@@ -39,12 +41,14 @@ class OwnerOf {
 
 }  // namespace
 
-int GiveTraits(const std::filesystem::path& model, const std::filesystem::path& file, int, FileTraits& lost) {
+int GiveTraits(const std::filesystem::path& model, const std::filesystem::path& file, int, FileTraits& lost) try {
   const OwnerOf wanted(model), own(file);
   if (wanted.Get() == nullptr || own.Get() == nullptr || EqualSid(wanted.Get(), own.Get()) != FALSE) return 0;
   // Giving a file away takes a privilege that programs have not switched on; it is the user's then.
   lost.push_back({FileTrait::Kind::Owner, wanted.Name()});
   return 0;
+} catch (const std::bad_alloc&) {
+  return ENOMEM;
 }
 
 }  // namespace plexel

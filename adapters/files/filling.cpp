@@ -41,10 +41,6 @@ int CreateBeside(FilePort& port, const std::filesystem::path& target, std::strin
   return error;
 }
 
-int FlushDirectoryOf(FilePort& port, const std::filesystem::path& file) {
-  return port.FlushDirectory(file.has_parent_path() ? file.parent_path() : ".");
-}
-
 std::string CannotBeWritten(int error) { return "cannot be written: " + ReasonOf(error); }
 
 std::string MayNotOutlast(int error) { return "is written, but may not outlast a power cut: " + ReasonOf(error); }

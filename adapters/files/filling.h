@@ -16,8 +16,6 @@ int WriteAll(FilePort& port, int handle, std::size_t place, std::string_view byt
 int CreateBeside(FilePort& port, const std::filesystem::path& target, std::string_view ending,
                  std::filesystem::path& file, int& handle, FileTraits& lost);
 
-int FlushDirectoryOf(FilePort& port, const std::filesystem::path& file);
-
 /// The reasons of FileError and FileWarning.
 std::string CannotBeWritten(int error);
 std::string MayNotOutlast(int error);

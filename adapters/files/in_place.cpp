@@ -93,6 +93,7 @@ std::filesystem::path WithoutLinks(const std::filesystem::path& file) {
 std::string WriteInPlace(const std::filesystem::path& name, const std::filesystem::path& file, std::string_view content,
                          FilePort& port) {
   PutOldContentBack(file, port);
+  const std::filesystem::path directory = DirectoryOf(file);
   OpenInPlace open(name, file, port);
   bool complete = false;
   const std::string old = ReadUpTo(file, NoLimit, complete);
@@ -101,7 +102,7 @@ std::string WriteInPlace(const std::filesystem::path& name, const std::filesyste
   }
   ClearLeftOver(StandingBeside(file), OldEnding);
   open.KeepCopy(old);
-  const int unflushed = FlushDirectoryOf(port, file);
+  const int unflushed = port.FlushDirectory(directory);
   if (const int error = Overwrite(port, open.Handle(), content); error != 0) {
     if (Overwrite(port, open.Handle(), old) == 0) open.Refuse(error, open.DropCopy());
     throw FileError(name, 0, CannotBeWritten(error) + " (what it held stands in " + TextOf(open.Copy()) + ")");

@@ -82,6 +82,7 @@ namespace {
 /// Puts a new file in the place of an old one. What is to be told of it all the same, or empty.
 std::string WriteBeside(const std::filesystem::path& name, const std::filesystem::path& target,
                         std::string_view content, FilePort& port) {
+  const std::filesystem::path directory = DirectoryOf(target);
   std::filesystem::path beside;
   FileTraits lost;
   int handle = -1;
@@ -98,7 +99,7 @@ std::string WriteBeside(const std::filesystem::path& name, const std::filesystem
     const int left = port.Remove(beside);
     throw FileError(name, 0, CannotBeWritten(error) + LeftOver(beside, left));
   }
-  error = FlushDirectoryOf(port, target);
+  error = port.FlushDirectory(directory);
   return error == 0 ? std::string() : MayNotOutlast(error);
 }
 

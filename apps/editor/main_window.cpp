@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
+#include <new>
 
 #include "editor/box_room.h"
 #include "editor/element_text.h"
@@ -192,9 +193,13 @@ bool MainWindow::NewProject(const std::string& panel) {
     Take(PanelDocument::New(panel, Site()));
     return true;
   } catch (const std::exception& failure) {
-    Tell(Text::OpenFailed, failure.what());
+    Tell(Text::OpenFailed, WhyFailed(failure));
     return false;
   }
+}
+
+QString MainWindow::WhyFailed(const std::exception& failure) {
+  return dynamic_cast<const std::bad_alloc*>(&failure) != nullptr ? Say(Text::MemoryShort) : failure.what();
 }
 
 /// Why a project cannot be opened: that it is newer or that its panel is missing in words of the user, all else as it
@@ -210,7 +215,7 @@ QString MainWindow::WhyNotOpened(const std::filesystem::path& file, const std::e
     }
   } catch (const std::exception&) {  // told already
   }
-  return failure.what();
+  return WhyFailed(failure);
 }
 
 bool MainWindow::OpenProject(const std::filesystem::path& file) {
@@ -228,29 +233,32 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
 }
 
 bool MainWindow::SaveProject(const std::filesystem::path& file) {
-  if (!MayOverwrite(file)) return false;
+  std::optional<FileWarning> told;
   try {
-    if (!MayReplace(file)) return false;
+    if (!MayOverwrite(file) || !MayReplace(file)) return false;
     const WaitCursor waits;
     safekeeping_.BeforeSave(file);
     // What is saved unchanged keeps every byte of its file.
     if (document_->Modified() || document_->File().empty()) document_->CarriesPanel(true);
-    std::optional<FileWarning> told;
     try {
       document_->Save(file);
     } catch (const FileWarning& warning) {
       told = warning;
     }
-    safekeeping_.Saved();
+  } catch (const std::exception& failure) {
+    Tell(Text::SaveFailed, WhyFailed(failure));
+    return false;
+  }
+  try {
     notice_->hide();
+    safekeeping_.Saved();
     WasUsed(file);
     ShowTitle();
     if (told) TellSaved(*told);
-    return true;
   } catch (const std::exception& failure) {
-    Tell(Text::SaveFailed, failure.what());
-    return false;
+    Tell(Text::Failed, WhyFailed(failure));
   }
+  return true;
 }
 
 void MainWindow::ShowChange() {
@@ -308,7 +316,7 @@ void MainWindow::Guarded(const std::function<void()>& act) {
   try {
     act();
   } catch (const std::exception& failure) {
-    Tell(Text::Failed, failure.what());
+    Tell(Text::Failed, WhyFailed(failure));
   } catch (...) {
     Tell(Text::Failed, "a handler has thrown what is no std::exception");
   }

@@ -135,6 +135,8 @@ class MainWindow : public QMainWindow {
   /// The toolkit's own dialogs speak the user's language too, where its texts are installed.
   void UseToolkitTexts();
   PanelDocument::Site Site();
+  /// In words of the user where there are some, else as it was told.
+  static QString WhyFailed(const std::exception& failure);
   QString WhyNotOpened(const std::filesystem::path& file, const std::exception& failure);
   void Take(std::unique_ptr<PanelDocument> document);
   /// The project has another panel now.

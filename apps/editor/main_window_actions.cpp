@@ -212,7 +212,7 @@ void MainWindow::EditSettings() {
   try {
     dialog.Apply();
   } catch (const std::exception& failure) {
-    Tell(Text::SettingsFailed, failure.what());
+    Tell(Text::SettingsFailed, WhyFailed(failure));
   }
   SettingsChanged();
 }

@@ -80,7 +80,7 @@ bool MainWindow::Import(const std::filesystem::path& file) {
     document_->Become(StepKind::Import, *PanelDocument::Of(project, file, Site()));
     return true;
   } catch (const std::exception& failure) {
-    Tell(Text::ImportFailed, failure.what());
+    Tell(Text::ImportFailed, WhyFailed(failure));
     return false;
   }
 }
@@ -96,7 +96,7 @@ bool MainWindow::Export(const QString& suffix, const std::filesystem::path& file
     TellSaved(warning);
     return true;
   } catch (const std::exception& failure) {
-    Tell(Text::ExportFailed, failure.what());
+    Tell(Text::ExportFailed, WhyFailed(failure));
     return false;
   }
 }

@@ -223,6 +223,7 @@ enum class Text : std::int32_t {
   LosesAttribute = 20924,
   SaveAllTheSame = 20925,
   SavedBut = 20926,
+  MemoryShort = 20927,
   MisfitsFound = 20880,
   PasteWhatFits = 20881,
   MisfitKeySwitch = 20882,

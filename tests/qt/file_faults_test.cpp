@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <vector>
 
+#include "closed_boxes.h"
 #include "editor/editor_store.h"
 #include "editor/log_panel.h"
 #include "editor_fixture.h"
@@ -18,17 +19,7 @@ using ::testing::HasSubstr;
 /// The editor with each of its operations on files failing once. Message boxes are closed, and what they tell is kept.
 class EachFileOperationOfTheEditorFails : public Editor {
  protected:
-  EachFileOperationOfTheEditorFails() {
-    std::filesystem::create_directory(folder);
-    closing.setInterval(0);
-    QObject::connect(&closing, &QTimer::timeout, &closing, [this] {
-      if (auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        told.push_back(box->informativeText().toStdString());
-        box->close();
-      }
-    });
-    closing.start();
-  }
+  EachFileOperationOfTheEditorFails() { std::filesystem::create_directory(folder); }
   std::vector<std::string> FilesInFolder() {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) names.push_back(entry.path().filename());
@@ -42,8 +33,8 @@ class EachFileOperationOfTheEditorFails : public Editor {
   }
 
   const std::filesystem::path folder = File("folder");
-  QTimer closing;
-  std::vector<std::string> told;
+  ClosedBoxes boxes;
+  std::vector<std::string>& told = boxes.told;
 };
 
 TEST_F(EachFileOperationOfTheEditorFails, ExportingLeavesTheOldOrTheNewFileAndTheProjectAsItWas) {
