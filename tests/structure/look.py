@@ -91,8 +91,13 @@ class Tidy:
 def look_at_defects(build):
     tidy = Tidy(build)
     asked = [unit for unit in tidy.units if not tidy.verdicts.is_good(tidy.key(*unit))]
+    found = set()
     with ThreadPool(os.cpu_count()) as pool:
-        found = set().union(*pool.map(tidy.find, asked, chunksize=1))
+        for number, of_unit in enumerate(pool.imap_unordered(tidy.find, asked, chunksize=1), start=1):
+            found |= of_unit
+            if sys.stderr.isatty():
+                print("\rtidy: %d of %d, %d to mend" % (number, len(asked), len(found)), end="\n" if number == len(asked) else "",
+                      file=sys.stderr, flush=True)
     if not found:
         tidy.verdicts.drop_others()
     return "%d sources, %d of %d units looked at" % (sum(len(files) for files, _ in tidy.units), len(asked), len(tidy.units)), sorted(found)
