@@ -3,6 +3,8 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <grp.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 
@@ -14,6 +16,8 @@
 #include <mutex>
 #include <set>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace plexel {
 
@@ -23,10 +27,13 @@ namespace {
 struct Watch {
   std::mutex mutex;
   std::condition_variable changed;
-  // Of FileFaults:
-  std::string directory;
-  int left = 0, error = 0;
-  std::string always, failed;
+  // Of FileFaults and Meanwhile:
+  std::string directory, operation;
+  int left = 0;
+  std::vector<int> errors;  ///< of the operation of that name, the next one first
+  int error = 0;            ///< when these have come to their end
+  std::function<void()> act;
+  std::string failed;
   std::set<int> handles;  ///< of files below the directory
   // Of LateFile:
   std::string late;
@@ -38,17 +45,36 @@ Watch& TheWatch() {
   static auto* const watch = new Watch;
   return *watch;
 }
-std::atomic<bool> faulty{false}, anyLate{false}, watchesNothing{false};
+std::atomic<bool> faulty{false}, anyLate{false}, watchesNothing{false}, knowsNobody{false}, knowsNoModule{false};
 
 bool IsBelow(std::string_view path, std::string_view directory) {
   return path.starts_with(directory) && (path.size() == directory.size() || path[directory.size()] == '/');
 }
 
-/// Counts an operation below the directory; true when it is one that fails.
-bool CountDown(Watch& watch, const char* operation) {
-  if (watch.always != operation && (watch.left == 0 || --watch.left > 0)) return false;
+/// Counts an operation below the directory, and gives the error with which it fails; 0 for none.
+int NextError(Watch& watch, const char* operation) {
+  if (watch.operation != operation) return watch.left == 0 || --watch.left > 0 ? 0 : watch.error;
+  if (watch.errors.empty()) return watch.error;
+  const int error = watch.errors.front();
+  watch.errors.erase(watch.errors.begin());
+  return error;
+}
+
+/// Looks at an operation below the directory; true when it fails.
+bool LookAt(const char* operation, std::unique_lock<std::mutex>& lock) {
+  Watch& watch = TheWatch();
+  if (watch.act && watch.operation == operation) {
+    const std::function<void()> act = watch.act;
+    lock.unlock();
+    faulty = false;
+    act();
+    faulty = true;
+    return false;
+  }
+  const int error = NextError(watch, operation);
+  if (error == 0) return false;
   watch.failed = operation;
-  errno = watch.error;
+  errno = error;
   return true;
 }
 
@@ -62,14 +88,14 @@ bool Fails(const char* operation, const char* path) {
     if (told) told(operation);
   }
   if (!faulty || path == nullptr) return false;
-  const std::lock_guard lock(TheWatch().mutex);
-  return IsBelow(path, TheWatch().directory) && CountDown(TheWatch(), operation);
+  std::unique_lock lock(TheWatch().mutex);
+  return IsBelow(path, TheWatch().directory) && LookAt(operation, lock);
 }
 
 bool Fails(const char* operation, int handle) {
   if (!faulty) return false;
-  const std::lock_guard lock(TheWatch().mutex);
-  return TheWatch().handles.contains(handle) && CountDown(TheWatch(), operation);
+  std::unique_lock lock(TheWatch().mutex);
+  return TheWatch().handles.contains(handle) && LookAt(operation, lock);
 }
 
 void WaitFor(const char* path) {
@@ -96,21 +122,40 @@ Function* Next(const char* name) {
 
 }  // namespace
 
-FileFaults::FileFaults(const std::filesystem::path& directory, int number, int error) {
-  const std::lock_guard lock(TheWatch().mutex);
-  TheWatch().directory = directory.string();
-  TheWatch().left = number;
-  TheWatch().error = error;
-  TheWatch().always.clear();
-  TheWatch().failed.clear();
-  TheWatch().handles.clear();
+namespace {
+
+/// Begins to look at a directory anew.
+Watch& Begin(const std::filesystem::path& directory, const char* operation) {
+  Watch& watch = TheWatch();
+  watch.directory = directory.string();
+  watch.operation = operation;
+  watch.left = watch.error = 0;
+  watch.errors.clear();
+  watch.act = nullptr;
+  watch.failed.clear();
+  watch.handles.clear();
   faulty = true;
+  return watch;
 }
 
-FileFaults::FileFaults(const std::filesystem::path& directory, const char* operation, int error)
-    : FileFaults(directory, 0, error) {
+}  // namespace
+
+FileFaults::FileFaults(const std::filesystem::path& directory, int number, int error) {
   const std::lock_guard lock(TheWatch().mutex);
-  TheWatch().always = operation;
+  Watch& watch = Begin(directory, "");
+  watch.left = number;
+  watch.error = error;
+}
+
+FileFaults::FileFaults(const std::filesystem::path& directory, const char* operation, int error) {
+  const std::lock_guard lock(TheWatch().mutex);
+  Begin(directory, operation).error = error;
+}
+
+FileFaults::FileFaults(const std::filesystem::path& directory, const char* operation,
+                       std::initializer_list<int> errors) {
+  const std::lock_guard lock(TheWatch().mutex);
+  Begin(directory, operation).errors = errors;
 }
 
 FileFaults::~FileFaults() { faulty = false; }
@@ -118,6 +163,17 @@ FileFaults::~FileFaults() { faulty = false; }
 std::string FileFaults::Failed() const {
   const std::lock_guard lock(TheWatch().mutex);
   return TheWatch().failed;
+}
+
+Meanwhile::Meanwhile(const std::filesystem::path& place, const char* operation, std::function<void()> act) {
+  const std::lock_guard lock(TheWatch().mutex);
+  Begin(place, operation).act = std::move(act);
+}
+
+Meanwhile::~Meanwhile() {
+  faulty = false;
+  const std::lock_guard lock(TheWatch().mutex);
+  TheWatch().act = nullptr;
 }
 
 LateFile::LateFile(const std::filesystem::path& file) {
@@ -153,6 +209,10 @@ void LateFile::OnOwn(std::function<void(const char* operation)> told) {
 
 NoFileWatching::NoFileWatching() { watchesNothing = true; }
 NoFileWatching::~NoFileWatching() { watchesNothing = false; }
+NoUserNames::NoUserNames() { knowsNobody = true; }
+NoUserNames::~NoUserNames() { knowsNobody = false; }
+NoModuleNames::NoModuleNames() { knowsNoModule = true; }
+NoModuleNames::~NoModuleNames() { knowsNoModule = false; }
 
 }  // namespace plexel
 
@@ -361,4 +421,23 @@ int FaultyAddWatch(int handle, const char* path, std::uint32_t mask) {
     return -1;
   }
   return Next<int(int, const char*, std::uint32_t)>("inotify_add_watch")(handle, path, mask);
+}
+
+// The names of users and groups, and of what holds a piece of code.
+PLEXEL_STANDS_FOR("getpwuid_r",
+                  int FaultyUser(uid_t user, passwd* entry, char* room, std::size_t size, passwd** found));
+int FaultyUser(uid_t user, passwd* entry, char* room, std::size_t size, passwd** found) {
+  if (plexel::knowsNobody) return EIO;
+  return Next<int(uid_t, passwd*, char*, std::size_t, passwd**)>("getpwuid_r")(user, entry, room, size, found);
+}
+PLEXEL_STANDS_FOR("getgrgid_r", int FaultyGroup(gid_t group, struct group* entry, char* room, std::size_t size,
+                                                struct group** found));
+int FaultyGroup(gid_t group, struct group* entry, char* room, std::size_t size, struct group** found) {
+  if (plexel::knowsNobody) return EIO;
+  return Next<int(gid_t, struct group*, char*, std::size_t, struct group**)>("getgrgid_r")(group, entry, room, size,
+                                                                                           found);
+}
+PLEXEL_STANDS_FOR("dladdr", int FaultyModule(const void* place, Dl_info* module));
+int FaultyModule(const void* place, Dl_info* module) {
+  return plexel::knowsNoModule ? 0 : Next<int(const void*, Dl_info*)>("dladdr")(place, module);
 }

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <thread>
 
@@ -16,12 +17,25 @@ class FileFaults {
   FileFaults(const std::filesystem::path& directory, int number, int error);
   /// Each operation of this name fails.
   FileFaults(const std::filesystem::path& directory, const char* operation, int error);
+  /// The operations of this name fail one after the other with these errors; 0 lets one through, and so are those
+  /// behind the last.
+  FileFaults(const std::filesystem::path& directory, const char* operation, std::initializer_list<int> errors);
   ~FileFaults();
   FileFaults(const FileFaults&) = delete;
   FileFaults& operator=(const FileFaults&) = delete;
 
   /// The operation that failed, as the system calls it; empty while none has.
   std::string Failed() const;
+};
+
+/// Somebody else acts ahead of each operation of a name on a file, or on what lies below a directory. What he does is
+/// not looked at. Neither two of these at a time nor one beside FileFaults.
+class Meanwhile {
+ public:
+  Meanwhile(const std::filesystem::path& place, const char* operation, std::function<void()> act);
+  ~Meanwhile();
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
 };
 
 /// A file in a folder that answers late: whoever opens it waits until it is let go. One at a time.
@@ -47,6 +61,24 @@ class NoFileWatching {
   ~NoFileWatching();
   NoFileWatching(const NoFileWatching&) = delete;
   NoFileWatching& operator=(const NoFileWatching&) = delete;
+};
+
+/// The system knows no names of users and groups, as when the service that tells them is not reached.
+class NoUserNames {
+ public:
+  NoUserNames();
+  ~NoUserNames();
+  NoUserNames(const NoUserNames&) = delete;
+  NoUserNames& operator=(const NoUserNames&) = delete;
+};
+
+/// The system does not tell which file holds a piece of code.
+class NoModuleNames {
+ public:
+  NoModuleNames();
+  ~NoModuleNames();
+  NoModuleNames(const NoModuleNames&) = delete;
+  NoModuleNames& operator=(const NoModuleNames&) = delete;
 };
 
 }  // namespace plexel
