@@ -80,9 +80,9 @@ std::int32_t FileRegistry::SetValue(std::intptr_t key, std::string_view name, st
   if (key != KeyHandle || openKeys_ == 0) return InvalidHandle;
   const std::string_view value = text.substr(0, static_cast<std::size_t>(std::max(length, 0)));
   if (type != TypeText || length < 0 || !IsName(name) || !FitsALine(value)) return InvalidParameter;
-  std::string& stored = values_[std::string(name)];
-  changed_ = changed_ || stored != value;
-  stored = value;
+  const auto [stored, isNew] = values_.try_emplace(std::string(name));
+  changed_ = changed_ || isNew || stored->second != value;
+  stored->second = value;
   return Success;
 }
 
@@ -101,6 +101,7 @@ std::int32_t FileRegistry::Write() {
   if (error) return WriteFault;
   try {
     WriteWholeFile(file_, content);
+  } catch (const FileWarning&) {  // it is written
   } catch (const FileError&) {
     return WriteFault;
   }

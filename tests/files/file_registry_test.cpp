@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <string>
 
+#include "world/file_faults.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -56,6 +58,63 @@ TEST_F(RegistryFile, RefusesWhatDoesNotFitALine) {
   EXPECT_NE(Store("A", "1", 1, Registry::TypeText + 1), 0);
   for (const std::string_view name : {"A#"sv, "A;"sv, "A["sv, "]"sv, "A B"sv}) EXPECT_EQ(Store(name, "="), 0) << name;
   EXPECT_EQ(Store("Empty", ""), 0);
+}
+
+TEST_F(RegistryFile, ValuesThatCannotBeWrittenAreWrittenWithTheNextOnes) {
+  const auto close = [this](std::string_view text) {
+    EXPECT_EQ(registry.OpenKey(Registry::CurrentUser, "Key", 0, Registry::AccessSetValue, key), 0);
+    EXPECT_EQ(Store("A", text), 0);
+    return registry.CloseKey(key);
+  };
+  {
+    const FileFaults faults(directory.Path(), "fsync", EIO);
+    EXPECT_NE(close("1"), 0);
+  }
+  EXPECT_FALSE(std::filesystem::exists(directory / "registry.ini"));
+  EXPECT_EQ(*registry.Find("A"), "1");
+  EXPECT_EQ(close("1"), 0);
+  EXPECT_EQ(Content(directory / "registry.ini"), "[Key]\nA=1\n");
+}
+
+TEST_F(RegistryFile, AValueThatStaysIsNotWrittenAgain) {
+  for (const bool written : {true, false}) {
+    ASSERT_EQ(registry.OpenKey(Registry::CurrentUser, "Key", 0, Registry::AccessSetValue, key), 0);
+    EXPECT_EQ(Store("A", "1"), 0);
+    EXPECT_EQ(registry.CloseKey(key), 0);
+    EXPECT_EQ(std::filesystem::remove(directory / "registry.ini"), written);
+  }
+}
+
+TEST_F(RegistryFile, OneValueThatChangesIsWrittenWithThoseThatStay) {
+  ASSERT_EQ(registry.OpenKey(Registry::CurrentUser, "Key", 0, Registry::AccessSetValue, key), 0);
+  EXPECT_EQ(Store("A", "1"), 0);
+  EXPECT_EQ(Store("B", ""), 0);
+  EXPECT_EQ(registry.CloseKey(key), 0);
+  EXPECT_EQ(Content(directory / "registry.ini"), "[Key]\nA=1\nB=\n");
+}
+
+TEST_F(RegistryFile, AValueThatIsEmptyIsWrittenToo) {
+  ASSERT_EQ(registry.OpenKey(Registry::CurrentUser, "Key", 0, Registry::AccessSetValue, key), 0);
+  EXPECT_EQ(Store("A", ""), 0);
+  EXPECT_EQ(registry.CloseKey(key), 0);
+  EXPECT_EQ(Content(directory / "registry.ini"), "[Key]\nA=\n");
+}
+
+TEST_F(RegistryFile, ADirectoryThatIsNotFlushedIsNoFailure) {
+  ASSERT_EQ(registry.OpenKey(Registry::CurrentUser, "Key", 0, Registry::AccessSetValue, key), 0);
+  EXPECT_EQ(Store("A", "1"), 0);
+  const FileFaults faults(directory.Path(), "fsync of a directory", EIO);
+  EXPECT_EQ(registry.CloseKey(key), 0);
+  EXPECT_NE(faults.Failed(), "");
+  EXPECT_EQ(Content(directory / "registry.ini"), "[Key]\nA=1\n");
+}
+
+TEST_F(RegistryFile, AFileInThePlaceOfItsDirectoryIsAFailure) {
+  const auto file = directory.Put("file", "");
+  FileRegistry other(file / "registry.ini", "Key");
+  ASSERT_EQ(other.OpenKey(Registry::CurrentUser, "Key", 0, Registry::AccessSetValue, key), 0);
+  EXPECT_EQ(other.SetValue(key, "A", 0, Registry::TypeText, "1", 1), 0);
+  EXPECT_NE(other.CloseKey(key), 0);
 }
 
 }  // namespace
