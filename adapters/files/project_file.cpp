@@ -61,14 +61,11 @@ Project ParseProject(const TextFile& file) {
 Project ReadProject(const std::filesystem::path& file) { return ParseProject(TextFile(file, ProjectLimit)); }
 
 std::string ProjectFileText(const std::filesystem::path& file, const Project& project) {
-  std::string content;
   try {
-    content = FormatProject(project);
+    return FormatProject(project);
   } catch (const Failure& failure) {
     throw FileError(file, 0, std::string("cannot be written: ") + failure.what());
   }
-  if (content.size() > ProjectLimit) throw FileError(file, 0, "cannot be written: the project is too large");
-  return content;
 }
 
 void WriteProject(const std::filesystem::path& file, const Project& project) {

@@ -61,7 +61,8 @@ class NewerFormat : public FileError {
 };
 
 /// The text of a project in Windows-1252, see docs/formats.md. Failure (Overflow) for a text that makes a line longer
-/// than TextFile::LongestLine, Failure (Index) for a place that stands twice or a buffer that does not exist.
+/// than TextFile::LongestLine and for a text larger than ProjectLimit, Failure (Index) for a place that stands twice or
+/// a buffer that does not exist.
 std::string FormatProject(const Project& project);
 /// Reads it back. FileError with the line for anything that is no whole and proper project, NewerFormat for one that
 /// only later versions know.

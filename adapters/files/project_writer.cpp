@@ -24,8 +24,8 @@ constexpr std::size_t ShortestRun = 4;
 
 }  // namespace
 
-ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count, std::string_view panelText)
-    : left_(count), places_(count) {
+ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count, std::string_view panelText, std::size_t limit)
+    : limit_(limit), left_(count), places_(count) {
   out_.reserve(count * UsualBytes + panelText.size());
   Append("[PROJECT]\nFormat=");
   Append(panelText.empty() ? PlainFormat : PanelFormat);
@@ -49,6 +49,7 @@ ProjectWriter::ProjectWriter(std::string_view panel, std::size_t count, std::str
 std::string ProjectWriter::Finish() {
   if (left_ != 0) Refuse(FailureKind::Index, "there are fewer elements than were told");
   Append(Tail);
+  if (out_.size() > limit_) Refuse(FailureKind::Overflow, "the project is too large");
   return std::move(out_);
 }
 
@@ -67,8 +68,7 @@ void ProjectWriter::EndLine() {
 template <typename Number>
 void ProjectWriter::AppendNumber(Number number) {
   char digits[32];
-  const auto [end, error] = std::to_chars(digits, digits + sizeof(digits), number);
-  if (error == std::errc()) out_.append(digits, end);
+  out_.append(digits, std::to_chars(digits, digits + sizeof(digits), number).ptr);
 }
 
 void ProjectWriter::AppendEntry(const BagValue& value) {

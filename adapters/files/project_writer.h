@@ -9,11 +9,13 @@
 namespace plexel {
 
 /// Writes the text of a project element by element. Failure (Overflow) for a text that makes a line longer than
-/// TextFile::LongestLine, Failure (Index) for a place that stands twice or a buffer that does not exist.
+/// TextFile::LongestLine, Failure (Index) for a place that stands twice, an element too many or a buffer that does not
+/// exist.
 class ProjectWriter {
  public:
   /// `count` is the number of elements that will be added; `panelText` is the text of the panel file, empty for none.
-  ProjectWriter(std::string_view panel, std::size_t count, std::string_view panelText = {});
+  ProjectWriter(std::string_view panel, std::size_t count, std::string_view panelText = {},
+                std::size_t limit = ProjectLimit);
   void Add(const ProjectElement& element);
   /// The text of one element, as it stands in a project.
   static std::string Section(const ProjectElement& element);
@@ -22,7 +24,8 @@ class ProjectWriter {
     return ProjectWriter(panel, count, panelText).out_;
   }
   static constexpr std::string_view Tail = "\n[END]\n";
-  /// The whole text. Failure (Index) when the elements added are not as many as were told.
+  /// The whole text. Failure (Index) when the elements added are not as many as were told, Failure (Overflow) for more
+  /// bytes than the limit.
   std::string Finish();
 
  private:
@@ -44,6 +47,7 @@ class ProjectWriter {
 
   std::string out_;
   std::size_t lineStart_ = 0;
+  std::size_t limit_ = ProjectLimit;
   std::size_t left_;  ///< elements still to be added
   PlaceSet places_;
 };

@@ -3,8 +3,6 @@
 #include "cli/exit_status.h"
 #include "cli/named_files.h"
 #include "cli/program_call.h"
-#include "files/file_error.h"
-#include "platform/failure.h"
 #include "project/exchange_words.h"
 #include "project/project_export.h"
 #include "project/project_import.h"
@@ -15,10 +13,8 @@ int RunExport(std::span<const std::string> arguments, const Streams& streams) {
   const ProgramCall call(arguments, {});
   call.RequireOthers(1, 2);
   const std::vector<std::string>& files = call.Others();
-  const std::string document = ExportProject(ReadInputProject(files.front(), streams.input));
-  if (document.size() > exchange_words::DocumentLimit) {
-    throw FileError(InputName(files.front()), 0, "the document of the project is too large");
-  }
+  const std::string document =
+      ProjectDocument(InputName(files.front()), ReadInputProject(files.front(), streams.input));
   WriteOutput(files.size() > 1 ? files[1] : std::string(StandardStream), document, streams);
   return AllSucceeded;
 }
@@ -29,14 +25,7 @@ int RunImport(std::span<const std::string> arguments, const Streams& streams) {
   const std::string &source = call.Others()[0], &target = call.Others()[1];
   const std::string document = ReadInput(source, exchange_words::DocumentLimit, streams.input);
   const Project project = ImportProject(InputName(source), document);
-  std::string content;
-  try {
-    content = FormatProject(project);
-  } catch (const Failure& failure) {
-    throw FileError(InputName(source), 0, std::string("is no project: ") + failure.what());
-  }
-  if (content.size() > ProjectLimit) throw FileError(InputName(source), 0, "the project is too large");
-  WriteOutput(target, content, streams);
+  WriteOutput(target, ProjectFileText(OutputName(target), project), streams);
   return AllSucceeded;
 }
 

@@ -31,6 +31,10 @@ std::filesystem::path InputName(const std::string& file) {
   return file == StandardStream ? "standard input" : PathOf(file);
 }
 
+std::filesystem::path OutputName(const std::string& file) {
+  return file == StandardStream ? "standard output" : PathOf(file);
+}
+
 std::string ReadInput(const std::string& file, std::size_t limit, std::istream& standardInput) {
   return file == StandardStream ? ReadStream(standardInput, limit) : ReadWholeFile(PathOf(file), limit);
 }
@@ -44,7 +48,7 @@ void WriteOutput(const std::string& file, std::string_view content, const Stream
     const std::filesystem::path path = PathOf(file);
     TellReplacing(path, [&] { WriteWholeFile(path, content); }, streams.errors);
   } else if (!streams.output.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
-    throw FileError("standard output", 0, "cannot be written");
+    throw FileError(OutputName(file), 0, "cannot be written");
   }
 }
 

@@ -26,7 +26,9 @@ struct ExportKind {
 };
 constexpr std::array kinds = {
     ExportKind{Text::ExportJson, "json",
-               [](const PanelDocument& document, const QString&) { return ExportProject(document.Content()); }},
+               [](const PanelDocument& document, const QString&) {
+                 return ProjectDocument(document.File(), document.Content());
+               }},
     ExportKind{Text::ExportPdf, "pdf", ReportPdf},
     ExportKind{Text::ExportHtml, "html",
                [](const PanelDocument& document, const QString& name) {

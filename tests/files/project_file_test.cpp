@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "file_error_of.h"
+#include "files/project_writer.h"
 #include "files/text_lines.h"
 #include "platform/failure.h"
 #include "sample_project.h"
@@ -152,6 +153,7 @@ TEST(ProjectFile, AFileSavedAsUtf8IsToldSo) {
 TEST(ProjectFile, AnUnknownFormatIsToldSo) {
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=x\n")->what(), HasSubstr("f:2: the format \"x\" is unknown"));
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=02\n")->what(), HasSubstr("f:2: the format \"02\" is unknown"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=0\n")->what(), HasSubstr("f:2: the format \"0\" is unknown"));
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=3\n")->what(),
               HasSubstr("f:2: the format 3 is newer than this program, which knows 1 and 2"));
 }
@@ -339,12 +341,34 @@ TEST(ProjectFile, APanelThatIsNotCarriedLeavesTheFormatAsItWas) {
 TEST(ProjectFile, APanelStandsWhereTheFormatTellsAndNowhereElse) {
   const std::string rest = "Marks=\x8B\x9B\nPanel=P\nElements=0\n";
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[END]\n")->what(), HasSubstr("[PANEL] is missing"));
+  EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest)->what(), HasSubstr("[PANEL] is missing"));
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\n[END]\n")->what(), HasSubstr("[PANEL] is empty"));
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\nWord=a\n[END]\n")->what(),
               HasSubstr("\"Word\" is unknown here"));
   EXPECT_THAT(FaultOf("[PROJECT]\nFormat=1\n" + rest + "[PANEL]\nLine=a\n[END]\n")->what(),
               HasSubstr("there is no section [PANEL]"));
   EXPECT_TRUE(FaultOf("[PROJECT]\nFormat=2\n" + rest + "[PANEL]\nLine=a\n"));
+}
+
+TEST(ProjectWriter, ElementsAreAsManyAsWereTold) {
+  const ProjectElement element{"F1", {}, {}};
+  EXPECT_THROW(ProjectWriter("P", 0).Add(element), Failure);
+  EXPECT_THROW(ProjectWriter("P", 1).Finish(), Failure);
+  ProjectWriter writer("P", 1);
+  writer.Add(element);
+  EXPECT_EQ(writer.Finish(), FormatProject({"P", {element}, {}}));
+}
+
+TEST(ProjectWriter, AProjectLargerThanItsLimitIsRefused) {
+  const std::size_t size = FormatProject({"P", {}, {}}).size();
+  EXPECT_NO_THROW(ProjectWriter("P", 0, {}, size).Finish());
+  try {
+    ProjectWriter("P", 0, {}, size - 1).Finish();
+    ADD_FAILURE() << "it is not refused";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
+    EXPECT_STREQ(failure.what(), "the project is too large");
+  }
 }
 
 TEST(ProjectFile, CodesOfABufferThatDoesNotExistAreNotSavedAndNotPut) {

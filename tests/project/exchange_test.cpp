@@ -138,6 +138,14 @@ TEST(Exchange, ForeignKeysKeepTheirOrderAmongEachOther) {
 
 TEST(Exchange, AByteOrderMarkIsPassedOver) { EXPECT_EQ(Import("\uFEFF" + ExportProject({})), Project{}); }
 
+TEST(Exchange, ADocumentLargerThanOneThatIsReadIsRefused) {
+  const std::string document = ExportProject({});
+  EXPECT_EQ(ProjectDocument("p", {}, document.size()), document);
+  const auto error = FileErrorOf([&] { ProjectDocument("p", {}, document.size() - 1); });
+  ASSERT_TRUE(error);
+  EXPECT_STREQ(error->what(), "p: the document of the project is too large");
+}
+
 TEST(Exchange, AWholeNumberMayBeWrittenAsAFloat) {
   const Project read = Import(WithElement(R"("properties":{"SizeX":{"int16":2.0},"ZoomFactor":{"int16":1e2}})"));
   EXPECT_EQ(*read.elements[0].bag.Find("SizeX"), BagValue(std::int16_t{2}));
