@@ -13,14 +13,18 @@ std::filesystem::path Existing(const std::filesystem::path& directory) {
   if (!directory.is_absolute()) return {};
   std::error_code error;
   std::filesystem::path found = std::filesystem::canonical(directory, error);
-  return error || !std::filesystem::is_directory(found, error) ? std::filesystem::path() : found;
+  if (error || !std::filesystem::is_directory(found, error)) return {};
+  return found;
 }
 
 }  // namespace
 
 std::filesystem::path DataDirectory() {
   if (std::filesystem::path named = EnvironmentPath("PLEXEL_DATA"); !named.empty()) return named;
-  const std::vector<std::filesystem::path> places = PlacesOfData();
+  return FirstDirectory(PlacesOfData());
+}
+
+std::filesystem::path FirstDirectory(const std::vector<std::filesystem::path>& places) {
   for (const std::filesystem::path& place : places) {
     if (std::filesystem::path found = Existing(place); !found.empty()) return found;
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 namespace plexel {
 
@@ -10,6 +11,10 @@ namespace plexel {
 /// this library was loaded, wherever that was moved to, when they exist; those of the place it was built for. On
 /// Windows it is "data" beside the program, then beside the library.
 std::filesystem::path DataDirectory();
+
+/// The first of some places that is a directory with a full name, by a name without links; the last place where none
+/// is.
+std::filesystem::path FirstDirectory(const std::vector<std::filesystem::path>& places);
 
 /// The directory of the user's own files: "plexel" under $XDG_CONFIG_HOME when that is an absolute path, else under
 /// ".config" of the home directory; on Windows under %APPDATA%. It need not exist.

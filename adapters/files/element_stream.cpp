@@ -42,18 +42,26 @@ std::uint32_t NumberAt(Bytes bytes) {
 
 bool IsWritten(const PropertyRow& row) { return row.storage.writeOrder != 0; }
 
-struct Writer {
-  std::vector<std::uint8_t>& bytes;
-  void operator()(std::int16_t value) const { PutNumber(bytes, static_cast<std::uint16_t>(value), 2); }
-  void operator()(std::int32_t value) const { PutNumber(bytes, static_cast<std::uint32_t>(value), 4); }
-  void operator()(std::uint8_t value) const { PutNumber(bytes, value, 1); }
-  void operator()(Boolean value) const { (*this)(value.Value()); }
-  void operator()(double) const {}  // no property is one
-  void operator()(const std::string& value) const {
-    PutNumber(bytes, static_cast<std::uint32_t>(value.size()), 4);
-    bytes.insert(bytes.end(), value.begin(), value.end());
+void PutText(std::vector<std::uint8_t>& bytes, const std::string& text) {
+  PutNumber(bytes, static_cast<std::uint32_t>(text.size()), 4);
+  bytes.insert(bytes.end(), text.begin(), text.end());
+}
+
+/// What is stored is of one of five types; of the others none is written.
+void PutValue(std::vector<std::uint8_t>& bytes, PropertyType type, const BagValue& value) {
+  switch (type) {
+    case PropertyType::Int16:
+      return PutNumber(bytes, static_cast<std::uint16_t>(std::get<std::int16_t>(value)), 2);
+    case PropertyType::Int32:
+      return PutNumber(bytes, static_cast<std::uint32_t>(std::get<std::int32_t>(value)), 4);
+    case PropertyType::UInt8:
+      return PutNumber(bytes, std::get<std::uint8_t>(value), 1);
+    case PropertyType::Bool:
+      return PutNumber(bytes, static_cast<std::uint16_t>(std::get<Boolean>(value).Value()), 2);
+    default:
+      return PutText(bytes, std::get<std::string>(value));
   }
-};
+}
 
 /// Takes values off the front of what is left. Nothing for what is not there.
 class Reader {
@@ -72,10 +80,8 @@ class Reader {
       case PropertyType::Bool:
         if (const auto value = Take(2)) return Boolean::Raw(static_cast<std::int16_t>(NumberAt(*value)));
         return std::nullopt;
-      case PropertyType::String:
-        return Text();
       default:
-        return std::nullopt;
+        return Text();
     }
   }
 
@@ -107,7 +113,7 @@ class Reader {
 std::vector<std::uint8_t> StreamOf(const ctlPlexelBaseElement& element) {
   std::vector<std::uint8_t> values;
   for (const PropertyRow& row : PropertyTable()) {
-    if (IsWritten(row)) std::visit(Writer{values}, row.save(element));
+    if (IsWritten(row)) PutValue(values, row.type, row.save(element));
   }
   return Sealed(values);
 }

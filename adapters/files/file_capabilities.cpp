@@ -2,7 +2,6 @@
 
 #include <bitset>
 #include <optional>
-#include <system_error>
 
 #include "files/file_lists.h"
 #include "files/ini_walk.h"
@@ -14,19 +13,10 @@ namespace {
 
 constexpr std::size_t Limit = std::size_t{4} << 20U;
 
-std::vector<std::filesystem::path> TablesIn(const std::filesystem::path& directory) {
-  std::vector<std::filesystem::path> tables;
-  std::error_code error;
-  if (!std::filesystem::exists(directory, error)) return tables;
-  tables = FilesWith(".cap", directory, error);
-  if (error) throw FileError(directory, 0, "cannot be read: " + error.message());
-  return tables;
-}
-
 }  // namespace
 
 FileCapabilities::FileCapabilities(const std::filesystem::path& directory) {
-  for (const std::filesystem::path& table : TablesIn(directory)) ReadTable(table);
+  for (const std::filesystem::path& table : ExistingFilesWith(".cap", directory)) ReadTable(table);
 }
 
 FileCapabilities FileCapabilities::OfTable(const std::filesystem::path& file) {

@@ -19,7 +19,8 @@ std::optional<Number> ParseNumber(std::string_view text) {
   constexpr std::size_t mostDigits = std::numeric_limits<std::int64_t>::digits10;
   if constexpr (std::integral<Number> && sizeof(Number) < sizeof(std::int64_t)) {
     // So few digits fit into 64 bits, and need one look at the bounds.
-    const bool negative = std::is_signed_v<Number> && text.starts_with('-');
+    bool negative = false;
+    if constexpr (std::is_signed_v<Number>) negative = text.starts_with('-');
     const std::string_view digits = text.substr(negative ? 1 : 0);
     if (digits.size() <= mostDigits) {
       std::int64_t value = 0;
@@ -42,7 +43,8 @@ std::optional<Number> ParseNumber(std::string_view text) {
 template <typename Number>
 std::optional<Number> ParseNumber(std::string_view text, Number low, Number high) {
   const std::optional<Number> number = ParseNumber<Number>(text);
-  return number && *number >= low && *number <= high ? number : std::nullopt;
+  if (!number || *number < low || *number > high) return std::nullopt;
+  return number;
 }
 
 }  // namespace plexel

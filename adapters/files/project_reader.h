@@ -29,7 +29,8 @@ class ProjectReader {
   [[noreturn]] void Refuse(const std::string& reason) const;
   [[noreturn]] void RefuseCount(std::string_view how) const;
   bool NextLine();
-  bool AtSection() const { return !line_.empty() && line_.front() == '['; }
+  /// Whether the line that was taken last begins a section.
+  bool AtSection() const { return line_.front() == '['; }
   std::string_view SectionName() const;
   void SplitKey();
   std::string Decode(std::string_view bytes) const;

@@ -1,6 +1,8 @@
 #include "files/replacing.h"
 
+#include <array>
 #include <string>
+#include <string_view>
 
 #include "files/file_error.h"
 #include "files/system_files.h"
@@ -9,18 +11,12 @@ namespace plexel {
 
 namespace {
 
+/// What is lost of each kind, ahead of its name; in the order of FileTrait::Kind.
+constexpr auto kinds =
+    std::to_array<std::string_view>({"its owner ", "its group ", "its access list", "its attribute "});
+
 std::string WordsOf(const FileTrait& trait) {
-  switch (trait.kind) {
-    case FileTrait::Kind::Owner:
-      return "its owner " + trait.name;
-    case FileTrait::Kind::Group:
-      return "its group " + trait.name;
-    case FileTrait::Kind::AccessList:
-      return "its access list";
-    case FileTrait::Kind::Attribute:
-      break;
-  }
-  return "its attribute " + trait.name;
+  return std::string(kinds.at(static_cast<std::size_t>(trait.kind))) + trait.name;
 }
 
 }  // namespace
