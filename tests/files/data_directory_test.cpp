@@ -6,6 +6,9 @@
 #include <optional>
 #include <string>
 
+#include "world/file_faults.h"
+#include "world/temporary_directory.h"
+
 namespace plexel {
 namespace {
 
@@ -39,6 +42,29 @@ TEST(DataDirectory, IsNamedWithoutTheLinkThatLeadsThere) {
   const Environment data("PLEXEL_DATA", nullptr);
   EXPECT_EQ(DataDirectory(), std::filesystem::canonical(DataDirectory()));
   EXPECT_FALSE(std::filesystem::is_symlink(DataDirectory()));
+}
+
+TEST(DataDirectory, IsFoundByTheProgramWhereItsLibraryIsNotKnown) {
+  const Environment data("PLEXEL_DATA", nullptr);
+  const NoModuleNames unknown;
+  EXPECT_TRUE(DataDirectory().is_absolute());
+  EXPECT_TRUE(std::filesystem::exists(DataDirectory() / "languages" / "English.lang"));
+}
+
+TEST(FirstDirectory, IsTheFirstOfFullNameThatIsADirectory) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("file", ""), found = directory / "found";
+  std::filesystem::create_directory(found);
+  std::filesystem::create_directory_symlink(found, directory / "link");
+  for (const std::filesystem::path& other :
+       {file, directory / "none", std::filesystem::path("."), std::filesystem::path()}) {
+    EXPECT_EQ(FirstDirectory({other, directory / "link", directory.Path()}), std::filesystem::canonical(found))
+        << other;
+  }
+}
+
+TEST(FirstDirectory, IsTheLastPlaceWhereThereIsNone) {
+  EXPECT_EQ(FirstDirectory({"/no/such", ".", "/none/either"}), "/none/either");
 }
 
 TEST(ConfigurationDirectory, LiesUnderTheConfigurationHome) {

@@ -45,5 +45,16 @@ TEST(ElementStream, AnyByteThatIsLostOrAddedIsFound) {
   }
 }
 
+TEST(ElementStream, AHeadIsOfItsSizeAndHasTheMark) {
+  World world;
+  const auto stream = StreamOf(*world.component.Create("F1", world.host));
+  const std::span<const std::uint8_t> bytes(stream);
+  EXPECT_EQ(BytesBehind(bytes.first(StreamHeadSize)), stream.size() - StreamHeadSize);
+  EXPECT_FALSE(BytesBehind(bytes.first(StreamHeadSize - 1)));
+  EXPECT_FALSE(BytesBehind(bytes.first(StreamHeadSize + 1)));
+  EXPECT_FALSE(BytesBehind({}));
+  EXPECT_FALSE(BytesBehind(bytes.subspan(1, StreamHeadSize)));
+}
+
 }  // namespace
 }  // namespace plexel

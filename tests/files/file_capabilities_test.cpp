@@ -2,8 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
+
 #include "file_error_of.h"
 #include "files/data_directory.h"
+#include "world/file_faults.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -58,6 +61,15 @@ TEST(FileCapabilities, AnEmptyTargetAnswersZeroToAllQueries) {
 
 TEST(FileCapabilities, AMissingDirectoryHasNoTargets) {
   EXPECT_THAT(FileCapabilities("no/such/directory").Targets(), IsEmpty());
+}
+
+TEST(FileCapabilities, ADirectoryThatCannotBeReadIsAnError) {
+  const TemporaryDirectory directory;
+  directory.Put("a.cap", "[One]\n");
+  const FileFaults faults(directory.Path(), "openat", EACCES);
+  const auto error = FileErrorOf([&] { FileCapabilities{directory.Path()}; });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->what(), directory.Path().string() + ": cannot be read: Permission denied");
 }
 
 TEST(FileCapabilities, AFaultyLineIsNamed) {

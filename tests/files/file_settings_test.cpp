@@ -2,11 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
 #include <memory>
 
 #include "file_error_of.h"
 #include "files/text_lines.h"
 #include "platform/failure.h"
+#include "world/file_faults.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -166,6 +168,17 @@ TEST_F(SettingsFiles, EveryTruncationIsReadOrTold) {
 TEST_F(SettingsFiles, SavingWhereNothingCanBeWrittenIsAFault) {
   directory_.Put("c", "a file, no directory");
   EXPECT_THROW(Settings().Save(), FileError);
+}
+
+TEST_F(SettingsFiles, SavingWithoutFlushingTheDirectoryIsToldAndDone) {
+  PutSettings("damage\n");
+  FileSettings settings = Settings();
+  {
+    const FileFaults faults(directory_.Path(), "fsync of a directory", EIO);
+    EXPECT_THROW(settings.Save(), FileWarning);
+  }
+  EXPECT_THAT(settings.Problems(), IsEmpty());
+  EXPECT_THAT(Settings().Problems(), IsEmpty());
 }
 
 TEST_F(SettingsFiles, PositionsHaveDefaults) {

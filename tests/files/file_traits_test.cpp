@@ -1,6 +1,9 @@
 #include "files/file_traits.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <grp.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -46,12 +49,41 @@ TEST_F(FileTraitsOfASavedFile, AccessListAndExtendedAttributesStay) {
 }
 
 TEST_F(FileTraitsOfASavedFile, WhatMayNotBeGivenIsToldBeforeAndTheFileIsAsItWas) {
-  const FileFaults faults(directory.Path(), "fsetxattr", EPERM);
-  const FileTraits lost = LostByWriting(file);
-  EXPECT_THAT(lost, ::testing::UnorderedElementsAre(FileTrait{FileTrait::Kind::AccessList, ""},
-                                                    FileTrait{FileTrait::Kind::Attribute, NoteName}));
-  EXPECT_EQ(Content(file), "old");
-  EXPECT_EQ(directory.CountFiles(), 1U);
+  for (const int error : {EPERM, EACCES, ENOTSUP, EINVAL}) {
+    const FileFaults faults(directory.Path(), "fsetxattr", error);
+    const FileTraits lost = LostByWriting(file);
+    EXPECT_THAT(lost, ::testing::UnorderedElementsAre(FileTrait{FileTrait::Kind::AccessList, ""},
+                                                      FileTrait{FileTrait::Kind::Attribute, NoteName}));
+    EXPECT_EQ(Content(file), "old");
+    EXPECT_EQ(directory.CountFiles(), 1U);
+  }
+}
+
+TEST_F(FileTraitsOfASavedFile, AnAttributeThatGoesInTheMeantimeIsNotLost) {
+  const FileFaults faults(directory.Path(), "getxattr", ENODATA);
+  EXPECT_TRUE(LostByWriting(file).empty());
+}
+
+TEST_F(FileTraitsOfASavedFile, WhereThereAreNoAttributesNoneIsLost) {
+  const FileFaults faults(directory.Path(), "listxattr", ENOTSUP);
+  EXPECT_TRUE(LostByWriting(file).empty());
+  EXPECT_EQ(faults.Failed(), "listxattr");
+}
+
+TEST_F(FileTraitsOfASavedFile, AttributesThatCannotBeListedAreAFailure) {
+  const FileFaults faults(directory.Path(), "listxattr", EIO);
+  const auto error = FileErrorOf([&] { LostByWriting(file); });
+  ASSERT_TRUE(error);
+  EXPECT_THAT(error->what(), HasSubstr("cannot be written: Input/output error"));
+}
+
+TEST_F(FileTraitsOfASavedFile, WhatTellsOfTheContentIsNotGiven) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root may give a file such an attribute";
+  GiveAttribute(file, "security.ima", "signature");
+  EXPECT_TRUE(LostByWriting(file).empty());
+  WriteWholeFile(file, "new");
+  EXPECT_EQ(AttributeOf(file, "security.ima"), std::nullopt);
+  EXPECT_EQ(AttributeOf(file, NoteName), "kept");
 }
 
 TEST_F(FileTraitsOfASavedFile, AGroupGetsNoRightsThatTheLostAccessListDidNotGiveToAnyone) {
@@ -90,6 +122,126 @@ TEST(FileTraits, AFileWithoutAccessListGetsNoneFromItsDirectory) {
   EXPECT_EQ(ModeOf(file), 0640U);
   WriteWholeFile(directory / "another", "new");
   EXPECT_EQ(AttributeOf(directory / "another", AccessListName), SampleAccessList()) << "a new file has what it gets";
+}
+
+/// A file without an access list in a directory that gives one to new files.
+class FileTraitsInADirectoryThatGivesAccessLists : public ::testing::Test {
+ protected:
+  FileTraitsInADirectoryThatGivesAccessLists() {
+    GiveAttribute(directory.Path(), "system.posix_acl_default", SampleAccessList());
+  }
+  TemporaryDirectory directory;
+  const std::filesystem::path file = directory.Put("file", "old");
+};
+
+TEST_F(FileTraitsInADirectoryThatGivesAccessLists, OneThatCannotBeTakenAwayIsLost) {
+  const FileFaults faults(directory.Path(), "fremovexattr", EPERM);
+  EXPECT_EQ(LostByWriting(file), (FileTraits{{FileTrait::Kind::AccessList, ""}}));
+}
+
+TEST_F(FileTraitsInADirectoryThatGivesAccessLists, ADiskThatFailsToTakeItAwayIsAFailure) {
+  for (const char* operation : {"fremovexattr", "fgetxattr"}) {
+    const FileFaults faults(directory.Path(), operation, EIO);
+    EXPECT_TRUE(FileErrorOf([&] { LostByWriting(file); })) << operation;
+  }
+}
+
+TEST_F(FileTraitsInADirectoryThatGivesAccessLists, WhereThereAreNoneNothingIsLost) {
+  const FileFaults faults(directory.Path(), "fgetxattr", ENOTSUP);
+  EXPECT_TRUE(LostByWriting(file).empty());
+  EXPECT_EQ(faults.Failed(), "fgetxattr");
+}
+
+TEST_F(FileTraitsInADirectoryThatGivesAccessLists, AnotherThatTheFileHasStays) {
+  std::string list = SampleAccessList();
+  list[4 + 8 + 4] = 99;  // another user
+  GiveAttribute(file, AccessListName, list);
+  WriteWholeFile(file, "new");
+  EXPECT_EQ(AttributeOf(file, AccessListName), list);
+}
+
+TEST_F(FileTraitsInADirectoryThatGivesAccessLists, OneThatTheNewFileHasAlreadyIsNotGiven) {
+  const auto other = directory / "other";
+  const int handle = ::open(other.c_str(), O_WRONLY | O_CREAT, 0600);
+  ASSERT_GE(handle, 0);
+  ::close(handle);
+  ASSERT_TRUE(AttributeOf(other, AccessListName));
+  const FileFaults faults(directory.Path(), "fsetxattr", EPERM);
+  EXPECT_TRUE(LostByWriting(other).empty());
+  EXPECT_EQ(faults.Failed(), "");
+}
+
+/// A file of somebody else, as root alone may have one.
+class FileOfSomebodyElse : public ::testing::Test {
+ protected:
+  static constexpr uid_t Owner = 4'000'001;
+  static constexpr gid_t Group = 4'000'002;
+  static constexpr auto Mine = static_cast<uid_t>(-1);
+
+  void SetUp() override {
+    if (::geteuid() != 0) GTEST_SKIP() << "only root may give a file away";
+  }
+  void GiveAway(uid_t owner, gid_t group, mode_t mode = 06664) {
+    ASSERT_EQ(::chown(file.c_str(), owner, group), 0);
+    ASSERT_EQ(::chmod(file.c_str(), mode), 0);
+  }
+  TemporaryDirectory directory;
+  const std::filesystem::path file = directory.Put("file", "old");
+};
+
+TEST_F(FileOfSomebodyElse, NamesOfOwnerAndGroupAreToldWhereTheyAreKnown) {
+  constexpr uid_t daemon = 1;  // as everywhere
+  const passwd* const user = ::getpwuid(daemon);
+  const struct group* const group = ::getgrgid(daemon);
+  if (user == nullptr || group == nullptr) GTEST_SKIP() << "there is nobody else";
+  GiveAway(daemon, daemon);
+  const FileFaults faults(directory.Path(), "fchown", EPERM);
+  EXPECT_EQ(LostByWriting(file),
+            (FileTraits{{FileTrait::Kind::Owner, user->pw_name}, {FileTrait::Kind::Group, group->gr_name}}));
+  const NoUserNames unknown;
+  EXPECT_EQ(LostByWriting(file), (FileTraits{{FileTrait::Kind::Owner, "1"}, {FileTrait::Kind::Group, "1"}}));
+}
+
+TEST_F(FileOfSomebodyElse, OfAGroupThatIsLostAloneTheOwnerStays) {
+  GiveAway(Mine, Group);
+  const FileFaults faults(directory.Path(), "fchown", EPERM);
+  EXPECT_EQ(LostByWriting(file), (FileTraits{{FileTrait::Kind::Group, "4000002"}}));
+  WriteWholeFile(file, "new");
+  EXPECT_EQ(ModeOf(file), 0644U) << "neither does the other group get rights, nor is its program run for it";
+}
+
+TEST_F(FileOfSomebodyElse, OfAnOwnerWhoIsLostAloneTheGroupStays) {
+  GiveAway(Owner, Mine);
+  const FileFaults faults(directory.Path(), "fchown", EPERM);
+  EXPECT_EQ(LostByWriting(file), (FileTraits{{FileTrait::Kind::Owner, "4000001"}}));
+  WriteWholeFile(file, "new");
+  EXPECT_EQ(ModeOf(file), 0664U) << "nobody runs it as somebody else";
+}
+
+TEST_F(FileOfSomebodyElse, TheGroupIsGivenWhereTheOwnerMayNotBe) {
+  GiveAway(Owner, Group);
+  {
+    const FileFaults faults(directory.Path(), "fchown", {EPERM});
+    WriteWholeFile(file, "new");
+  }
+  EXPECT_EQ(Content(file), "new");
+  EXPECT_EQ(StatusOf(file).st_uid, ::geteuid());
+  EXPECT_EQ(StatusOf(file).st_gid, Group);
+  EXPECT_EQ(ModeOf(file), 0664U);
+}
+
+TEST_F(FileOfSomebodyElse, AFailingDiskIsAFailureAndNoLoss) {
+  GiveAway(Owner, Group);
+  const auto expect = [&](std::initializer_list<int> errors) {
+    const FileFaults faults(directory.Path(), "fchown", errors);
+    const auto error = FileErrorOf([&] { WriteWholeFile(file, "new"); });
+    ASSERT_TRUE(error);
+    EXPECT_THAT(error->what(), HasSubstr("cannot be written: Input/output error"));
+    EXPECT_EQ(Content(file), "old");
+    EXPECT_EQ(directory.CountFiles(), 1U);
+  };
+  expect({EIO});
+  expect({EPERM, EIO});
 }
 
 TEST(FileTraits, OwnerAndGroupThatMayNotBeGivenAreNamedBefore) {

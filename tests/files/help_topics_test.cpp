@@ -52,10 +52,24 @@ TEST(HelpTopics, ATopicHasItsTitle) {
 
 TEST(HelpTopics, ATopicWithoutATitleIsRead) {
   const TemporaryDirectory directory;
-  directory.Put("7.html", "<title>open");
-  const auto topic = ReadHelpTopic(directory.Path().string() + ".chm", 7);
-  ASSERT_TRUE(topic);
-  EXPECT_EQ(topic->title, "");
+  for (const char* html : {"<title>open", "<h1>About</h1>"}) {
+    directory.Put("7.html", html);
+    const auto topic = ReadHelpTopic(directory.Path().string() + ".chm", 7);
+    ASSERT_TRUE(topic);
+    EXPECT_EQ(topic->title, "");
+    EXPECT_EQ(topic->html, html);
+  }
+}
+
+TEST(HelpTopics, TopicsComeByTheirTitlesAndThoseOfOneTitleByTheirNumbers) {
+  const TemporaryDirectory directory;
+  directory.Put("10.html", "<title>b</title>");
+  directory.Put("9.html", "<title>b</title>");
+  directory.Put("8.html", "<title>c</title>");
+  directory.Put("11.html", "<title>a</title>");
+  std::vector<std::int32_t> numbers;
+  for (const HelpTopic& topic : ReadHelpTopics(directory.Path().string() + ".chm")) numbers.push_back(topic.number);
+  EXPECT_EQ(numbers, (std::vector<std::int32_t>{11, 9, 10, 8}));
 }
 
 TEST(ShippedHelpTopics, EveryTopicOfTheDialogsIsThereInBothLanguages) {

@@ -151,11 +151,60 @@ TEST_F(InPlace, AHalfWrittenFileThatCannotBeGivenItsContentBackKeepsItsCopy) {
 }
 
 TEST_F(InPlace, OfSeveralCopiesTheLatestHoldsWhatTheFileHeld) {
-  directory.Put("file.4194305-0.old", "older");
+  const std::vector<std::string> names = {"file.4194305-0.old", "file.4194306-0.old", "file.4194307-0.old"};
+  for (const std::string& latest : names) {
+    directory.Put("file", "\0hal"s);
+    for (const std::string& name : names) {
+      directory.Put(name, name == latest ? "old content" : "older");
+      const auto age = std::chrono::hours(name == latest ? 1 : 2);
+      std::filesystem::last_write_time(directory / name, std::filesystem::last_write_time(file) - age);
+    }
+    EXPECT_EQ(Read(file), "old content");
+  }
+}
+
+TEST_F(InPlace, WhatIsBesideAHalfWrittenFileAndIsNoCopyIsNotRead) {
   Tear("old content");
-  std::filesystem::last_write_time(directory / "file.4194305-0.old",
-                                   std::filesystem::last_write_time(file) - std::chrono::hours(1));
+  const auto half = directory.Put("file.4194305-0.new", "half");
+  std::filesystem::last_write_time(half, std::filesystem::last_write_time(file) + std::chrono::hours(1));
   EXPECT_EQ(Read(file), "old content");
+}
+
+/// A half-written file that another program is still writing.
+class InPlaceByAnother : public InPlace {
+ protected:
+  InPlaceByAnother() { EXPECT_EQ(SystemFiles().Open(file, handle_), 0); }
+  ~InPlaceByAnother() override { SystemFiles().Close(handle_); }
+  const std::filesystem::path copy = Tear("old content");
+
+ private:
+  int handle_ = -1;
+};
+
+TEST_F(InPlaceByAnother, ACopyThatGoesWhenItIsReadHasBeenPutBackIntoTheFile) {
+  const Meanwhile another(copy, "open", [&] {
+    directory.Put("file", "whole");
+    std::filesystem::remove(copy);
+  });
+  EXPECT_EQ(Read(file), "whole");
+}
+
+TEST_F(InPlaceByAnother, ACopyThatCannotBeReadTellsTheReason) {
+  const FileFaults faults(copy, "open", EACCES);
+  const auto error = FileErrorOf([&] { Read(file); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->what(), copy.string() + ": cannot be read: Permission denied");
+}
+
+TEST_F(InPlaceByAnother, CopiesThatGoAgainAndAgainAreGivenUp) {
+  int number = 1;
+  const Meanwhile another(directory.Path(), "open", [&] {
+    const auto last = NameBeside(file, number - 1, OldEnding), next = NameBeside(file, number++, OldEnding);
+    std::filesystem::rename(last, next);
+  });
+  const auto error = FileErrorOf([&] { Read(file); });
+  ASSERT_TRUE(error);
+  EXPECT_THAT(error->what(), HasSubstr("it held may stand beside another of its names"));
 }
 
 TEST_F(InPlace, ACopyBesideAWholeFileIsNotRead) {

@@ -72,6 +72,32 @@ TEST(PanelFile, APartHasItsPlaceColoursAndLegend) {
   EXPECT_FALSE(part.element);
 }
 
+TEST(PanelFile, LegendsStandLeftRightOrInTheMiddle) {
+  for (const auto& [word, alignment] : {std::pair{"left", LegendAlignment::Left},
+                                        {"center", LegendAlignment::Center},
+                                        {"right", LegendAlignment::Right}}) {
+    const Panel panel = Read(WithLines("[KEY]\nPlace=0 0 1 1\nLegendAlign=" + std::string(word) + "\n"));
+    EXPECT_EQ(panel.parts.at(0).legendAlignment, alignment) << word;
+  }
+}
+
+TEST(PanelFile, APanelHas50000PartsAtMost) {
+  std::string parts;
+  for (int count = 0; count < 50'000; ++count) parts += "[KEY]\nPlace=0 0 1 1\n";
+  EXPECT_EQ(Read(WithLines(parts)).parts.size(), 50'000U);
+  EXPECT_THAT(FaultOf(WithLines(parts + "[KEY]\nPlace=0 0 1 1\n"))->what(),
+              HasSubstr("f.panel:100005: the panel has too many parts"));
+}
+
+TEST(PanelFile, APanelIsOf8MegabytesAtMost) {
+  std::string text = WithLines("");
+  text.resize(std::size_t{8} << 20U, '\n');
+  EXPECT_EQ(ParsePanel("p", text).title, "T");
+  const auto error = FileErrorOf([&] { ParsePanel("p", text + '\n'); });
+  ASSERT_TRUE(error);
+  EXPECT_STREQ(error->what(), "p: the panel is too large");
+}
+
 TEST(PanelFile, AnElementHasItsNumbers) {
   const Panel panel =
       Read(WithLines("[KEYSWITCH]\nPlace=0 0 20 10\nElement=K-1\nElementType=6\n"

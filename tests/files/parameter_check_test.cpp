@@ -4,6 +4,7 @@
 
 #include "file_error_of.h"
 #include "files/data_directory.h"
+#include "files/parameter_syntax.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -165,6 +166,18 @@ TEST(ParameterCheck, Utf8LinesOfAFileThatIsNotAreMisread) {
 
 TEST(ParameterCheck, AWindows1252FileHasNoFindings) {
   EXPECT_THAT(Check("[SCANCODE1]\nREMARK001=a\nREMARK049=\xFC\nMAKECODE=1\n"), IsEmpty());
+}
+
+TEST(ParameterCheck, WhatIsNotReadOfAFileIsFound) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("f.cfg", Entry(1));
+  std::string empty(std::size_t{1} << 20U, '\n');
+  std::ofstream stream(file, std::ios::app);
+  for (std::size_t size = 0; size < ParameterFileLimit; size += empty.size()) stream << empty;
+  stream << Entry(1);
+  stream.close();
+  EXPECT_THAT(CheckParameterFile(file), ElementsAre(At(ParameterFileLimit - Entry(1).size() + 5,
+                                                       "behind the first 67108864 bytes of the file is not read")));
 }
 
 TEST(ParameterCheck, FindingsComeInTheOrderOfLines) {

@@ -171,6 +171,17 @@ TEST_F(ParameterFile, ABracketBeginsASectionOnlyAtTheStartOfALine) {
   EXPECT_EQ(Value("C", "Z"), "3");
 }
 
+TEST_F(ParameterFile, EachEntryIsReadFromTheFileThatIsNamed) {
+  Put("[S]\nA=1\n");
+  const std::string other = directory_.Put("g.cfg", "[S]\nA=2\n").string();
+  EXPECT_EQ(Value("S", "A"), "1");
+  std::string value;
+  std::int32_t status = -1;
+  reader_.ReadEntry(other, "S", "A", value, 0, status);
+  EXPECT_EQ(value, "2");
+  EXPECT_EQ(Value("S", "A"), "1");
+}
+
 TEST_F(ParameterFile, ASectionMayHaveTheEmptyName) {
   Put("[]\nA=1\n[ ]\nA=2\nB=3\n[S]\n=4");
   EXPECT_EQ(Value("", "A"), "1");

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "file_error_of.h"
+#include "world/file_faults.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -45,6 +46,49 @@ TEST(ProcessLock, MovesWithItsOwner) {
   EXPECT_FALSE(ProcessLock::Try(file));
   second.Remove();
   EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+TEST(ProcessLock, AFileThatItsLastHolderRemovesInTheMeantimeIsMadeAnew) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Path() / "lock";
+  for (const bool another : {false, true}) {
+    int tries = 0;
+    std::optional<ProcessLock> lock;
+    {
+      const Meanwhile holder(directory.Path(), "flock", [&] {
+        if (++tries > 1) return;
+        std::filesystem::remove(file);
+        if (another) directory.Put("lock", "");
+      });
+      lock = ProcessLock::Try(file);
+    }
+    EXPECT_EQ(tries, 2);
+    ASSERT_TRUE(lock);
+    EXPECT_FALSE(ProcessLock::Try(file)) << "it is the file of that name that is held";
+  }
+}
+
+TEST(ProcessLock, AFileThatHasBecomeALinkToAnotherDeviceIsNotHeld) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Path() / "lock";
+  const Meanwhile another(directory.Path(), "flock", [&] {
+    std::filesystem::remove(file);
+    std::filesystem::create_symlink("/proc/self/status", file);
+  });
+  EXPECT_TRUE(FileErrorOf([&] { static_cast<void>(ProcessLock::Try(file)); })) << "links are not followed";
+}
+
+TEST(ProcessLock, RemovedTwiceItRemovesNothingOfTheNextHolder) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Path() / "lock";
+  auto first = ProcessLock::Try(file);
+  ASSERT_TRUE(first);
+  first->Remove();
+  const auto next = ProcessLock::Try(file);
+  ASSERT_TRUE(next);
+  first->Remove();
+  EXPECT_TRUE(std::filesystem::exists(file));
+  EXPECT_FALSE(ProcessLock::Try(file));
 }
 
 TEST(ProcessLock, AFileThatCannotBeMadeIsAnError) {

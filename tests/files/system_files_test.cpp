@@ -9,6 +9,8 @@
 #include <csignal>
 
 #include "file_error_of.h"
+#include "files/system_operations.h"
+#include "world/file_faults.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -74,6 +76,37 @@ TEST(WriteWholeFile, ANewFileHoldsTheContent) {
   EXPECT_EQ(directory.CountFiles(), 1U);
 }
 
+TEST(WriteWholeFile, WritingThatASignalInterruptsGoesOn) {
+  const TemporaryDirectory directory;
+  const FileFaults faults(directory.Path(), "pwrite", {EINTR, EINTR});
+  WriteWholeFile(directory / "file", "content");
+  EXPECT_EQ(Content(directory / "file"), "content");
+  EXPECT_EQ(faults.Failed(), "pwrite");
+}
+
+TEST(ReadWholeFile, ReadingThatASignalInterruptsGoesOn) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("file", "content");
+  const FileFaults faults(directory.Path(), "read", {EINTR, 0, EINTR});
+  EXPECT_EQ(ReadWholeFile(file, 100), "content");
+  EXPECT_EQ(faults.Failed(), "read");
+}
+
+TEST(NamesOf, AFileThatTheSystemDoesNotTellOfHasNone) {
+  const TemporaryDirectory directory;
+  EXPECT_EQ(NamesOf(directory / "none"), 0U);
+  EXPECT_EQ(NamesOf(directory.Put("file", "")), 1U);
+}
+
+TEST(WriteWholeFile, ADirectoryThatIsNeverFlushedIsNothingToTell) {
+  const TemporaryDirectory directory;
+  for (const int error : {EINVAL, ENOTSUP}) {
+    const FileFaults faults(directory.Path(), "fsync of a directory", error);
+    EXPECT_NO_THROW(WriteWholeFile(directory / "file", "content")) << error;
+    EXPECT_EQ(faults.Failed(), "fsync of a directory");
+  }
+}
+
 TEST(WriteWholeFile, AnEmptyContentIsWritten) {
   const TemporaryDirectory directory;
   const auto file = directory.Put("f", "old");
@@ -132,6 +165,14 @@ TEST(MakeOwnDirectory, MakesAllThatIsMissingForTheUserAlone) {
   ASSERT_EQ(::stat((directory / "a").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0700U);
   EXPECT_TRUE(std::filesystem::is_directory(directory / "a/b"));
+}
+
+TEST(MakeOwnDirectory, ARootThatIsMissingIsAnError) {
+  EXPECT_TRUE(FileErrorOf([] { MakeOwnDirectory(""); }));
+  const FileFaults faults("/", "mkdir", ENOENT);
+  const auto error = FileErrorOf([] { MakeOwnDirectory("/"); });
+  ASSERT_TRUE(error);
+  EXPECT_STREQ(error->what(), "/: cannot be made: No such file or directory");
 }
 
 TEST(MakeOwnDirectory, AFileInItsPlaceIsAnError) {
