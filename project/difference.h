@@ -23,7 +23,7 @@ struct ProjectDifference {
   /// the bytes 0 to NextValue in hexadecimal.
   std::optional<BagValue> from, to;
   /// Of a code buffer, when bytes behind both NextValues differ: in hexadecimal what follows NextValue, up to the last
-  /// byte that differs. Nobody sends these, but a project keeps them.
+  /// byte that differs; else both are empty. Nobody sends these, but a project keeps them.
   std::string fromBehind, toBehind;
 };
 

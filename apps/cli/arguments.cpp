@@ -19,17 +19,8 @@ namespace {
   throw CommandError("\"" + Excerpt(shown) + "\" is no " + wanted);
 }
 
-template <typename Number>
-bool ReadWhole(std::string_view digits, Number& value, int base) {
-  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
-  if (result.ptr != digits.data() + digits.size() || digits.empty()) return false;
-  if (result.ec == std::errc::result_out_of_range) value = std::numeric_limits<Number>::max();
-  return result.ec == std::errc() || result.ec == std::errc::result_out_of_range;
-}
-
-bool IsDigits(std::string_view digits, bool hexadecimal) {
-  const auto isDigit = [base = hexadecimal ? 16 : 10](char c) { return ascii::HexValue(c) < base; };
-  return !digits.empty() && std::ranges::all_of(digits, isDigit);
+bool IsDigits(std::string_view digits, int base) {
+  return !digits.empty() && std::ranges::all_of(digits, [base](char c) { return ascii::HexValue(c) < base; });
 }
 
 }  // namespace
@@ -40,8 +31,11 @@ bool ParseInteger(const std::string& text, int bits, std::int64_t& value) {
   if (negative) digits.remove_prefix(1);
   const bool hexadecimal = digits.starts_with("0x") || digits.starts_with("0X");
   if (hexadecimal) digits.remove_prefix(2);
+  const int base = hexadecimal ? 16 : 10;
+  if (!IsDigits(digits, base)) return false;
   std::uint64_t magnitude = 0;
-  if (!IsDigits(digits, hexadecimal) || !ReadWhole(digits, magnitude, hexadecimal ? 16 : 10)) return false;
+  const std::errc error = std::from_chars(digits.data(), digits.data() + digits.size(), magnitude, base).ec;
+  if (error == std::errc::result_out_of_range) magnitude = std::numeric_limits<std::uint64_t>::max();
 
   const std::uint64_t signBit = std::uint64_t{1} << static_cast<unsigned>(bits - 1);
   const std::uint64_t largest = negative ? signBit : hexadecimal ? 2 * signBit - 1 : signBit - 1;

@@ -38,7 +38,10 @@ const BagValue* ScriptBag::Find(std::string_view key) const {
   return bag_.Find(key);
 }
 
-void ScriptBag::Store(std::string_view key, BagValue value) { bag_.Store(key, std::move(value)); }
+void ScriptBag::Store(std::string_view key, BagValue value) {
+  std::erase(unreadable_, key);
+  bag_.Store(key, std::move(value));
+}
 
 void ScriptBag::Remove(std::string_view key) {
   std::erase(unreadable_, key);

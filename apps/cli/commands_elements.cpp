@@ -28,7 +28,7 @@ struct Member {
 };
 
 template <auto method>
-constexpr Member Row(std::string_view name) {
+consteval Member Row(std::string_view name) {
   return {name, call::Parts<decltype(method)>::Count, call::OnObject<method>};
 }
 
@@ -126,9 +126,10 @@ void WriteElement(Workbench& bench, Arguments&, Json& answer) {
   answer["bag"] = ToJson(bag);
 }
 
+/// The owner is a form, or none.
 Json OwnerOf(const Element& element) {
   const std::shared_ptr<HostObject> owner = element.ParentWindow();
-  return owner == nullptr || owner->AsForm() == nullptr ? Json() : Json(owner->AsForm()->WindowName());
+  return owner == nullptr ? Json() : Json(owner->AsForm()->WindowName());
 }
 
 const PropertyRow& TakeProperty(Arguments& arguments) {

@@ -49,7 +49,7 @@ std::string LineOf(const ProjectDifference& one) {
     AppendMember(line, "fromType", Quoted(JsonOf(*one.from).type));
     AppendMember(line, "toType", Quoted(JsonOf(*one.to).type));
   }
-  if (!one.fromBehind.empty() || !one.toBehind.empty()) {
+  if (!one.fromBehind.empty()) {
     AppendMember(line, "fromBehind", Quoted(one.fromBehind));
     AppendMember(line, "toBehind", Quoted(one.toBehind));
   }
@@ -59,7 +59,8 @@ std::string LineOf(const ProjectDifference& one) {
 /// A name as it stands in a line for people: as it is, or in quotes when something in it needs them.
 std::string Shown(const std::string& name) {
   std::string quoted = Quoted(name);
-  return quoted.size() == name.size() + 2 && name.find(' ') == std::string::npos && !name.empty() ? name : quoted;
+  if (name.empty() || name.find(' ') != std::string::npos || quoted.size() != name.size() + 2) return quoted;
+  return name;
 }
 
 std::string SentenceOf(const ProjectDifference& one, const std::vector<std::string>& files) {
@@ -73,7 +74,7 @@ std::string SentenceOf(const ProjectDifference& one, const std::vector<std::stri
   };
   std::string line = one.kind == DifferenceKind::Panel ? "Panel" : Shown(one.element) + ' ' + Shown(one.name);
   line += ": " + typed(one.from) + " -> " + typed(one.to);
-  if (!one.fromBehind.empty() || !one.toBehind.empty()) {
+  if (!one.fromBehind.empty()) {
     line += ", behind the end " + Quoted(one.fromBehind) + " -> " + Quoted(one.toBehind);
   }
   return line + '\n';

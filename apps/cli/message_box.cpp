@@ -21,11 +21,8 @@ constexpr auto buttonNames = std::to_array<ButtonName>({{MessageAnswer::OK, "OK"
                                                         {MessageAnswer::Yes, "Yes"},
                                                         {MessageAnswer::No, "No"}});
 
-const char* NameOf(MessageAnswer answer) {
-  const auto row = std::find_if(buttonNames.begin(), buttonNames.end(),
-                                [answer](const ButtonName& one) { return one.answer == answer; });
-  return row == buttonNames.end() ? "" : row->name;
-}
+/// Every answer has its row.
+const char* NameOf(MessageAnswer answer) { return std::ranges::find(buttonNames, answer, &ButtonName::answer)->name; }
 
 }  // namespace
 

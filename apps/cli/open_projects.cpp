@@ -23,7 +23,6 @@ const PanelDocument& OpenProjects::Open(const Source& source, const PanelDocumen
 }
 
 void OpenProjects::Save(const std::string& file, std::ostream& errors) const {
-  if (opened_.empty()) return;
   const Opened& latest = opened_.back();
   const std::filesystem::path target = file.empty() ? latest.file : PathOf(file);
   TellReplacing(target, [&] { WriteProject(target, latest.document->Content()); }, errors);

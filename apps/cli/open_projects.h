@@ -30,7 +30,7 @@ class OpenProjects {
   /// The project to save, null before the first one.
   const PanelDocument* Latest() const { return opened_.empty() ? nullptr : opened_.back().document.get(); }
   /// Writes the project to save, into the file that it was read from when none is named, as TellReplacing
-  /// does; FileError when that fails.
+  /// does; FileError when that fails. There must be one.
   void Save(const std::string& file, std::ostream& errors) const;
 
  private:

@@ -19,7 +19,7 @@ struct Procedure {
 
 /// A procedure whose arguments and result are plain values.
 template <auto procedure>
-constexpr Procedure Plain(std::string_view name) {
+consteval Procedure Plain(std::string_view name) {
   using Parts = call::Parts<decltype(procedure)>;
   return {name, Parts::Count, Parts::Count,
           [](Workbench&, Arguments& arguments, Json& answer) { Parts::RunWith(procedure, arguments, answer); }};

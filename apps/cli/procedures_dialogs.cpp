@@ -1,5 +1,6 @@
 #include "cli/procedures.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <ranges>
@@ -38,14 +39,15 @@ bool RunIfOwner(Form& form, Arguments& arguments, Json& answer) {
 /// Runs a procedure that one or more dialogs have on the topmost dialog that has it.
 template <auto... methods>
 void OnOpen(Workbench& bench, Arguments& arguments, Json& answer) {
+  constexpr std::array run = {&RunIfOwner<methods>...};
   for (Form* form : std::views::reverse(std::vector<Form*>(bench.platform.Modal().Shown()))) {
-    if ((RunIfOwner<methods>(*form, arguments, answer) || ...)) return;
+    if (std::ranges::any_of(run, [&](const auto& one) { return one(*form, arguments, answer); })) return;
   }
   throw CommandError("no dialog that has this procedure is open");
 }
 
 template <auto first, auto... others>
-constexpr Procedure OfOpen(std::string_view name) {
+consteval Procedure OfOpen(std::string_view name) {
   constexpr std::size_t count = call::Parts<decltype(first)>::Count;
   return {name, count, count, OnOpen<first, others...>};
 }
@@ -71,7 +73,7 @@ class OpenOrOwn {
 };
 
 template <auto method>
-constexpr Procedure OfAny(std::string_view name) {
+consteval Procedure OfAny(std::string_view name) {
   constexpr std::size_t count = call::Parts<decltype(method)>::Count;
   return {name, count, count, [](Workbench& bench, Arguments& arguments, Json& answer) {
             OpenOrOwn<OwnerOf<method>> dialog(bench);

@@ -42,7 +42,7 @@ struct Field {
 };
 
 template <auto member>
-constexpr Field Row(const char* name) {
+consteval Field Row(const char* name) {
   return {name,
           [](const Record& record) {
             using Type = std::remove_cvref_t<decltype(record.*member)>;

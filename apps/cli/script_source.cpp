@@ -63,7 +63,8 @@ bool ScriptSource::IsCommand(std::size_t start, std::size_t end) const {
 }
 
 void ScriptSource::ReadMore() {
-  if (start_ > ChunkSize && start_ > bytes_.size() / 2) {
+  // What is left behind the commands is a piece of one chunk.
+  if (start_ > ChunkSize) {
     bytes_.erase(0, start_);
     searched_ -= start_;
     start_ = 0;

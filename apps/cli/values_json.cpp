@@ -108,7 +108,7 @@ void AddSequence(Json& answer, const std::string& name, const CodeSequence& sequ
 Json NumberToJson(double value) {
   if (std::trunc(value) == value && std::abs(value) <= LargestExact) return Json(static_cast<std::int64_t>(value));
   const auto single = static_cast<float>(value);
-  return Json(std::isfinite(single) && double{single} == value ? Shortest(single) : value);
+  return Json(double{single} == value ? Shortest(single) : value);
 }
 
 std::string BytesToText(const std::uint8_t* bytes, std::size_t count) {

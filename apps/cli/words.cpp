@@ -52,8 +52,7 @@ class Splitter {
     try {
       word.json = Json::parse(value);
     } catch (const Json::parse_error& error) {
-      const std::size_t offset = error.byte == 0 ? 0 : error.byte - 1;
-      Refuse(line_, start + std::min(offset, value.size()), "this is no JSON value");
+      Refuse(line_, start + std::min(error.byte - 1, value.size()), "this is no JSON value");  // bytes count from 1
     } catch (const Json::exception&) {
       Refuse(line_, start, "this JSON value holds a number out of range");
     }
