@@ -105,5 +105,15 @@ TEST(Arguments, ANumberInJsonIsNoWordOfANumber) {
   EXPECT_TRUE(Arguments(object, 0).Object().is_object());
 }
 
+TEST(Arguments, ASequenceIsARowOrTellsItsLengthToo) {
+  const std::vector<Word> words = {{"E0", std::nullopt}, {"", Json::parse(R"({"bytes":"F0 1C","length":1})")}};
+  const KeyCodes codes = Arguments(words, 0).Codes();
+  EXPECT_EQ(codes.make.codes[0], 0xE0);
+  EXPECT_EQ(codes.make.length, 1);
+  EXPECT_EQ(codes.breaking.codes[0], 0xF0);
+  EXPECT_EQ(codes.breaking.codes[1], 0x1C);
+  EXPECT_EQ(codes.breaking.length, 1);
+}
+
 }  // namespace
 }  // namespace plexel

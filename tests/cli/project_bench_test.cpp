@@ -38,6 +38,13 @@ TEST(ProjectBench, OpensTheProjectOnStandardInput) {
   }
 }
 
+TEST(ProjectBench, NoContainerTellsOfLedsThatAreDefined) {
+  ProjectBench bench;
+  std::istringstream nothing;
+  const auto document = bench.Open(Sample().string(), nothing);
+  EXPECT_EQ(document->Places().front().element->CheckIfLedIsAlreadyDefined(CapsLockLed, 1), False);
+}
+
 TEST(ProjectBench, ElementsComeInTheOrderOfTheFile) {
   ProjectBench bench;
   std::istringstream input(

@@ -90,6 +90,23 @@ TEST_F(Check, DirectionsPairsAndLayersAreMembersWhereARuleHasThem) {
                         R"({"rule":"led-twice","level":"warning","element":"L1","layers":[1,2],"with":"L2"})"));
 }
 
+TEST_F(Check, PeopleReadAllLayersOfAProblem) {
+  const std::string led = "LedType1=int32 3\nLedType2=int32 3\nTargetSystem=string Compact\n";
+  const std::string file = Put("a.plexel", ProjectOf(2, "[ELEMENT L1]\n" + led + "\n[ELEMENT L2]\n" + led));
+  EXPECT_THAT(ProgramRun({"check", file}).output, HasSubstr(": L2, layers 1+2: warning: "));
+}
+
+TEST_F(Check, WhatIsFoundInOneFileIsFoundInAll) {
+  const std::string good = (DataDirectory() / "projects" / "sample.plexel").string();
+  const std::string bad = Put("a.plexel", ProjectOf(1, heldKey));
+  for (const std::vector<std::string>& files : {std::vector{good, bad, good}, {bad, good, good}, {bad, bad, bad}}) {
+    const ProgramRun run({"check", files[0], files[1], files[2]});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors, "");
+  }
+  EXPECT_EQ(ProgramRun({"check", good, good}).status, 0);
+}
+
 TEST_F(Check, TheProjectOnStandardInputIsADash) {
   const ProgramRun run({"check", "-"}, ProjectOf(1, heldKey));
   EXPECT_EQ(run.status, 1);
@@ -192,6 +209,15 @@ TEST_F(Press, PeopleReadATimeLine) {
             "Layer2        ◆  │\n");
 }
 
+TEST_F(Press, KeysThatOnlyComeUpStandBehindAnEmptyPress) {
+  const std::string file =
+      Put("a.plexel", ProjectOf(1, "[ELEMENT F1]\nstrLayer1ReleaseScanCode=codes 3 FFF01CFF*41\n"));
+  EXPECT_EQ(ProgramRun({"press", file, "F1"}).output,
+            "F1, layer 1\n"
+            "   press │ release\n"
+            "a        │ ▲\n");
+}
+
 TEST_F(Press, ALayerWithoutBytesSendsNothing) {
   const std::string file = Put("a.plexel", ProjectOf(1, heldKey));
   EXPECT_EQ(ProgramRun({"press", file, "F1"}).output, "F1, layer 1\nnothing is sent\n");
@@ -224,6 +250,111 @@ TEST_F(Press, NeedsAProjectAndAnElement) {
   EXPECT_EQ(ProgramRun({"press"}).status, 2);
   EXPECT_EQ(ProgramRun({"press", "a.plexel"}).status, 2);
   EXPECT_EQ(ProgramRun({"press", "/nowhere.plexel", "F1"}).status, 2);
+}
+
+class Diff : public ProjectWords {
+ protected:
+  /// What is told of two projects of one element, to people and to programs.
+  void Expect(const std::string& one, const std::string& other, const std::string& sentence, const std::string& line) {
+    const std::string first = Put("a", one), second = Put("b", other);
+    const ProgramRun plain({"diff", first, second}), json({"diff", "--json", first, second});
+    EXPECT_EQ(plain.output, sentence + '\n');
+    EXPECT_EQ(plain.status, 1);
+    EXPECT_EQ(json.output, line + '\n');
+    EXPECT_EQ(json.status, 1);
+  }
+};
+
+TEST_F(Diff, AForeignValueThatOnlyTheSecondHasIsToldFromNothing) {
+  Expect(ProjectOf(1, "[ELEMENT F1]\n"), ProjectOf(1, "[ELEMENT F1]\nx=int32 5\n"), "F1 x: not stored -> 5",
+         R"({"element":"F1","property":"x","from":null,"to":5})");
+}
+
+TEST_F(Diff, BytesBehindTheEndOfABufferAreToldToo) {
+  Expect(ProjectOf(1, "[ELEMENT F1]\nstrLayer1PressScanCode=codes 2 FF1CFF2A\n"),
+         ProjectOf(1, "[ELEMENT F1]\nstrLayer1PressScanCode=codes 2 FF1CFF2B\n"),
+         R"(F1 strLayer1PressScanCode: "FF 1C FF" -> "FF 1C FF", behind the end "2A" -> "2B")",
+         R"({"element":"F1","property":"strLayer1PressScanCode","from":"FF 1C FF","to":"FF 1C FF",)"
+         R"("fromBehind":"2A","toBehind":"2B"})");
+}
+
+TEST_F(Diff, BytesBehindTheEndOfOneBufferAreTold) {
+  Expect(ProjectOf(1, "[ELEMENT F1]\nstrLayer1PressScanCode=codes 2 FF1CFF\n"),
+         ProjectOf(1, "[ELEMENT F1]\nstrLayer1PressScanCode=codes 2 FF1CFF2B\n"),
+         R"(F1 strLayer1PressScanCode: "FF 1C FF" -> "FF 1C FF", behind the end "00" -> "2B")",
+         R"({"element":"F1","property":"strLayer1PressScanCode","from":"FF 1C FF","to":"FF 1C FF",)"
+         R"("fromBehind":"00","toBehind":"2B"})");
+}
+
+TEST_F(Diff, NamesThatOneCouldMisreadStandInQuotes) {
+  for (const auto& [name, shown] : {std::pair{"a b", R"("a b")"}, {"a\"b", R"("a\"b")"}, {"", R"("")"}, {"ab", "ab"}}) {
+    Expect(ProjectOf(1, "[ELEMENT " + std::string(name) + "]\n"), ProjectOf(0, ""),
+           std::string(shown) + ": only in " + (directory / "a").string(),
+           R"({"element":)" + Json(name).dump() + R"(,"only":"A"})");
+  }
+}
+
+TEST_F(Diff, PanelTextsAreToldToDiffer) {
+  const auto carrying = [](const std::string& line) {
+    return "[PROJECT]\nFormat=2\nMarks=\x8B\x9B\nPanel=Small\nElements=0\n[PANEL]\nLine=" + line + "\n[END]\n";
+  };
+  Expect(carrying("a"), carrying("b"), "Panel text: the projects carry different ones",
+         R"({"project":"PanelText","from":"a\n","to":"b\n"})");
+}
+
+class Import : public ProjectWords {};
+
+TEST_F(Import, ATextTooLongForAProjectIsToldWithItsPlace) {
+  const std::string notes(std::size_t{1} << 20U, 'x');
+  const ProgramRun run({"import", "-", "-"}, R"({"format":1,"panel":{"name":"Small"},"elements":[{"place":"F1",)"
+                                             R"("properties":{"ButtonNotes":{"string":")" +
+                                                 notes + R"("}}}]})");
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(run.output, "");
+  EXPECT_EQ(run.errors, "standard input: /elements/0/properties/ButtonNotes: is too long for a project\n");
+}
+
+class ScriptWord : public ProjectWords {
+ protected:
+  /// What a script answers.
+  static std::string Run(std::vector<std::string> words, int wanted) {
+    words.insert(words.begin(), "script");
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(ProgramRun(words).status, wanted);
+    errors = testing::internal::GetCapturedStderr();
+    return testing::internal::GetCapturedStdout();
+  }
+  static inline std::string errors;
+};
+
+TEST_F(ScriptWord, TheBasePathAndTheFileStandInAnyOrder) {
+  const std::string file = Put("s.script", "fn GetBasePath\n");
+  const std::string answer = "{\"line\":1,\"ok\":true,\"result\":\"/x\"}\n";
+  EXPECT_EQ(Run({"--base", "/x", file}, 0), answer);
+  EXPECT_EQ(Run({file, "--base", "/x"}, 0), answer);
+}
+
+TEST_F(ScriptWord, BehindTwoDashesNothingIsAnOption) {
+  const std::filesystem::path before = std::filesystem::current_path();
+  Put("--base", "element A\n");
+  std::filesystem::current_path(directory.Path());
+  EXPECT_EQ(Run({"--", "--base"}, 0), "{\"line\":1,\"ok\":true}\n");
+  std::filesystem::current_path(before);
+}
+
+TEST_F(ScriptWord, WrongCallsTellTheUsage) {
+  const std::string file = Put("s.script", "element A\n");
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"--base"},
+                                                {file, "--base"},
+                                                {"--base", "/x", "--base", "/y"},
+                                                {"-b", file},
+                                                {file, file},
+                                                {"--", file, file},
+                                                {"-"}}) {
+    EXPECT_EQ(Run(words, 2), "");
+    EXPECT_EQ(errors, "usage: plexel script [--base DIR] [FILE]\n");
+  }
 }
 
 }  // namespace

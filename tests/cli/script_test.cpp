@@ -5,11 +5,13 @@
 
 #include <array>
 #include <cstdlib>
+#include <map>
 #include <thread>
 
 #include "cli/json.h"
 #include "cli/workbench.h"
 #include "element/ctlPlexelBaseElement.h"
+#include "files/data_directory.h"
 #include "services/module_state.h"
 
 namespace plexel {
@@ -172,6 +174,77 @@ TEST_F(ScriptRun, NumbersOfABagOutside32BitsAreFloats) {
   ASSERT_EQ(answers.size(), 6U);
   EXPECT_EQ(answers[1]["value"], 2147483647);
   EXPECT_EQ(answers[3]["value"], -2147483648LL);
+}
+
+/// A configuration dialog that offers some LED functions on layer 1.
+const std::string openWithLeds =
+    "text 10413 none\ntext 10400 Run\ntext 10401 \"#0\"\ncapability * HasUserLed 1\ncapability * HasHarddiskLed 1\n"
+    "element A\nset ElementType 3\ncall OpenConfigurationDialog\n";
+
+TEST_F(ScriptRun, AnEntryOfAListIsPickedByItsTextOrItsPlace) {
+  const std::vector<Json> answers = Run(openWithLeds + "tab 1\nselect cmbLEDTypes(0) Run\ncontrol cmbLEDTypes(0)\n" +
+                                        "select cmbLEDTypes(0) \"#0\"\ncontrol cmbLEDTypes(0)\n" +
+                                        "select cmbLEDTypes(0) #1\ncontrol cmbLEDTypes(0)\n" +
+                                        "select cmbLEDTypes(0) #x\nselect cmbLEDTypes(0) {\"a\":1}\n" +
+                                        "select cmbLEDTypes(0) Rum\nselect cmbLEDTypes(0) #99999999999\nclose\n");
+  std::map<int, Json> byLine;
+  for (const Json& answer : answers) byLine[answer["line"]] = answer;
+  EXPECT_EQ(byLine[11]["control"]["Text"], "Run");
+  EXPECT_EQ(byLine[13]["control"]["Text"], "#0");
+  EXPECT_EQ(byLine[15]["control"]["ListIndex"], 1);
+  EXPECT_EQ(byLine[16]["error"], "the list of cmbLEDTypes(0) has no entry \"#x\"");
+  EXPECT_EQ(byLine[17]["error"], "the list of cmbLEDTypes(0) has no entry \"\"");
+  EXPECT_EQ(byLine[18]["error"], "the list of cmbLEDTypes(0) has no entry \"Rum\"");
+  EXPECT_EQ(byLine[19]["error"], "99999999999 does not fit 32 bits");
+}
+
+TEST_F(ScriptRun, ProceduresOfTheConfigurationDialogNeedItToBeOpen) {
+  const std::vector<Json> answers =
+      Run("fn CopyGridCell\nelement A\nset ElementType 2\nset WizardOn -1\ncall OpenConfigurationDialog\n"
+          "fn CopyGridCell\nfn FillLedLists\nclose\n");
+  std::map<int, Json> byLine;
+  for (const Json& answer : answers) byLine[answer["line"]] = answer;
+  EXPECT_EQ(byLine[1]["error"], "frmConfigurationDialog is not open");
+  EXPECT_EQ(byLine[6]["error"], "frmConfigurationDialog is not open");
+  EXPECT_EQ(byLine[7]["error"], "no dialog that has this procedure is open");
+}
+
+TEST_F(ScriptRun, AClickProcedureIsThatOfTheTopmostFormThatHasIt) {
+  const std::vector<Json> answers =
+      Run(openWithLeds + "fn cmdOK_Click 0 1\nfn cmdNothing_Click\nfn txtButtonNotes_Click\nfn cmdCancel_Click\n");
+  std::map<int, Json> byLine;
+  for (const Json& answer : answers) byLine[answer["line"]] = answer;
+  EXPECT_EQ(byLine[9]["error"], "cmdOK_Click takes 0 to 1 arguments");
+  EXPECT_EQ(byLine[10]["error"], "no open dialog has the procedure cmdNothing_Click");
+  EXPECT_EQ(byLine[11]["error"], "no open dialog has the procedure txtButtonNotes_Click")
+      << "it does nothing on a click";
+  EXPECT_EQ(byLine[12]["ok"], true);
+  EXPECT_EQ(byLine[8]["ok"], true) << "the dialog has closed";
+}
+
+TEST_F(ScriptRun, AFormOverAMessageBoxTakesTheCommands) {
+  const std::vector<Json> answers =
+      Run("element B\nset ElementType 2\nelement A\nset ElementType 2\nset WizardOn -1\nset WizardOptions 4\n"
+          "set PressKeyDefLayer1 \"[a]\"\ncall OpenConfigurationDialog\nform\nuse B\ncall OpenPropertiesDialog\nform\n"
+          "answer No\nclose\nform\nanswer Cancel\n");
+  std::map<int, Json> byLine;
+  for (const Json& answer : answers) byLine[answer["line"]] = answer;
+  EXPECT_EQ(byLine[9]["form"]["Name"], "MessageBox");
+  EXPECT_NE(byLine[12]["form"]["Name"], "MessageBox");
+  EXPECT_EQ(byLine[13]["error"], "no message box is open");
+  EXPECT_EQ(byLine[15]["form"]["Name"], "MessageBox");
+}
+
+TEST_F(ScriptRun, ANewElementOfTheNameOfADroppedOneIsNotThatOfTheProject) {
+  const std::string file = (DataDirectory() / "projects" / "sample.plexel").string();
+  const std::vector<Json> opened = Run("open \"" + file + "\"\n");
+  const std::string name = opened.at(0)["elements"][0];
+  const std::vector<Json> answers =
+      Run("open \"" + file + "\"\ndrop " + name + "\nsave /nowhere\nelement " + name + "\nsave /nowhere\n");
+  const std::string dropped = "the element " + name + " of the project was dropped";
+  EXPECT_EQ(answers.at(2)["error"], dropped);
+  EXPECT_EQ(answers.at(3)["ok"], true);
+  EXPECT_EQ(answers.at(4)["error"], dropped);
 }
 
 }  // namespace
