@@ -84,7 +84,8 @@ bool TableLayout::HasAltGr() const {
 KeySign TableLayout::SignOfVirtualKey(std::int32_t virtualKey) const {
   if (virtualKey == VkDecimal) return table_.decimal;
   const auto found = evdevOf_.find(virtualKey);
-  return virtualKey == 0 || found == evdevOf_.end() ? KeySign{} : SignOf(found->second);
+  if (found == evdevOf_.end()) return {};
+  return SignOf(found->second);
 }
 
 std::int32_t TableLayout::ToUnicode(std::int32_t virtualKey, std::int32_t, char16_t* text, std::int32_t capacity,

@@ -37,7 +37,6 @@ class TableLayout : public KeyboardLayout, public LayoutKeys {
   /// Asks for the table; Failure (Platform) for an unknown layout.
   void Load() const;
   const LayoutTable& Table() const;
-  const std::string& Name() const { return name_; }
 
   Handle Current() override { return 1; }
   std::int32_t ToUnicode(std::int32_t virtualKey, std::int32_t scanCode, char16_t* text, std::int32_t capacity,

@@ -32,9 +32,6 @@ class KeyEvents {
   void Add(const KeyEvent& event) { events_[count_++] = event; }
   const KeyEvent* begin() const { return events_.data(); }
   const KeyEvent* end() const { return events_.data() + count_; }
-  std::size_t size() const { return count_; }
-  bool empty() const { return count_ == 0; }
-  const KeyEvent& operator[](std::size_t index) const { return events_[index]; }
 
  private:
   std::array<KeyEvent, 6> events_{};
