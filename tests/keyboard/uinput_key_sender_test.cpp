@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "world/file_faults.h"
 #include "world/temporary_directory.h"
 
 namespace plexel::testing {
@@ -84,6 +85,15 @@ TEST_F(KernelKeys, EachKeyIsWrittenWithTheEndOfItsReport) {
     EXPECT_EQ(events[event + 1].type, EV_SYN);
     EXPECT_EQ(events[event + 1].code, SYN_REPORT);
   }
+}
+
+TEST_F(KernelKeys, WritingThatASignalInterruptsGoesOnAndADeviceThatFailsIsToldOf) {
+  const FileFaults faults(device, "write", {EINTR, 0, EIO});
+  const auto sender = KeySenderOfKernel(device);
+  ASSERT_NE(sender, nullptr);
+  EXPECT_TRUE(sender->Send(KEY_A, true));
+  EXPECT_FALSE(sender->Send(KEY_A, false));
+  EXPECT_EQ(Written().size(), 2U);
 }
 
 TEST_F(KernelKeys, WhatIsNoKeyIsRefusedAndNotWritten) {

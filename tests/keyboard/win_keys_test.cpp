@@ -68,6 +68,43 @@ TEST(WinKeys, PrintReportsItsReleaseOnly) {
   EXPECT_EQ(Keyboard().Down(evdev::Print).Up(evdev::Print).Heard(), "-2C/37/1");
 }
 
+TEST(WinKeys, PrintWhosePressIsKeptFromUsIsReportedAllTheSame) {
+  EXPECT_EQ(Keyboard().Up(evdev::Print).Heard(), "-2C/37/1");
+}
+
+TEST(WinKeys, ScrollLockWithCtrlIsBreak) {
+  EXPECT_EQ(Keyboard().Down(evdev::ScrollLock).Up(evdev::ScrollLock).Heard(), "+91/46/0 -91/46/0");
+  EXPECT_EQ(Keyboard().Down(evdev::RightCtrl).Down(evdev::ScrollLock).Up(evdev::ScrollLock).Heard(),
+            "+11/1D/1 +3/46/0 -3/46/0");
+}
+
+TEST(WinKeys, AHeldPadKeyRepeatsAsWhatItWasPressed) {
+  EXPECT_EQ(Keyboard(false, true).Down(Pad4).Down(evdev::LeftShift).Down(Pad4).Up(Pad4).Heard(),
+            "+64/4B/0 +10/2A/0 +64/4B/0 -64/4B/0");
+  EXPECT_EQ(Keyboard(false, true).Down(evdev::LeftShift).Down(Pad7).Down(Pad7).Up(Pad7).Heard(),
+            "+10/2A/0 -10/2A/0 +24/47/0 +24/47/0 -24/47/0 +10/2A/0");
+}
+
+TEST(WinKeys, TheShiftThatIsStillHeldComesBackBehindAPadKey) {
+  EXPECT_EQ(Keyboard(false, true)
+                .Down(evdev::LeftShift)
+                .Down(Pad7)
+                .Down(evdev::RightShift)
+                .Up(evdev::LeftShift)
+                .Up(Pad7)
+                .Up(evdev::RightShift)
+                .Heard(),
+            "+10/2A/0 -10/2A/0 +24/47/0 +10/36/0 -24/47/0 +10/36/0 -10/36/0");
+  EXPECT_EQ(Keyboard(false, true)
+                .Down(evdev::LeftShift)
+                .Down(Pad7)
+                .Down(evdev::RightShift)
+                .Up(evdev::RightShift)
+                .Up(Pad7)
+                .Heard(),
+            "+10/2A/0 -10/2A/0 +24/47/0 +10/36/0 -24/47/0 +10/2A/0");
+}
+
 TEST(WinKeys, PrintWithAltHeldHasTheScanCodeOfSysRq) {
   EXPECT_EQ(Keyboard().Down(evdev::LeftAlt).Down(evdev::Print).Up(evdev::Print).Up(evdev::LeftAlt).Heard(),
             "+12/38/0 -2C/54/0 -12/38/0");
