@@ -47,17 +47,19 @@ TEST(Replacing, TellsEachAttributeAndTheAccessListThatIsLost) {
 }
 
 TEST(Replacing, TellsTheOwnerAndTheGroupThatAreLost) {
-  if (::geteuid() != 0) GTEST_SKIP() << "only root may give a file away";
+  // Only root may give a file away; the file of anybody else is his own.
+  const bool root = ::geteuid() == 0;
   const TemporaryDirectory directory;
   const auto file = directory.Put("file", "old");
-  ASSERT_EQ(::chown(file.c_str(), 4'000'001, 4'000'002), 0);
-  EXPECT_THAT(Told(directory, file, "fchown"),
-              UnorderedElementsAre("is replaced without its owner 4000001", "is replaced without its group 4000002"));
+  ASSERT_EQ(::chown(file.c_str(), root ? 4'000'001 : ::geteuid(), root ? 4'000'002 : ::getegid()), 0);
+  const std::vector<std::string> wanted = {"is replaced without its owner 4000001",
+                                           "is replaced without its group 4000002"};
+  EXPECT_EQ(Told(directory, file, "fchown"), root ? wanted : std::vector<std::string>());
 }
 
 TEST(Replacing, TellsNothingWhereNothingIsLost) {
   const TemporaryDirectory directory;
-  EXPECT_THAT(Told(directory, directory.Put("file", "old"), "nothing"), UnorderedElementsAre());
+  EXPECT_TRUE(Told(directory, directory.Put("file", "old"), "nothing").empty());
 }
 
 }  // namespace
