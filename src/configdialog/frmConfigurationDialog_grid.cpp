@@ -93,7 +93,7 @@ void frmConfigurationDialog::PasteGridCell(std::int32_t& result) {
                                              : false;
     if (fits) {
       msgScanCodes.Text(clipboard.VisibleString);
-      *CellBuffer(record, row, col) = clipboard.scanCode;
+      if (auto* buffer = CellBuffer(record, row, col)) *buffer = clipboard.scanCode;
     }
     CurrentElement().TactisBaseElementScanCodeBuffer(record);
     UpdateGridRowMarks();

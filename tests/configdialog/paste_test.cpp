@@ -95,6 +95,20 @@ TEST_F(CellClipboard, PasteFromAPressIntoAReleaseCellStoresThePressBytesAndTheMa
   });
 }
 
+TEST_F(CellClipboard, PasteOverAHeaderChangesItsTextAlone) {
+  Buffer(1, 2, CodesOfLength(9));
+  const udtTactisBaseElement_ScanCodeInfo before = element->TactisBaseElementScanCodeBuffer();
+  Open([&](frmConfigurationDialog& dialog, Hand&) {
+    Hold(2, "[new" + Both + "]");
+    for (const int column : {1, 2}) {
+      dialog.msgScanCodes.Current(0, column);
+      EXPECT_EQ(Pasted(dialog), 0);
+      EXPECT_EQ(dialog.msgScanCodes.Text(), "[new" + Both + "]");
+    }
+    EXPECT_EQ(element->TactisBaseElementScanCodeBuffer(), before);
+  });
+}
+
 TEST_F(CellClipboard, RefusedPasteChangesNothingAndStillGivesZero) {
   Buffer(2, 2, CodesOfLength(41));
   Open([this](frmConfigurationDialog& dialog, Hand& hand) {
