@@ -103,6 +103,15 @@ void RecoveryKeeper::Flush() {
 
 namespace {
 
+/// Nothing for a file that another holds, or that cannot be locked.
+std::optional<ProcessLock> Locked(const std::filesystem::path& file) {
+  try {
+    return ProcessLock::Try(file);
+  } catch (const FileError&) {
+    return std::nullopt;
+  }
+}
+
 /// Removes what programs that were killed have left beside recovery files: halves of new ones, and locks of no file.
 void SweepBehindKilled(const std::filesystem::path& directory) {
   std::error_code error;
@@ -110,14 +119,14 @@ void SweepBehindKilled(const std::filesystem::path& directory) {
     const std::string name = TextOf(half.filename());
     const std::size_t end = name.find(Extension);
     if (end == std::string::npos) continue;
-    if (const auto lock = ProcessLock::Try(directory / (name.substr(0, end) + LockExtension))) {
+    if (const auto lock = Locked(directory / (name.substr(0, end) + LockExtension))) {
       std::filesystem::remove(half, error);
     }
   }
   for (const std::filesystem::path& file : FilesWith(LockExtension, directory, error)) {
     std::filesystem::path work = file;
     if (std::filesystem::exists(work.replace_extension(Extension), error) || error) continue;
-    if (std::optional<ProcessLock> lock = ProcessLock::Try(file)) lock->Remove();
+    if (std::optional<ProcessLock> lock = Locked(file)) lock->Remove();
   }
 }
 
@@ -141,10 +150,7 @@ std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::
       damaged.emplace_back(failure.what());
     }
   }
-  try {
-    SweepBehindKilled(directory);
-  } catch (const FileError&) {  // what is left over holds nothing, and the next start tries again
-  }
+  SweepBehindKilled(directory);
   std::ranges::stable_sort(found, [](const LostWork& left, const LostWork& right) {
     return left.content.head.time > right.content.head.time;
   });

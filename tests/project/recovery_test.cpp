@@ -200,9 +200,15 @@ TEST_F(LostWorkFound, OfAProgramThatHadTheSameNumberStays) {
 
 TEST_F(LostWorkFound, WhateverCannotBeLockedBesideIt) {
   std::filesystem::create_directory(Store() / "1-1.lock");
+  for (const char* const name : {"1-1.recovery.9-0.new", "1-2.recovery.9-0.new", "1-2.lock"}) {
+    std::ofstream(Store() / name) << "left over";
+  }
   PutLost("1-3.recovery", 10);
   EXPECT_EQ(FindLostWork(Store(), damaged).size(), 1U);
   EXPECT_THAT(damaged, ::testing::IsEmpty());
+  std::vector<std::string> left;
+  for (const auto& entry : std::filesystem::directory_iterator(Store())) left.push_back(entry.path().filename());
+  EXPECT_THAT(left, ::testing::UnorderedElementsAre("1-1.lock", "1-1.recovery.9-0.new", "1-3.recovery", "1-3.lock"));
 }
 
 TEST_F(LostWorkFound, NotBehindAProgramThatRuns) {
