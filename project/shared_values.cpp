@@ -47,9 +47,10 @@ void SharedValues::Add(std::uint32_t element, std::span<const SharedValue> value
 
 void SharedValues::Remove(std::uint32_t element, std::span<const SharedValue> values) {
   for (const SharedValue& value : values) {
-    Elements& holders = holders_.at(value);
-    holders.erase(std::ranges::lower_bound(holders, element));
-    if (holders.empty()) holders_.erase(value);
+    const auto found = holders_.find(value);
+    if (found == holders_.end()) continue;
+    std::erase(found->second, element);
+    if (found->second.empty()) holders_.erase(found);
   }
 }
 

@@ -40,7 +40,7 @@ class SharedValues {
   using Elements = std::vector<std::uint32_t>;
 
   void Add(std::uint32_t element, std::span<const SharedValue> values);
-  /// Takes back what was added for an element.
+  /// Takes back what was added for an element, as far as it was.
   void Remove(std::uint32_t element, std::span<const SharedValue> values);
   /// The elements that hold a value, in their order.
   const Elements& Holders(const SharedValue& value) const;
