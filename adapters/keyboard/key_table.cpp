@@ -1,5 +1,6 @@
 #include "keyboard/key_table.h"
 
+#include <algorithm>
 #include <array>
 
 namespace plexel {
@@ -164,6 +165,9 @@ constexpr KeyPosition positions[] = {
     {217, 0x65, true, 0xAA, 0xAA, 0xAA, 0xAA},   // SEARCH
     {226, 0x6D, true, 0xB5, 0xB5, 0xB5, 0xB5},   // MEDIA
 };
+static_assert(std::ranges::none_of(positions, [](const KeyPosition& key) {
+  return key.virtualKeyUs == 0 || key.virtualKeyNumLock == 0 || key.virtualKeyGerman == 0 || key.virtualKeyFrench == 0;
+}));
 
 constexpr int EvdevCodes = 256;
 
