@@ -187,6 +187,14 @@ class WithoutApt(System):
                          ["cmake --preset release", "cmake --preset release", "cmake --preset release --fresh",
                           "cmake --preset release"])
 
+    def test_clang_19_compiles_the_tests_where_it_is_and_no_other_is_chosen(self):
+        self.has("cmake", f'echo "compiler $CXX" >>"{self.calls}"')
+        for there, chosen, taken in (("g++", "", ""), ("clang++-19", "", "clang++-19"), ("clang++-19", "g++", "g++")):
+            self.calls.unlink(missing_ok=True)
+            self.has(there)
+            self.start("test", **({"CXX": chosen} if chosen else {}))
+            self.assertEqual((self.status, self.calls_of("compiler")), (0, [f"compiler {taken}"] * 2))
+
 
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])
