@@ -58,6 +58,7 @@ std::int32_t FileCapabilities::Ask(Capability query, std::string_view targetSyst
 
 std::vector<std::string> FileCapabilities::Targets() const {
   std::vector<std::string> names;
+  names.reserve(targets_.size());
   for (const auto& [name, answers] : targets_) names.push_back(name);
   return names;
 }

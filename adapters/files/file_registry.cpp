@@ -95,7 +95,7 @@ std::int32_t FileRegistry::CloseKey(std::intptr_t key) {
 std::int32_t FileRegistry::Write() {
   if (problem_) return AccessDenied;
   std::string content = "[" + keyPath_ + "]\n";
-  for (const auto& [name, value] : values_) content += name + "=" + value + "\n";
+  for (const auto& [name, value] : values_) content.append(name).append("=").append(value).append("\n");
   std::error_code error;
   std::filesystem::create_directories(file_.parent_path(), error);
   if (error) return WriteFault;

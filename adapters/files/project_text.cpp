@@ -43,7 +43,7 @@ bool AppendDefinition(std::string& out, std::string_view text) {
   while (!text.empty()) {
     const auto plainEnd = std::find_if_not(text.begin(), text.end(), IsPlain);
     const auto plain = static_cast<std::size_t>(plainEnd - text.begin());
-    out.append(text.data(), plain);
+    out.append(text.substr(0, plain));
     text.remove_prefix(plain);
     if (text.empty()) return true;
     const bool make = text.starts_with(chrMakeMark);

@@ -126,7 +126,7 @@ void ProjectWriter::AppendValue(const std::string& value) {
 void ProjectWriter::AppendCodes(const udtTactisBaseElement_TACTIS_SCANCODE& codes) {
   out_ += '=';
   AppendTyped(Codes, codes.NextValue);
-  std::array<char, 6 * udtTactisBaseElement_TACTIS_SCANCODE::Size> text;
+  std::array<char, std::size_t{6} * udtTactisBaseElement_TACTIS_SCANCODE::Size> text{};
   char* put = text.data();
   std::size_t count = codes.Value.size();
   while (count > 0 && codes.Value[count - 1] == 0) --count;

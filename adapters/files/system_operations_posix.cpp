@@ -61,7 +61,7 @@ std::string ReadUpTo(const std::filesystem::path& file, std::size_t limit, bool&
   if (!S_ISREG(status.st_mode)) throw refuse("it is no regular file");
 
   // Piece by piece through a block that stays in the cache: the memory of the content is touched only once.
-  std::array<char, std::size_t{64} << 10U> piece;
+  std::array<char, std::size_t{64} << 10U> piece{};
   std::string content;
   content.reserve(std::min(static_cast<std::uintmax_t>(status.st_size), std::uintmax_t{limit}));
   TakeInLargePages(content);

@@ -15,7 +15,7 @@ class AccessibleElement : public QAccessibleWidget {
 
   QString text(QAccessible::Text kind) const override {
     const auto& element = static_cast<const ElementWidget&>(*widget());
-    const QString own = QAccessibleWidget::text(kind);
+    QString own = QAccessibleWidget::text(kind);
     if (!own.isEmpty()) return own;
     if (kind == QAccessible::Name) return element.Legend().isEmpty() ? element.objectName() : element.Legend();
     return kind == QAccessible::Description ? element.Summary() : QString();

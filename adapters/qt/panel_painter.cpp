@@ -105,7 +105,7 @@ constexpr std::array drawings = {PartDrawing{PanelPartKind::Housing, DrawHousing
                                  PartDrawing{PanelPartKind::Led, DrawLed},
                                  PartDrawing{PanelPartKind::Legend, DrawNothing}};
 
-Qt::Alignment AlignmentOf(LegendAlignment alignment) {
+int AlignmentOf(LegendAlignment alignment) {
   switch (alignment) {
     case LegendAlignment::Left:
       return Qt::AlignLeft | Qt::AlignVCenter;

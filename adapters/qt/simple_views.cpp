@@ -59,6 +59,7 @@ class TitledFrame : public QWidget {
     painter.setRenderHint(QPainter::Antialiasing);
     const QFontMetrics metrics = painter.fontMetrics();
     const int titleHeight = title_.isEmpty() ? 0 : metrics.height();
+    const int titleMiddle = titleHeight / 2;
     const int titleWidth = metrics.size(Qt::TextShowMnemonic, title_).width();
     const QRect title(TitleLeft, 0, titleWidth + 2 * TitleMargin, titleHeight);
     QPainterPath gap, all;
@@ -66,7 +67,7 @@ class TitledFrame : public QWidget {
     if (!title_.isEmpty()) gap.addRect(title);
     painter.setClipPath(all - gap);
     painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleHeight / 2 + 0.5, -0.5, -0.5), Radius, Radius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleMiddle + 0.5, -0.5, -0.5), Radius, Radius);
     painter.setClipping(false);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(title.adjusted(TitleMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,

@@ -14,7 +14,7 @@ namespace {
 
 std::string ReadStream(std::istream& stream, std::size_t limit) {
   std::string content;
-  std::array<char, std::size_t{64} << 10U> piece;
+  std::array<char, std::size_t{64} << 10U> piece{};
   while (stream.read(piece.data(), piece.size()), stream.gcount() > 0) {
     content.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
     if (content.size() > limit) {

@@ -4,11 +4,11 @@
 
 namespace plexel {
 
-void Reporter::Succeed(Json fields) {
+void Reporter::Succeed(const Json& fields) {
   Json answer;
   answer["ok"] = true;
   answer.update(fields);
-  Write(std::move(answer));
+  Write(answer);
 }
 
 void Reporter::Fail(const std::string& error) {
@@ -16,7 +16,7 @@ void Reporter::Fail(const std::string& error) {
   Json answer;
   answer["ok"] = false;
   answer["error"] = error;
-  Write(std::move(answer));
+  Write(answer);
 }
 
 void Reporter::Defer(Json fields) { deferred_ = Deferred{line_, std::move(fields), {}}; }
@@ -27,14 +27,14 @@ void Reporter::Settle(const std::string& error) {
   deferred_.reset();
   const Current current(*this, kept.line);
   if (error.empty()) {
-    Succeed(std::move(kept.fields));
+    Succeed(kept.fields);
   } else {
     Fail(error);
   }
   Put(kept.behind);
 }
 
-void Reporter::Write(Json fields) {
+void Reporter::Write(const Json& fields) {
   Json object;
   object["line"] = line_;
   object.update(fields);

@@ -16,11 +16,11 @@ class Reporter {
 
   /// Something that happened while the current command was being carried out. Nothing is told once the reports have
   /// ended: what the end of the script itself brings about is no act of its.
-  void Report(Json report) {
-    if (!ended_) Write(std::move(report));
+  void Report(const Json& report) {
+    if (!ended_) Write(report);
   }
   void EndReports() { ended_ = true; }
-  void Succeed(Json fields);
+  void Succeed(const Json& fields);
   void Fail(const std::string& error);
   /// Keeps the success of the current command back, and all that follows behind it, until Settle tells what became of
   /// it: a success after all, or the failure of this reason. Without a command kept back Settle does nothing.
@@ -51,7 +51,7 @@ class Reporter {
     Json fields;
     std::string behind;  ///< what was written since
   };
-  void Write(Json fields);
+  void Write(const Json& fields);
   void Put(const std::string& text);
 
   std::FILE* output_;

@@ -64,7 +64,7 @@ void Script::Succeed(Json answer, const Open& open) {
     // The commands that wait go on now, and close what is shown, or leave it, or show something new.
     reporter_.Defer(std::move(answer));
   } else {
-    reporter_.Succeed(std::move(answer));
+    reporter_.Succeed(answer);
   }
 }
 

@@ -10,7 +10,7 @@ void ScriptHost::PropertyChanged(ctlPlexelBaseElement& element, const Notice& no
   Json report;
   report["notice"] = notice.kind == Notice::Kind::Text ? Json(std::string(notice.text)) : Json(notice.integer);
   report["element"] = element.Name();
-  reporter_.Report(std::move(report));
+  reporter_.Report(report);
 }
 
 void ScriptHost::Happened(HostEvent event) {
@@ -20,7 +20,7 @@ void ScriptHost::Happened(HostEvent event) {
   report["event"] = event.name;
   report["element"] = event.element;
   report["args"] = std::move(arguments);
-  reporter_.Report(std::move(report));
+  reporter_.Report(report);
 }
 
 }  // namespace plexel

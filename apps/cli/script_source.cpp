@@ -69,7 +69,7 @@ void ScriptSource::ReadMore() {
     searched_ -= start_;
     start_ = 0;
   }
-  std::array<char, ChunkSize> chunk;
+  std::array<char, ChunkSize> chunk{};
   const std::size_t count = input_.Read(chunk);
   ended_ = count == 0;
   bytes_.append(chunk.data(), count);

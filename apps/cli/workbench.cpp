@@ -136,7 +136,7 @@ Control& Workbench::FrontControl(const std::string& name) {
 void Workbench::ReportSwallowedKey() {
   Json report;
   report["swallowed"] = true;
-  reporter_.Report(std::move(report));
+  reporter_.Report(report);
 }
 
 void Workbench::ReportForms() {
@@ -145,13 +145,13 @@ void Workbench::ReportForms() {
     Json report;
     report["shown"] = form.Name();
     report["owner"] = owner == nullptr ? Json() : Json(owner->WindowName());
-    reporter_.Report(std::move(report));
+    reporter_.Report(report);
   };
   modal.onRun = [this](Form& form) { runWhile([&form] { return form.IsShown(); }); };
   modal.onClosed = [this](Form& form) {
     Json report;
     report["unloaded"] = form.Name();
-    reporter_.Report(std::move(report));
+    reporter_.Report(report);
   };
   modal.onPopup = [this](Form&, MenuItem& menu, bool placed, float x, float y) {
     Json report;
@@ -160,7 +160,7 @@ void Workbench::ReportForms() {
       report["x"] = NumberToJson(x);
       report["y"] = NumberToJson(y);
     }
-    reporter_.Report(std::move(report));
+    reporter_.Report(report);
   };
   platform.Messages().onShow = [this](const std::string& prompt, std::int32_t style, const std::string& title) {
     return ShowMessage(prompt, style, title);
@@ -172,13 +172,13 @@ void Workbench::ReportSystem() {
     Json report;
     report["help"]["file"] = topic.file;
     report["help"]["topic"] = topic.topic;
-    reporter_.Report(std::move(report));
+    reporter_.Report(report);
   };
   platform.Hooks().onChange = [this](HookKind kind, bool installed) {
     Json report;
     report["hook"] = HookName(kind);
     report["installed"] = installed;
-    reporter_.Report(std::move(report));
+    reporter_.Report(report);
   };
 }
 
@@ -187,7 +187,7 @@ MessageAnswer Workbench::ShowMessage(const std::string& prompt, std::int32_t sty
   report["message"]["prompt"] = prompt;
   report["message"]["title"] = title;
   report["message"]["style"] = style;
-  reporter_.Report(std::move(report));
+  reporter_.Report(report);
 
   MessageBox box{prompt, title, style, platform.Modal().Shown().size(), std::nullopt};
   struct Opened {

@@ -9,7 +9,7 @@ namespace plexel {
 
 /// A shortcut of the operating system that a key can send.
 struct ShortCut {
-  std::int32_t textId;  ///< number of the language text that names it in a list
+  std::int32_t textId = 0;  ///< number of the language text that names it in a list
   FixedCodes make, breaking;
 };
 
