@@ -63,14 +63,14 @@ class Trial {
 
  private:
   struct Held {
-    std::size_t place;
-    std::int32_t layer;
+    std::size_t place = 0;
+    std::int32_t layer = 0;
     udtTactisBaseElement_TACTIS_SCANCODE release;
   };
   /// A layer that an element calls while it is held.
   struct LayerCall {
-    std::size_t place;
-    std::int32_t layer;
+    std::size_t place = 0;
+    std::int32_t layer = 0;
   };
   const Event* Send(Event event, const udtTactisBaseElement_TACTIS_SCANCODE& codes);
   void Hear(std::size_t place, const KeyReport& report);

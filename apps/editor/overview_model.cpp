@@ -98,8 +98,9 @@ std::vector<int> OverviewModel::PlacesShown() const {
 }
 
 int OverviewModel::RowOf(int place, std::int32_t layer) const {
-  const auto first = static_cast<std::size_t>(place * LayerCount);
-  if (place < 0 || first >= rowOf_.size()) return -1;
+  if (place < 0) return -1;
+  const std::size_t first = static_cast<std::size_t>(place) * LayerCount;
+  if (first >= rowOf_.size()) return -1;
   if (layer > 0) return rowOf_[first + static_cast<std::size_t>(layer - 1)];
   int row = -1;
   for (std::size_t line = first; line < first + LayerCount; ++line) {

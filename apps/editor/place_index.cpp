@@ -19,10 +19,14 @@ PlaceIndex::PlaceIndex(std::vector<QRect> boxes) : boxes_(std::move(boxes)) {
     const QRect cells = CellsOf(boxes_[number]);
     for (int row = cells.top(); row <= cells.bottom(); ++row) {
       for (int column = cells.left(); column <= cells.right(); ++column) {
-        inCell_[static_cast<std::size_t>(row * columns_ + column)].push_back(static_cast<int>(number));
+        inCell_[CellAt(column, row)].push_back(static_cast<int>(number));
       }
     }
   }
+}
+
+std::size_t PlaceIndex::CellAt(int column, int row) const {
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column);
 }
 
 QRect PlaceIndex::CellsOf(const QRect& area) const {
@@ -37,7 +41,7 @@ std::vector<int> PlaceIndex::Meeting(const QRect& area) const {
   const QRect cells = CellsOf(area);
   for (int row = cells.top(); row <= cells.bottom(); ++row) {
     for (int column = cells.left(); column <= cells.right(); ++column) {
-      for (const int number : inCell_[static_cast<std::size_t>(row * columns_ + column)]) {
+      for (const int number : inCell_[CellAt(column, row)]) {
         if (boxes_[static_cast<std::size_t>(number)].intersects(area)) found.push_back(number);
       }
     }

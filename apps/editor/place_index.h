@@ -16,6 +16,7 @@ class PlaceIndex {
  private:
   /// The cells that a rectangle meets, as columns and rows.
   QRect CellsOf(const QRect& area) const;
+  std::size_t CellAt(int column, int row) const;
 
   std::vector<QRect> boxes_;
   QRect whole_;
