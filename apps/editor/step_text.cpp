@@ -27,10 +27,10 @@ constexpr KindText kindTexts[] = {{StepKind::Configure, Text::StepConfigure},
 }  // namespace
 
 QString StepText(const StepName& name) {
-  const QString what = name.element.empty() ? Say(Text::StepElements).arg(name.count) : ToQt(name.element);
+  QString what = name.element.empty() ? Say(Text::StepElements).arg(name.count) : ToQt(name.element);
   for (const KindText& one : kindTexts) {
     if (one.kind != name.kind) continue;
-    const QString pattern = Say(one.text);
+    QString pattern = Say(one.text);
     if (name.element.empty() && name.count == 0) return pattern;  // of the panel alone
     return pattern.contains("%1") ? pattern.arg(what) : pattern + " (" + what + ')';
   }

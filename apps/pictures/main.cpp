@@ -35,8 +35,8 @@ namespace {
 class PictureMaker {
  public:
   /// Without a project the editor shows a panel with some keys defined.
-  PictureMaker(QDir target, const QString& language, std::string project)
-      : target_(std::move(target)),
+  PictureMaker(const QDir& target, const QString& language, std::string project)
+      : target_(target),
         project_(std::move(project)),
         surroundings_(DataDirectory(), configuration_.path().toStdString()),
         platform_(surroundings_.UserRegistry(), help_),

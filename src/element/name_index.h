@@ -11,7 +11,7 @@ namespace plexel {
 /// Where the search for a name begins in an open hash table. Length, first and last character tell the element's names
 /// well apart.
 constexpr std::size_t FirstSlotOfName(std::size_t size, unsigned first, unsigned last, std::size_t slots) {
-  return (size * 5U + first * 11U + last * 3U) % slots;
+  return (size * 5U + std::size_t{first} * 11U + std::size_t{last} * 3U) % slots;
 }
 
 /// Finds the place of a name in a fixed list: an open hash table, made by the compiler.

@@ -10,7 +10,7 @@ namespace {
 using Info = udtTactisBaseElement_ScanCodeInfo;
 using Buffer = udtTactisBaseElement_TACTIS_SCANCODE;
 
-constexpr std::size_t bufferCount = 2 * LayerCount;
+constexpr std::size_t bufferCount = std::size_t{2} * LayerCount;
 constexpr std::size_t mostBytes = bufferCount * (1 + sizeof(Buffer::NextValue) + Buffer::Size);
 /// In place of a number of bytes: the buffer is as it is in a new element.
 constexpr std::uint8_t untouched = 0xFF;
@@ -48,7 +48,7 @@ void PackCodes(const Info& record, std::vector<std::uint8_t>& packed) {
 }
 
 void PackCodes(const CodeBuffers& buffers, std::vector<std::uint8_t>& packed) {
-  std::array<std::uint8_t, mostBytes> bytes;
+  std::array<std::uint8_t, mostBytes> bytes{};
   std::size_t size = 0;
   bool anyTouched = false;
   for (const Buffer* const buffer : buffers) {

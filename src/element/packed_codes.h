@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -14,7 +15,7 @@ namespace plexel {
 /// bytes.
 
 /// The buffers, press before release, layer by layer; null for one that is untouched.
-using CodeBuffers = std::array<const udtTactisBaseElement_TACTIS_SCANCODE*, 2 * LayerCount>;
+using CodeBuffers = std::array<const udtTactisBaseElement_TACTIS_SCANCODE*, std::size_t{2} * LayerCount>;
 
 /// Packs the buffers of a record, or buffers by themselves.
 void PackCodes(const udtTactisBaseElement_ScanCodeInfo& record, std::vector<std::uint8_t>& packed);

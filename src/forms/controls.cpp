@@ -92,6 +92,7 @@ void TabStrip::TabEnabled(int page, bool value) { At(page).enabled = value; }
 
 std::vector<TextSlot> TabStrip::Texts() {
   std::vector<TextSlot> texts;
+  texts.reserve(static_cast<std::size_t>(Pages()));
   for (int page = 0; page < Pages(); ++page) {
     texts.push_back({TabCaption(page), [this, page](std::string text) { TabCaption(page, std::move(text)); }});
   }
@@ -124,6 +125,7 @@ const std::string& ImageList::Picture(const std::string& key) const {
 
 void ImageList::DescribeMore(Description& description) const {
   std::vector<std::string> keys;
+  keys.reserve(pictures_.size());
   for (const auto& [key, picture] : pictures_) keys.push_back(key);
   description.emplace_back("List", std::move(keys));
 }

@@ -94,6 +94,7 @@ void Form::Popup(MenuItem& menu, bool placed, float x, float y) {
 
 Description Form::Describe() const {
   std::vector<std::string> names;
+  names.reserve(controls_.size());
   for (const Control* control : controls_) names.push_back(control->FullName());
   Description description;
   description.emplace_back("Name", name_);

@@ -102,7 +102,7 @@ class LayoutText {
   }
 
  private:
-  std::array<char16_t, 50> characters_;
+  std::array<char16_t, 50> characters_{};
 };
 
 /// No name holds a bare bracket, since brackets delimit the definition text.

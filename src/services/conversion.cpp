@@ -71,9 +71,8 @@ bool IsTiny(std::string_view text) {
 template <typename Number>
 Number ParseHexadecimal(std::string_view digits, std::string_view text) {
   std::uint64_t value = 0;
-  const char* const end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, value, 16);
-  if (digits.empty() || stop != end) FailConversion(text);
+  const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+  if (digits.empty() || stop != digits.data() + digits.size()) FailConversion(text);
   if (error == std::errc::result_out_of_range) FailOverflow(std::string(text));
   return static_cast<Number>(value);
 }

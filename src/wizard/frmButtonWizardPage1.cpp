@@ -193,6 +193,8 @@ void frmButtonWizardPage1::optKeyType_Click(int index) {
     case WindowsShortCut:
       cmbWindowsShortCuts.Enabled(true);
       break;
+    default:
+      break;
   }
 }
 
