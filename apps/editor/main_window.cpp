@@ -250,6 +250,7 @@ bool MainWindow::SaveProject(const std::filesystem::path& file) {
     return false;
   }
   try {
+    const WaitCursor waits;
     notice_->hide();
     safekeeping_.Saved();
     WasUsed(file);
