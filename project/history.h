@@ -57,6 +57,7 @@ struct Step {
   StepName name;
   std::vector<Part> parts;                          ///< ascending by place
   std::shared_ptr<const DocumentPanel> panel = {};  ///< that of the other side, where it is another
+  std::optional<bool> carriesPanel = {};            ///< of the other side, where the two differ in it
 };
 
 /// The steps of a project in the order in which they were made, those done before those that were taken back. Without

@@ -119,7 +119,7 @@ std::unique_ptr<PanelDocument> PanelDocument::Of(const std::string& panelName, c
   const std::filesystem::path panel = carries ? origin : PanelFile(site.panelDirectory, panelName);
   std::unique_ptr<PanelDocument> document(
       new PanelDocument(panelName, carries ? panelText : ReadPanelText(panel), panel));
-  document->carriesPanel_ = carries;
+  document->carriesPanel_ = document->fileCarriesPanel_ = carries;
   std::unordered_map<std::string_view, const PanelPart*> left;
   for (const PanelPart& part : document->panel_->panel.parts) {
     if (part.element) left.emplace(part.element->id, &part);
@@ -242,6 +242,7 @@ void PanelDocument::Save(const std::filesystem::path& file) {
   hash_ = HashOf(text);
   fileForeign_ = std::move(foreign);
   filePanel_ = panel_;
+  fileCarriesPanel_ = carriesPanel_;
   unsaved_.clear();
   fileIsOther_ = false;
   if (told) throw FileWarning(*told);
@@ -284,6 +285,7 @@ void PanelDocument::FileHolds(const PanelDocument& other) {
   hash_ = other.hash_;
   fileForeign_ = ForeignOf(other);
   filePanel_ = other.panel_;
+  fileCarriesPanel_ = carriesPanel_;  // whether it does is no difference that is told
   fileIsOther_ = false;
   unsaved_.clear();
   ForEachPair(other, [this](std::size_t place, ElementChange change, const ctlPlexelBaseElement&) {
@@ -349,6 +351,7 @@ void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, c
   for (const std::size_t place : sorted) before.push_back(ValuesOf(*places_.at(place).element));
   const Foreign foreignBefore = foreign_;
   const std::shared_ptr<const DocumentPanel> panelBefore = panel_;
+  const bool carriedBefore = carriesPanel_;
   ++changing_;
   AndThen(act, [&] {
     --changing_;
@@ -362,7 +365,8 @@ void PanelDocument::Change(StepKind kind, std::span<const std::size_t> places, c
       if (foreignDiffers) step.parts.back().foreign = ForeignAt(foreignBefore, place);
     }
     if (panel_ != panelBefore) step.panel = panelBefore;
-    if (step.parts.empty() && step.panel == nullptr) return;
+    if (carriesPanel_ != carriedBefore) step.carriesPanel = carriedBefore;
+    if (step.parts.empty() && step.panel == nullptr && !step.carriesPanel) return;
     step.name = {kind, {}, step.parts.size()};
     if (step.parts.size() == 1) step.name.element = places_[step.parts.front().place].element->Name();
     history_.Add(std::move(step));
@@ -390,6 +394,7 @@ void PanelDocument::Exchange(Step& step) {
     UsePanel(std::move(step.panel));
     step.panel = std::move(held);
   }
+  if (step.carriesPanel) std::swap(*step.carriesPanel, carriesPanel_);
   for (Step::Part& part : step.parts) {
     part.change.Exchange(*places_[part.place].element);
     if (!part.foreign) continue;

@@ -77,7 +77,8 @@ class PanelDocument {
 
   /// Whether the project holds anything else than its file, or than the empty project that it began as.
   bool Modified() const {
-    return fileIsOther_ || !unsaved_.empty() || foreign_ != fileForeign_ || panel_->text != filePanel_->text;
+    return fileIsOther_ || !unsaved_.empty() || foreign_ != fileForeign_ || panel_->text != filePanel_->text ||
+           carriesPanel_ != fileCarriesPanel_;
   }
 
   /// A file with what a document read from it or wrote into it last.
@@ -173,7 +174,7 @@ class PanelDocument {
   void Account(const Step& step);
 
   std::string panelName_;
-  bool carriesPanel_ = false;
+  bool carriesPanel_ = false, fileCarriesPanel_ = false;
   std::shared_ptr<const DocumentPanel> panel_, filePanel_;  ///< of the project, and of its file
   std::vector<Place> places_;
   Foreign foreign_, fileForeign_;  ///< of the project, and of its file

@@ -234,6 +234,7 @@ bool MainWindow::OpenProject(const std::filesystem::path& file) {
 
 bool MainWindow::SaveProject(const std::filesystem::path& file) {
   std::optional<FileWarning> told;
+  const bool carried = document_->CarriesPanel();
   try {
     if (!MayOverwrite(file) || !MayReplace(file)) return false;
     const WaitCursor waits;
@@ -246,6 +247,7 @@ bool MainWindow::SaveProject(const std::filesystem::path& file) {
       told = warning;
     }
   } catch (const std::exception& failure) {
+    document_->CarriesPanel(carried);
     Tell(Text::SaveFailed, WhyFailed(failure));
     return false;
   }

@@ -251,8 +251,8 @@ void MainWindow::KeepMine() {
 void MainWindow::TakeTheirs() {
   try {
     const auto theirs = PanelDocument::Open(document_->File(), Site());
-    document_->FileHolds(*theirs);
     document_->Become(StepKind::TakeOver, *theirs);
+    document_->FileHolds(*theirs);
   } catch (const FileError& failure) {
     Tell(Text::CannotBecome, ToQt(std::string_view(failure.what())));
     return;

@@ -52,6 +52,20 @@ TEST_F(OtherDocument, ThatCarriesItsPanelBringsItAlong) {
   EXPECT_TRUE(document->CarriesPanel()) << "one that carries none takes none away";
 }
 
+TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {
+  const auto other = PanelDocument::Of(Carrying(), "a.plexel", Site());
+  EXPECT_FALSE(document->Modified());
+  document->Become(StepKind::Import, *other);
+  EXPECT_TRUE(document->CarriesPanel());
+  EXPECT_TRUE(document->Modified());
+  document->Undo();
+  EXPECT_FALSE(document->CarriesPanel());
+  EXPECT_FALSE(document->Modified());
+  document->Redo();
+  EXPECT_TRUE(document->CarriesPanel());
+  EXPECT_TRUE(document->Modified());
+}
+
 TEST_F(OtherDocument, CodesOfABufferThatThereIsNotArePassedOver) {
   SavedCodes codes{0, InitialCodes()};
   codes.codes.Value[1] = 0x1C;

@@ -12,6 +12,7 @@
 #include "editor/versions_dialog.h"
 #include "editor_fixture.h"
 #include "files/file_error.h"
+#include "files/panel_file.h"
 #include "project/difference.h"
 #include "project/open_file.h"
 #include "services/setting_table.h"
@@ -278,6 +279,20 @@ TEST_F(Kept, AfterTheirsWereTakenMineCanBeTakenBackAndSavedWithoutAQuestion) {
   EXPECT_EQ(Element("F5").ButtonNotes(), "mine");
   EXPECT_TRUE(window.isWindowModified());
   EXPECT_TRUE(window.SaveProject(File("a.plexel")));
+}
+
+TEST_F(Kept, TheirsMayCarryTheirPanelWhereMineDoesNot) {
+  WriteProject(File("a.plexel"), Project{"Large", {}});
+  ASSERT_TRUE(window.OpenProject(File("a.plexel")));
+  QTest::qWait(400);
+  WriteProject(File("a.plexel"), Project{"Large", {}, ReadPanelText(DataDirectory() / "panels/Large.panel")});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Notice().isVisible(); }, 5000));
+  Choice("Take theirs")->click();
+  EXPECT_TRUE(window.Document()->CarriesPanel());
+  EXPECT_FALSE(window.isWindowModified());
+  window.Document()->Undo();
+  EXPECT_FALSE(window.Document()->CarriesPanel());
+  EXPECT_TRUE(window.isWindowModified());
 }
 
 TEST_F(Kept, KeepingMineMakesTheTitleTellThatTheFileDiffers) {
