@@ -72,19 +72,29 @@ TEST(FileCapabilities, ADirectoryThatCannotBeReadIsAnError) {
   EXPECT_EQ(error->what(), directory.Path().string() + ": cannot be read: Permission denied");
 }
 
-TEST(FileCapabilities, AFaultyLineIsNamed) {
-  for (const std::string_view fault : {"HasEverything=1", "HasRunLed", "HasRunLed=yes", "HasRunLed=", "[One",
-                                       "HasRunLed=2147483648", "HasUserLed=1", "[One]", "[]"}) {
-    const auto error = FaultOf("[One]\nHasUserLed=1\n" + std::string(fault) + "\n");
-    ASSERT_TRUE(error) << fault;
-    EXPECT_EQ(error->Line(), 3U) << fault;
+TEST(FileCapabilities, AFaultyLineIsNamedWithItsReason) {
+  struct Faulty {
+    const char* line;
+    const char* reason;
+  };
+  for (const auto& [line, reason] :
+       {Faulty{"HasEverything=1", "there is no query \"HasEverything\""},
+        Faulty{"HasRunLed", "\"HasRunLed\" is neither a section nor NAME=VALUE"},
+        Faulty{"HasRunLed=yes", "\"yes\" is no number"}, Faulty{"HasRunLed=", "\"\" is no number"},
+        Faulty{"[One", "a section must end in \"]\""}, Faulty{"HasRunLed=2147483648", "\"2147483648\" is no number"},
+        Faulty{"HasUserLed=1", "the query HasUserLed stands twice"},
+        Faulty{"[One]", "the target system One stands twice"}, Faulty{"[]", "the target system has no name"}}) {
+    const auto error = FaultOf("[One]\nHasUserLed=1\n" + std::string(line) + "\n");
+    ASSERT_TRUE(error) << line;
+    EXPECT_EQ(error->Line(), 3U) << line;
+    EXPECT_EQ(error->Reason(), reason) << line;
   }
 }
 
 TEST(FileCapabilities, AQueryBeforeTheFirstTargetIsRefused) {
   const auto error = FaultOf("HasUserLed=1\n");
   ASSERT_TRUE(error);
-  EXPECT_THAT(error->what(), HasSubstr("a.cap:1: "));
+  EXPECT_THAT(error->what(), HasSubstr("a.cap:1: a query before the first target system"));
 }
 
 TEST(FileCapabilities, TheSampleTargetsAnswerDifferently) {

@@ -122,6 +122,18 @@ TEST_F(SettingsFiles, ADamagedLineLeavesItsDefaultAndTheOtherLines) {
   EXPECT_EQ(Option(settings, 2), True);
 }
 
+TEST_F(SettingsFiles, ALanguageIsNamedByLettersHyphensAndUnderlines) {
+  for (const std::string name : {"A", "Z", "a", "z", "-", "_", "Latin-American_Spanish"}) {
+    PutSettings("[SETTINGS]\nLanguage=" + name + "\n");
+    EXPECT_EQ(Settings().Language(), name);
+  }
+  // Those beside them in the code.
+  for (const std::string name : {"@", "[", "`", "{", ",", ".", "^"}) {
+    PutSettings("[SETTINGS]\nLanguage=a" + name + "\n");
+    EXPECT_THAT(Settings().Problems(), SizeIs(1)) << name;
+  }
+}
+
 TEST_F(SettingsFiles, EveryKindOfDamageIsToldWithItsLine) {
   for (const std::string_view fault :
        {"nonsense", "Unknown=1", "UseWizard=", "UseWizard=2", "UseWizard=-1", "XSize=3", "FocusColor=16777216",

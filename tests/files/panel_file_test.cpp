@@ -120,6 +120,17 @@ TEST(PanelFile, AnElementIsAsLargeAsItsPartUnlessItTells) {
   EXPECT_EQ(panel.Find("B")->element->sizeY, 8);
 }
 
+TEST(PanelFile, APartThatTellsNothingIsWhiteWithABlackBorderAndABlackLegendOfTwelvePixelsInItsMiddle) {
+  const Panel panel = Read(WithLines("[KEY]\nPlace=0 0 1 1\n"));
+  const PanelPart& part = panel.parts.at(0);
+  EXPECT_EQ(part.fillColor, 0xFFFFFF);
+  EXPECT_EQ(part.lineColor, 0);
+  EXPECT_EQ(part.cornerRadius, 0);
+  EXPECT_EQ(part.legendColor, 0);
+  EXPECT_EQ(part.legendSize, 12);
+  EXPECT_EQ(part.legendAlignment, LegendAlignment::Center);
+}
+
 TEST(PanelFile, AStyleCountsForTheLaterPartsOfItsKind) {
   const Panel panel =
       Read(WithLines("[KEY]\nPlace=0 0 1 1\n[STYLE KEY]\nFill=#000001\n[KEY]\nPlace=0 0 1 1\n"

@@ -53,21 +53,47 @@ class FailingFiles : public FilePort {
   std::string operation_;
 };
 
-class FailingStep : public testing::TestWithParam<const char*> {};
+std::string CannotBeWritten(int reason) { return "cannot be written: " + std::generic_category().message(reason); }
 
-TEST_P(FailingStep, LeavesTheOldFileAndNothingBesideIt) {
+struct Step {
+  const char* operation;
+  int reason;  ///< why writing has failed then
+};
+class FailingStep : public testing::TestWithParam<Step> {};
+
+TEST_P(FailingStep, LeavesTheOldFileAndNothingBesideItAndTellsWhy) {
   const TemporaryDirectory directory;
   const auto file = directory.Put("project", "old");
-  FailingFiles files(GetParam());
+  FailingFiles files(GetParam().operation);
   const auto error = FileErrorOf([&] { WriteWholeFile(file, "new content", files); });
   ASSERT_TRUE(error);
-  EXPECT_THAT(error->what(), HasSubstr(file.string() + ": cannot be written: "));
+  EXPECT_EQ(error->what(), file.string() + ": " + CannotBeWritten(GetParam().reason));
   EXPECT_EQ(Content(file), "old");
   EXPECT_EQ(directory.CountFiles(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(WriteWholeFile, FailingStep,
-                         testing::Values("create", "write", "write a part", "write nothing", "flush", "replace"));
+                         testing::Values(Step{"create", EACCES}, Step{"write", ENOSPC}, Step{"write a part", ENOSPC},
+                                         Step{"write nothing", EIO}, Step{"flush", EIO}, Step{"replace", EPERM}));
+
+TEST(WriteWholeFile, WhatCannotBeTakenAwayIsToldWithTheReasonsOfBoth) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Put("project", "old");
+  std::optional<FileError> error;
+  {
+    const FileFaults faults(directory.Path(), "unlink", EROFS);
+    FailingFiles files("flush");
+    error = FileErrorOf([&] { WriteWholeFile(file, "new content", files); });
+  }
+  ASSERT_TRUE(error);
+  ASSERT_EQ(directory.CountFiles(), 2U);
+  std::string beside;
+  for (const auto& entry : std::filesystem::directory_iterator(directory.Path()))
+    if (entry.path() != file) beside = entry.path().string();
+  EXPECT_EQ(error->Reason(),
+            CannotBeWritten(EIO) + " (" + beside + " is left over: " + std::generic_category().message(EROFS) + ')');
+  EXPECT_EQ(Content(file), "old");
+}
 
 TEST(WriteWholeFile, ANewFileHoldsTheContent) {
   const TemporaryDirectory directory;
@@ -153,7 +179,9 @@ TEST(WriteWholeFile, ALinkThatLeadsInACircleIsRefused) {
   const TemporaryDirectory directory;
   std::filesystem::create_symlink("b", directory / "a");
   std::filesystem::create_symlink("a", directory / "b");
-  EXPECT_TRUE(FileErrorOf([&] { WriteWholeFile(directory / "a", "new"); }));
+  const auto error = FileErrorOf([&] { WriteWholeFile(directory / "a", "new"); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Reason(), CannotBeWritten(ELOOP));
   EXPECT_TRUE(std::filesystem::is_symlink(directory / "a"));
 }
 
@@ -211,17 +239,22 @@ TEST(WriteWholeFile, OwnerAndGroupOfTheOldFileStay) {
 TEST(WriteWholeFile, ADeviceIsRefused) {
   const auto error = FileErrorOf([] { WriteWholeFile("/dev/full", "content"); });
   ASSERT_TRUE(error);
+  EXPECT_EQ(error->Reason(), "cannot be written: it is no regular file");
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }
 
 TEST(WriteWholeFile, ADirectoryIsRefused) {
   const TemporaryDirectory directory;
-  EXPECT_THROW(WriteWholeFile(directory.Path(), "content"), FileError);
+  const auto error = FileErrorOf([&] { WriteWholeFile(directory.Path(), "content"); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Reason(), "cannot be written: it is no regular file");
 }
 
 TEST(WriteWholeFile, AMissingDirectoryIsRefused) {
   const TemporaryDirectory directory;
-  EXPECT_THROW(WriteWholeFile(directory / "none/file", "content"), FileError);
+  const auto error = FileErrorOf([&] { WriteWholeFile(directory / "none/file", "content"); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Reason(), CannotBeWritten(ENOENT));
 }
 
 TEST(WriteWholeFile, AFullDiskLeavesTheOldFile) {

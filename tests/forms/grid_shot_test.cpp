@@ -82,13 +82,12 @@ TEST(GridShot, WidthsThatTheUserMayChangeKeepAnEdgeForTheMouse) {
   form.grid.UserResizing(true);
   const GridShot shot = form.Take();
   // A fixed column takes half of the grid; behind another a piece of the next one is in view.
-  EXPECT_EQ(shot.widths,
-            (std::vector<int>{1000, GridShot::Narrowest, 1000 - GridShot::NextInView, 1000 - GridShot::NextInView}));
+  EXPECT_EQ(shot.widths, (std::vector<int>{1000, 120, 1000 - 240, 1000 - 240}));
   EXPECT_EQ(shot.WidthWithin(0, 700), 700);
   EXPECT_EQ(shot.WidthWithin(0, 1700), 1000);
-  EXPECT_EQ(shot.WidthWithin(3, -5), GridShot::Narrowest);
+  EXPECT_EQ(shot.WidthWithin(3, -5), 120);
   form.grid.Width(100);
-  EXPECT_EQ(form.Take().widths, std::vector<int>(4, GridShot::Narrowest));
+  EXPECT_EQ(form.Take().widths, std::vector<int>(4, 120));
 }
 
 TEST(GridShot, TellsWhetherAllComesIntoView) {

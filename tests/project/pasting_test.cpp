@@ -163,11 +163,21 @@ TEST_F(Paste, AnEmptyDefinitionClears) {
   EXPECT_EQ(Element("F6").TactisBaseElementScanCodeBuffer(), before);
 }
 
-TEST_F(Paste, ALayerGoesOntoAnotherOne) {
-  ElementRecord record = Element("F5").TactisBaseElementScanCodeBuffer();
-  CopyLayer(record, 1, record, 4);
-  EXPECT_EQ(record.strLayer4PressString, "[a]");
-  EXPECT_EQ(record.strLayer4PressScanCode, record.strLayer1PressScanCode);
+TEST_F(Paste, ALayerGoesOntoAnotherOneWithTextsBytesAndLedAndNothingElseDoes) {
+  ElementRecord record = EmptyDefinition();
+  record.strLayer2PressString = "[a]";
+  record.strLayer2ReleaseString = "[b]";
+  record.strLayer2PressScanCode.NextValue = 4;
+  record.strLayer2ReleaseScanCode.NextValue = 5;
+  record.lngLEDTypeLayer2 = AlarmLed;
+  ElementRecord wanted = record;
+  wanted.strLayer4PressString = "[a]";
+  wanted.strLayer4ReleaseString = "[b]";
+  wanted.strLayer4PressScanCode.NextValue = 4;
+  wanted.strLayer4ReleaseScanCode.NextValue = 5;
+  wanted.lngLEDTypeLayer4 = AlarmLed;
+  CopyLayer(record, 2, record, 4);
+  EXPECT_EQ(record, wanted);
 }
 
 TEST_F(Paste, AForeignTextIsRefusedWithItsPlace) {
