@@ -21,7 +21,8 @@ enum class NoticeStyle { None, Name, Value };
 /// A property's value apart from its type: whole numbers and booleans as an integer, texts as a string.
 using PropertyData = std::variant<std::int32_t, double, std::string>;
 
-/// How a property is stored. The orders count from 1, and 0 stands for never. The defaults of strings are empty.
+/// How a property is stored. The orders count from 1, and 0 stands for never. Strings have no defaults here, theirs are
+/// empty.
 struct Storage {
   /// The key in a bag; empty for what is never stored.
   std::string_view key;
@@ -43,7 +44,6 @@ struct PropertyRow {
   NoticeStyle notice;
   /// How the value is stored.
   Storage storage;
-  // How the property is reached, null where it cannot be: an object or a record, and what is never stored.
   /// How the property is reached, null where it cannot be: an object or a record, and what is never stored.
   PropertyData (*get)(const Element&);
   void (*set)(Element&, const PropertyData&, std::string_view name);
