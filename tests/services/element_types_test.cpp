@@ -47,6 +47,7 @@ TEST(ElementTypes, ATrueOfTheLanguageIsTrue) {
   EXPECT_EQ(yes, True);
   EXPECT_EQ(no.Value(), 0);
   EXPECT_EQ(no, False);
+  EXPECT_EQ(Boolean(), False);
 }
 
 TEST(ElementTypes, NoNumberAndNoPointerBecomesABoolean) {
