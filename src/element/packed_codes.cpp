@@ -10,8 +10,7 @@ namespace {
 using Info = udtTactisBaseElement_ScanCodeInfo;
 using Buffer = udtTactisBaseElement_TACTIS_SCANCODE;
 
-constexpr std::size_t bufferCount = std::size_t{2} * LayerCount;
-constexpr std::size_t mostBytes = bufferCount * (1 + sizeof(Buffer::NextValue) + Buffer::Size);
+constexpr std::size_t mostBytes = std::tuple_size_v<CodeBuffers> * (1 + sizeof(Buffer::NextValue) + Buffer::Size);
 /// In place of a number of bytes: the buffer is as it is in a new element.
 constexpr std::uint8_t untouched = 0xFF;
 static_assert(Buffer::Size < untouched, "the number of bytes is kept in one byte");
