@@ -66,6 +66,17 @@ TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {
   EXPECT_TRUE(document->Modified());
 }
 
+TEST_F(OtherDocument, WhatSelectingAndZoomingChangeIsAtRestWhateverTheFileTells) {
+  Project project = document->Content();
+  FlatBag& bag = project.elements.at(PlaceOf("F3")).bag;
+  bag.Store("FocusVisible", True);
+  bag.Store("ZoomFactor", std::int16_t{300});
+  const auto other = PanelDocument::Of(project, "a.plexel", Site());
+  const auto& element = *other->Places().at(PlaceOf("F3")).element;
+  EXPECT_EQ(element.FocusVisible(), False);
+  EXPECT_EQ(element.ZoomFactor(), PanelDocument::NormalZoom);
+}
+
 TEST_F(OtherDocument, CodesOfABufferThatThereIsNotArePassedOver) {
   SavedCodes codes{0, InitialCodes()};
   codes.codes.Value[1] = 0x1C;
