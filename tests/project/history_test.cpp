@@ -75,8 +75,10 @@ TEST_F(Undo, ZoomAndFocusStayAsTheyAre) {
   EXPECT_EQ(Element("F3").FocusVisible(), True);
 }
 
-TEST_F(Undo, TheSettingsOfTheUserAreNoChangeOfTheProject) {
+TEST_F(Undo, ZoomAndFocusAndTheSettingsOfTheUserAreNoChangeOfTheProject) {
   const ElementValues before = ValuesOf(Element("F3"));
+  Element("F3").ZoomFactor(200);
+  Element("F3").FocusVisible(True);
   HeadlessSettings& settings = world.surroundings.Settings();
   settings.Parameter(ParameterFocusColor, "77");
   settings.Parameter(ParameterFocusWidth, "3");
