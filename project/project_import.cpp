@@ -78,7 +78,7 @@ class Spot {
   /// The bytes of the value's texts and of its name.
   std::size_t Size() const {
     std::size_t size = name_.size();
-    if (value_.is_string()) size += String("").size();
+    if (value_.is_string()) size += value_.get_ref<const std::string&>().size();
     if (value_.is_object()) {
       for (const auto& member : Object()) size += Of(member).Size();
     }
