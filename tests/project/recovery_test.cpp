@@ -248,6 +248,11 @@ TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
   EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.recovery"));
 }
 
+TEST(RecoveryHead, HasWhatIsNoPlainCharacterOfTheNameInHexadecimal) {
+  EXPECT_EQ(FormatRecoveryHead({"/!a %~\x7F\n\xC3\xA4", -5}),
+            "[RECOVERY]\nFormat=1\nFile=/!a%20%25~%7F%0A%C3%A4\nTime=-5\n");
+}
+
 TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
   RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
   keeper.Flush();
