@@ -44,7 +44,6 @@ class EventHost : public ElementHost {
  protected:
   /// Called for each event and notice, before a fault of its handler shows.
   virtual void Happened(HostEvent event) = 0;
-  Faults& Failing() { return faults_; }
 
  private:
   void Handle(Fault fault, HostEvent event);

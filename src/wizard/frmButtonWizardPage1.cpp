@@ -182,20 +182,9 @@ void frmButtonWizardPage1::optKeyType_Click(int index) {
   EmptyScanCodes(info);
   CurrentElement().TactisBaseElementScanCodeBuffer(info);
   bKeyChanged = True;
-  switch (index) {
-    case NormalKey:
-    case TipKey:
-      txtScanCodes.Enabled(true);
-      break;
-    case IPCFunction:
-      cmdSpecialIPCFunction.Enabled(true);
-      break;
-    case WindowsShortCut:
-      cmbWindowsShortCuts.Enabled(true);
-      break;
-    default:
-      break;
-  }
+  if (index == NormalKey || index == TipKey) txtScanCodes.Enabled(true);
+  if (index == IPCFunction) cmdSpecialIPCFunction.Enabled(true);
+  if (index == WindowsShortCut) cmbWindowsShortCuts.Enabled(true);
 }
 
 void frmButtonWizardPage1::txtScanCodes_DblClick() {
