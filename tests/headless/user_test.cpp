@@ -25,6 +25,7 @@ class UserForm : public Form {
     choice.AddItem("two");
     text.Place(0, 1800, 900, 300);
     grid.OnDblClick = [this] { told.push_back("cell " + std::to_string(grid.Row()) + std::to_string(grid.Col())); };
+    text.OnDblClick = [this] { told.push_back("text"); };
     button.OnClick = [this] { told.push_back("button"); };
     choice.OnClick = [this] { told.push_back(choice.Text()); };
   }
@@ -69,8 +70,9 @@ TEST_F(User, ActsOnTheControlsOfTheOpenDialogByName) {
     user.Click("msgGrid", 1, 2);
     EXPECT_EQ(form.grid.Row(), 1);
     EXPECT_EQ(form.grid.Col(), 2);
+    user.DblClick("txtText");
   });
-  EXPECT_EQ(form.told, (std::vector<std::string>{"button", "two", "cell 21"}));
+  EXPECT_EQ(form.told, (std::vector<std::string>{"button", "two", "cell 21", "text"}));
 }
 
 TEST_F(User, TypesWithAllKeyEvents) {
