@@ -25,8 +25,6 @@ std::int32_t HeadlessLayout::ToAscii(std::int32_t virtualKey, std::int32_t scanC
   return answer->second.result;
 }
 
-void HeadlessLayout::Use(KeyboardLayout* layout) { layout_ = layout == nullptr ? &sample_ : layout; }
-
 void HeadlessLayout::KeyText(std::int32_t virtualKey, std::int32_t result, std::u16string text) {
   answers_[virtualKey] = {result, std::move(text)};
 }

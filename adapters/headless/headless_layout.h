@@ -19,8 +19,8 @@ class HeadlessLayout : public KeyboardLayout {
                          Handle layout) override;
   std::int32_t ToAscii(std::int32_t virtualKey, std::int32_t scanCode, std::uint16_t& result, Handle layout) override;
 
-  /// The layout that answers; it must outlive this object. Null brings the SampleLayout back.
-  void Use(KeyboardLayout* layout);
+  /// The layout that answers from now on; it must outlive this object.
+  void Use(KeyboardLayout& layout) { layout_ = &layout; }
   /// What a virtual key answers from now on, whatever the layout says: the result of both questions and the characters.
   void KeyText(std::int32_t virtualKey, std::int32_t result, std::u16string text);
   /// The character that a key types when nothing fails; 0 for none and for a dead key.

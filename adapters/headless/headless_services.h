@@ -85,7 +85,7 @@ class HeadlessParameterFiles : public ParameterFileReader {
                  std::int32_t reserved, std::int32_t& status) override;
   void GetItem(std::int32_t index, const std::string& value, std::string& text) override;
   /// The reader must outlive this object.
-  void Use(ParameterFileReader* reader) { reader_ = reader; }
+  void Use(ParameterFileReader& reader) { reader_ = &reader; }
 
  private:
   Faults& faults_;

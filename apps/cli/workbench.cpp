@@ -48,9 +48,9 @@ Workbench::Workbench(Reporter& reporter) : host(platform.faults, reporter), repo
   surroundings.Settings().BasePath(TextOf(DataDirectory()));
   surroundings.Settings().LanguageName(InitialLanguage);
   surroundings.Language().Source(InitialTexts);
-  surroundings.ParameterFiles().Use(&parameterFiles_);
+  surroundings.ParameterFiles().Use(parameterFiles_);
   layout_ = NamedLayout(InitialLayout);
-  platform.Layout().Use(layout_.get());
+  platform.Layout().Use(*layout_);
   ReportForms();
   ReportSystem();
 }
@@ -72,7 +72,7 @@ void Workbench::UseLanguage(const std::string& name) {
 void Workbench::UseLayout(const std::string& name) {
   auto layout = NamedLayout(name);
   layout->Load();
-  platform.Layout().Use(layout.get());
+  platform.Layout().Use(*layout);
   layout_ = std::move(layout);
 }
 

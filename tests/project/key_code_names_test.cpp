@@ -18,7 +18,7 @@ namespace {
 class KeyCodeNames : public testing::Test {
  protected:
   KeyCodeNames() {
-    world.platform.Layout().Use(layout.get());
+    world.platform.Layout().Use(*layout);
     for (const KeyPosition& position : KeyPositions()) {
       Add(position.virtualKeyNumLock, position.scanCode, position.extended ? 1 : 0);
     }

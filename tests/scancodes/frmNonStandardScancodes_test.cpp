@@ -17,7 +17,7 @@ class DialogSession : public ScanCodeSession {
  public:
   DialogSession() {
     surroundings.Settings().BasePath("C:\\Plexel");
-    surroundings.ParameterFiles().Use(&file);
+    surroundings.ParameterFiles().Use(file);
     FormDirectory::Instance().Add(dialogs::frmNonStandardScancodes,
                                   [] { return std::make_unique<frmNonStandardScancodes>(); });
   }

@@ -15,7 +15,7 @@ class NamedSession : public ScanCodeSession {
  public:
   NamedSession() {
     surroundings.Settings().BasePath("C:\\Plexel");
-    surroundings.ParameterFiles().Use(&file);
+    surroundings.ParameterFiles().Use(file);
   }
   MemoryParameterFile file{"C:\\Plexel\\NonStandardScancodes.cfg"};
 };
