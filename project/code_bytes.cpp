@@ -7,6 +7,10 @@
 
 namespace plexel {
 
+std::size_t LastInUse(const udtTactisBaseElement_TACTIS_SCANCODE& codes) {
+  return static_cast<std::size_t>(std::max(codes.NextValue, 0));
+}
+
 std::string BytesText(const udtTactisBaseElement_TACTIS_SCANCODE& codes, std::size_t first, std::size_t last) {
   std::string text;
   for (std::size_t index = first; index <= last && index < codes.Value.size(); ++index) {
@@ -20,8 +24,7 @@ std::string BytesText(const udtTactisBaseElement_TACTIS_SCANCODE& codes, std::si
 std::string ChangedBytes(const udtTactisBaseElement_TACTIS_SCANCODE& codes) {
   constexpr auto initial = InitialCodes();
   std::size_t last = codes.Value.size() - 1;
-  const auto used = static_cast<std::size_t>(std::clamp(codes.NextValue, 0, codes.Size - 1));
-  while (last > used && codes.Value[last] == initial.Value[last]) --last;
+  while (last > LastInUse(codes) && codes.Value[last] == initial.Value[last]) --last;
   return BytesText(codes, 0, last);
 }
 

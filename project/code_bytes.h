@@ -11,7 +11,10 @@ namespace plexel {
 
 /// The bytes of a code buffer as text: two-digit hexadecimal numbers with a blank between them.
 
-/// The bytes from `first` to `last`, both included; empty when there are none.
+/// The place of the last byte in use, NextValue; the first for a negative one.
+std::size_t LastInUse(const udtTactisBaseElement_TACTIS_SCANCODE& codes);
+
+/// The bytes from `first` to `last`, both included, as far as the buffer reaches; empty when there are none.
 std::string BytesText(const udtTactisBaseElement_TACTIS_SCANCODE& codes, std::size_t first, std::size_t last);
 
 /// The bytes in use, 0 to NextValue, and what follows up to the last byte that InitialCodes does not have there.

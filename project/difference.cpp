@@ -82,8 +82,6 @@ Code BufferOf(const ProjectElement& element, std::int32_t number) {
   return saved == element.codes.end() ? InitialCodes() : saved->codes;
 }
 
-std::size_t Next(const Code& codes) { return static_cast<std::size_t>(std::clamp(codes.NextValue, 0, Code::Size - 1)); }
-
 class Comparison {
  public:
   std::vector<ProjectDifference> Run(const Project& first, const Project& second) {
@@ -139,13 +137,13 @@ class Comparison {
 
   void CompareCodes(std::size_t number, const Code& first, const Code& second) {
     if (first == second) return;
-    Add(DifferenceKind::Codes, project_syntax::BufferNames.at(number), BytesText(first, 0, Next(first)),
-        BytesText(second, 0, Next(second)));
+    Add(DifferenceKind::Codes, project_syntax::BufferNames.at(number), BytesText(first, 0, LastInUse(first)),
+        BytesText(second, 0, LastInUse(second)));
     std::size_t last = first.Value.size() - 1;
     while (last > 0 && first.Value[last] == second.Value[last]) --last;
-    if (last <= std::max(Next(first), Next(second))) return;
-    differences_.back().fromBehind = BytesText(first, Next(first) + 1, last);
-    differences_.back().toBehind = BytesText(second, Next(second) + 1, last);
+    if (last <= std::max(LastInUse(first), LastInUse(second))) return;
+    differences_.back().fromBehind = BytesText(first, LastInUse(first) + 1, last);
+    differences_.back().toBehind = BytesText(second, LastInUse(second) + 1, last);
   }
 
   const std::string* element_ = nullptr;
