@@ -46,8 +46,7 @@ bool HasRoomFor(const ElementRecord& record, std::int32_t layer, Boolean vantaEn
 /// Gives the element what it can take of a definition, or of some layers of it: a key switch takes nothing, an LED no
 /// texts and bytes, a key without an LED no LED function, and none takes a layer that it has no room for. With `leds`
 /// false its LED functions stay.
-void Define(ctlPlexelBaseElement& element, const ElementRecord& definition, const LayerSet& layers = {},
-            bool leds = true);
+void Define(ctlPlexelBaseElement& element, const ElementRecord& definition, const LayerSet& layers, bool leds);
 
 /// Something that an element cannot take of a definition.
 struct Misfit {

@@ -50,7 +50,7 @@ using ForeignValues = std::vector<ForeignValue>;
 struct Step {
   /// The values of one element, by its place in the project.
   struct Part {
-    std::size_t place = 0;
+    std::size_t place{};
     ElementChange change;
     std::optional<ForeignValues> foreign = {};  ///< all of them, where they differ
   };

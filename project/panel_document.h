@@ -84,7 +84,7 @@ class PanelDocument {
   /// A file with what a document read from it or wrote into it last.
   struct KnownFile {
     std::filesystem::path file;
-    std::size_t hash = 0;  ///< of the content
+    std::size_t hash{};  ///< of the content
     bool operator==(const KnownFile&) const = default;
   };
   KnownFile Known() const { return {file_, hash_}; }

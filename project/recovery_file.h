@@ -12,7 +12,7 @@ namespace plexel {
 /// What a recovery file tells ahead of the project that it holds.
 struct RecoveryHead {
   std::filesystem::path file;  ///< of the project; empty when it was never saved
-  std::int64_t time = 0;       ///< of the writing, seconds since 1970
+  std::int64_t time{};         ///< of the writing, seconds since 1970
 };
 
 /// The text of a head; the text of a project follows it.

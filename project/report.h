@@ -15,7 +15,7 @@ namespace plexel {
 /// One element on one layer; texts and numbers as they are shown, empty for what the element does not have.
 struct ReportRow {
   std::string element, kind;
-  std::int32_t layer = 0;
+  std::int32_t layer{};
   /// What is sent, as texts without marks lost, and as bytes 0 to NextValue in hexadecimal; no bytes where none is in
   /// use.
   std::string press, release, pressBytes, releaseBytes;

@@ -21,7 +21,7 @@ constexpr bool IsKey(std::int32_t kind) { return kind >= Oval && kind <= RectLed
 struct SharedValue {
   enum class Kind : std::uint8_t { Led1, Led2, Led3, Led4, Button, LedNumber, KeyNumber };
   Kind kind{};
-  std::uint32_t value = 0;
+  std::uint32_t value{};
   bool operator==(const SharedValue&) const = default;
 };
 

@@ -20,7 +20,7 @@ TimeMark Behind(TimeMark mark);
 
 struct TimeRow {
   KeyDeed kind = KeyDeed::Down;  ///< Down for a key, or Panel, or Unknown
-  KeyCode code = 0;
+  KeyCode code{};
   std::vector<TimeMark> marks;  ///< as many as there are events
 };
 

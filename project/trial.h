@@ -24,9 +24,9 @@ class Trial {
 
   /// One press or release.
   struct Event {
-    std::size_t place = NoPlace;  ///< NoPlace when all was let go
+    std::size_t place{};  ///< NoPlace when all was let go
     Direction at{};
-    std::int32_t layer = 0;
+    std::int32_t layer{};
     std::vector<std::uint8_t> bytes;  ///< what the panel sends, in order
     std::vector<KeyReport> reports;   ///< what the PC makes of it
   };
@@ -63,14 +63,14 @@ class Trial {
 
  private:
   struct Held {
-    std::size_t place = 0;
-    std::int32_t layer = 0;
+    std::size_t place{};
+    std::int32_t layer{};
     udtTactisBaseElement_TACTIS_SCANCODE release;
   };
   /// A layer that an element calls while it is held.
   struct LayerCall {
-    std::size_t place = 0;
-    std::int32_t layer = 0;
+    std::size_t place{};
+    std::int32_t layer{};
   };
   const Event* Send(Event event, const udtTactisBaseElement_TACTIS_SCANCODE& codes);
   void Hear(std::size_t place, const KeyReport& report);

@@ -16,7 +16,7 @@ class VersionStore {
 
   struct Version {
     std::filesystem::path file;
-    std::int64_t time = 0;  ///< of saving, milliseconds since 1970
+    std::int64_t time{};  ///< of saving, milliseconds since 1970
   };
 
   /// The directory need not exist.
