@@ -122,6 +122,11 @@ TEST(Difference, ABufferShowsItsBytesInUse) {
   EXPECT_THAT(Between(WithCodes({}, 0), With("", {})), IsEmpty());
 }
 
+TEST(Difference, TheFirstByteAloneIsNothingBehindTheEnd) {
+  EXPECT_THAT(Between(WithCodes({0xFE}, 0), With("", {})),
+              ElementsAre("codes A strLayer1ReleaseScanCode: string \"FE\" -> string \"FF\""));
+}
+
 TEST(Difference, BytesBehindTheEndAreToldWhenTheyDiffer) {
   EXPECT_THAT(Between(WithCodes({0xFF, 0x1C, 0xFF, 0x2A}, 2), WithCodes({0xFF, 0x1C, 0xFF, 0x2B, 0x2C}, 2)),
               ElementsAre("codes A strLayer1ReleaseScanCode: string \"FF 1C FF\" -> string \"FF 1C FF\" "

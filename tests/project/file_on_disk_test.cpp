@@ -83,6 +83,14 @@ TEST_F(FileOnDisk, KeepingMineWhenTheFileIsGoneStaysModifiedUntilItIsSaved) {
   EXPECT_FALSE(document->Modified());
 }
 
+TEST_F(FileOnDisk, WhatComesBackWhereTheFileWasGoneIsNotKnownAnyMore) {
+  const auto away = directory / "away.plexel";
+  std::filesystem::rename(file, away);
+  document->FileIsLost(file);
+  std::filesystem::rename(away, file);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Other);
+}
+
 TEST_F(FileOnDisk, TheProjectOfAnotherPanelIsRefused) {
   const auto small = PanelDocument::New("Small", Site());
   EXPECT_THROW(document->Become(StepKind::TakeOver, *small), FileError);

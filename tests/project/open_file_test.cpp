@@ -30,6 +30,11 @@ TEST_F(OpenFiles, EachKnowsOfTheOther) {
   EXPECT_EQ(first->Others(), 0U);
 }
 
+TEST_F(OpenFiles, LeavesNothingBehind) {
+  Open("a.plexel");
+  EXPECT_TRUE(std::filesystem::is_empty(directory.Path() / "open"));
+}
+
 TEST_F(OpenFiles, AnotherFileIsNothingToThem) {
   const auto first = Open("a.plexel"), second = Open("b.plexel");
   EXPECT_EQ(first->Others(), 0U);

@@ -74,7 +74,7 @@ TEST_F(OtherDocument, WhatSelectingAndZoomingChangeIsAtRestWhateverTheFileTells)
   const auto other = PanelDocument::Of(project, "a.plexel", Site());
   const auto& element = *other->Places().at(PlaceOf("F3")).element;
   EXPECT_EQ(element.FocusVisible(), False);
-  EXPECT_EQ(element.ZoomFactor(), PanelDocument::NormalZoom);
+  EXPECT_EQ(element.ZoomFactor(), 100);
 }
 
 TEST_F(OtherDocument, CodesOfABufferThatThereIsNotArePassedOver) {

@@ -88,6 +88,16 @@ TEST_F(Recovery, SmallPortionsMakeTheSameFile) {
   EXPECT_EQ(Kept().project, document->Content());
 }
 
+TEST_F(Recovery, OnlyWhatHasChangedIsMadeAnew) {
+  Watch();
+  Note("F3", "a");
+  keeper.Flush();
+  Note("F4", "b");
+  EXPECT_FALSE(keeper.Work(1)) << "nothing is left to be made";
+  keeper.Flush();
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
 TEST_F(Recovery, WhenTheProjectHasAnotherFileNoTextIsMadeAnew) {
   Watch();
   Note("F3", "a");

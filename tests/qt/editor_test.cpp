@@ -190,8 +190,11 @@ TEST_F(Editor, ZoomGoesToAllElementsAndStaysInItsBounds) {
     EXPECT_EQ(Element(place).ZoomFactor(), 200);
   }
   window.SetZoom(100000);
-  EXPECT_EQ(view.PlaceRect(PlaceOf("F1")).width(), PanelDocument::LargestZoom / 100 * Element("F1").SizeX());
-  EXPECT_EQ(Element("F1").ZoomFactor(), PanelDocument::LargestZoom);
+  EXPECT_EQ(view.PlaceRect(PlaceOf("F1")).width(), 4 * Element("F1").SizeX());
+  EXPECT_EQ(Element("F1").ZoomFactor(), 400);
+  window.SetZoom(1);
+  EXPECT_EQ(view.PlaceRect(PlaceOf("F1")).width(), Element("F1").SizeX() / 4);
+  EXPECT_EQ(Element("F1").ZoomFactor(), 25);
 }
 
 TEST_F(Editor, TheStatusLineTellsKindNumbersAndDefinitions) {
