@@ -50,8 +50,6 @@ void RecoveryKeeper::Watch(const PanelDocument* document) {
 
 void RecoveryKeeper::Leave() {
   document_ = nullptr;
-  stale_.clear();
-  sections_.clear();
   due_ = false;
 }
 

@@ -62,10 +62,7 @@ std::string RecoveryWriter::CarryOut(const std::optional<Pieces>& pieces) const 
       std::filesystem::remove(file_, error);
       return error ? FileError(file_, 0, "cannot be removed: " + error.message()).what() : std::string();
     }
-    std::size_t size = 0;
-    for (const auto& piece : *pieces) size += piece->size();
     std::string text;
-    text.reserve(size);
     for (const auto& piece : *pieces) text += *piece;
     WriteWholeFile(file_, text);
     return {};
