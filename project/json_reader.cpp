@@ -108,7 +108,7 @@ class Builder {
   std::vector<Level> open_;
   Json document_;
   std::string reason_;
-  std::size_t line_ = 0;
+  std::size_t line_{};
 };
 
 }  // namespace

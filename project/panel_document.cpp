@@ -79,7 +79,7 @@ class WatchedBag : public PropertyBag {
 
  private:
   const FlatBag& bag_;
-  mutable std::size_t last_ = 0;
+  mutable std::size_t last_{};
 };
 
 }  // namespace

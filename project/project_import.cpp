@@ -58,11 +58,11 @@ class Spot {
   }
   std::optional<Spot> Find(std::string_view name) const {
     for (const auto& [key, value] : Object()) {
-      if (key == name) return Spot(this, value, key, 0);
+      if (key == name) return Spot(this, value, key, {});
     }
     return std::nullopt;
   }
-  Spot Of(const Json::object_t::value_type& member) const { return Spot(this, member.second, member.first, 0); }
+  Spot Of(const Json::object_t::value_type& member) const { return Spot(this, member.second, member.first, {}); }
 
   void AllowOnly(std::initializer_list<std::string_view> names) const {
     for (const auto& member : Object()) {
@@ -113,7 +113,7 @@ class Spot {
   const Spot* parent_ = nullptr;
   const Json& value_;
   std::string_view name_;
-  std::size_t index_ = 0;
+  std::size_t index_{};
 };
 
 double ReadDouble(const Spot& spot) {
