@@ -37,6 +37,7 @@ Clipboard::Clipboard()
           "Large", {world_.component, world_.host, std::make_shared<HostForm>(), DataDirectory() / "panels"})) {}
 
 void Clipboard::Check(std::string_view text) {
+  world_.host.Forget();
   const auto definitions = Definitions(text);
   if (!definitions) return;
   std::vector<std::size_t> places(document_->Places().size());
