@@ -200,7 +200,10 @@ def is_pure(equals, source):
 
 
 def can_be_dropped(core, source):
-    """Whether it is a statement that only acts: a call, an assignment, a step, a way out. Not what declares or gives a value."""
+    """Whether it is a statement that only acts: a call, an assignment, a step, a way out. Not what declares or gives a value, and not
+    one that only asks for room ahead, without which the same happens."""
+    if len(core) > 1 and core[-2].text == "reserve":
+        return False
     if core[0].text in LEAVING:
         return len(core) == 1
     if core[0].text in ("throw", "delete"):

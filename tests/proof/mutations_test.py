@@ -78,6 +78,11 @@ class Changes(unittest.TestCase):
             self.assertEqual(changes(body(statement + ";"), "statement"), [], statement)
         self.assertEqual(changes("class A { A(B); void C() const; int d = e; };", "statement"), [])
 
+    def test_asking_for_room_ahead_is_not_dropped(self):
+        for statement in ("a.reserve(b)", "a->b().reserve(c + d)", "reserve(a)"):
+            self.assertEqual(changes(body(statement + ";"), "statement"), [], statement)
+        self.assertEqual(changes(body("a.reserved(b);"), "statement"), [body(";")])
+
     def test_statements_behind_conditions_are_dropped_alone(self):
         self.assertEqual(changes(body("if (a) b(); else c();"), "statement"), [body("if (a) ; else c();"), body("if (a) b(); else ;")])
         self.assertEqual(changes(body("switch (a) { case b: c(); break; }"), "statement"),
