@@ -50,6 +50,14 @@ TEST_F(FileOnDisk, IsGoneWhenItWasRemoved) {
   EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Gone);
 }
 
+TEST_F(FileOnDisk, IsUnreadableWhereItsNameLeadsNowhereAndTellsWhy) {
+  const auto loop = directory / "loop";
+  std::filesystem::create_symlink(loop, loop);
+  const PanelDocument::FileState state = PanelDocument::Compare({loop, 0});
+  EXPECT_EQ(state.now, PanelDocument::OnDisk::Unreadable);
+  EXPECT_TRUE(state.reason.starts_with(loop.string() + ": cannot be read: ")) << state.reason;
+}
+
 TEST_F(FileOnDisk, TakingTheirsIsOneStepAndThenNothingDiffers) {
   Note("F4", "mine");
   PutNotes("theirs");
@@ -198,6 +206,15 @@ TEST_F(FileOnDisk, ElementsKeepTheOrderOfTheFileAndThoseOfThePanelAloneFollow) {
   EXPECT_EQ(opened->Places().front().element->Name(), last);
   EXPECT_EQ(opened->Places()[opened->Places().size() - 2].element->Name(), first);
   EXPECT_EQ(opened->Places().back().element->Name(), missing);
+}
+
+TEST_F(FileOnDisk, WhetherItCarriesItsPanelIsAChangeUntilItIsSaved) {
+  document->CarriesPanel(true);
+  EXPECT_TRUE(document->Modified());
+  document->Save(file);
+  EXPECT_FALSE(document->Modified());
+  document->CarriesPanel(false);
+  EXPECT_TRUE(document->Modified());
 }
 
 TEST_F(FileOnDisk, AProjectThatCarriesItsPanelOpensWhereThePanelIsNotInstalled) {

@@ -135,6 +135,30 @@ TEST_F(Recovery, GoesWhenTheProjectIsSavedOrLeft) {
   EXPECT_FALSE(FileStands());
 }
 
+TEST_F(Recovery, OfTheProjectBeforeNothingIsKept) {
+  Watch();
+  Note("F3", "of the first");
+  keeper.Flush();
+  const auto first = std::move(document);
+  document = PanelDocument::New("Large", Site());
+  Watch();
+  Note("F4", "of the second");
+  keeper.Flush();
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
+TEST_F(Recovery, AProjectThatIsLeftKeepsItsFile) {
+  Watch();
+  Note("F3", "a");
+  keeper.Flush();
+  const RecoveryFile before = Kept();
+  Note("F3", "b");
+  keeper.Leave();
+  EXPECT_FALSE(keeper.IsDue());
+  keeper.Flush();
+  EXPECT_EQ(Kept().project, before.project);
+}
+
 TEST_F(Recovery, AFailureIsToldAndTheNextWritingTriesAgain) {
   Watch();
   Note("F3", "a");
@@ -278,6 +302,20 @@ TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
   for (const auto& entry : std::filesystem::directory_iterator(Store())) left.push_back(entry.path().filename());
   EXPECT_THAT(left, ::testing::UnorderedElementsAre("1-3.recovery", "1-3.lock", mine + ".lock",
                                                     mine + ".recovery.9-0.new", "a.plexel.9-0.new"));
+}
+
+TEST_F(UnsavedWork, IsForItsUserAloneWhateverStoodThere) {
+  namespace fs = std::filesystem;
+  fs::create_directory(Store());
+  fs::permissions(Store(), fs::perms::owner_all | fs::perms::group_all | fs::perms::others_all);
+  const RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
+  EXPECT_EQ(fs::status(Store()).permissions(), fs::perms::owner_all);
+}
+
+TEST_F(LostWorkFound, WhatIsNoRecoveryFileIsToldOfAtItsFirstLine) {
+  std::ofstream(Store() / "1-1.recovery") << "[PROJECT]\nFormat=1\n";
+  EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
+  EXPECT_THAT(damaged, ::testing::ElementsAre(HasSubstr("1-1.recovery:1: this is no recovery file of a known format")));
 }
 
 TEST_F(LostWorkFound, AHeadThatIsCutOffIsToldOfAsSuch) {

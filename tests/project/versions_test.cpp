@@ -47,6 +47,15 @@ TEST_F(Versions, TheLastTwentyAreKept) {
   EXPECT_EQ(Content(versions.back().file), "5");
 }
 
+TEST_F(Versions, AreForTheirUserAloneWhateverStoodThere) {
+  namespace fs = std::filesystem;
+  store.Keep(project, "a", 1000);
+  const fs::path folder = store.List(project).front().file.parent_path();
+  fs::permissions(folder, fs::perms::owner_all | fs::perms::group_all | fs::perms::others_all);
+  store.Keep(project, "b", 2000);
+  EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
+}
+
 TEST_F(Versions, AClockThatWentBackDoesNotHideTheLatest) {
   store.Keep(project, "first", 5000);
   store.Keep(project, "second", 1000);
