@@ -2,6 +2,7 @@
 #include <fstream>
 
 #include "files/file_error.h"
+#include "files/file_error_of.h"
 #include "project/open_document.h"
 #include "project/panel_document.h"
 #include "world/temporary_directory.h"
@@ -101,7 +102,9 @@ TEST_F(FileOnDisk, WhatComesBackWhereTheFileWasGoneIsNotKnownAnyMore) {
 
 TEST_F(FileOnDisk, TheProjectOfAnotherPanelIsRefused) {
   const auto small = PanelDocument::New("Small", Site());
-  EXPECT_THROW(document->Become(StepKind::TakeOver, *small), FileError);
+  const auto error = FileErrorOf([&] { document->Become(StepKind::TakeOver, *small); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Reason(), "it is for the panel \"Small\", not for \"Large\"");
   EXPECT_THROW(document->FileHolds(*small), FileError);
   EXPECT_FALSE(document->Modified());
 }

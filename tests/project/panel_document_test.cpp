@@ -66,6 +66,13 @@ TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {
   EXPECT_TRUE(document->Modified());
 }
 
+TEST_F(OtherDocument, AnElementThatOutlivesItIsEndedAndDetached) {
+  const std::shared_ptr<ctlPlexelBaseElement> element = document->Places().at(PlaceOf("F3")).element;
+  ASSERT_NE(element->ElementType(), enumTactisBaseElementType{});
+  document.reset();
+  EXPECT_EQ(element->ElementType(), enumTactisBaseElementType{});
+}
+
 TEST_F(OtherDocument, WhatSelectingAndZoomingChangeIsAtRestWhateverTheFileTells) {
   Project project = document->Content();
   FlatBag& bag = project.elements.at(PlaceOf("F3")).bag;
