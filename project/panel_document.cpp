@@ -128,7 +128,7 @@ std::unique_ptr<PanelDocument> PanelDocument::Of(const std::string& panelName, c
   while (const ProjectElement* const saved = next()) {
     const auto part = left.find(saved->place);
     if (part == left.end()) {
-      throw FileError(origin, 0, "the panel \"" + panelName + "\" has no place \"" + saved->place + '"');
+      throw FileError(origin, "the panel \"" + panelName + "\" has no place \"" + saved->place + '"');
     }
     document->AddSaved(*part->second, *saved, site);
     left.erase(part);
@@ -259,7 +259,7 @@ PanelDocument::FileState PanelDocument::Compare(const KnownFile& known) {
   std::error_code error;
   const auto type = std::filesystem::status(known.file, error).type();
   if (type == std::filesystem::file_type::not_found) return {OnDisk::Gone};
-  if (error) return {OnDisk::Unreadable, FileError(known.file, 0, "cannot be read: " + error.message()).what()};
+  if (error) return {OnDisk::Unreadable, FileError(known.file, "cannot be read: " + error.message()).what()};
   try {
     return {HashOf(ReadWholeFile(known.file, ProjectLimit)) == known.hash ? OnDisk::Same : OnDisk::Other};
   } catch (const FileError& failure) {
@@ -314,10 +314,10 @@ bool PanelDocument::HasElementsOf(const PanelDocument& other) const {
 
 void PanelDocument::RequireSamePanel(const PanelDocument& other) const {
   if (other.panelName_ != panelName_) {
-    throw FileError(other.file_, 0, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
+    throw FileError(other.file_, "it is for the panel \"" + other.panelName_ + "\", not for \"" + panelName_ + '"');
   }
   if (HasElementsOf(other)) return;
-  throw FileError(other.file_, 0, "its panel \"" + panelName_ + "\" has other elements than the one that is open");
+  throw FileError(other.file_, "its panel \"" + panelName_ + "\" has other elements than the one that is open");
 }
 
 PanelDocument::Foreign PanelDocument::ForeignOf(const PanelDocument& other) const {

@@ -30,7 +30,7 @@ std::vector<ElementRecord> DefinitionsIn(std::string_view text) {
     try {
       definitions.push_back(DefinitionOf(element));
     } catch (const Failure& failure) {
-      throw FileError(Origin, 0, element.place + ": " + failure.what());
+      throw FileError(Origin, element.place + ": " + failure.what());
     }
   }
   return definitions;

@@ -120,7 +120,7 @@ std::string ExportProject(const Project& project) { return Exporter().Run(projec
 
 std::string ProjectDocument(const std::filesystem::path& project, const Project& content, std::size_t limit) {
   std::string document = ExportProject(content);
-  if (document.size() > limit) throw FileError(project, 0, "the document of the project is too large");
+  if (document.size() > limit) throw FileError(project, "the document of the project is too large");
   return document;
 }
 

@@ -34,7 +34,7 @@ class Spot {
 
   [[noreturn]] void Refuse(const std::string& reason) const {
     const std::string pointer = Pointer();
-    throw FileError(file_, 0, pointer + (pointer.empty() ? "" : ": ") + reason);
+    throw FileError(file_, pointer + (pointer.empty() ? "" : ": ") + reason);
   }
 
   const Json::object_t& Object() const {

@@ -158,7 +158,7 @@ std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::
 void Forget(LostWork& work) {
   std::error_code error;
   std::filesystem::remove(work.source, error);
-  if (error) throw FileError(work.source, 0, "cannot be removed: " + error.message());
+  if (error) throw FileError(work.source, "cannot be removed: " + error.message());
   work.lock.Remove();
 }
 

@@ -60,7 +60,7 @@ std::string RecoveryWriter::CarryOut(const std::optional<Pieces>& pieces) const 
     if (!pieces) {
       std::error_code error;
       std::filesystem::remove(file_, error);
-      return error ? FileError(file_, 0, "cannot be removed: " + error.message()).what() : std::string();
+      return error ? FileError(file_, "cannot be removed: " + error.message()).what() : std::string();
     }
     std::string text;
     for (const auto& piece : *pieces) text += *piece;

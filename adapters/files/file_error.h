@@ -13,6 +13,8 @@ class FileError : public std::runtime_error {
  public:
   /// Lines count from 1; 0 stands for the file as a whole.
   FileError(const std::filesystem::path& file, std::size_t line, const std::string& reason);
+  /// Of the file as a whole.
+  FileError(const std::filesystem::path& file, const std::string& reason) : FileError(file, std::size_t{}, reason) {}
 
   /// The file, the line from 1 or 0, and the reason alone.
   const std::filesystem::path& File() const { return file_; }

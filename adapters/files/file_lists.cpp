@@ -41,7 +41,7 @@ std::vector<std::filesystem::path> ExistingFilesWith(std::string_view extension,
   std::error_code error;
   std::vector<std::filesystem::path> files = FilesWith(extension, directory, error);
   if (error && error != std::errc::no_such_file_or_directory) {
-    throw FileError(directory, 0, "cannot be read: " + error.message());
+    throw FileError(directory, "cannot be read: " + error.message());
   }
   return files;
 }

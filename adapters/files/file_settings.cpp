@@ -116,7 +116,7 @@ void FileSettings::Save() {
   for (const SettingRow& row : SettingTable) content += std::string(row.name) + "=" + std::to_string(Value(row)) + "\n";
   std::error_code error;
   std::filesystem::create_directories(file_.parent_path(), error);
-  if (error) throw FileError(file_, 0, "cannot be written: " + error.message());
+  if (error) throw FileError(file_, "cannot be written: " + error.message());
   const auto isWritten = [this] {
     problems_.clear();
     registry_.AllowOverwriting();

@@ -66,7 +66,7 @@ class OpenInPlace {
   }
   /// Tells why the file cannot be written; and of its copy, where that is left over.
   [[noreturn]] void Refuse(int error, int left) const {
-    throw FileError(name_, 0, CannotBeWritten(error) + LeftOver(copy_, left));
+    throw FileError(name_, CannotBeWritten(error) + LeftOver(copy_, left));
   }
 
  private:
@@ -98,14 +98,14 @@ std::string WriteInPlace(const std::filesystem::path& name, const std::filesyste
   bool complete = false;
   const std::string old = ReadUpTo(file, NoLimit, complete);
   if (const auto copy = MayBeHalfWritten(old) ? OldContentOf(file) : std::nullopt) {
-    throw FileError(name, 0, "cannot be written: it is half written; what it held stands in " + TextOf(*copy));
+    throw FileError(name, "cannot be written: it is half written; what it held stands in " + TextOf(*copy));
   }
   ClearLeftOver(StandingBeside(file), OldEnding);
   open.KeepCopy(old);
   const int unflushed = port.FlushDirectory(directory);
   if (const int error = Overwrite(port, open.Handle(), content); error != 0) {
     if (Overwrite(port, open.Handle(), old) == 0) open.Refuse(error, open.DropCopy());
-    throw FileError(name, 0, CannotBeWritten(error) + " (what it held stands in " + TextOf(open.Copy()) + ")");
+    throw FileError(name, CannotBeWritten(error) + " (what it held stands in " + TextOf(open.Copy()) + ")");
   }
   const int left = open.DropCopy();
   if (unflushed == 0 && left == 0) return {};

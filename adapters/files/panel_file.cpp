@@ -245,14 +245,14 @@ std::string ReadPanelText(const std::filesystem::path& path) {
 }
 
 Panel ParsePanel(const std::filesystem::path& origin, std::string text) {
-  if (text.size() > Limit) throw FileError(origin, 0, "the panel is too large");
+  if (text.size() > Limit) throw FileError(origin, "the panel is too large");
   const TextFile file(origin, std::move(text));
   return Reader(file).Read();
 }
 
 std::filesystem::path PanelFile(const std::filesystem::path& directory, const std::string& name) {
   if (name.empty() || name.front() == '.' || name.find_first_of(std::string_view("/\\\0", 3)) != std::string::npos) {
-    throw FileError(directory, 0, "there is no panel \"" + Excerpt(name) + "\"");
+    throw FileError(directory, "there is no panel \"" + Excerpt(name) + "\"");
   }
   return directory / PathOf(name + std::string(Extension));
 }

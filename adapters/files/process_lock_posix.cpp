@@ -29,12 +29,12 @@ long ProcessNumber() { return ::getpid(); }
 std::optional<ProcessLock> ProcessLock::Try(const std::filesystem::path& file) {
   while (true) {
     const int handle = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (handle < 0) throw FileError(file, 0, "cannot be locked: " + std::generic_category().message(errno));
+    if (handle < 0) throw FileError(file, "cannot be locked: " + std::generic_category().message(errno));
     const int error = ::flock(handle, LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
     if (error == 0 && IsStill(file, handle)) return ProcessLock(file, handle);
     ::close(handle);
     if (error == EWOULDBLOCK) return std::nullopt;
-    if (error != 0) throw FileError(file, 0, "cannot be locked: " + std::generic_category().message(error));
+    if (error != 0) throw FileError(file, "cannot be locked: " + std::generic_category().message(error));
   }
 }
 

@@ -22,7 +22,7 @@ std::optional<ProcessLock> ProcessLock::Try(const std::filesystem::path& file) {
                                     FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
   if (handle != INVALID_HANDLE_VALUE) return ProcessLock(file, reinterpret_cast<std::intptr_t>(handle));
   if (GetLastError() == ERROR_SHARING_VIOLATION) return std::nullopt;
-  throw FileError(file, 0, "cannot be locked: " + LastError().message());
+  throw FileError(file, "cannot be locked: " + LastError().message());
 }
 
 void ProcessLock::Remove() {

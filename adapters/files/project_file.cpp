@@ -64,7 +64,7 @@ std::string ProjectFileText(const std::filesystem::path& file, const Project& pr
   try {
     return FormatProject(project);
   } catch (const Failure& failure) {
-    throw FileError(file, 0, std::string("cannot be written: ") + failure.what());
+    throw FileError(file, std::string("cannot be written: ") + failure.what());
   }
 }
 

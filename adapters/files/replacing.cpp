@@ -23,7 +23,7 @@ std::string WordsOf(const FileTrait& trait) {
 
 void TellReplacing(const std::filesystem::path& file, const std::function<void()>& write, std::ostream& lines) {
   for (const FileTrait& trait : LostByWriting(file)) {
-    lines << FileError(file, 0, "is replaced without " + WordsOf(trait)).what() << '\n' << std::flush;
+    lines << FileError(file, "is replaced without " + WordsOf(trait)).what() << '\n' << std::flush;
   }
   try {
     write();

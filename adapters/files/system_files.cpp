@@ -22,11 +22,11 @@ std::filesystem::path EndOfLinks(const std::filesystem::path& file) {
   std::filesystem::path target = file;
   try {
     for (int links = 0; std::filesystem::is_symlink(target); ++links) {
-      if (links == most) throw FileError(file, 0, "cannot be written: " + ReasonOf(ELOOP));
+      if (links == most) throw FileError(file, "cannot be written: " + ReasonOf(ELOOP));
       target = target.parent_path() / std::filesystem::read_symlink(target);
     }
   } catch (const std::filesystem::filesystem_error& failure) {
-    throw FileError(file, 0, "cannot be written: " + failure.code().message());
+    throw FileError(file, "cannot be written: " + failure.code().message());
   }
   return target;
 }
@@ -49,7 +49,7 @@ std::string ReadPart(const std::filesystem::path& file, std::size_t limit, bool&
     }
   }
   if (MayBeHalfWritten(content) && NamesOf(file) > 1) {
-    throw FileError(file, 0, "cannot be read: it is half written; what it held may stand beside another of its names");
+    throw FileError(file, "cannot be read: it is half written; what it held may stand beside another of its names");
   }
   return content;
 }
@@ -59,7 +59,7 @@ std::string ReadPart(const std::filesystem::path& file, std::size_t limit, bool&
 std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit) {
   bool complete = false;
   std::string content = ReadPart(file, limit, complete);
-  if (!complete) throw FileError(file, 0, "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
+  if (!complete) throw FileError(file, "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
   return content;
 }
 
@@ -74,7 +74,7 @@ void MakeOwnDirectory(const std::filesystem::path& directory) {
     MakeOwnDirectory(directory.parent_path());
     error = MakeDirectory(directory);
   }
-  if (error != 0) throw FileError(directory, 0, "cannot be made: " + ReasonOf(error));
+  if (error != 0) throw FileError(directory, "cannot be made: " + ReasonOf(error));
 }
 
 namespace {
@@ -87,7 +87,7 @@ std::string WriteBeside(const std::filesystem::path& name, const std::filesystem
   FileTraits lost;
   int handle = -1;
   int error = CreateBeside(port, target, HalfEnding, beside, handle, lost);
-  if (error != 0) throw FileError(name, 0, CannotBeWritten(error));
+  if (error != 0) throw FileError(name, CannotBeWritten(error));
   error = WriteAll(port, handle, 0, content);
   if (error == 0) error = port.Flush(handle);
   if (error == 0) {
@@ -97,7 +97,7 @@ std::string WriteBeside(const std::filesystem::path& name, const std::filesystem
   }
   if (error != 0) {
     const int left = port.Remove(beside);
-    throw FileError(name, 0, CannotBeWritten(error) + LeftOver(beside, left));
+    throw FileError(name, CannotBeWritten(error) + LeftOver(beside, left));
   }
   error = port.FlushDirectory(directory);
   return error == 0 ? std::string() : MayNotOutlast(error);
@@ -112,7 +112,7 @@ void WriteWholeFile(const std::filesystem::path& file, std::string_view content,
   const bool inPlace = target.names > 1;
   const std::string told = (inPlace ? WriteInPlace : WriteBeside)(file, target.file, content, port);
   if (!inPlace) ClearLeftOver(left, OldEnding);
-  if (!told.empty()) throw FileWarning(file, 0, told);
+  if (!told.empty()) throw FileWarning(file, told);
 }
 
 FileTraits LostByWriting(const std::filesystem::path& file, FilePort& port) {
@@ -122,7 +122,7 @@ FileTraits LostByWriting(const std::filesystem::path& file, FilePort& port) {
   std::filesystem::path beside;
   int handle = -1;
   const int error = CreateBeside(port, target.file, HalfEnding, beside, handle, lost);
-  if (error != 0) throw FileError(file, 0, CannotBeWritten(error));
+  if (error != 0) throw FileError(file, CannotBeWritten(error));
   static_cast<void>(port.Close(handle));   // nothing was written to it
   static_cast<void>(port.Remove(beside));  // what stays is cleared by the saving that follows
   return lost;

@@ -53,7 +53,7 @@ void TakeInLargePages(std::string& text) {
 }  // namespace
 
 std::string ReadUpTo(const std::filesystem::path& file, std::size_t limit, bool& complete) {
-  const auto refuse = [&file](const std::string& reason) { return FileError(file, 0, "cannot be read: " + reason); };
+  const auto refuse = [&file](const std::string& reason) { return FileError(file, "cannot be read: " + reason); };
   const ReadHandle handle(file);
   struct stat status{};
   if (handle.Get() < 0 || ::fstat(handle.Get(), &status) != 0) throw refuse(ReasonOf(errno));
@@ -84,14 +84,14 @@ int MakeDirectory(const std::filesystem::path& directory) {
 WritableFile WritableTarget(const std::filesystem::path& file) {
   struct stat status{};
   if (::stat(file.c_str(), &status) != 0) {
-    if (errno != ENOENT) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
+    if (errno != ENOENT) throw FileError(file, "cannot be written: " + ReasonOf(errno));
     return {file, 0};
   }
-  if (!S_ISREG(status.st_mode)) throw FileError(file, 0, "cannot be written: it is no regular file");
-  if (::access(file.c_str(), W_OK) != 0) throw FileError(file, 0, "cannot be written: " + ReasonOf(errno));
+  if (!S_ISREG(status.st_mode)) throw FileError(file, "cannot be written: it is no regular file");
+  if (::access(file.c_str(), W_OK) != 0) throw FileError(file, "cannot be written: " + ReasonOf(errno));
   std::error_code error;
   std::filesystem::path target = std::filesystem::canonical(file, error);
-  if (error) throw FileError(file, 0, "cannot be written: " + error.message());
+  if (error) throw FileError(file, "cannot be written: " + error.message());
   return {std::move(target), status.st_nlink};
 }
 

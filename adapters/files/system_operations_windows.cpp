@@ -37,7 +37,7 @@ class ReadHandle {
 }  // namespace
 
 std::string ReadUpTo(const std::filesystem::path& file, std::size_t limit, bool& complete) {
-  const auto refuse = [&file](const std::string& reason) { return FileError(file, 0, "cannot be read: " + reason); };
+  const auto refuse = [&file](const std::string& reason) { return FileError(file, "cannot be read: " + reason); };
   std::error_code error;
   if (std::filesystem::is_directory(file, error)) throw refuse("it is a directory");
   const ReadHandle handle(file);
@@ -65,7 +65,7 @@ int MakeDirectory(const std::filesystem::path& directory) {
 }
 
 WritableFile WritableTarget(const std::filesystem::path& file) {
-  const auto refuse = [&file](const std::string& reason) { return FileError(file, 0, "cannot be written: " + reason); };
+  const auto refuse = [&file](const std::string& reason) { return FileError(file, "cannot be written: " + reason); };
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(file, error);
   if (status.type() == std::filesystem::file_type::not_found) return {file, 0};

@@ -18,10 +18,10 @@ std::string ReadStream(std::istream& stream, std::size_t limit) {
   while (stream.read(piece.data(), piece.size()), stream.gcount() > 0) {
     content.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
     if (content.size() > limit) {
-      throw FileError(InputName("-"), 0, "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
+      throw FileError(InputName("-"), "cannot be read: it is larger than " + std::to_string(limit) + " bytes");
     }
   }
-  if (stream.bad()) throw FileError(InputName("-"), 0, "cannot be read");
+  if (stream.bad()) throw FileError(InputName("-"), "cannot be read");
   return content;
 }
 
@@ -48,7 +48,7 @@ void WriteOutput(const std::string& file, std::string_view content, const Stream
     const std::filesystem::path path = PathOf(file);
     TellReplacing(path, [&] { WriteWholeFile(path, content); }, streams.errors);
   } else if (!streams.output.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
-    throw FileError(OutputName(file), 0, "cannot be written");
+    throw FileError(OutputName(file), "cannot be written");
   }
 }
 

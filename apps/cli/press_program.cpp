@@ -59,7 +59,7 @@ int RunPress(std::span<const std::string> arguments, const Streams& streams) {
   const auto document = bench.Open(file, streams.input);
   const auto place = std::ranges::find_if(
       document->Places(), [&name](const PanelDocument::Place& one) { return one.element->Name() == name; });
-  if (place == document->Places().end()) throw FileError(InputName(file), 0, "there is no element \"" + name + '"');
+  if (place == document->Places().end()) throw FileError(InputName(file), "there is no element \"" + name + '"');
   const LayerReading reading = ReadLayer(place->element->TactisBaseElementScanCodeBuffer(), layer);
   if (call.Has("--json")) {
     TellJson(reading, streams.output);

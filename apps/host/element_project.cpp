@@ -79,7 +79,7 @@ std::unique_ptr<ElementProject> ElementProject::Open(const std::filesystem::path
   for (const ProjectElement& saved : read.elements) {
     const auto part = left.find(saved.place);
     if (part == left.end()) {
-      throw FileError(file, 0, "the panel \"" + read.panel + "\" has no place \"" + saved.place + '"');
+      throw FileError(file, "the panel \"" + read.panel + "\" has no place \"" + saved.place + '"');
     }
     project->AddSaved(*part->second, saved, container);
     left.erase(part);
