@@ -51,10 +51,9 @@ Piece FirstPiece(Bytes bytes) {
 
 std::string CodeText(KeyCode code) {
   std::string text;
-  for (unsigned shift = 24; shift > 0;) {
-    shift -= 8;
+  for (const unsigned shift : {16U, 8U, 0U}) {
     const KeyCode rest = code >> shift;
-    if (rest == 0 && shift > 0) continue;
+    if (rest == 0 && shift != 0) continue;
     if (!text.empty()) text += ' ';
     text += ascii::HexDigits[rest >> 4U & 0xFU];
     text += ascii::HexDigits[rest & 0xFU];
