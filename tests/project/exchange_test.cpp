@@ -172,6 +172,13 @@ TEST(Exchange, EveryTruncationIsRefused) {
   }
 }
 
+TEST(Exchange, WhatIsNoJsonIsToldWithTheTwentyBytesThatEndThere) {
+  EXPECT_EQ(FaultOf("{\"format\":1,\n \"abcdefghijklmnopqrstuvwxyz\" 1}"),
+            "f.json:2: this is no JSON: wrong at the end of \"jklmnopqrstuvwxyz\" 1\"");
+  EXPECT_EQ(FaultOf("[1;"), "f.json:1: this is no JSON: wrong at the end of \"[1;\"");
+  EXPECT_EQ(FaultOf(""), "f.json:1: this is no whole JSON: the text is cut off");
+}
+
 TEST(Exchange, DeepNestingIsRefusedWhateverItsDepth) {
   EXPECT_THAT(FaultOf(std::string(65, '[')), AllOf(StartsWith("f.json: /0/0"), EndsWith("/0/0: is nested too deep")));
   EXPECT_THAT(FaultOf(std::string(1000000, '[')), HasSubstr("is nested too deep"));

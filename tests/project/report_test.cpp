@@ -254,6 +254,15 @@ TEST(PanelSvg, EveryKindOfPartIsDrawn) {
   }
 }
 
+TEST(PanelSvg, APartWithoutRoomHasNoExtent) {
+  Panel panel;
+  panel.parts.resize(2);
+  panel.parts[0].kind = PanelPartKind::Key;
+  panel.parts[1].kind = PanelPartKind::RoundKey;
+  const std::string svg = PanelSvg(panel);
+  EXPECT_THAT(svg, AllOf(HasSubstr("width=\"0\" height=\"0\""), HasSubstr("rx=\"0.00\" ry=\"0.00\"")));
+}
+
 TEST(PanelSvg, ALegendHasALineForEachOfItsLines) {
   Panel panel;
   panel.parts.resize(1);

@@ -48,6 +48,11 @@ TEST(TextSearch, WordsBetweenQuotationMarksBelongTogether) {
 
 TEST(TextSearch, NoWordReachesFromOneTextIntoTheNext) { EXPECT_FALSE(Finds("F1key")); }
 
+TEST(TextSearch, NothingThatCanBeTypedStandsBetweenTheTexts) {
+  for (const char sign : std::string_view("!#$%&'()*,-./:;<=>?@\\^_`{|}~"))
+    EXPECT_FALSE(Finds(std::string(1, sign))) << sign;
+}
+
 TEST(TextSearch, WithoutWordsItFindsEverything) {
   EXPECT_TRUE(Finds(""));
   EXPECT_TRUE(Finds("  \"\" "));
