@@ -254,6 +254,17 @@ TEST_F(ProblemsTest, TwoLedsWithOneFunctionAreToldOnceAtTheLater) {
   EXPECT_EQ(problem.layers, (Layers{1, 3}));
 }
 
+TEST_F(ProblemsTest, OnEachLayerTwoLedsWithOneFunctionAreTold) {
+  ctlPlexelBaseElement &first = Add(Led), &second = Add(Led);
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    for (ctlPlexelBaseElement* const element : {&first, &second}) element->LEDTypeLayer(layer, UserLed);
+    const Problem problem = Only();
+    EXPECT_EQ(problem.rule, Rule::LedTwice) << layer;
+    EXPECT_EQ(problem.layers, Layers{layer});
+    for (ctlPlexelBaseElement* const element : {&first, &second}) element->LEDTypeLayer(layer, LedNotEnabled);
+  }
+}
+
 TEST_F(ProblemsTest, OneFunctionOnTwoLayersOrOnAKeyWithoutLedIsNotTwice) {
   Add(Led).LEDTypeLayer1(UserLed);
   Add(Led).LEDTypeLayer2(UserLed);
