@@ -94,6 +94,14 @@ TEST_F(ForeignValuesOf, AreTakenOverAndTakenBackAsAStep) {
   EXPECT_FALSE(document->Modified());
 }
 
+TEST_F(ForeignValuesOf, EachElementAreTakenOver) {
+  for (const PanelDocument::Place& place : document->Places())
+    PutForeign(place.element->Name(), "Of all", std::int16_t{1});
+  document->Become(StepKind::TakeOver, *PanelDocument::Open(file, Site()));
+  for (const PanelDocument::Place& place : document->Places())
+    EXPECT_EQ(Held(place.element->Name(), "Of all"), BagValue(std::int16_t{1})) << place.element->Name();
+}
+
 TEST_F(ForeignValuesOf, AreInTheRecoveryFile) {
   RecoveryKeeper keeper(directory / "recovery", [] { return std::int64_t{1}; });
   document->Listen([&](std::span<const std::size_t> places) { keeper.Changed(places); });

@@ -44,6 +44,8 @@ class Recovery : public UnsavedWork {
 };
 
 TEST_F(Recovery, AnUnmodifiedProjectHasNoFile) {
+  EXPECT_EQ(keeper.File(), Store() / (std::to_string(::getpid()) + "-1.recovery"));
+  EXPECT_FALSE(keeper.Work(1)) << "there is nothing to keep";
   Watch();
   keeper.Flush();
   EXPECT_FALSE(FileStands());
