@@ -27,6 +27,16 @@ TEST_F(PlacesOfADocument, AnElementThatIsNotOnThePanelHasNone) {
   EXPECT_EQ(document->PlaceOf(*world.component.Create("F3", world.host)), -1);
 }
 
+using ZoomOfADocument = OpenDocument;
+
+TEST_F(ZoomOfADocument, GoesFromAQuarterToFourTimes) {
+  EXPECT_EQ(document->Zoom(), 100);
+  document->Zoom(401);
+  EXPECT_EQ(document->Zoom(), 400);
+  document->Zoom(24);
+  EXPECT_EQ(document->Zoom(), 25);
+}
+
 class OtherDocument : public OpenDocument {
  protected:
   Project Carrying() {
