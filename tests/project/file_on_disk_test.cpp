@@ -14,11 +14,11 @@ namespace {
 class FileOnDisk : public OpenDocument {
  protected:
   FileOnDisk() { document->Save(file); }
-  /// Another program puts notes of F3 into the file.
-  void PutNotes(const std::string& notes) {
+  /// Another program puts notes of an element into the file.
+  void PutNotes(const std::string& notes, const std::string& id = "F3") {
     Project project = ReadProject(file);
     for (ProjectElement& element : project.elements) {
-      if (element.place == "F3") element.bag.Store("ButtonNotes", notes);
+      if (element.place == id) element.bag.Store("ButtonNotes", notes);
     }
     WriteProject(file, project);
   }
@@ -73,6 +73,15 @@ TEST_F(FileOnDisk, TakingTheirsIsOneStepAndThenNothingDiffers) {
   EXPECT_EQ(Element("F3").ButtonNotes(), "");
   EXPECT_EQ(Element("F4").ButtonNotes(), "mine");
   EXPECT_TRUE(document->Modified());
+}
+
+TEST_F(FileOnDisk, KeepingMineDiffersFromTheirsInEachElement) {
+  for (const PanelDocument::Place& place : document->Places()) {
+    PutNotes("theirs", place.element->Name());
+    document->FileHolds(*PanelDocument::Open(file, Site()));
+    EXPECT_TRUE(document->Modified()) << place.element->Name();
+    document->Save(file);
+  }
 }
 
 TEST_F(FileOnDisk, KeepingMineDiffersFromTheirs) {

@@ -132,6 +132,17 @@ TEST_F(Paste, AnLedFunctionThatWouldStandTwiceIsToldAndCanBeLeftOut) {
   EXPECT_EQ(Element("F6").LEDTypeLayer2(), LedNotEnabled);
 }
 
+TEST_F(Paste, OnEachLayerALedFunctionThatWouldStandTwiceIsTold) {
+  ASSERT_EQ(PlaceOf("L1"), 0U);
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    Element("L1").LEDTypeLayer(layer, RunLed);
+    Element("F7").LEDTypeLayer(layer, RunLed);
+    EXPECT_EQ(Of({"F7"}, {"F6"}).LedsTwice(), (std::vector<Misfit>{{Kind::LedTwice, "F6", layer, "L1"}}));
+    Element("F7").LEDTypeLayer(layer, LedNotEnabled);
+    Element("L1").LEDTypeLayer(layer, LedNotEnabled);
+  }
+}
+
 TEST_F(Paste, OneDefinitionOnTwoElementsShowsItsLedTwiceAmongThem) {
   const std::vector<ElementRecord> copied = Copied({"F5"});
   Element("F5").LEDTypeLayer2(LedNotEnabled);

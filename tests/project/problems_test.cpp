@@ -326,6 +326,17 @@ TEST_F(ProblemsTest, KeySwitchesShareNoKeyNumberButMinusOne) {
   EXPECT_EQ(problem.values, Values{0});
 }
 
+TEST_F(ProblemsTest, EachNumberOfAKeySwitchCounts) {
+  ctlPlexelBaseElement &first = Add(Key), &second = Add(Key);
+  for (std::int32_t index = 0; index < 8; ++index) {
+    first.HardwareNumberKeyAt(index, 9);
+    second.HardwareNumberKeyAt(index, 9);
+    EXPECT_EQ(Only().values, Values{9}) << index;
+    first.HardwareNumberKeyAt(index, -1);
+    second.HardwareNumberKeyAt(index, -1);
+  }
+}
+
 TEST_F(ProblemsTest, ComeByElementThenLayerThenRule) {
   ctlPlexelBaseElement& first = Add(RectLed);
   first.HardwareNumberButton(3);
