@@ -95,6 +95,17 @@ TEST(KeyReading, AKeyThatGoesDownAgainRepeats) {
   EXPECT_EQ(Read({0x14, 0xE0, 0x14, 0xFF}), "down 14, down E0 14");
 }
 
+TEST(KeyReading, TellsOfEachKeyWhetherItWasDownAhead) {
+  KeyReader reader;
+  std::vector<KeyReport> reports;
+  reader.Read(Bytes({0x1C, 0x1C, 0xF0, 0x1C, 0xF0, 0x1C, 0xF1, 0xFF}), Direction::Release, reports);
+  EXPECT_EQ(reports, (std::vector<KeyReport>{{Direction::Release, KeyDeed::Down, 0x1C, false},
+                                             {Direction::Release, KeyDeed::Repeat, 0x1C, true},
+                                             {Direction::Release, KeyDeed::Up, 0x1C, true},
+                                             {Direction::Release, KeyDeed::Up, 0x1C, false},
+                                             {Direction::Release, KeyDeed::Panel, 0xF1, false}}));
+}
+
 TEST(KeyReading, TheIndex0AndWhatLiesBehindNextValueDoNotCount) {
   Buffer buffer = Bytes({0x1C, 0xFF});
   buffer.Value[0] = 0x14;

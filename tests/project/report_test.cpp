@@ -100,6 +100,16 @@ TEST_F(ReportOfDocument, TheBytesEndWhereTheBufferDoes) {
   EXPECT_EQ(RowOf("F1", 1).pressBytes.size(), 3 * record.strLayer1PressScanCode.Value.size() - 1);
 }
 
+TEST_F(ReportOfDocument, OneByteInUseIsToldAndNoneIsNot) {
+  udtTactisBaseElement_ScanCodeInfo record = Element("F1").TactisBaseElementScanCodeBuffer();
+  record.strLayer1PressScanCode.Value[1] = 0x1C;
+  for (const auto& [next, told] : {std::pair{1, "FF 1C"}, {0, ""}, {-1, ""}}) {
+    record.strLayer1PressScanCode.NextValue = next;
+    Element("F1").TactisBaseElementScanCodeBuffer(record);
+    EXPECT_EQ(RowOf("F1", 1).pressBytes, told) << next;
+  }
+}
+
 TEST_F(ReportOfDocument, AProblemTellsAllItsLayersOrNone) {
   for (const char* const id : {"L1", "L2"}) {
     Element(id).LEDTypeLayer1(UserLed);

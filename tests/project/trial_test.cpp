@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "project/time_line.h"
+#include "scancodes/special_functions.h"
 
 namespace plexel {
 namespace {
@@ -47,6 +48,15 @@ TEST(Trial, PressAndReleaseAreWhatTheReadingOfTheLayerTells) {
   EXPECT_EQ(press.bytes, std::vector<std::uint8_t>({0x14, 0x1C, 0xF0, 0x1C}));
   EXPECT_EQ(release.bytes, std::vector<std::uint8_t>({0xF0, 0x14, 0xF1}));
   EXPECT_EQ(trial.Reports(), ReadLayer(record, 1).reports);
+}
+
+TEST(Trial, ACommandThatCallsNoLayerLeavesTheLayer) {
+  const Record darker = Element({SpecialFunctions()[BackgroundLightDarker].code}, {}, 2);
+  Trial trial;
+  trial.Press(0, layer2Key);
+  ASSERT_EQ(trial.Layer(), 2);
+  ASSERT_EQ(trial.Press(1, darker)->reports.at(0).deed, KeyDeed::Panel);
+  EXPECT_EQ(trial.Layer(), 2);
 }
 
 TEST(Trial, EndMarksAreNotSent) {
