@@ -47,6 +47,14 @@ TEST_F(Versions, TheLastTwentyAreKept) {
   EXPECT_EQ(Content(versions.back().file), "5");
 }
 
+TEST_F(Versions, AreNamedByTheirTimeInSixteenDigitsEachLaterThanTheOneBefore) {
+  for (const auto& [content, time] : {std::pair{"a", -3}, {"b", 1}, {"c", 1}}) store.Keep(project, content, time);
+  std::vector<std::string> names;
+  for (const auto& version : store.List(project)) names.push_back(version.file.filename());
+  EXPECT_EQ(names, (std::vector<std::string>{"0000000000000002.plexel", "0000000000000001.plexel",
+                                             "0000000000000000.plexel"}));
+}
+
 TEST_F(Versions, AreForTheirUserAloneWhateverStoodThere) {
   namespace fs = std::filesystem;
   store.Keep(project, "a", 1000);
