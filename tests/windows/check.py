@@ -127,7 +127,7 @@ class Packages(unittest.TestCase):
         self.assertEqual(wine.run("reg", "query", control).returncode, 0)
         (place / "data" / "mine.txt").write_text("the user's own")
         self.assertEqual(wine.run(r"C:\Program Files\Plexel\uninstall.exe", "/S").returncode, 0)
-        wine.call(wine.server(), "-w")  # a copy of it goes on behind it
+        wine.wait()  # a copy of it goes on behind it
         self.assertEqual(self.files(place), {"data/mine.txt": b"the user's own"})
         self.assertNotEqual(wine.run("reg", "query", key).returncode, 0)
         self.assertNotEqual(wine.run("reg", "query", control).returncode, 0)

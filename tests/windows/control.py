@@ -5,7 +5,6 @@ import re
 import shutil
 import tempfile
 
-from native import display
 from wine import Wine
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -61,14 +60,14 @@ class Control:
         for key, value in ((r"PlexelTests.Desk\CLSID", DESK), (r"CLSID\%s\InprocServer32" % DESK, desk)):
             self.wine.call("wine", "reg", "add", r"HKLM\Software\Classes" + "\\" + key, "/ve", "/d", value, "/f")
         self.regsvr32()
-        self.addCleanup(self.wine.run, "wine", "reg", "delete", r"HKLM\Software\Classes\PlexelTests.Desk", "/f")
+        self.addCleanup(self.wine.call, "wine", "reg", "delete", r"HKLM\Software\Classes\PlexelTests.Desk", "/f")
         self.addCleanup(self.regsvr32, "/u")
         values = (SCRIPTS / "control.expected").read_text(encoding="utf-8").splitlines()
         heard = "MouseClicked|2:1|2:0|4:15|4:30"
         for script, language, source in (("control.vbs", str, " " + PROG_ID), ("control.js", str.lower, "")):
-            with self.subTest(script=script), display("us") as name:
-                run = self.wine.run("cscript", self.wine.name(SCRIPTS / script), data=self.data, environment={"DISPLAY": name})
-                self.wine.close()
+            with self.subTest(script=script):
+                with self.wine.shown("us"):
+                    run = self.wine.run("cscript", self.wine.name(SCRIPTS / script), data=self.data)
                 told = run.stdout.decode("utf-8", "replace").splitlines()
                 expected = [line.replace(" True", " " + language("True")) for line in values]
                 self.assertEqual(told, expected + [heard, "crossed [a] 77 [a]", "error 6 XElementSize:" + source, "DONE"])
@@ -89,20 +88,17 @@ class Control:
         for words, told in (*examples,
                             (["cscript", self.wine.name(folder / "page.vbs")], ["[a] Pump 2"]),
                             (["cscript", self.wine.name(folder / "page.js")], ["6 in XElementSize", "ShowX is true"])):
-            with self.subTest(words=words), display("us") as name:
-                run = self.wine.run(*words, data=self.data, environment={"DISPLAY": name})
-                self.wine.close()  # with the display, the desktop that it has shown goes
+            with self.subTest(words=words):
+                with self.wine.shown("us"):
+                    run = self.wine.run(*words, data=self.data)
                 self.assertEqual(run.stdout.decode("utf-8", "replace").splitlines(), told, run)
                 self.assertEqual(run.returncode, 0, run)
                 for line in told:
                     self.assertIn("`" + line + "`", page)
 
     def test_the_container_of_the_tests(self):
-        self.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
-        with display("us") as name:
-            run = self.wine.run(self.build / ("build-" + self.bits) / "bin" / "test_activex.exe", data=self.data,
-                                environment={"DISPLAY": name})
-            self.wine.close()  # with the display, the desktop that it has shown goes
+        with self.wine.shown("us"):
+            run = self.wine.run(self.build / ("build-" + self.bits) / "bin" / "test_activex.exe", data=self.data)
         told = run.stdout.decode("utf-8", "replace")
         self.assertEqual(run.returncode, 0, told[-6000:])
         self.assertGreater(int(re.search(r"\[  PASSED  \] (\d+) test", told).group(1)), 30)

@@ -6,7 +6,6 @@ import re
 import shutil
 import tempfile
 
-from native import display
 from wine import Wine
 
 # Definitions of every kind, on the sample project, by the command line's script.
@@ -56,7 +55,6 @@ class Host:
         cls.pictures = cls.build / ("pictures-" + cls.bits)
         cls.pictures.mkdir(exist_ok=True)
         cls.wine = Wine(cls.build / ("prefix-host-" + cls.bits), cls.bits)
-        cls.wine.call("wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N", "/f")
         cls.register()
 
     @classmethod
@@ -178,12 +176,9 @@ class Host:
         self.assertFalse((self.folder / "none.plexel").exists())
 
     def on_screen(self, program, *words):
-        """Wine draws the frames of windows by itself: there is no window manager to wait for."""
-        self.wine.close()  # a desktop that is there knows no display
-        with display("us") as name:
+        with self.wine.shown("us"):
             run = self.wine.run(program, *words, data=self.data,
-                                environment={"DISPLAY": name, "PLEXEL_PICTURES": self.wine.name(self.pictures)})
-            self.wine.close()  # with the display, the desktop that it has shown goes
+                                environment={"PLEXEL_PICTURES": self.wine.name(self.pictures)})
         return run, run.stdout.decode("utf-8", "replace")
 
     def test_the_control_holds_what_containers_count_on(self):

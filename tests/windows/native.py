@@ -1,31 +1,11 @@
 """The dialogs as native windows, and the platform below them: the programs of tests/win32, run with Wine on displays of their own."""
 
-import contextlib
-import os
 import pathlib
 import re
-import subprocess
 
 from wine import Wine
 
 TELLINGS = pathlib.Path(__file__).resolve().parents[1] / "dialogs"
-
-
-@contextlib.contextmanager
-def display(layout):
-    """An X server with a keyboard layout; gives its name."""
-    read, write = os.pipe()
-    server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-noreset"],
-                              pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    os.close(write)
-    try:
-        with os.fdopen(read) as told:
-            name = ":" + told.readline().strip()
-        subprocess.run(["setxkbmap", "-display", name, layout], check=True)
-        yield name
-    finally:
-        server.terminate()
-        server.wait()
 
 
 class Native:
@@ -47,14 +27,10 @@ class Native:
         self.wine.call("wine", "reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f")
 
     def run_on(self, layout, *words):
-        """Wine draws the frames of windows by itself: there is no window manager to wait for."""
-        self.set(r"HKCU\Software\Wine\X11 Driver", "Managed", "REG_SZ", "N")
-        with display(layout) as name:
+        with self.wine.shown(layout):
             run = self.wine.run(self.build / ("build-" + self.bits) / "bin" / "test_win32.exe", *words, data=self.data,
-                                environment={"DISPLAY": name, "PLEXEL_LAYOUT": layout,
-                                             "PLEXEL_PICTURES": self.wine.name(self.pictures),
+                                environment={"PLEXEL_LAYOUT": layout, "PLEXEL_PICTURES": self.wine.name(self.pictures),
                                              "PLEXEL_TELLINGS": self.wine.name(TELLINGS)})
-            self.wine.close()  # with the display, the desktop that it has shown goes
         told = run.stdout.decode("utf-8", "replace")
         self.assertEqual(run.returncode, 0, told[-6000:])
         return int(re.search(r"\[  PASSED  \] (\d+) test", told).group(1))
