@@ -25,9 +25,10 @@ BOOL CALLBACK IsDialog(HWND window, LPARAM data) {
   return FALSE;
 }
 
-void Send(const INPUT& input) {
-  INPUT one = input;
-  if (SendInput(1, &one, sizeof one) != 1) throw std::runtime_error("the system takes no input");
+/// What is sent at once has one time: a machine that is busy makes no two clicks of a double click.
+void Send(std::vector<INPUT> inputs) {
+  const auto count = static_cast<UINT>(inputs.size());
+  if (SendInput(count, inputs.data(), sizeof(INPUT)) != count) throw std::runtime_error("the system takes no input");
   Sleep(Pause);
 }
 
@@ -48,6 +49,9 @@ HostUser::HostUser(const std::filesystem::path& project) {
     window_ = FindWindowW(L"PlexelHost", title.c_str());
     return window_ != nullptr && GetForegroundWindow() == window_;
   });
+  Until("the first element has the keys", [this] { return !Events().empty(); });
+  // Behind that it still hears where the mouse was before: a move of the test's own must not be undone by it.
+  if (WaitForInputIdle(process_.hProcess, Patience) != 0) throw std::runtime_error("plexel-host does not come to rest");
 }
 
 HostUser::~HostUser() {
@@ -108,16 +112,19 @@ HWND HostUser::Find(HWND within, const wchar_t* kind, const wchar_t* text) {
 
 void HostUser::Click(HWND window, POINT place, int times) {
   ClientToScreen(window, &place);
-  SetCursorPos(place.x, place.y);
-  Sleep(Pause);
+  Until("the mouse is there", [place] {
+    POINT now{};
+    SetCursorPos(place.x, place.y);
+    Sleep(Pause);
+    return GetCursorPos(&now) != FALSE && now.x == place.x && now.y == place.y;
+  });
+  std::vector<INPUT> acts;
   for (int time = 0; time < times; ++time) {
     for (const DWORD act : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-      INPUT input = {};
-      input.type = INPUT_MOUSE;
-      input.mi.dwFlags = act;
-      Send(input);
+      acts.push_back({.type = INPUT_MOUSE, .mi = {.dwFlags = act}});
     }
   }
+  Send(acts);
 }
 
 void HostUser::Keys(const std::vector<int>& keys) {
@@ -127,7 +134,7 @@ void HostUser::Keys(const std::vector<int>& keys) {
     input.ki.wVk = static_cast<WORD>(std::abs(key));
     input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(input.ki.wVk, MAPVK_VK_TO_VSC));
     input.ki.dwFlags = key < 0 ? KEYEVENTF_KEYUP : 0U;
-    Send(input);
+    Send({input});
   }
 }
 
