@@ -137,18 +137,18 @@ ProblemWords ProblemWordsInForce() { return WordsBy(TextInForce); }
 
 std::string ProblemText(const Problem& problem, std::string_view with, const ProblemWords& words) {
   const PatternWords told = WordsOf(problem, with);
-  const std::string_view pattern = PatternOf(problem, words);
   std::string text;
-  for (std::size_t place = 0; place < pattern.size(); ++place) {
-    const char next = place + 1 < pattern.size() ? pattern[place + 1] : '\0';
-    if (pattern[place] != '%' || (next != '1' && next != '2' && next != 'd')) {
-      text += pattern[place];
+  for (std::string_view left = PatternOf(problem, words); !left.empty();) {
+    const bool first = left.starts_with("%1"), second = left.starts_with("%2"), direction = left.starts_with("%d");
+    if (!first && !second && !direction) {
+      text += left.front();
+      left.remove_prefix(1);
       continue;
     }
-    ++place;
-    if (next == '1') text += told.first;
-    if (next == '2') text += told.second;
-    if (next == 'd' && problem.direction) text += words.directions[static_cast<std::size_t>(*problem.direction)];
+    if (first) text += told.first;
+    if (second) text += told.second;
+    if (direction && problem.direction) text += words.directions[static_cast<std::size_t>(*problem.direction)];
+    left.remove_prefix(2);
   }
   return text;
 }
