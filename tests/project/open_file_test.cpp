@@ -6,7 +6,9 @@
 
 #include <fstream>
 #include <memory>
+#include <set>
 
+#include "project/fingerprint.h"
 #include "world/temporary_directory.h"
 
 namespace plexel {
@@ -28,6 +30,15 @@ TEST_F(OpenFiles, EachKnowsOfTheOther) {
   EXPECT_EQ(second->Others(), 1U);
   second.reset();
   EXPECT_EQ(first->Others(), 0U);
+}
+
+TEST_F(OpenFiles, AMarkIsOfAFileAndAProgramAndItsOwnNumber) {
+  const auto first = Open("a.plexel"), second = Open("a.plexel");
+  const std::string start = FingerprintOf(directory.Path() / "a.plexel") + "-" + std::to_string(ProcessNumber()) + "-";
+  std::set<std::string> names;
+  for (const auto& mark : std::filesystem::directory_iterator(directory.Path() / "open"))
+    names.insert(mark.path().filename());
+  EXPECT_EQ(names, (std::set<std::string>{start + "1.open", start + "2.open"}));
 }
 
 TEST_F(OpenFiles, LeavesNothingBehind) {

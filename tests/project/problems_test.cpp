@@ -450,6 +450,16 @@ TEST_F(ProblemsTest, ARecheckOfManyTellsWhoWasTouched) {
   EXPECT_EQ(problems.All(), Problems(Order()).All());
 }
 
+TEST_F(ProblemsTest, WhoLeavesBehindTheFirstPartnersTouchesNobodyElse) {
+  for (int count = 0; count < 40; ++count) Add(Led).LEDTypeLayer1(UserLed);
+  Problems problems(Order());
+  elements[16]->LEDTypeLayer1(LedNotEnabled);
+  EXPECT_EQ(problems.Recheck(*elements[16]), std::vector<std::size_t>{16});
+  elements[15]->LEDTypeLayer1(LedNotEnabled);
+  EXPECT_EQ(problems.Recheck(*elements[15]).size(), 24U) << "those behind it have another sixteenth partner";
+  EXPECT_EQ(problems.All(), Problems(Order()).All());
+}
+
 TEST_F(ProblemsTest, AnElementHasAsManyAsAreCountedOfIt) {
   for (int count = 0; count < 3; ++count) {
     Add(RectLed).LEDTypeLayer1(UserLed);

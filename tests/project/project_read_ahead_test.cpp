@@ -135,7 +135,8 @@ bool Waits(pid_t thread) {
 
 TEST(ReadAheadThread, GoesOnWhenThereIsRoomAgain) {
   constexpr std::size_t count = 20 * Portion;
-  const TextFile file("a.plexel", FormatProject(Made(count)));
+  const Project project = Made(count);
+  const TextFile file("a.plexel", FormatProject(project));
   std::atomic<pid_t> thread = 0;
   ProjectReadAhead reader(file, [&thread](std::function<void()> run) {
     return std::thread([&thread, run = std::move(run)] {
@@ -145,7 +146,8 @@ TEST(ReadAheadThread, GoesOnWhenThereIsRoomAgain) {
   });
   ASSERT_NE(reader.Next(), nullptr);
   while (!Waits(thread)) std::this_thread::yield();
-  EXPECT_EQ(ReadAll(reader).elements.size(), count - 1);
+  const std::vector<ProjectElement> left = ReadAll(reader).elements;
+  EXPECT_EQ(left, std::vector<ProjectElement>(project.elements.begin() + 1, project.elements.end()));
 }
 
 TEST(ReadAheadThread, AnEmptyProjectHasNone) {

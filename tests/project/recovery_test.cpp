@@ -274,13 +274,13 @@ TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
   std::ofstream(Store() / "1-5.recovery") << "[RECOVERY]\nFormat=1\nFile=a%00\nTime=1";
   std::ofstream(Store() / "1-6.recovery") << "";
   PutLost("1-7.recovery", 20);
-  for (const char* const broken : {"%G0", "%0G"}) {
+  for (const char* const broken : {"%G0", "%0G", "%4", "%"}) {
     std::ofstream(Store() / ("1-8" + std::string(broken) + ".recovery"))
         << "[RECOVERY]\nFormat=1\nFile=" << broken << "\nTime=1\n"
         << FormatProject(document->Content());
   }
   EXPECT_EQ(FindLostWork(Store(), damaged).size(), 1U);
-  EXPECT_EQ(damaged.size(), 8U);
+  EXPECT_EQ(damaged.size(), 10U);
   EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.recovery"));
 }
 
@@ -318,6 +318,17 @@ TEST_F(LostWorkFound, WhatIsNoRecoveryFileIsToldOfAtItsFirstLine) {
   std::ofstream(Store() / "1-1.recovery") << "[PROJECT]\nFormat=1\n";
   EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
   EXPECT_THAT(damaged, ::testing::ElementsAre(HasSubstr("1-1.recovery:1: this is no recovery file of a known format")));
+}
+
+TEST_F(LostWorkFound, AHeadWithoutItsFileOrTimeIsToldOfAtItsLine) {
+  std::ofstream(Store() / "1-1.recovery") << "[RECOVERY]\nFormat=1\nTime=1\nFile=a\n";
+  EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
+  EXPECT_THAT(damaged,
+              ::testing::ElementsAre(HasSubstr("1-1.recovery:3: the name of the project's file must stand here")));
+  damaged.clear();
+  std::ofstream(Store() / "1-1.recovery") << "[RECOVERY]\nFormat=1\nFile=a\nFile=a\n";
+  EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
+  EXPECT_THAT(damaged, ::testing::ElementsAre(HasSubstr("1-1.recovery:4: the time must stand here")));
 }
 
 TEST_F(LostWorkFound, AHeadThatIsCutOffIsToldOfAsSuch) {

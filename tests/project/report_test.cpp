@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "files/language_file.h"
 #include "open_document.h"
 #include "project/panel_svg.h"
 #include "project/report_csv.h"
@@ -135,6 +136,24 @@ TEST_F(ReportOfDocument, ProblemsAreTold) {
 TEST_F(ReportOfDocument, WithoutTextsOfALanguageTheWordsAreEnglish) {
   EXPECT_EQ(ReportWordsInForce().texts, EnglishReportWords().texts);
   EXPECT_EQ(ReportWordsInForce().problems.patterns, EnglishProblemWords().patterns);
+}
+
+TEST_F(ReportOfDocument, InEnglishTheWordsOfTheLanguageAreThoseWithoutOne) {
+  const auto speak = [this](const char* file) {
+    for (const auto& [number, text] : ReadLanguageFile(DataDirectory() / "languages" / file)) {
+      world.surroundings.Language().Set(number, text);
+    }
+  };
+  speak("English.lang");
+  const ReportWords words = ReportWordsInForce();
+  EXPECT_EQ(words.texts, EnglishReportWords().texts);
+  EXPECT_EQ(words.problems.patterns, EnglishProblemWords().patterns);
+  EXPECT_EQ(words.problems.numbers, EnglishProblemWords().numbers);
+  EXPECT_EQ(words.problems.directions, EnglishProblemWords().directions);
+  speak("German.lang");
+  EXPECT_EQ(ReportWordsInForce()[ReportWord::LanguageCode], "de");
+  EXPECT_EQ(ReportWordsInForce()[ReportWord::KindKeyWithLed], "Taste mit LED");
+  EXPECT_EQ(ReportWordsInForce().problems.directions[0], "Dr\u00FCcken");
 }
 
 TEST_F(ReportOfDocument, AnotherLanguageBringsItsOwnWords) {
@@ -280,7 +299,9 @@ TEST(PanelSvg, ALegendHasALineForEachOfItsLines) {
   panel.parts[0].box = {0, 0, 40, 40};
   panel.parts[0].legend = "a<\nb";
   panel.parts[0].legendColor = 0x112233;
+  panel.parts[0].legendSize = 10;
   const std::string svg = PanelSvg(panel);
+  EXPECT_THAT(svg, AllOf(HasSubstr(" x=\"20.00\" y=\"17.75\" "), HasSubstr(" x=\"20.00\" y=\"29.45\" ")));
   EXPECT_THAT(svg, HasSubstr("text-anchor=\"middle\" fill=\"#332211\">a&lt;</text>"));
   EXPECT_THAT(svg, HasSubstr(">b</text>"));
 }

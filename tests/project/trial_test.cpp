@@ -192,6 +192,13 @@ TEST(Trial, LedsOfLayersAndLocksAreLit) {
   EXPECT_FALSE(trial.IsLit(Layer1Led));
   EXPECT_TRUE(trial.IsLit(Layer2Led));
   trial.Release(0);
+  for (const std::int32_t layer : {1, 2, 3, 4}) {
+    trial.ChooseLayer(layer);
+    for (const std::int32_t other : {1, 2, 3, 4}) {
+      EXPECT_EQ(trial.IsLit(static_cast<enumLedType>(Layer1Led + other - 1)), layer == other) << layer << ' ' << other;
+    }
+  }
+  trial.ChooseLayer(1);
   const struct {
     std::uint8_t code;
     enumLedType led;

@@ -10,7 +10,6 @@
 
 #include "editor/texts.h"
 #include "editor_fixture.h"
-#include "project/report_words.h"
 #include "qt/units.h"
 
 namespace plexel::testing {
@@ -62,24 +61,6 @@ class ProblemList : public Editor {
   std::shared_ptr<EditorWindowObject> windowObject = std::make_shared<EditorWindowObject>();
   void GoTo(int row) { List().setCurrentIndex(List().model()->index(row, 0)); }
 };
-
-TEST(EditorsWords, InEnglishAreThoseOfTheCommandLine) {
-  QTemporaryDir files;
-  FileSurroundings surroundings{DataDirectory(), files.path().toStdString()};
-  HelpWindow help;
-  OpenQtPlatform platform{surroundings.UserRegistry(), help};
-  const Component component{platform, surroundings};
-  surroundings.ChooseLanguage("English");
-  const ReportWords words = ReportWordsInForce();
-  EXPECT_EQ(words.texts, EnglishReportWords().texts);
-  EXPECT_EQ(words.problems.patterns, EnglishProblemWords().patterns);
-  EXPECT_EQ(words.problems.numbers, EnglishProblemWords().numbers);
-  EXPECT_EQ(words.problems.directions, EnglishProblemWords().directions);
-  surroundings.ChooseLanguage("German");
-  EXPECT_EQ(ReportWordsInForce()[ReportWord::LanguageCode], "de");
-  EXPECT_EQ(ReportWordsInForce()[ReportWord::KindKeyWithLed], "Taste mit LED");
-  EXPECT_EQ(ReportWordsInForce().problems.directions[0], "Dr\u00FCcken");
-}
 
 TEST_F(ProblemList, ANewProjectHasNoneAndSaysSo) {
   EXPECT_EQ(Rows(), 0);
