@@ -207,6 +207,7 @@ TEST(Exchange, WhatTheSchemaRefusesIsRefusedWithItsPlace) {
   EXPECT_EQ(FaultOf(R"({"format":2})"), "f.json: /format: must be 1");
   EXPECT_EQ(FaultOf(R"({"format":1,"panel":"P"})"), "f.json: /panel: must be an object");
   EXPECT_EQ(FaultOf(R"({"format":1,"panel":{"name":1}})"), "f.json: /panel/name: must be a text");
+  EXPECT_EQ(FaultOf(R"({"format":1,"panel":{"name":"","size":1}})"), "f.json: /panel/size: is unknown here");
   EXPECT_EQ(FaultOf(R"({"format":1,"other":1})"), "f.json: /other: is unknown here");
   EXPECT_EQ(FaultOf(R"({"format":1,"panel":{"name":""},"elements":{}})"), "f.json: /elements: must be a list");
   EXPECT_EQ(FaultOf(R"({"format":1,"panel":{"name":""},"elements":[1]})"), "f.json: /elements/0: must be an object");
@@ -220,7 +221,7 @@ TEST(Exchange, WhatTheSchemaRefusesIsRefusedWithItsPlace) {
 }
 
 TEST(Exchange, APlaceShowsNoControlCharacters) {
-  EXPECT_EQ(FaultOf(R"({"\u0001\u001f \u007f~\u00e4":1})"), "f.json: /?? ?~0\u00E4: is unknown here");
+  EXPECT_EQ(FaultOf(R"({"\u0000\u0001\u001f \u007f~\u00e4":1})"), "f.json: /??? ?~0\u00E4: is unknown here");
 }
 
 TEST(Exchange, AValueOutsideItsTypeIsRefused) {
@@ -249,6 +250,8 @@ TEST(Exchange, AFaultyBufferIsRefused) {
   EXPECT_EQ(FaultOf(WithCodes(R"({"buffer":"strLayer5PressScanCode","next":0,"bytes":""})")),
             "f.json: /elements/0/codes/0/buffer: must be the name of a code buffer");
   EXPECT_EQ(FaultOf(WithCodes("{" + press + "}")), "f.json: /elements/0/codes/0: must have the member \"next\"");
+  EXPECT_EQ(FaultOf(WithCodes("{" + press + R"(,"next":0,"bytes":"","more":1})")),
+            "f.json: /elements/0/codes/0/more: is unknown here");
   const std::string codes = "{" + press + R"(,"next":0,"bytes":""})";
   EXPECT_EQ(FaultOf(WithCodes(codes + "," + codes)), "f.json: /elements/0/codes/1/buffer: stands twice");
   std::string many = "00";

@@ -149,6 +149,18 @@ TEST_F(Recovery, OfTheProjectBeforeNothingIsKept) {
   EXPECT_EQ(Kept().project, document->Content());
 }
 
+TEST_F(Recovery, APortionOfTheProjectBeforeLeavesNothingUndone) {
+  Watch();
+  Note("F3", "of the first");
+  ASSERT_TRUE(keeper.Work(7));
+  const auto first = std::move(document);
+  document = PanelDocument::New("Large", Site());
+  Watch();
+  Note("F4", "of the second");
+  keeper.Flush();
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
 TEST_F(Recovery, AProjectThatIsLeftKeepsItsFile) {
   Watch();
   Note("F3", "a");
@@ -167,7 +179,11 @@ TEST_F(Recovery, AFailureIsToldAndTheNextWritingTriesAgain) {
   std::filesystem::create_directory(keeper.File());
   keeper.Flush();
   EXPECT_THAT(keeper.Problem(), HasSubstr("cannot be written"));
-  std::filesystem::remove(keeper.File());
+  std::ofstream(keeper.File() / "in it") << "";
+  document->Undo();
+  keeper.Flush();
+  EXPECT_THAT(keeper.Problem(), HasSubstr(".recovery: cannot be removed: "));
+  std::filesystem::remove_all(keeper.File());
   Note("F3", "b");
   keeper.Flush();
   EXPECT_EQ(keeper.Problem(), "");
