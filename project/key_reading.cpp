@@ -26,9 +26,9 @@ bool IsPanelCommand(std::uint8_t byte) {
 
 /// One thing that bytes do, at the start of what is left of a group.
 struct Piece {
-  std::size_t length = 1;
-  KeyDeed deed = KeyDeed::Unknown;  ///< Down also for a repeat
-  KeyCode code = 0;
+  std::size_t length{};
+  KeyDeed deed{};  ///< Down also for a repeat
+  KeyCode code{};
 };
 
 Piece FirstPiece(Bytes bytes) {

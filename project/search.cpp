@@ -12,9 +12,8 @@ namespace {
 
 bool Holds(std::string_view text, std::string_view word) { return text.find(word) != std::string_view::npos; }
 
-/// Takes the next word from the start of a text; empty when there is none.
+/// Takes what stands ahead of the next blank, or the words between two quotation marks, from the start of a text.
 std::string_view TakeWord(std::string_view& text) {
-  text.remove_prefix(std::min(text.find_first_not_of(" \t\n"), text.size()));
   const bool quoted = text.starts_with('"');
   if (quoted) text.remove_prefix(1);
   const std::size_t end = std::min(quoted ? text.find('"') : text.find_first_of(" \t\n"), text.size());

@@ -57,10 +57,7 @@ void TrialPc::Hear(const KeyReport& report) {
 
 void TrialPc::Type(KeyCode code) {
   if (std::ranges::any_of(shortcutKeys, [this](KeyCode key) { return IsDown(key); })) return;
-  if (code == backspace) {
-    if (!text_.empty()) text_.pop_back();
-    return;
-  }
+  if (code == backspace && !text_.empty()) text_.pop_back();
   const auto* const row = std::ranges::lower_bound(rows, code, {}, &CharacterRow::code);
   if (row == rows.end() || row->code != code) return;
   const bool shift = IsDown(leftShift) || IsDown(rightShift);

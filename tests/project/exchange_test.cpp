@@ -138,7 +138,12 @@ TEST(Exchange, ForeignKeysKeepTheirOrderAmongEachOther) {
   EXPECT_LT(document.find("\"b\""), document.find("\"a\""));
 }
 
-TEST(Exchange, AByteOrderMarkIsPassedOver) { EXPECT_EQ(Import("\uFEFF" + ExportProject({})), Project{}); }
+TEST(Exchange, AByteOrderMarkIsPassedOver) {
+  EXPECT_EQ(Import("\uFEFF" + ExportProject({})), Project{});
+  for (const std::string broken : {"", "{", "{\n\"a\" 1", "[1,\n2,,\n", "\"\xFF\""}) {
+    EXPECT_EQ(FaultOf("\uFEFF" + broken), FaultOf(broken));
+  }
+}
 
 TEST(Exchange, ADocumentLargerThanOneThatIsReadIsRefused) {
   const std::string document = ExportProject({});
@@ -249,6 +254,11 @@ TEST(Exchange, AFaultyBufferIsRefused) {
             "f.json: /elements/0/codes/0/next: must be a whole number from 0 to 88");
   EXPECT_EQ(FaultOf(WithCodes(R"({"buffer":"strLayer5PressScanCode","next":0,"bytes":""})")),
             "f.json: /elements/0/codes/0/buffer: must be the name of a code buffer");
+  EXPECT_EQ(FaultOf(WithCodes(R"({"buffer":1,"next":0,"bytes":""})")),
+            "f.json: /elements/0/codes/0/buffer: must be the name of a code buffer");
+  EXPECT_EQ(FaultOf(WithCodes("{" + press + R"(,"next":0,"bytes":1})")),
+            "f.json: /elements/0/codes/0/bytes: must be a row of at most 89 two-digit hexadecimal numbers with a blank "
+            "between them");
   EXPECT_EQ(FaultOf(WithCodes("{" + press + "}")), "f.json: /elements/0/codes/0: must have the member \"next\"");
   EXPECT_EQ(FaultOf(WithCodes("{" + press + R"(,"next":0,"bytes":"","more":1})")),
             "f.json: /elements/0/codes/0/more: is unknown here");

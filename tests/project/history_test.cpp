@@ -103,6 +103,21 @@ TEST_F(Undo, AStepBehindAnUndoneOneForgetsIt) {
   EXPECT_EQ(Element("F3").ButtonNotes(), "b");
 }
 
+TEST_F(Undo, StepsGoBackAndForthOneByOne) {
+  for (const char* const note : {"a", "b"}) Change({"F3"}, [&] { Element("F3").ButtonNotes(note); });
+  document->Undo();
+  document->Undo();
+  EXPECT_FALSE(document->Steps().CanUndo());
+  document->Redo();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "a");
+  EXPECT_TRUE(document->Steps().CanUndo());
+  document->Redo();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "b");
+  EXPECT_FALSE(document->Steps().CanRedo());
+  document->Undo();
+  EXPECT_EQ(Element("F3").ButtonNotes(), "a");
+}
+
 TEST_F(Undo, NothingHappensWithoutAStep) {
   document->Undo();
   document->Redo();

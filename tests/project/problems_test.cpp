@@ -377,12 +377,16 @@ TEST_F(ProblemsTest, TextsTellWhatTheMachineGets) {
 
 TEST_F(ProblemsTest, EveryRuleHasANameALevelAndWords) {
   const ProblemWords& words = EnglishProblemWords();
-  std::set<std::string_view> names, patterns(words.numbers.begin(), words.numbers.end());
+  std::set<std::string_view> patterns(words.numbers.begin(), words.numbers.end());
+  std::vector<std::string> names;
   for (const ProblemRuleRow& row : ProblemRules()) {
-    names.insert(row.name);
+    names.push_back((row.level == ProblemLevel::Error ? "error " : "warning ") + std::string(row.name));
     if (row.rule != Rule::NumberTwice) patterns.insert(words.patterns[static_cast<std::size_t>(row.rule)]);
   }
-  EXPECT_EQ(names.size(), 11u);
+  EXPECT_EQ(names, (std::vector<std::string>{"error held", "warning released-first", "warning unknown-bytes",
+                                             "error no-bytes", "error no-text", "warning groups-differ",
+                                             "error over-limit", "warning led-without-lamp", "warning led-not-offered",
+                                             "warning led-twice", "error number-twice"}));
   EXPECT_EQ(patterns.size(), 13u);
   EXPECT_FALSE(patterns.contains(""));
 }

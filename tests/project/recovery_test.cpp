@@ -290,13 +290,13 @@ TEST_F(LostWorkFound, DamagedFilesArePassedOverWithAWordAndLeft) {
   std::ofstream(Store() / "1-5.recovery") << "[RECOVERY]\nFormat=1\nFile=a%00\nTime=1";
   std::ofstream(Store() / "1-6.recovery") << "";
   PutLost("1-7.recovery", 20);
-  for (const char* const broken : {"%G0", "%0G", "%4", "%"}) {
+  for (const char* const broken : {"%G0", "%0G", "%4", "%", "a%4"}) {
     std::ofstream(Store() / ("1-8" + std::string(broken) + ".recovery"))
         << "[RECOVERY]\nFormat=1\nFile=" << broken << "\nTime=1\n"
         << FormatProject(document->Content());
   }
   EXPECT_EQ(FindLostWork(Store(), damaged).size(), 1U);
-  EXPECT_EQ(damaged.size(), 10U);
+  EXPECT_EQ(damaged.size(), 11U);
   EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.recovery"));
 }
 
@@ -320,6 +320,24 @@ TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
   for (const auto& entry : std::filesystem::directory_iterator(Store())) left.push_back(entry.path().filename());
   EXPECT_THAT(left, ::testing::UnorderedElementsAre("1-3.recovery", "1-3.lock", mine + ".lock",
                                                     mine + ".recovery.9-0.new", "a.plexel.9-0.new"));
+}
+
+TEST_F(UnsavedWork, AProgramThatKeptNothingLeavesNothing) {
+  {
+    const RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(Store()));
+  {
+    RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
+    Watch(keeper);
+    Note("F3", "a");
+    keeper.Flush();
+    document->Listen({});
+  }
+  const std::string mine = std::to_string(::getpid()) + "-1.";
+  std::vector<std::string> left;
+  for (const auto& entry : std::filesystem::directory_iterator(Store())) left.push_back(entry.path().filename());
+  EXPECT_THAT(left, ::testing::UnorderedElementsAre(mine + "recovery", mine + "lock"));
 }
 
 TEST_F(UnsavedWork, IsForItsUserAloneWhateverStoodThere) {

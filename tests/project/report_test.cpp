@@ -85,6 +85,20 @@ TEST_F(ReportOfDocument, EachKindHasTheNumbersOfItsParts) {
   EXPECT_EQ(RowOf("R1", 1).ledNumber, "");
 }
 
+TEST_F(ReportOfDocument, EveryKindHasAKeyAnLedOrContacts) {
+  Element("R1").HardwareNumberButton(5);
+  Element("R1").HardwareNumberLed(6);
+  Element("R1").HardwareNumberKeyAt(7, 9);
+  const std::pair<enumTactisBaseElementType, std::string> kinds[] = {
+      {Led, "LED||6"},  {Oval, "round key|5|"},        {OvalLed, "round key with LED|5|6"},
+      {Rect, "key|5|"}, {RectLed, "key with LED|5|6"}, {Key, "key switch|9|"}};
+  for (const auto& [kind, told] : kinds) {
+    Element("R1").ElementType(kind);
+    const ReportRow row = RowOf("R1", 1);
+    EXPECT_EQ(row.kind + "|" + row.buttonNumber + "|" + row.ledNumber, told);
+  }
+}
+
 TEST_F(ReportOfDocument, AnElementOfNoKnownKindHasEveryNumber) {
   for (const std::int32_t kind : {Led - 1, Key + 1}) {
     Element("R1").ElementType(static_cast<enumTactisBaseElementType>(kind));
@@ -234,6 +248,70 @@ TEST(ReportHtml, NoTextBecomesMarkUp) {
   EXPECT_EQ(html.find('\xFF'), std::string::npos);
 }
 
+TEST(ReportHtml, IsAPageOfThePictureTheLegendTheTableAndTheProblems) {
+  OneRow one({"F1", "key with LED", 1, "[a]", "[b]", "FF 1C FF", "FF 32 FF", "Layer 1", "7", "8", "a note"});
+  one.panel.title = "The panel";
+  one.report.rows.insert(one.report.rows.end(),
+                         {{"F1", "key with LED", 2, "", "[b]", "FF 1C FF", "", "", "7", "8", "a note"},
+                          {"F1", "key with LED", 3, "", "", "", "FF 32 FF", "Alarm", "7", "8", "a note"},
+                          {"F1", "key with LED", 4, "", "", "", "", "", "7", "8", "a note"}});
+  for (const std::int32_t layer : {1, 2, 3, 4}) {
+    one.report.rows.push_back({"L1", "LED", layer, "", "", "", "", layer == 4 ? "Power" : "", "", "9", ""});
+  }
+  for (const std::int32_t layer : {1, 2, 3, 4}) {
+    one.report.rows.push_back({"K1", "key switch", layer, "", "", "", "", "", "1 2", "", "turn"});
+  }
+  one.report.problems = {{"F1", "layer 1, press", ProblemLevel::Error, "wrong"},
+                         {"L1", "", ProblemLevel::Warning, "odd"}};
+  const std::string html = ReportHtml(one.report);
+  EXPECT_THAT(html, StartsWith(R"html(<!DOCTYPE html>
+<html lang="en">
+<head>
+<meta charset="utf-8">
+<meta http-equiv="Content-Security-Policy" content="default-src 'none'; style-src 'unsafe-inline'">
+<meta name="viewport" content="width=device-width">
+<title>a.plexel</title>
+<style>
+@page { size: A4;)html"));
+  EXPECT_EQ(html.substr(html.find("</style>")), R"html(</style>
+</head>
+<body>
+<h1>a.plexel</h1>
+<p>The panel</p>
+<figure>
+<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 0 0" width="0" height="0" role="img" font-family="Liberation Sans, Arial, Helvetica, sans-serif">
+<title>The panel</title>
+</svg>
+</figure>
+<h2>What each key does</h2>
+<dl>
+<div><dt>F1</dt><dd>1: [a] on release [b], LED: Layer 1</dd><dd>2: FF 1C FF on release [b]</dd><dd>3: on release FF 32 FF, LED: Alarm</dd></div>
+<div><dt>L1</dt><dd>4: LED: Power</dd></div>
+</dl>
+<h2>All elements</h2>
+<table>
+<thead><tr><th>Element</th><th>Layer</th><th>Press</th><th>Release</th><th>LED</th><th>Numbers</th><th>Note</th></tr></thead>
+<tbody>
+<tr><td><b>F1</b><br>key with LED</td><td>1</td><td>[a]<br><span class="bytes">FF 1C FF</span></td><td>[b]<br><span class="bytes">FF 32 FF</span></td><td>Layer 1</td><td>key 7, LED 8</td><td>a note</td></tr>
+<tr><td><b>F1</b></td><td>2</td><td><br><span class="bytes">FF 1C FF</span></td><td>[b]</td><td></td><td></td><td></td></tr>
+<tr><td><b>F1</b></td><td>3</td><td></td><td><br><span class="bytes">FF 32 FF</span></td><td>Alarm</td><td></td><td></td></tr>
+<tr><td><b>L1</b><br>LED</td><td>4</td><td></td><td></td><td>Power</td><td>LED 9</td><td></td></tr>
+<tr><td><b>K1</b><br>key switch</td><td></td><td></td><td></td><td></td><td>key 1 2</td><td>turn</td></tr>
+</tbody>
+</table>
+<h2>Problems</h2>
+<table>
+<thead><tr><th>Element</th><th>Where</th><th>Level</th><th>Problem</th></tr></thead>
+<tbody>
+<tr><td>F1</td><td>layer 1, press</td><td class="error">error</td><td>wrong</td></tr>
+<tr><td>L1</td><td></td><td>warning</td><td>odd</td></tr>
+</tbody>
+</table>
+</body>
+</html>
+)html");
+}
+
 TEST(ReportHtml, AnElementThatDoesTheSameOnAllLayersIsToldOnce) {
   OneRow one(WithPress("[a]"));
   for (int layer = 2; layer <= 4; ++layer) one.report.rows.push_back(one.report.rows.front());
@@ -283,13 +361,76 @@ TEST(PanelSvg, EveryKindOfPartIsDrawn) {
   }
 }
 
+TEST(PanelSvg, EachKindOfPartHasItsShapeAndLight) {
+  Panel panel;
+  panel.title = "P & Q";
+  panel.width = 300;
+  panel.height = 200;
+  const auto put = [&panel](PanelPartKind kind, const PanelBox& box, std::int32_t fill) -> PanelPart& {
+    PanelPart& part = panel.parts.emplace_back();
+    part.kind = kind;
+    part.box = box;
+    part.fillColor = fill;
+    part.lineColor = 0x302010;
+    return part;
+  };
+  put(PanelPartKind::Housing, {0, 0, 300, 200}, 0x00C8C8);
+  put(PanelPartKind::Screen, {10, 20, 100, 60}, 0x400000);
+  put(PanelPartKind::Key, {120, 20, 40, 30}, 0xF0F0F0).cornerRadius = 3;
+  put(PanelPartKind::RoundKey, {170, 20, 30, 31}, 0xF0F0F0);
+  put(PanelPartKind::KeySwitch, {210, 20, 50, 50}, 0x646464);
+  put(PanelPartKind::Led, {10, 100, 9, 9}, 0x00A000);
+  put(PanelPartKind::Led, {30, 100, 20, 8}, 0x00A000).cornerRadius = 2;
+  PanelPart& led = put(PanelPartKind::Led, {60, 100, 20, 8}, 0x00A000);
+  led.legend = "L";
+  led.legendSize = 10;
+  led.legendAlignment = LegendAlignment::Left;
+  PanelPart& legend = put(PanelPartKind::Legend, {100, 100, 40, 20}, 0);
+  legend.legend = "R";
+  legend.legendAlignment = LegendAlignment::Right;
+  PanelPart& key = put(PanelPartKind::Key, {120, 60, 40, 30}, 0xF0F0F0);
+  key.legend = "ESC";
+  key.element.emplace().id = "R<1";
+  EXPECT_EQ(
+      PanelSvg(panel, PanelPlaces::Shown),
+      R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 300 200" width="300" height="200" role="img" font-family="Liberation Sans, Arial, Helvetica, sans-serif">
+<title>P &amp; Q</title>
+<defs>
+<linearGradient id="light1" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#D4D400"/><stop offset="1" stop-color="#BDBD00"/></linearGradient>
+<linearGradient id="light2" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#FFFFFF"/><stop offset="1" stop-color="#E0E0E0"/></linearGradient>
+<linearGradient id="light3" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#6B6B6B"/><stop offset="1" stop-color="#5D5D5D"/></linearGradient>
+<radialGradient id="light4" cx="0.35" cy="0.3" r="0.6"><stop offset="0" stop-color="#00F000"/><stop offset="1" stop-color="#00A000"/></radialGradient>
+</defs>
+<rect x="0.50" y="0.50" width="299.00" height="199.00" fill="url(#light1)" stroke="#102030"/>
+<rect x="10.50" y="20.50" width="99.00" height="59.00" fill="#000040" stroke="#102030"/>
+<path d="M10.00 20.00H65.00L40.00 80.00H10.00Z" fill="#FFFFFF" fill-opacity="0.055"/>
+<rect x="120.50" y="20.50" width="39.00" height="29.00" rx="3.00" fill="url(#light2)" stroke="#102030"/>
+<ellipse cx="185.00" cy="35.50" rx="14.50" ry="15.00" fill="url(#light2)" stroke="#102030"/>
+<ellipse cx="235.00" cy="45.00" rx="24.50" ry="24.50" fill="url(#light3)" stroke="#102030"/>
+<ellipse cx="235.00" cy="45.00" rx="12.50" ry="12.50" fill="#575757" stroke="#102030"/>
+<rect x="233.00" y="36.50" width="4.00" height="17.00" rx="1" fill="#0D1B28"/>
+<ellipse cx="14.50" cy="104.50" rx="4.00" ry="4.00" fill="url(#light4)" stroke="#102030"/>
+<ellipse cx="40.00" cy="104.00" rx="9.50" ry="3.50" fill="url(#light4)" stroke="#102030"/>
+<rect x="60.50" y="100.50" width="19.00" height="7.00" fill="url(#light4)" stroke="#102030"/>
+<text x="60.00" y="107.60" font-size="10" text-anchor="start" fill="#000000">L</text>
+<text x="140.00" y="114.32" font-size="12" text-anchor="end" fill="#000000">R</text>
+<g><title>R&lt;1</title>
+<rect x="120.50" y="60.50" width="39.00" height="29.00" fill="url(#light2)" stroke="#102030"/>
+<text x="140.00" y="79.32" font-size="12" text-anchor="middle" fill="#000000">ESC</text>
+<text x="140.00" y="58.00" font-size="10.00" text-anchor="middle" fill="#4A5A69">R&lt;1</text>
+</g>
+</svg>
+)svg");
+}
+
 TEST(PanelSvg, APartWithoutRoomHasNoExtent) {
   Panel panel;
   panel.parts.resize(2);
   panel.parts[0].kind = PanelPartKind::Key;
   panel.parts[1].kind = PanelPartKind::RoundKey;
   const std::string svg = PanelSvg(panel);
-  EXPECT_THAT(svg, AllOf(HasSubstr("width=\"0\" height=\"0\""), HasSubstr("rx=\"0.00\" ry=\"0.00\"")));
+  EXPECT_THAT(svg, AllOf(HasSubstr("width=\"0\" height=\"0\""), HasSubstr("width=\"0.00\" height=\"0.00\""),
+                         HasSubstr("rx=\"0.00\" ry=\"0.00\"")));
 }
 
 TEST(PanelSvg, ALegendHasALineForEachOfItsLines) {

@@ -126,6 +126,8 @@ TEST(Trial, ALayerHoldsAsLongAsItsKey) {
   EXPECT_EQ(trial.Layer(), 2);
   trial.Press(1, layer3Key);
   EXPECT_EQ(trial.Layer(), 2) << "layer 2 of that key sends nothing";
+  trial.Press(2, Element({0x1C}, {}, 2));
+  EXPECT_EQ(trial.Layer(), 2) << "a key calls no layer";
   trial.Release(0);
   EXPECT_EQ(trial.Layer(), 1);
 }
