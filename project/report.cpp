@@ -10,15 +10,18 @@ namespace {
 
 constexpr std::int32_t HardwareKeys = 8, NoContact = -1;
 
+enum class Sender { None, Button, Contacts };
+
 /// What an element of a kind has.
 struct KindRow {
   enumTactisBaseElementType kind;
-  bool hasKey, hasLed, hasContacts;
+  Sender sender;
+  bool hasLed;
 };
-constexpr std::array kinds = {KindRow{Led, false, true, false},    KindRow{Oval, true, false, false},
-                              KindRow{OvalLed, true, true, false}, KindRow{Rect, true, false, false},
-                              KindRow{RectLed, true, true, false}, KindRow{Key, false, false, true}};
-constexpr KindRow anyKind{Led, true, true, false};
+constexpr std::array kinds = {KindRow{Led, Sender::None, true},       KindRow{Oval, Sender::Button, false},
+                              KindRow{OvalLed, Sender::Button, true}, KindRow{Rect, Sender::Button, false},
+                              KindRow{RectLed, Sender::Button, true}, KindRow{Key, Sender::Contacts, false}};
+constexpr KindRow anyKind{Led, Sender::Button, true};
 
 const KindRow& KindOf(enumTactisBaseElementType type) {
   for (const KindRow& kind : kinds) {
@@ -78,8 +81,8 @@ std::array<ReportRow, LayerCount> RowsOf(const ctlPlexelBaseElement& element, co
     row.pressBytes = BytesOf(*PressBuffer(record, layer));
     row.releaseBytes = BytesOf(*ReleaseBuffer(record, layer));
     if (element.LEDTypeLayer(layer) != LedNotEnabled) row.led = LedTypeToText(element.LEDTypeLayer(layer));
-    if (kind.hasKey) row.buttonNumber = std::to_string(element.HardwareNumberButton());
-    if (kind.hasContacts) row.buttonNumber = ContactsOf(element);
+    if (kind.sender == Sender::Button) row.buttonNumber = std::to_string(element.HardwareNumberButton());
+    if (kind.sender == Sender::Contacts) row.buttonNumber = ContactsOf(element);
     if (kind.hasLed) row.ledNumber = std::to_string(element.HardwareNumberLed());
     row.note = element.ButtonNotes();
   }
