@@ -56,7 +56,6 @@ void RecoveryKeeper::Leave() {
 void RecoveryKeeper::Changed(std::span<const std::size_t> places) {
   for (const std::size_t place : places) {
     if (sections_.at(place) != nullptr) stale_.insert(place);
-    sections_[place] = nullptr;
   }
   due_ = true;
 }
