@@ -77,6 +77,15 @@ TEST_F(Paste, SeveralGoToAsManyInTheirOrder) {
   EXPECT_EQ(Element("F8").PressKeyDefLayer1(), "[six]");
 }
 
+TEST(LayersToPaste, AreAllWhenEachIsNamed) {
+  EXPECT_TRUE(LayerSet().IsAll());
+  EXPECT_TRUE(LayerSet({4, 2, 3, 1, 1}).IsAll());
+  for (const std::int32_t layer : {1, 2, 3, 4}) {
+    EXPECT_FALSE(LayerSet({layer}).IsAll());
+    for (const std::int32_t other : {1, 2, 3, 4}) EXPECT_EQ(LayerSet({layer}).Has(other), layer == other);
+  }
+}
+
 TEST_F(Paste, ALayerAloneLeavesTheOthersAndTheNotes) {
   Of({"F5"}, {"F6"}, {1, 2}).Do(StepKind::Paste);
   EXPECT_EQ(Element("F6").PressKeyDefLayer1(), "[a]");
