@@ -74,7 +74,7 @@ RecoveryFile ParseRecovery(const TextFile& text) {
     }
   }
   if (length > text.Text().size()) throw text.Error(lines.Number(), "the file is cut off");
-  recovery.project = ParseProject(TextFile(text.Path(), std::string(text.Text().substr(length))));
+  recovery.project = ParseProject(text.Behind(headLines, length));
   return recovery;
 }
 

@@ -31,6 +31,12 @@ TextFile::TextFile(std::filesystem::path file, std::string content)
   Check();
 }
 
+TextFile TextFile::Behind(std::size_t lines, std::size_t length) const {
+  TextFile rest(path_, std::string(Text().substr(length)));
+  rest.linesAhead_ = linesAhead_ + lines;
+  return rest;
+}
+
 void TextFile::Check() {
   const std::string_view content = content_;
   if (HasUtf16Mark(content)) throw Error(1, "the text is UTF-16; save it as UTF-8");

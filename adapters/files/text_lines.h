@@ -70,7 +70,11 @@ class TextFile {
   bool HasUtf8Mark() const { return start_ != 0; }
   std::string_view Text() const { return std::string_view(content_).substr(start_); }
   LineWalk Lines() const { return LineWalk(Text()); }
-  FileError Error(std::size_t line, const std::string& reason) const { return FileError(path_, line, reason); }
+  FileError Error(std::size_t line, const std::string& reason) const {
+    return FileError(path_, linesAhead_ + line, reason);
+  }
+  /// What stands behind the first lines, which are so many bytes long. Its errors tell the lines of the whole file.
+  TextFile Behind(std::size_t lines, std::size_t length) const;
 
  private:
   void Check();
@@ -79,6 +83,7 @@ class TextFile {
   std::filesystem::path path_;
   std::string content_;
   std::size_t start_ = 0;
+  std::size_t linesAhead_ = 0;  ///< of the file, ahead of the text
 };
 
 /// The number of the line in which a position lies, from 1.

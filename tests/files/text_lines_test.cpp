@@ -69,6 +69,16 @@ TEST(TextFile, AByteOrderMarkOfUtf8IsPassedOver) {
   EXPECT_EQ(TextFile("t", std::string("\xEF\xBB\xBFtext")).Text(), "text");
 }
 
+TEST(TextFile, WhatStandsBehindItsFirstLinesTellsTheLinesOfTheWhole) {
+  const TextFile whole("a.txt", std::string("\xEF\xBB\xBF"
+                                            "a\nbc\nd\ne\n"));
+  const TextFile rest = whole.Behind(2, 5), last = rest.Behind(1, 2);
+  EXPECT_EQ(rest.Text(), "d\ne\n");
+  EXPECT_STREQ(rest.Error(1, "odd").what(), "a.txt:3: odd");
+  EXPECT_EQ(last.Text(), "e\n");
+  EXPECT_STREQ(last.Error(1, "odd").what(), "a.txt:4: odd");
+}
+
 TEST(TextFile, Utf16IsRefusedInBothByteOrders) {
   for (const std::string_view mark : {"\xFF\xFE", "\xFE\xFF"}) {
     const auto error = FileErrorOf([mark] { TextFile("name", std::string(mark) + "a"); });

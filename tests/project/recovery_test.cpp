@@ -371,6 +371,12 @@ TEST_F(LostWorkFound, AHeadThatIsCutOffIsToldOfAsSuch) {
   EXPECT_THAT(damaged, ::testing::ElementsAre(HasSubstr("1-1.recovery:4: the file is cut off")));
 }
 
+TEST_F(LostWorkFound, AHeadWithoutAProjectIsToldOfBehindIt) {
+  std::ofstream(Store() / "1-1.recovery") << "[RECOVERY]\nFormat=1\nFile=a\nTime=1\n";
+  FindLostWork(Store(), damaged);
+  EXPECT_THAT(damaged, ::testing::ElementsAre(HasSubstr("1-1.recovery:5: this is no project: [PROJECT] is missing")));
+}
+
 TEST_F(LostWorkFound, EveryCutOfAFileIsDamage) {
   PutLost("1-1.recovery", 10);
   const std::string whole = [&] {
