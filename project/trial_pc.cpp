@@ -64,7 +64,7 @@ void TrialPc::Type(KeyCode code) {
   if (row->shifted == OfPad && (shift || !numLock_)) return;
   const bool upper = IsLetter(row->plain) ? shift != capsLock_ : shift;
   text_ += upper ? row->shifted : row->plain;
-  if (text_.size() > LongestText) text_.erase(0, text_.size() - LongestText);
+  text_.erase(0, text_.size() - std::min(text_.size(), LongestText));
 }
 
 }  // namespace plexel

@@ -1,6 +1,7 @@
 #include "project/panel_document.h"
 
 #include "project/open_document.h"
+#include "world/temporary_directory.h"
 
 namespace plexel {
 namespace {
@@ -25,6 +26,42 @@ using PlacesOfADocument = OpenDocument;
 TEST_F(PlacesOfADocument, AnElementThatIsNotOnThePanelHasNone) {
   EXPECT_EQ(document->PlaceOf(Element("F3")), static_cast<int>(PlaceOf("F3")));
   EXPECT_EQ(document->PlaceOf(*world.component.Create("F3", world.host)), -1);
+}
+
+class ElementsOfADocument : public OpenDocument {
+ protected:
+  TemporaryDirectory directory;
+};
+
+TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
+  for (const char* const name : {"Large", "Small"}) {
+    document = PanelDocument::New(name, Site());
+    const Panel& panel = document->ThePanel();
+    for (const bool isOpened : {false, true}) {
+      for (const PanelDocument::Place& place : document->Places()) {
+        const ctlPlexelBaseElement& element = *place.element;
+        const PanelElement& described = *place.part->element;
+        EXPECT_EQ(element.Name(), described.id);
+        EXPECT_EQ(element.ElementType(), described.type);
+        EXPECT_EQ(element.DeviceType(), panel.deviceType);
+        EXPECT_EQ(element.VantaEnabled(), panel.vantaEnabled);
+        EXPECT_EQ(element.TargetSystem(), panel.targetSystem);
+        EXPECT_EQ(element.OriginalPosX(), place.part->box.left);
+        EXPECT_EQ(element.OriginalPosY(), place.part->box.top);
+        EXPECT_EQ(element.SizeX(), described.sizeX);
+        EXPECT_EQ(element.SizeY(), described.sizeY);
+        EXPECT_EQ(element.HardwareNumberButton(), described.hardwareNumberButton);
+        EXPECT_EQ(element.HardwareNumberLed(), described.hardwareNumberLed);
+        for (std::int32_t index = 0; index < 8; ++index) {
+          EXPECT_EQ(element.HardwareNumberKeyAt(index),
+                    described.hardwareNumberKeys.at(static_cast<std::size_t>(index)));
+        }
+      }
+      if (isOpened) break;
+      document->Save(directory.Path() / "a.plexel");
+      document = PanelDocument::Open(directory.Path() / "a.plexel", Site());
+    }
+  }
 }
 
 using ZoomOfADocument = OpenDocument;
@@ -60,6 +97,21 @@ TEST_F(OtherDocument, ThatCarriesItsPanelBringsItAlong) {
   EXPECT_EQ(document->CarriedPanel(), Carrying().panelText);
   document->Become(StepKind::TakeOver, *PanelDocument::New("Large", Site()));
   EXPECT_TRUE(document->CarriesPanel()) << "one that carries none takes none away";
+}
+
+TEST_F(OtherDocument, WithAnotherPictureOfThePanelTouchesEveryElement) {
+  Project project = Carrying();
+  project.panelText.replace(project.panelText.find("Title="), 6, "Title=Other ");
+  std::vector<std::size_t> touched;
+  document->Listen([&touched](std::span<const std::size_t> places) { touched.assign(places.begin(), places.end()); });
+  document->Become(StepKind::TakeOver, *PanelDocument::Of(project, "a.plexel", Site()));
+  std::vector<std::size_t> all;
+  while (all.size() < document->Places().size()) all.push_back(all.size());
+  EXPECT_EQ(touched, all);
+  EXPECT_TRUE(document->ThePanel().title.starts_with("Other ")) << document->ThePanel().title;
+  touched.clear();
+  document->Undo();
+  EXPECT_EQ(touched, all);
 }
 
 TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {

@@ -253,7 +253,8 @@ TEST(TrialPc, ARepeatTypesAgainAndBackspaceTakesBack) {
 }
 
 TEST(TrialPc, ShortcutsTypeNothing) {
-  for (const Bytes held : {Bytes{0x14}, Bytes{0x11}, Bytes{0xE0, 0x14}, Bytes{0xE0, 0x1F}}) {
+  for (const Bytes held :
+       {Bytes{0x14}, Bytes{0x11}, Bytes{0xE0, 0x14}, Bytes{0xE0, 0x11}, Bytes{0xE0, 0x1F}, Bytes{0xE0, 0x27}}) {
     Trial trial;
     Stroke(trial, held);
     Stroke(trial, {0x1C, 0xF0, 0x1C});
@@ -278,8 +279,11 @@ TEST(TrialPc, KeysWithoutACharacterTypeNothing) {
 
 TEST(TrialPc, OfALongTextTheEndStays) {
   Trial trial;
-  for (std::size_t key = 0; key < 2000; ++key) Stroke(trial, {0x1C, 0xF0, 0x1C});
+  Stroke(trial, {0x21, 0xF0, 0x21});
+  for (std::size_t key = 0; key < 1999; ++key) Stroke(trial, {0x1C, 0xF0, 0x1C});
+  EXPECT_EQ(trial.Pc().Text().front(), 'c');
   Stroke(trial, {0x32, 0xF0, 0x32});
+  EXPECT_EQ(trial.Pc().Text().front(), 'a');
   EXPECT_EQ(trial.Pc().Text().size(), 2000U);
   EXPECT_EQ(trial.Pc().Text().back(), 'b');
 }

@@ -60,17 +60,6 @@ TEST_F(Editor, WhatIsToldAtTheStartStandsOverItsWindow) {
   EXPECT_TRUE(shown);
 }
 
-TEST_F(Editor, OnePanelPlaceHasOneElementOfItsKind) {
-  const PanelDocument& document = *window.Document();
-  for (const PanelDocument::Place& place : document.Places()) {
-    EXPECT_EQ(place.element->Name(), place.part->element->id);
-    EXPECT_EQ(place.element->ElementType(), place.part->element->type);
-    EXPECT_EQ(place.element->SizeX(), place.part->element->sizeX);
-    EXPECT_EQ(place.element->SizeY(), place.part->element->sizeY);
-  }
-  EXPECT_EQ(document.Places().size(), 46U);
-}
-
 TEST_F(Editor, AClickMovesTheFocusAndRaisesItsEvents) {
   QTest::mouseClick(&window.View(), Qt::LeftButton, Qt::NoModifier, Middle("F5"));
   EXPECT_EQ(window.View().Selected(), &Element("F5"));
