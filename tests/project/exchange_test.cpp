@@ -90,6 +90,32 @@ TEST(Exchange, ADocumentShowsOnePropertyOrBufferALine) {
 )");
 }
 
+TEST(Exchange, ADocumentShowsOneLineOfThePanelALine) {
+  Project project;
+  project.panel = "Small";
+  project.panelText = "[PANEL]\n\nTitle=\"a\"\n";
+  for (const char* const place : {"F1", "F2"}) project.elements.emplace_back().place = place;
+  EXPECT_EQ(ExportProject(project), R"({
+  "format": 1,
+  "panel": {"name": "Small", "text": [
+    "[PANEL]",
+    "",
+    "Title=\"a\""
+  ]},
+  "elements": [
+    {
+      "place": "F1",
+      "properties": {}
+    },
+    {
+      "place": "F2",
+      "properties": {}
+    }
+  ]
+}
+)");
+}
+
 TEST(Exchange, EveryByteOfABufferComesBack) {
   for (std::size_t place = 0; place < InitialCodes().Value.size(); ++place) {
     for (const int next : {0, 44, 88}) {

@@ -355,9 +355,17 @@ TEST_F(ProblemsTest, AreCountedByTheirLevels) {
   ctlPlexelBaseElement& element = Add(Rect);
   Define(element, 1, {0x14, 0x00, 0xFF}, {});
   element.LEDTypeLayer1(UserLed);
-  const Problems problems(Order());
+  Problems problems(Order());
   EXPECT_EQ(problems.Errors(), 1u);
   EXPECT_EQ(problems.Warnings(), 2u);
+  element.LEDTypeLayer1(LedNotEnabled);
+  problems.Recheck(element);
+  EXPECT_EQ(problems.Errors(), 1u);
+  EXPECT_EQ(problems.Warnings(), 1u);
+  Define(element, 1, {}, {});
+  problems.Recheck(element);
+  EXPECT_EQ(problems.Errors(), 0u);
+  EXPECT_EQ(problems.Warnings(), 0u);
 }
 
 /// The words say what happens, and every rule has its own.
