@@ -133,13 +133,17 @@ TEST(Difference, BytesBehindTheEndAreToldWhenTheyDiffer) {
                           "behind 2A FF -> 2B 2C"));
   EXPECT_THAT(Between(WithCodes({0xFF, 0x1C, 0xFF}, 2), WithCodes({0xFF, 0x1C, 0xFF}, 1)),
               ElementsAre("codes A strLayer1ReleaseScanCode: string \"FF 1C FF\" -> string \"FF 1C\""));
+  EXPECT_THAT(Between(WithCodes({0xFF, 0x1C, 0x2A}, 1), WithCodes({0xFF, 0x1C, 0xFF}, 2)),
+              ElementsAre("codes A strLayer1ReleaseScanCode: string \"FF 1C\" -> string \"FF 1C FF\""));
 }
 
 TEST(Difference, EveryByteOfABufferCounts) {
   for (std::size_t place = 0; place < InitialCodes().Value.size(); ++place) {
     Project changed = WithCodes({}, 0);
     changed.elements[0].codes[0].codes.Value[place] ^= 1;
-    EXPECT_EQ(Between(WithCodes({}, 0), changed).size(), 1U) << place;
+    const std::vector<std::string> told = Between(WithCodes({}, 0), changed);
+    ASSERT_EQ(told.size(), 1U) << place;
+    EXPECT_EQ(told.front().find(" behind ") != std::string::npos, place > 0) << told.front();
   }
 }
 

@@ -164,6 +164,12 @@ TEST_F(ReportOfDocument, InEnglishTheWordsOfTheLanguageAreThoseWithoutOne) {
   EXPECT_EQ(words.problems.patterns, EnglishProblemWords().patterns);
   EXPECT_EQ(words.problems.numbers, EnglishProblemWords().numbers);
   EXPECT_EQ(words.problems.directions, EnglishProblemWords().directions);
+  for (const auto& [number, text] : ReadLanguageFile(DataDirectory() / "languages" / "English.lang")) {
+    world.surroundings.Language().Set(number, "~" + text);
+  }
+  for (std::size_t word = 0; word < ReportWordCount; ++word) {
+    EXPECT_EQ(ReportWordsInForce().texts.at(word), "~" + EnglishReportWords().texts.at(word)) << "in no language";
+  }
   speak("German.lang");
   EXPECT_EQ(ReportWordsInForce()[ReportWord::LanguageCode], "de");
   EXPECT_EQ(ReportWordsInForce()[ReportWord::KindKeyWithLed], "Taste mit LED");

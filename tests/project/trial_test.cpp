@@ -324,6 +324,15 @@ TEST(TimeLine, AKeyWhoseFirstEventFindsItDownWasHeld) {
   EXPECT_EQ(rows[1].marks, Marks({TimeMark::Held, TimeMark::Repeats}));
 }
 
+TEST(TimeLine, WhatStandsBehindAMarkIsHeldOrIdle) {
+  for (const TimeMark mark : {TimeMark::GoesDown, TimeMark::Repeats, TimeMark::Held}) {
+    EXPECT_EQ(Behind(mark), TimeMark::Held);
+  }
+  for (const TimeMark mark : {TimeMark::Idle, TimeMark::ComesUp, TimeMark::Command, TimeMark::Unknown}) {
+    EXPECT_EQ(Behind(mark), TimeMark::Idle);
+  }
+}
+
 TEST(TrialPc, ADigitOfThePadIsTypedWithNumLockAndWithoutShift) {
   constexpr KeyCode numLock = 0x77, pad1 = 0x69, rightShift = 0x59;
   TrialPc pc;
