@@ -48,7 +48,7 @@ class Builder {
 
   bool parse_error(std::size_t position, const std::string& token, const Json::exception& fault) {
     const std::size_t end = std::min(position, content_.size());
-    const std::size_t line = LineOf(content_, end == 0 ? 0 : end - 1);
+    const std::size_t line = LineOf(content_, end - std::min<std::size_t>(end, 1));
     if (dynamic_cast<const Json::out_of_range*>(&fault) != nullptr) {
       return Refuse(line, "the number " + Excerpt(token) + " is too large");
     }

@@ -208,6 +208,7 @@ TEST(Exchange, WhatIsNoJsonIsToldWithTheTwentyBytesThatEndThere) {
             "f.json:2: this is no JSON: wrong at the end of \"jklmnopqrstuvwxyz\" 1\"");
   EXPECT_EQ(FaultOf("[1;"), "f.json:1: this is no JSON: wrong at the end of \"[1;\"");
   EXPECT_EQ(FaultOf(""), "f.json:1: this is no whole JSON: the text is cut off");
+  EXPECT_EQ(FaultOf("\n}"), "f.json:2: this is no JSON: wrong at the end of \"?}\"");
 }
 
 TEST(Exchange, DeepNestingIsRefusedWhateverItsDepth) {

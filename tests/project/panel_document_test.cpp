@@ -135,6 +135,17 @@ TEST_F(OtherDocument, AnElementThatOutlivesItIsEndedAndDetached) {
   EXPECT_EQ(element->ElementType(), enumTactisBaseElementType{});
 }
 
+TEST_F(ElementsOfADocument, AreSavedAtRestHoweverTheyAreShown) {
+  document->Zoom(300);
+  document->SurfaceAt(PlaceOf("F3"));
+  Element("F3").FocusVisible(True);
+  ASSERT_EQ(Element("F3").ZoomFactor(), 300);
+  const Project saved = document->Content();
+  const FlatBag& bag = saved.elements.at(PlaceOf("F3")).bag;
+  EXPECT_EQ(*bag.Find("ZoomFactor"), BagValue(std::int16_t{100}));
+  EXPECT_EQ(*bag.Find("FocusVisible"), BagValue(False));
+}
+
 TEST_F(OtherDocument, WhatSelectingAndZoomingChangeIsAtRestWhateverTheFileTells) {
   Project project = document->Content();
   FlatBag& bag = project.elements.at(PlaceOf("F3")).bag;
