@@ -88,7 +88,22 @@ TEST_F(OtherDocument, OfAnotherPanelHasOtherElements) {
   EXPECT_FALSE(document->HasElementsOf(*PanelDocument::New("Small", Site())));
   Project renamed = Carrying();
   renamed.panel = "Renamed";
-  EXPECT_FALSE(document->HasElementsOf(*PanelDocument::Of(renamed, "a.plexel", Site())));
+  Project other = PanelDocument::New("Small", Site())->Content();
+  other.panel = "Large";
+  other.panelText = ReadPanelText(DataDirectory() / "panels/Small.panel");
+  for (const auto& [project, refusal] :
+       {std::pair{renamed, "b.plexel: it is for the panel \"Renamed\", not for \"Large\""},
+        {other, "b.plexel: its panel \"Large\" has other elements than the one that is open"}}) {
+    const auto refused = PanelDocument::Of(project, "a.plexel", Site());
+    EXPECT_FALSE(document->HasElementsOf(*refused));
+    refused->FileIsLost("b.plexel");
+    try {
+      document->Become(StepKind::TakeOver, *refused);
+      ADD_FAILURE() << "it has become that of another panel";
+    } catch (const FileError& told) {
+      EXPECT_STREQ(told.what(), refusal);
+    }
+  }
 }
 
 TEST_F(OtherDocument, ThatCarriesItsPanelBringsItAlong) {

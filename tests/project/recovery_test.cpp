@@ -305,6 +305,13 @@ TEST(RecoveryHead, HasWhatIsNoPlainCharacterOfTheNameInHexadecimal) {
             "[RECOVERY]\nFormat=1\nFile=/!a%20%25~%7F%0A%C3%A4\nTime=-5\n");
 }
 
+TEST_F(UnsavedWork, OfAFileWhoseNameEndsInAnEscapeIsRead) {
+  for (const char* const name : {"/a ", "/%", "/\xC3\xA4"}) {
+    const TextFile file("1-1.recovery", FormatRecoveryHead({name, 5}) + FormatProject(document->Content()));
+    EXPECT_EQ(ParseRecovery(file).head.file, name);
+  }
+}
+
 TEST_F(LostWorkFound, WhatAKilledWritingLeftBesideItGoes) {
   RecoveryKeeper keeper(Store(), [] { return std::int64_t{7}; });
   keeper.Flush();
