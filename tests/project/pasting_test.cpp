@@ -152,6 +152,11 @@ TEST_F(Paste, OnEachLayerALedFunctionThatWouldStandTwiceIsTold) {
   }
 }
 
+TEST_F(Paste, OfAnElementTheFirstLayerThatShowsAFunctionTwiceIsTold) {
+  Element("F5").LEDTypeLayer4(RunLed);
+  EXPECT_EQ(Of({"F5"}, {"F6"}).LedsTwice(), (std::vector<Misfit>{{Kind::LedTwice, "F6", 2, "F5"}}));
+}
+
 TEST_F(Paste, OneDefinitionOnTwoElementsShowsItsLedTwiceAmongThem) {
   const std::vector<ElementRecord> copied = Copied({"F5"});
   Element("F5").LEDTypeLayer2(LedNotEnabled);
