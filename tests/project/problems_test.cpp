@@ -391,6 +391,8 @@ TEST_F(ProblemsTest, EveryRuleHasANameALevelAndWords) {
     names.push_back((row.level == ProblemLevel::Error ? "error " : "warning ") + std::string(row.name));
     if (row.rule != Rule::NumberTwice) patterns.insert(words.patterns[static_cast<std::size_t>(row.rule)]);
   }
+  EXPECT_EQ(NameOf(ProblemLevel::Error), "error");
+  EXPECT_EQ(NameOf(ProblemLevel::Warning), "warning");
   EXPECT_EQ(names, (std::vector<std::string>{"error held", "warning released-first", "warning unknown-bytes",
                                              "error no-bytes", "error no-text", "warning groups-differ",
                                              "error over-limit", "warning led-without-lamp", "warning led-not-offered",

@@ -38,6 +38,8 @@ TEST(TextSearch, CaseAndAccentsDoNotCount) {
 TEST(TextSearch, EveryWordMustStandInAnyOrder) {
   EXPECT_TRUE(Finds("offnung ctrl"));
   EXPECT_FALSE(Finds("offnung shift"));
+  EXPECT_FALSE(Finds("offnung xctrl")) << "each letter counts";
+  EXPECT_FALSE(Finds("\"ctrl left\"xoffnung"));
 }
 
 TEST(TextSearch, WordsBetweenQuotationMarksBelongTogether) {
