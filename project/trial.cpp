@@ -17,10 +17,6 @@ std::int32_t LayerOfCommand(KeyCode byte) {
   return 0;
 }
 
-std::int32_t LayerOfLed(enumLedType function) {
-  return function >= Layer1Led && function <= Layer4Led ? function - Layer1Led + 1 : 0;
-}
-
 }  // namespace
 
 const Trial::Event* Trial::Press(std::size_t place, const udtTactisBaseElement_ScanCodeInfo& record) {
@@ -100,7 +96,7 @@ bool Trial::IsLit(enumLedType function) const {
   if (function == CapsLockLed) return pc_.CapsLock();
   if (function == NumLockLed) return pc_.NumLock();
   if (function == ScrollLockLed) return pc_.ScrollLock();
-  return LayerOfLed(function) == Layer();
+  return function == Layer1Led + Layer() - 1;
 }
 
 std::vector<KeyReport> Trial::Reports() const {

@@ -117,6 +117,7 @@ TEST_F(OtherDocument, ThatCarriesItsPanelBringsItAlong) {
 TEST_F(OtherDocument, WithAnotherPictureOfThePanelTouchesEveryElement) {
   Project project = Carrying();
   project.panelText.replace(project.panelText.find("Title="), 6, "Title=Other ");
+  project.panelText.replace(project.panelText.find("DeviceType=1"), 12, "DeviceType=3");
   std::vector<std::size_t> touched;
   document->Listen([&touched](std::span<const std::size_t> places) { touched.assign(places.begin(), places.end()); });
   document->Become(StepKind::TakeOver, *PanelDocument::Of(project, "a.plexel", Site()));
@@ -124,9 +125,11 @@ TEST_F(OtherDocument, WithAnotherPictureOfThePanelTouchesEveryElement) {
   while (all.size() < document->Places().size()) all.push_back(all.size());
   EXPECT_EQ(touched, all);
   EXPECT_TRUE(document->ThePanel().title.starts_with("Other ")) << document->ThePanel().title;
+  for (const PanelDocument::Place& place : document->Places()) EXPECT_EQ(place.element->DeviceType(), 3);
   touched.clear();
   document->Undo();
   EXPECT_EQ(touched, all);
+  for (const PanelDocument::Place& place : document->Places()) EXPECT_EQ(place.element->DeviceType(), 1);
 }
 
 TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {
