@@ -90,8 +90,8 @@ void KeyReader::ReadGroup(Bytes group, Direction at, std::vector<KeyReport>& rep
   }
 }
 
+/// Commands to the panel and bytes that are unknown are no keys, and never down.
 KeyReport KeyReader::Report(Direction at, KeyDeed deed, KeyCode code) {
-  if (deed == KeyDeed::Panel || deed == KeyDeed::Unknown) return {at, deed, code, false};
   const auto place = std::ranges::find(down_, code);
   const bool wasDown = place != down_.end();
   if (deed == KeyDeed::Down) {
