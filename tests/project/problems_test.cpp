@@ -393,6 +393,8 @@ TEST_F(ProblemsTest, EveryRuleHasANameALevelAndWords) {
   }
   EXPECT_EQ(NameOf(ProblemLevel::Error), "error");
   EXPECT_EQ(NameOf(ProblemLevel::Warning), "warning");
+  EXPECT_EQ(NameOf(Direction::Press), "press");
+  EXPECT_EQ(NameOf(Direction::Release), "release");
   EXPECT_EQ(names, (std::vector<std::string>{"error held", "warning released-first", "warning unknown-bytes",
                                              "error no-bytes", "error no-text", "warning groups-differ",
                                              "error over-limit", "warning led-without-lamp", "warning led-not-offered",

@@ -125,28 +125,46 @@ TEST(ReadAheadThread, IsStartedForMoreThanAPortionOnly) {
   }
 }
 
-/// Whether a thread of this program waits, or has ended.
-bool Waits(pid_t thread) {
-  std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
-  std::string number, name, state;
-  file >> number >> name >> state;
-  return !file || state == "S";
+/// A thread that tells when it waits.
+class WatchedThread {
+ public:
+  ProjectReadAhead::Start Start() {
+    return [this](std::function<void()> run) {
+      return std::thread([this, run = std::move(run)] {
+        id_ = ::gettid();
+        run();
+      });
+    };
+  }
+  void UntilItWaitsOrHasEnded() const {
+    while (id_ == 0 || !WaitsOrHasEnded()) std::this_thread::yield();
+  }
+
+ private:
+  bool WaitsOrHasEnded() const {
+    std::ifstream file("/proc/self/task/" + std::to_string(id_) + "/stat");
+    std::string number, name, state;
+    file >> number >> name >> state;
+    return !file || state == "S";
+  }
+  std::atomic<pid_t> id_ = 0;
+};
+
+TEST(ReadAheadThread, ThatWaitsForRoomEndsWithItsReader) {
+  const TextFile file("a.plexel", FormatProject(Made(20 * Portion)));
+  WatchedThread thread;
+  const ProjectReadAhead reader(file, thread.Start());
+  thread.UntilItWaitsOrHasEnded();
 }
 
 TEST(ReadAheadThread, GoesOnWhenThereIsRoomAgain) {
-  constexpr std::size_t count = 20 * Portion;
-  const Project project = Made(count);
+  const Project project = Made(20 * Portion);
   const TextFile file("a.plexel", FormatProject(project));
-  std::atomic<pid_t> thread = 0;
-  ProjectReadAhead reader(file, [&thread](std::function<void()> run) {
-    return std::thread([&thread, run = std::move(run)] {
-      thread = ::gettid();
-      run();
-    });
-  });
+  WatchedThread thread;
+  ProjectReadAhead reader(file, thread.Start());
   constexpr std::size_t taken = 2 * Portion + 1;
   for (std::size_t number = 0; number < taken; ++number) ASSERT_NE(reader.Next(), nullptr);
-  while (!Waits(thread)) std::this_thread::yield();
+  thread.UntilItWaitsOrHasEnded();
   const std::vector<ProjectElement> left = ReadAll(reader).elements;
   EXPECT_EQ(left, std::vector<ProjectElement>(project.elements.begin() + taken, project.elements.end()));
 }

@@ -161,6 +161,7 @@ TEST_F(ReportOfDocument, InEnglishTheWordsOfTheLanguageAreThoseWithoutOne) {
   speak("English.lang");
   const ReportWords words = ReportWordsInForce();
   EXPECT_EQ(words.texts, EnglishReportWords().texts);
+  EXPECT_EQ(EnglishReportWords().problems.patterns, EnglishProblemWords().patterns);
   EXPECT_EQ(words.problems.patterns, EnglishProblemWords().patterns);
   EXPECT_EQ(words.problems.numbers, EnglishProblemWords().numbers);
   EXPECT_EQ(words.problems.directions, EnglishProblemWords().directions);
@@ -386,7 +387,7 @@ TEST(PanelSvg, EachKindOfPartHasItsShapeAndLight) {
   put(PanelPartKind::RoundKey, {170, 20, 30, 31}, 0xF0F0F0);
   put(PanelPartKind::KeySwitch, {210, 20, 50, 50}, 0x646464);
   put(PanelPartKind::Led, {10, 100, 9, 9}, 0x00A000);
-  put(PanelPartKind::Led, {30, 100, 20, 8}, 0x00A000).cornerRadius = 2;
+  put(PanelPartKind::Led, {30, 100, 20, 8}, 0x00A000).cornerRadius = 1;
   PanelPart& led = put(PanelPartKind::Led, {60, 100, 20, 8}, 0x00A000);
   led.legend = "L";
   led.legendSize = 10;

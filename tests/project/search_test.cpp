@@ -45,6 +45,7 @@ TEST(TextSearch, EveryWordMustStandInAnyOrder) {
 TEST(TextSearch, WordsBetweenQuotationMarksBelongTogether) {
   EXPECT_TRUE(Finds("\"ctrl left\""));
   EXPECT_FALSE(Finds("\"left ctrl\""));
+  EXPECT_FALSE(Finds("\"xctrl left\""));
   EXPECT_TRUE(Finds("\"der off"));
 }
 
