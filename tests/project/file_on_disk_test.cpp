@@ -101,6 +101,13 @@ TEST_F(FileOnDisk, KeepingMineWhenTheFileIsGoneStaysModifiedUntilItIsSaved) {
   EXPECT_FALSE(document->Modified());
 }
 
+TEST_F(FileOnDisk, AFileThatIsLostButStandsIsKnownAsItIs) {
+  document->FileIsLost(file);
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Same);
+  PutNotes("theirs");
+  EXPECT_EQ(document->FileNow().now, PanelDocument::OnDisk::Other);
+}
+
 TEST_F(FileOnDisk, WhatComesBackWhereTheFileWasGoneIsNotKnownAnyMore) {
   const auto away = directory / "away.plexel";
   std::filesystem::rename(file, away);
@@ -132,7 +139,9 @@ TEST_F(FileOnDisk, APanelOfTheSameNameWithOtherElementsIsRefused) {
   }
   const auto other = PanelDocument::Of(project, file, Site());
   ASSERT_EQ(other->Places().size(), document->Places().size());
-  EXPECT_THROW(document->Become(StepKind::Restore, *other), FileError);
+  const auto error = FileErrorOf([&] { document->Become(StepKind::Restore, *other); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Reason(), "its panel \"Large\" has other elements than the one that is open");
   EXPECT_THROW(document->FileHolds(*other), FileError);
   EXPECT_FALSE(document->Steps().CanUndo());
 }

@@ -34,6 +34,7 @@ class ElementsOfADocument : public OpenDocument {
 };
 
 TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
+  world.platform.TheScreen().LogicalPixels(144);
   for (const char* const name : {"Large", "Small"}) {
     document = PanelDocument::New(name, Site());
     const Panel& panel = document->ThePanel();
@@ -43,6 +44,7 @@ TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
         const PanelElement& described = *place.part->element;
         EXPECT_EQ(element.Name(), described.id);
         EXPECT_EQ(element.ElementType(), described.type);
+        EXPECT_EQ(element.DPIFontScaleFactor(), 1.5);
         EXPECT_EQ(element.DeviceType(), panel.deviceType);
         EXPECT_EQ(element.VantaEnabled(), panel.vantaEnabled);
         EXPECT_EQ(element.TargetSystem(), panel.targetSystem);
@@ -61,6 +63,16 @@ TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
       document->Save(directory.Path() / "a.plexel");
       document = PanelDocument::Open(directory.Path() / "a.plexel", Site());
     }
+  }
+}
+
+TEST_F(ElementsOfADocument, HaveTheSettingsOfTheUserUnlessTheyKeepTheirOwn) {
+  const Project project = document->Content();
+  world.surroundings.Settings().Option(3, True);
+  for (const bool keep : {false, true}) {
+    PanelDocument::Site site = Site();
+    site.keepsSettings = keep;
+    EXPECT_EQ(PanelDocument::Of(project, "a.plexel", site)->Places().front().element->ShowX(), keep ? False : True);
   }
 }
 
@@ -88,22 +100,7 @@ TEST_F(OtherDocument, OfAnotherPanelHasOtherElements) {
   EXPECT_FALSE(document->HasElementsOf(*PanelDocument::New("Small", Site())));
   Project renamed = Carrying();
   renamed.panel = "Renamed";
-  Project other = PanelDocument::New("Small", Site())->Content();
-  other.panel = "Large";
-  other.panelText = ReadPanelText(DataDirectory() / "panels/Small.panel");
-  for (const auto& [project, refusal] :
-       {std::pair{renamed, "b.plexel: it is for the panel \"Renamed\", not for \"Large\""},
-        {other, "b.plexel: its panel \"Large\" has other elements than the one that is open"}}) {
-    const auto refused = PanelDocument::Of(project, "a.plexel", Site());
-    EXPECT_FALSE(document->HasElementsOf(*refused));
-    refused->FileIsLost("b.plexel");
-    try {
-      document->Become(StepKind::TakeOver, *refused);
-      ADD_FAILURE() << "it has become that of another panel";
-    } catch (const FileError& told) {
-      EXPECT_STREQ(told.what(), refusal);
-    }
-  }
+  EXPECT_FALSE(document->HasElementsOf(*PanelDocument::Of(renamed, "a.plexel", Site())));
 }
 
 TEST_F(OtherDocument, ThatCarriesItsPanelBringsItAlong) {

@@ -51,6 +51,7 @@ std::string CsvField(const std::string& press) {
 
 TEST_F(ReportOfDocument, HasARowForEachElementAndLayer) {
   const Report report = Made();
+  EXPECT_EQ(report.name, "a.plexel");
   ASSERT_EQ(report.rows.size(), document->Places().size() * 4);
   for (std::size_t index = 0; index < report.rows.size(); ++index) {
     EXPECT_EQ(report.rows[index].element, document->Places()[index / 4].element->Name());
