@@ -60,7 +60,7 @@ const std::vector<const PropertyRow*>& StoredRows() {
 bool Same(const BagValue& a, const BagValue& b) {
   const auto *first = std::get_if<double>(&a), *second = std::get_if<double>(&b);
   if (first == nullptr || second == nullptr) return a == b;
-  if (std::isnan(*first) || std::isnan(*second)) return std::isnan(*first) && std::isnan(*second);
+  if (std::isnan(*first) && std::isnan(*second)) return true;
   return *first == *second && std::signbit(*first) == std::signbit(*second);
 }
 

@@ -148,9 +148,7 @@ std::vector<LostWork> FindLostWork(const std::filesystem::path& directory, std::
     }
   }
   SweepBehindKilled(directory);
-  std::ranges::stable_sort(found, [](const LostWork& left, const LostWork& right) {
-    return left.content.head.time > right.content.head.time;
-  });
+  std::ranges::stable_sort(found, std::ranges::greater(), [](const LostWork& one) { return one.content.head.time; });
   return found;
 }
 
