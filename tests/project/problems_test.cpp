@@ -91,6 +91,13 @@ TEST_F(ProblemsTest, AKeyThatReleaseLetsGoIsNotHeld) {
   EXPECT_EQ(Rules(), none);
 }
 
+TEST_F(ProblemsTest, ASingleByteIsLookedAtToo) {
+  Define(Add(Rect), 1, {0x14}, {});
+  EXPECT_EQ(Only().rule, Rule::Held);
+  Define(*elements.back(), 1, {}, {0x14});
+  EXPECT_EQ(Only().rule, Rule::Held);
+}
+
 TEST_F(ProblemsTest, PauseIsNotHeld) {
   Define(Add(Rect), 1, {0xE1, 0x14, 0x77, 0xE1, 0xF0, 0x14, 0xF0, 0x77, 0xFF}, {});
   EXPECT_EQ(Rules(), none);

@@ -328,6 +328,11 @@ TEST(ReportHtml, AnElementThatDoesTheSameOnAllLayersIsToldOnce) {
   EXPECT_THAT(ReportHtml(one.report), HasSubstr("<dd>1: [a]</dd><dd>2: [a]</dd><dd>4: [a]</dd></div>"));
 }
 
+TEST(ReportHtml, WithoutProblemsItSaysSo) {
+  EXPECT_THAT(ReportHtml(OneRow(WithPress("")).report),
+              HasSubstr("<h2>Problems</h2>\n<p>None were found.</p>\n</body>\n</html>\n"));
+}
+
 TEST(ReportHtml, AnElementWithoutAnythingStandsInTheTableAlone) {
   const std::string html = ReportHtml(OneRow(WithPress("")).report);
   EXPECT_THAT(html, Not(HasSubstr("<dt>")));
