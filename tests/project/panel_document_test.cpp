@@ -37,8 +37,8 @@ TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
   world.platform.TheScreen().LogicalPixels(144);
   for (const char* const name : {"Large", "Small"}) {
     document = PanelDocument::New(name, Site());
-    const Panel& panel = document->ThePanel();
     for (const bool isOpened : {false, true}) {
+      const Panel& panel = document->ThePanel();
       for (const PanelDocument::Place& place : document->Places()) {
         const ctlPlexelBaseElement& element = *place.element;
         const PanelElement& described = *place.part->element;
