@@ -118,10 +118,12 @@ class Spot {
 
 double ReadDouble(const Spot& spot) {
   if (spot.Value().is_number()) return spot.Value().get<double>();
-  const bool known = spot.Value().is_string() && std::find(std::begin(words::FloatTexts), std::end(words::FloatTexts),
-                                                           spot.String("")) != std::end(words::FloatTexts);
-  if (!known) spot.Refuse("must be a number, \"inf\", \"-inf\", \"nan\" or \"-nan\"");
-  return ParseNumber<double>(spot.String("")).value();
+  const auto* const text = spot.Value().get_ptr<const std::string*>();
+  const auto ends = std::end(words::FloatTexts);
+  if (text == nullptr || std::find(std::begin(words::FloatTexts), ends, *text) == ends) {
+    spot.Refuse("must be a number, \"inf\", \"-inf\", \"nan\" or \"-nan\"");
+  }
+  return ParseNumber<double>(*text).value();
 }
 
 /// How a value of a type is read.
