@@ -94,6 +94,15 @@ TEST_F(ForeignValuesOf, AreTakenOverAndTakenBackAsAStep) {
   EXPECT_FALSE(document->Modified());
 }
 
+TEST_F(ForeignValuesOf, ThatWereTakenOverAreInTheFileOnceItIsSaved) {
+  PutForeign("F5", "Third", std::int32_t{1});
+  document->Become(StepKind::TakeOver, *PanelDocument::Open(file, Site()));
+  EXPECT_TRUE(document->Modified());
+  document->Save(directory / "b.plexel");
+  EXPECT_FALSE(document->Modified());
+  EXPECT_EQ(Foreign(ReadProject(directory / "b.plexel"), "F5", "Third"), BagValue(std::int32_t{1}));
+}
+
 TEST_F(ForeignValuesOf, EachElementAreTakenOver) {
   for (const PanelDocument::Place& place : document->Places())
     PutForeign(place.element->Name(), "Of all", std::int16_t{1});

@@ -4,6 +4,7 @@
 
 #include "files/file_error.h"
 #include "project/open_document.h"
+#include "project/project_import.h"
 
 namespace plexel {
 namespace {
@@ -203,6 +204,14 @@ TEST_F(Paste, ALayerGoesOntoAnotherOneWithTextsBytesAndLedAndNothingElseDoes) {
   wanted.lngLEDTypeLayer4 = AlarmLed;
   CopyLayer(record, 2, record, 4);
   EXPECT_EQ(record, wanted);
+}
+
+TEST_F(Paste, ACopiedTextNamesItsPanelAndElements) {
+  const Project copied = ImportProject("text", CopiedText(*document, Places({"F5", "F3"})));
+  EXPECT_EQ(copied.panel, "Large");
+  ASSERT_EQ(copied.elements.size(), 2U);
+  EXPECT_EQ(copied.elements[0].place, "F5");
+  EXPECT_EQ(copied.elements[1].place, "F3");
 }
 
 TEST_F(Paste, AForeignTextIsRefusedWithItsPlace) {

@@ -358,6 +358,14 @@ TEST_F(ProblemsTest, ComeByElementThenLayerThenRule) {
                                         Rule::UnknownBytes, Rule::LedTwice, Rule::LedNotOffered}));
 }
 
+TEST_F(ProblemsTest, WhatIsSharedIsCountedByItsLevel) {
+  for (int count = 0; count < 2; ++count) Add(Led).LEDTypeLayer1(UserLed);
+  for (int count = 0; count < 2; ++count) Add(Rect).HardwareNumberButton(7);
+  const Problems problems(Order());
+  EXPECT_EQ(problems.CountsOf(1), (ProblemCounts{.errors = 0, .warnings = 1}));
+  EXPECT_EQ(problems.CountsOf(3), (ProblemCounts{.errors = 1, .warnings = 0}));
+}
+
 TEST_F(ProblemsTest, AreCountedByTheirLevels) {
   ctlPlexelBaseElement& element = Add(Rect);
   Define(element, 1, {0x14, 0x00, 0xFF}, {});
