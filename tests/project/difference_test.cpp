@@ -151,8 +151,6 @@ TEST(Difference, FloatsAreTheSameByValueAndSignAndOnesThatAreNoNumberAreAlike) {
   const double none = std::nan("");
   EXPECT_THAT(Between(With("x", 1.5), With("x", 1.5)), IsEmpty());
   EXPECT_THAT(Between(With("x", none), With("x", -none)), IsEmpty());
-  EXPECT_THAT(Between(With("x", none), With("x", 1.5)), SizeIs(1));
-  EXPECT_THAT(Between(With("x", 1.5), With("x", none)), SizeIs(1));
   EXPECT_THAT(Between(With("x", 1.5), With("x", 2.5)), SizeIs(1));
   EXPECT_THAT(Between(With("x", none), With("x", 1.5)), SizeIs(1));
   EXPECT_THAT(Between(With("x", 1.5), With("x", none)), SizeIs(1));

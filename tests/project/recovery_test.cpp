@@ -138,27 +138,17 @@ TEST_F(Recovery, GoesWhenTheProjectIsSavedOrLeft) {
 }
 
 TEST_F(Recovery, OfTheProjectBeforeNothingIsKept) {
-  Watch();
-  Note("F3", "of the first");
-  keeper.Flush();
-  const auto first = std::move(document);
-  document = PanelDocument::New("Large", Site());
-  Watch();
-  Note("F4", "of the second");
-  keeper.Flush();
-  EXPECT_EQ(Kept().project, document->Content());
-}
-
-TEST_F(Recovery, APortionOfTheProjectBeforeLeavesNothingUndone) {
-  Watch();
-  Note("F3", "of the first");
-  ASSERT_TRUE(keeper.Work(7));
-  const auto first = std::move(document);
-  document = PanelDocument::New("Large", Site());
-  Watch();
-  Note("F4", "of the second");
-  keeper.Flush();
-  EXPECT_EQ(Kept().project, document->Content());
+  for (const bool whole : {true, false}) {
+    Watch();
+    Note("F3", "of the first");
+    EXPECT_NE(keeper.Work(whole ? document->Places().size() : 7), whole) << "of a portion more is left to be made";
+    const auto first = std::move(document);
+    document = PanelDocument::New("Large", Site());
+    Watch();
+    Note("F4", "of the second");
+    keeper.Flush();
+    EXPECT_EQ(Kept().project, document->Content());
+  }
 }
 
 TEST_F(Recovery, AProjectThatIsLeftKeepsItsFile) {
