@@ -16,6 +16,7 @@ import shutil
 import sys
 import threading
 import time
+from collections import Counter
 from pathlib import Path
 
 from built import Built, Workplace, limit, timed
@@ -44,7 +45,7 @@ def all_mutants(tree, files):
 
 def read_equivalents(text):
     """(file, before, after) and the reason of each paragraph: the file, `- ` the lines, `+ ` the same changed, and why no test can
-    tell. ValueError when a paragraph is anything else."""
+    tell. Behind a file with several such lines stands which it is, as `, 2 of 3`. ValueError when a paragraph is anything else."""
     found = {}
     for paragraph in re.split(r"\n\s*\n", text.strip()):
         lines = [line for line in paragraph.splitlines() if not line.startswith("#")]
@@ -58,6 +59,13 @@ def read_equivalents(text):
 
 def key(mutant):
     return (mutant.file, mutant.before, mutant.after)
+
+
+def keys_of_equivalents(mutants):
+    """What a paragraph of an equivalent begins with, for each mutant."""
+    alike = Counter(map(key, mutants))
+    return {mutant: (mutant.file + (f", {mutant.turn + 1} of {alike[key(mutant)]}" if alike[key(mutant)] > 1 else ""),
+                     mutant.before, mutant.after) for mutant in mutants}
 
 
 def survivors_of(result):
@@ -182,9 +190,10 @@ def main(words):
         return 2
     mutants = all_mutants(TREE, files)
     equivalents = read_equivalents(EQUIVALENTS.read_text(encoding="utf-8"))
-    lost = set(equivalents) - {key(mutant) for mutant in mutants}
+    keys = keys_of_equivalents(mutants)
+    lost = set(equivalents) - set(keys.values())
     for file, before, after in sorted(lost):
-        print(f"{file}: no line can be changed so any more:\n  - {before}\n  + {after}", file=sys.stderr)
+        print(f"{file}: no line, or more than one, can be changed so:\n  - {before}\n  + {after}", file=sys.stderr)
     if lost:
         return 2
     result = FOLDER / "result.txt"
@@ -202,7 +211,7 @@ def main(words):
         return 2
     for step in trial.steps:
         print(f"{step.seconds:7.1f} s {step.name}", flush=True)
-    outcomes = {mutant: "equivalent" for mutant in drawn if key(mutant) in equivalents}
+    outcomes = {mutant: "equivalent" for mutant in drawn if keys[mutant] in equivalents}
     left = [mutant for mutant in drawn if mutant not in outcomes]
     begin = time.monotonic()
 

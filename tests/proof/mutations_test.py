@@ -9,7 +9,7 @@ from pathlib import Path
 
 from built import Built, Step, Workplace
 from cpp_text import tokens
-from mutants import Trial, percent, read_equivalents, run_all, share_that_died, survivors_of, table, told
+from mutants import Trial, keys_of_equivalents, percent, read_equivalents, run_all, share_that_died, survivors_of, table, told
 from mutations import Mutant, mutants_of
 
 
@@ -151,6 +151,12 @@ class Figures(unittest.TestCase):
         self.assertEqual(read_equivalents("# told ahead\n\na.cpp\n- a < b\n+ a <= b\nThey are never\nthe same.\n"),
                          {("a.cpp", "a < b", "a <= b"): "They are never the same."})
         self.assertRaises(ValueError, read_equivalents, "a.cpp\n- a < b\n+ a <= b\n")
+
+    def test_equivalents_tell_which_of_several_lines_alike(self):
+        mutants = [each for each in mutants_of("f", "int c = 3;\n" + body("\n a = 1;\n b = 2;\n a = 1;\n")) if each.kind == "constant"]
+        self.assertEqual(list(keys_of_equivalents(mutants).values()),
+                         [("f", "int c = 3;", "int c = 4;"), ("f, 1 of 2", "a = 1;", "a = 2;"), ("f", "b = 2;", "b = 3;"),
+                          ("f, 2 of 2", "a = 1;", "a = 2;")])
 
 
 PROJECT = """cmake_minimum_required(VERSION 3.25)
