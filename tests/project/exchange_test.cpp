@@ -190,6 +190,7 @@ TEST(Exchange, BrokenJsonIsToldWithItsLine) {
   EXPECT_THAT(FaultOf("{\n\"format\": 1,\n"), StartsWith("f.json:2: "));
   EXPECT_THAT(FaultOf("{\n\"format\": nope}"), StartsWith("f.json:2: this is no JSON"));
   EXPECT_THAT(FaultOf("{}\n{}"), StartsWith("f.json:2: this is no JSON"));
+  EXPECT_THAT(FaultOf("[;\n]"), StartsWith("f.json:1: this is no JSON"));
   EXPECT_EQ(FaultOf("{\n\"format\": 1e999}"), "f.json:2: the number 1e999 is too large");
   EXPECT_THAT(FaultOf("{\n\n\"\xFF\": 1}"), StartsWith("f.json:3: this is no UTF-8"));
   EXPECT_THAT(FaultOf("[\n\"\\ud800\"]"), StartsWith("f.json:2: this is no JSON"));

@@ -65,6 +65,20 @@ TEST_F(Recovery, TheFileHoldsTheWholeProjectItsNameAndTheTime) {
   EXPECT_EQ(kept.project, document->Content());
 }
 
+TEST_F(Recovery, OfAPanelWithOneKeyIsKeptLikeAnyOther) {
+  std::ofstream(directory.Path() / "One.panel")
+      << "[PANEL]\nTitle=One\nWidth=100\nHeight=100\nTargetSystem=T\n[STYLE KEY]\nFill=#FFFFFF\n"
+         "[KEY]\nPlace=0 0 50 50\nElement=F3\nElementType=4\nHardwareNumberButton=1\n[END]\n";
+  PanelDocument::Site site = Site();
+  site.panelDirectory = directory.Path();
+  document = PanelDocument::New("One", site);
+  Watch();
+  Note("F3", "unsaved");
+  keeper.Flush();
+  EXPECT_EQ(Kept().project.elements.size(), 1U);
+  EXPECT_EQ(Kept().project, document->Content());
+}
+
 TEST_F(Recovery, EveryLaterChangeReachesTheFile) {
   Watch();
   Note("F3", "a");
