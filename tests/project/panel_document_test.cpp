@@ -35,8 +35,9 @@ class ElementsOfADocument : public OpenDocument {
 
 TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
   world.platform.TheScreen().LogicalPixels(144);
+  const PanelDocument::Site site = Site();
   for (const char* const name : {"Large", "Small"}) {
-    document = PanelDocument::New(name, Site());
+    document = PanelDocument::New(name, site);
     for (const bool isOpened : {false, true}) {
       const Panel& panel = document->ThePanel();
       for (const PanelDocument::Place& place : document->Places()) {
@@ -44,6 +45,7 @@ TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
         const PanelElement& described = *place.part->element;
         EXPECT_EQ(element.Name(), described.id);
         EXPECT_EQ(element.ElementType(), described.type);
+        EXPECT_EQ(element.ParentWindow(), site.window);
         EXPECT_EQ(element.DPIFontScaleFactor(), 1.5);
         EXPECT_EQ(element.DeviceType(), panel.deviceType);
         EXPECT_EQ(element.VantaEnabled(), panel.vantaEnabled);
@@ -61,7 +63,7 @@ TEST_F(ElementsOfADocument, AreWhatThePanelTellsOfTheirPlaces) {
       }
       if (isOpened) break;
       document->Save(directory.Path() / "a.plexel");
-      document = PanelDocument::Open(directory.Path() / "a.plexel", Site());
+      document = PanelDocument::Open(directory.Path() / "a.plexel", site);
     }
   }
 }
@@ -148,6 +150,9 @@ TEST_F(OtherDocument, AnElementThatOutlivesItIsEndedAndDetached) {
   ASSERT_NE(element->ElementType(), enumTactisBaseElementType{});
   document.reset();
   EXPECT_EQ(element->ElementType(), enumTactisBaseElementType{});
+  world.host.Forget();
+  element->ButtonNotes("nobody hears of it");
+  EXPECT_TRUE(world.host.Heard().empty());
 }
 
 TEST_F(ElementsOfADocument, AreSavedAtRestHoweverTheyAreShown) {

@@ -220,7 +220,12 @@ TEST_F(Paste, AForeignTextIsRefusedWithItsPlace) {
   }
   const std::string wrong = R"({"format":1,"panel":{"name":"x"},"elements":[{"place":"a","properties":)"
                             R"({"LedType1":{"string":"red"}}}]})";
-  EXPECT_THROW(DefinitionsIn(wrong), FileError);
+  try {
+    DefinitionsIn(wrong);
+    ADD_FAILURE() << "no failure";
+  } catch (const FileError& failure) {
+    EXPECT_STREQ(failure.what(), "clipboard: a: \"red\" is no number");
+  }
 }
 
 TEST_F(Paste, WhatIsSentInAnyWayDoesNotFitAnLed) {

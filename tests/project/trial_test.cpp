@@ -324,6 +324,17 @@ TEST(TimeLine, AKeyWhoseFirstEventFindsItDownWasHeld) {
   EXPECT_EQ(rows[1].marks, Marks({TimeMark::Held, TimeMark::Repeats}));
 }
 
+TEST(TimeLine, BetweenTwoEventsOfItsOwnAKeyIsHeldOrIdle) {
+  Trial trial;
+  Stroke(trial, {0x12, 0x1C, 0xF0, 0x1C, 0x1B, 0xF0, 0x12, 0x1C});
+  const std::vector<TimeRow> rows = TimeRows(trial.Reports(), trial.Down());
+  using enum TimeMark;
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[0].marks, Marks({GoesDown, Held, Held, Held, ComesUp, Idle}));
+  EXPECT_EQ(rows[1].marks, Marks({Idle, GoesDown, ComesUp, Idle, Idle, GoesDown}));
+  EXPECT_EQ(rows[2].marks, Marks({Idle, Idle, Idle, GoesDown, Held, Held}));
+}
+
 TEST(TimeLine, WhatStandsBehindAMarkIsHeldOrIdle) {
   for (const TimeMark mark : {TimeMark::GoesDown, TimeMark::Repeats, TimeMark::Held}) {
     EXPECT_EQ(Behind(mark), TimeMark::Held);

@@ -4,15 +4,23 @@ process, shuffled by a seed, and then all that CTest knows, each in its own proc
 what failed, with the seed that shows it again."""
 
 import glob
+import json
 import os
 import subprocess
 import sys
 import time
+from pathlib import Path
 
 # What takes long and has no order to depend on: programs killed thousands of times, requests for memory that fail one after the other,
 # examples that are built.
 ASIDE = "^(Killed|EachRequestForMemoryFails|package)"
 PROGRAMS_ASIDE = {"test_allocation"}
+
+
+def of_preset():
+    """What the preset of the tests sets for all programs that it runs."""
+    presets = json.loads((Path(__file__).resolve().parents[2] / "CMakePresets.json").read_text(encoding="utf-8"))
+    return next(preset["environment"] for preset in presets["configurePresets"] if preset["name"] == "test")
 
 
 def fails(command, environment):
@@ -32,6 +40,7 @@ def tell(what, begin, said):
 def main():
     build, times = os.path.abspath(sys.argv[1]), int(sys.argv[2]) if len(sys.argv) > 2 else 20
     failed = 0
+    os.environ.update(of_preset())
     for seed in range(1, times + 1):
         for program in sorted(glob.glob(os.path.join(build, "bin", "test_*"))):
             if os.path.basename(program) in PROGRAMS_ASIDE:
