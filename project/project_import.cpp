@@ -94,7 +94,7 @@ class Spot {
   template <typename Number>
   Number Whole(std::int32_t low = std::numeric_limits<Number>::min(),
                std::int32_t high = std::numeric_limits<Number>::max()) const {
-    const double number = value_.is_number() ? value_.get<double>() : std::nan("");
+    const double number = value_.is_number() ? value_.get<double>() : std::numeric_limits<double>::quiet_NaN();
     if (number >= low && number <= high && std::trunc(number) == number) return static_cast<Number>(number);
     if (low == high) Refuse("must be " + std::to_string(low));
     Refuse("must be a whole number from " + std::to_string(low) + " to " + std::to_string(high));

@@ -33,8 +33,8 @@ std::vector<TimeRow> TimeRows(std::span<const KeyReport> reports, std::span<cons
   for (std::size_t event = 0; event < reports.size(); ++event) {
     const KeyReport& report = reports[event];
     TimeRow& row = RowOf(rows, KindOf(report), report.code);
-    if (row.marks.empty()) row.marks.assign(event, report.wasDown ? TimeMark::Held : TimeMark::Idle);
-    if (row.marks.size() < event) row.marks.resize(event, Behind(row.marks.back()));
+    const TimeMark meanwhile = report.wasDown ? TimeMark::Held : TimeMark::Idle;
+    row.marks.resize(event, row.marks.empty() ? meanwhile : Behind(row.marks.back()));
     row.marks.push_back(MarkOf(report.deed));
   }
   for (TimeRow& row : rows) {

@@ -51,6 +51,13 @@ TEST_F(OpenFiles, AnotherFileIsNothingToThem) {
   EXPECT_EQ(first->Others(), 0U);
 }
 
+TEST_F(OpenFiles, WhereThePathCannotBeFollowedFilesAreToldApartByTheirNames) {
+  std::filesystem::create_symlink("loop", directory.Path() / "loop");
+  const auto named = [this](const char* name) { return FingerprintOf(directory.Path() / name); };
+  EXPECT_NE(named("loop/a.plexel"), named("loop/b.plexel"));
+  EXPECT_EQ(named("loop/a.plexel"), named("loop/x/../a.plexel"));
+}
+
 TEST_F(OpenFiles, AProgramThatWasKilledHasNoFileOpen) {
   const auto first = Open("a.plexel");
   const pid_t process = ::fork();

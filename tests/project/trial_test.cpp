@@ -91,6 +91,8 @@ TEST(Trial, AKeyIsLeftDownOnceItsElementIsLetGo) {
   EXPECT_EQ(trial.LeftDown(), Keys());
   EXPECT_FALSE(trial.HasLeftDown(0));
   trial.Release(0);
+  EXPECT_TRUE(trial.HasLeftDown(0));
+  EXPECT_FALSE(trial.HasLeftDown(1));
   trial.Press(1, keyA);
   EXPECT_EQ(trial.LeftDown(), Keys({0x12}));
   EXPECT_TRUE(trial.HasLeftDown(0));
@@ -306,6 +308,8 @@ TEST(TimeLine, AKeyThatIsDownAllAlongLeads) {
   Trial trial;
   trial.Press(0, stuck);
   trial.Clear();
+  ASSERT_EQ(TimeRows(trial.Reports(), trial.Down()).size(), 1U);
+  EXPECT_EQ(TimeRows(trial.Reports(), trial.Down()).front().marks, Marks());
   trial.Press(1, keyA);
   trial.Press(2, layer2Key);
   const std::vector<TimeRow> rows = TimeRows(trial.Reports(), trial.Down());
