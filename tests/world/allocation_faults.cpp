@@ -29,8 +29,9 @@ bool IsOnFolders() {
   const int count = ::backtrace(callers.data(), static_cast<int>(callers.size()));
   return std::any_of(callers.begin(), callers.begin() + count, [](const void* caller) {
     Dl_info info;
-    return ::dladdr(caller, &info) != 0 && info.dli_sname != nullptr &&
-           std::string_view(info.dli_sname).find("10filesystem") != std::string_view::npos;
+    if (::dladdr(caller, &info) == 0 || info.dli_sname == nullptr) return false;
+    const std::string_view name = info.dli_sname;
+    return name.starts_with("_ZNSt10filesystem") || name.starts_with("_ZNKSt10filesystem");
   });
 }
 
