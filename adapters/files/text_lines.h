@@ -65,7 +65,6 @@ class TextFile {
   /// The same checks on a content that is already in memory.
   TextFile(std::filesystem::path file, std::string content);
 
-  const std::filesystem::path& Path() const { return path_; }
   /// Whether the file began with the byte order mark of UTF-8.
   bool HasUtf8Mark() const { return start_ != 0; }
   std::string_view Text() const { return std::string_view(content_).substr(start_); }
