@@ -183,6 +183,7 @@ TEST_F(ProblemsTest, TheRoomOfALayerIsThatOfTheVantaEnabledOfTheElement) {
     element.PressKeyDefLayer1("[x\u2039]");
     Module().lngMaxScanCodes = 7;
     EXPECT_EQ(Rules(), one.over ? std::vector<Rule>{Rule::OverLimit} : none) << one.bytes;
+    if (one.over) EXPECT_EQ(Only().values, std::vector<std::uint32_t>{static_cast<std::uint32_t>(one.bytes)});
     EXPECT_EQ(Module().lngMaxScanCodes, 7);
   }
 }
