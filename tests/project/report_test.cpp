@@ -148,6 +148,14 @@ TEST_F(ReportOfDocument, ProblemsAreTold) {
   EXPECT_THAT(ReportHtml(report), HasSubstr("<td class=\"error\">error</td>"));
 }
 
+TEST(ReportWordsTest, APatternTakesWhatIsToldWhereverItWantsIt) {
+  ReportWords words = EnglishReportWords();
+  words.texts[static_cast<std::size_t>(ReportWord::OnLayer)] = "on %1 as its layer";
+  words.texts[static_cast<std::size_t>(ReportWord::OnLayers)] = "of all";
+  EXPECT_EQ(words.With(ReportWord::OnLayer, "4"), "on 4 as its layer");
+  EXPECT_EQ(words.With(ReportWord::OnLayers, "4"), "of all");
+}
+
 TEST_F(ReportOfDocument, WithoutTextsOfALanguageTheWordsAreEnglish) {
   EXPECT_EQ(ReportWordsInForce().texts, EnglishReportWords().texts);
   EXPECT_EQ(ReportWordsInForce().problems.patterns, EnglishProblemWords().patterns);
