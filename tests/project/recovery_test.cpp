@@ -240,6 +240,7 @@ TEST_F(LostWorkFound, BehindAProgramThatWasKilled) {
   Note("F3", "lost");
   EXPECT_EQ(lost.front().content.project, document->Content());
   Forget(lost.front());
+  EXPECT_TRUE(std::filesystem::is_empty(Store()));
   EXPECT_TRUE(FindLostWork(Store(), damaged).empty());
   EXPECT_TRUE(damaged.empty());
 }
