@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <map>
 
 #include "keyboard/key_table.h"
@@ -60,6 +62,10 @@ class KeyCodeNames : public testing::Test {
 TEST_F(KeyCodeNames, AreThoseOfTheUsLayout) {
   ASSERT_GT(names.size(), 100u);
   for (const auto& [code, name] : names) EXPECT_EQ(KeyNameOf(code), name) << CodeText(code);
+}
+
+TEST_F(KeyCodeNames, AreInTheOrderOfTheCodesEachOnce) {
+  EXPECT_EQ(std::ranges::adjacent_find(NamedKeys(), std::greater_equal()), NamedKeys().end());
 }
 
 TEST_F(KeyCodeNames, NameNoKeyThatTheKeyboardLacks) {

@@ -145,6 +145,14 @@ TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {
   EXPECT_TRUE(document->Modified());
 }
 
+TEST_F(OtherDocument, ThatTheFileHoldsWithoutAPanelIsNotToldApartByIt) {
+  document->CarriesPanel(true);
+  EXPECT_TRUE(document->Modified());
+  document->FileHolds(*PanelDocument::New("Large", Site()));
+  EXPECT_TRUE(document->CarriesPanel());
+  EXPECT_FALSE(document->Modified());
+}
+
 TEST_F(OtherDocument, AnElementThatOutlivesItIsEndedAndDetached) {
   const std::shared_ptr<ctlPlexelBaseElement> element = document->Places().at(PlaceOf("F3")).element;
   ASSERT_NE(element->ElementType(), enumTactisBaseElementType{});
