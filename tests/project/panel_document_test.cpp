@@ -148,7 +148,11 @@ TEST_F(OtherDocument, ThatDiffersInCarryingItsPanelAloneIsOneStep) {
 TEST_F(OtherDocument, ThatTheFileHoldsWithoutAPanelIsNotToldApartByIt) {
   document->CarriesPanel(true);
   EXPECT_TRUE(document->Modified());
-  document->FileHolds(*PanelDocument::New("Large", Site()));
+  const TemporaryDirectory directory;
+  const auto theirs = PanelDocument::New("Large", Site());
+  theirs->Save(directory.Path() / "a.plexel");
+  document->FileHolds(*theirs);
+  EXPECT_EQ(document->File(), theirs->File());
   EXPECT_TRUE(document->CarriesPanel());
   EXPECT_FALSE(document->Modified());
 }
