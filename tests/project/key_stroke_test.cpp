@@ -83,6 +83,8 @@ TEST_F(Stroke, KeysThatChangeWithModifiersAreThoseThatCaptureStores) {
   EXPECT_EQ(Pressed({evdev::Print}), KeyNameOf(0xE07C));
   Pressed({evdev::LeftAlt, evdev::Print});
   EXPECT_EQ(stroke.Keys(), (std::vector<KeyCode>{0x11, 0x84}));
+  Pressed({evdev::NumLock});
+  EXPECT_EQ(stroke.Keys(), std::vector<KeyCode>{0x77});
   Pressed({evdev::Pause});
   EXPECT_EQ(stroke.Keys(), std::vector<KeyCode>{PauseKey});
   for (const auto& [ctrl, code] : {std::pair{evdev::LeftCtrl, 0x14}, std::pair{evdev::RightCtrl, 0xE014}}) {
