@@ -245,6 +245,22 @@ TEST_F(LostWorkFound, BehindAProgramThatWasKilled) {
   EXPECT_TRUE(damaged.empty());
 }
 
+TEST_F(LostWorkFound, ThatCannotBeRemovedIsToldWithTheReasonAndStaysLocked) {
+  PutLost("1-1.recovery", 10);
+  std::vector<LostWork> lost = FindLostWork(Store(), damaged);
+  ASSERT_EQ(lost.size(), 1U);
+  std::filesystem::remove(lost.front().source);
+  std::filesystem::create_directories(lost.front().source / "in it");
+  try {
+    Forget(lost.front());
+    ADD_FAILURE() << "it is gone";
+  } catch (const FileError& failure) {
+    EXPECT_EQ(failure.File(), lost.front().source);
+    EXPECT_EQ(failure.Reason(), "cannot be removed: " + std::make_error_code(std::errc::directory_not_empty).message());
+  }
+  EXPECT_TRUE(std::filesystem::exists(Store() / "1-1.lock"));
+}
+
 TEST_F(LostWorkFound, OfAProgramThatHadTheSameNumberStays) {
   const std::string first = std::to_string(::getpid()) + "-1.recovery";
   PutLost(first, 10);
