@@ -20,6 +20,14 @@ TEST_F(ElementInteraction, TakingTheFocusSendsTheDefinitionInLayersPressBeforeRe
   EXPECT_EQ(host.Heard(), expected);
 }
 
+TEST(KeyDefinitionOfAHost, ShowsNoFunctionUntilItIsGivenOne) {
+  const KeyDefinition none;
+  EXPECT_EQ(none.LEDTypeLayer1, 0);
+  EXPECT_EQ(none.LEDTypeLayer2, 0);
+  EXPECT_EQ(none.LEDTypeLayer3, 0);
+  EXPECT_EQ(none.LEDTypeLayer4, 0);
+}
+
 TEST_F(ElementInteraction, TheDefinitionIsSentBeforeTheFocusIsShown) {
   element->ElementType(Rect);
   element->FocusVisible(True);

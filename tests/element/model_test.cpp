@@ -202,6 +202,15 @@ TEST_F(Element, LayersOutsideOneToFourAreIndexFailures) {
   }
 }
 
+TEST_F(Element, AnIndexFailureTellsTheNumber) {
+  try {
+    element->LEDTypeLayer(5);
+    ADD_FAILURE() << "no failure";
+  } catch (const Failure& failure) {
+    EXPECT_STREQ(failure.what(), "number 5 is out of range");
+  }
+}
+
 TEST_F(Element, KeyNumbersAreReachedByIndexWithTheirOwnNotices) {
   for (std::int32_t index = 0; index < 8; ++index) element->HardwareNumberKeyAt(index, 100 + index);
   EXPECT_EQ(element->HardwareNumberKey(), 100);

@@ -7,6 +7,7 @@
 
 #include "platform/platform_in_force.h"
 #include "scancodes/scancode_session.h"
+#include "scancodes/toggled_platform.h"
 
 namespace plexel {
 namespace {
@@ -38,29 +39,6 @@ std::string Translated(std::int32_t scanCode, std::int32_t virtualKey, std::int3
 }
 
 const std::string nothing = " (77) /  (77)";
-
-/// A platform whose keys are all up with their toggle bit set, and which has nothing else.
-class ToggledPlatform : public Platform, public KeyState {
- public:
-  std::int16_t Asynchronous(std::int32_t) override { return 0x0001; }
-  std::int16_t Synchronous(std::int32_t) override { return 0x0001; }
-  KeyState& Keys() override { return *this; }
-  KeyboardHooks& Hooks() override { return Nothing<KeyboardHooks>(); }
-  KeyboardLayout& Layout() override { return Nothing<KeyboardLayout>(); }
-  Registry& UserRegistry() override { return Nothing<Registry>(); }
-  Screen& TheScreen() override { return Nothing<Screen>(); }
-  OsVersion& Version() override { return Nothing<OsVersion>(); }
-  HelpViewer& Help() override { return Nothing<HelpViewer>(); }
-  ModalLoop& Modal() override { return Nothing<ModalLoop>(); }
-  MessageBoxes& Messages() override { return Nothing<MessageBoxes>(); }
-  EventPump& Events() override { return Nothing<EventPump>(); }
-
- private:
-  template <typename Port>
-  static Port& Nothing() {
-    throw Failure(FailureKind::Platform, "there is no such port");
-  }
-};
 
 std::string Simple(const std::string& code) { return code + " (1) / F0 " + code + " (2)"; }
 std::string Extended(const std::string& code) { return "E0 " + code + " (2) / E0 F0 " + code + " (3)"; }

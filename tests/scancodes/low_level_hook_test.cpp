@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "platform/platform_in_force.h"
 #include "scancodes/keyboard_hook.h"
 #include "scancodes/scancode_session.h"
+#include "scancodes/toggled_platform.h"
 
 namespace plexel {
 namespace {
@@ -24,6 +26,12 @@ TEST(LowLevelHook, TaskKeysAreSwallowed) {
   session.platform.Keys().Hold(0x11);
   EXPECT_EQ(LowLevel(0x1B, 0), -1);
   EXPECT_EQ(session.platform.Hooks().NextCalls(), 0);
+}
+
+TEST(LowLevelHook, TheToggleBitOfControlDoesNotCount) {
+  ToggledPlatform platform;
+  const PlatformInForce use(platform);
+  EXPECT_EQ(LowLevel(0x1B, 0), 0);
 }
 
 TEST(LowLevelHook, AllFourKeyMessagesAreLookedAt) {

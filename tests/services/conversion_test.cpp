@@ -89,6 +89,15 @@ TEST(Conversion, AByteHoldsZeroTo255) {
   EXPECT_EQ(KindOf([] { TextToUInt8("-1"); }), FailureKind::Overflow);
 }
 
+TEST(Conversion, AnOverflowTellsWhatDoesNotFit) {
+  try {
+    TextToUInt8("256");
+    ADD_FAILURE() << "no failure";
+  } catch (const Failure& failure) {
+    EXPECT_STREQ(failure.what(), "256.000000 does not fit its type");
+  }
+}
+
 TEST(Conversion, MinusAHalfIsZeroAsAByte) { EXPECT_EQ(TextToUInt8("-0.5"), 0); }
 
 TEST(Conversion, A16BitIntegerHoldsItsLimits) {
