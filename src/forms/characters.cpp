@@ -27,32 +27,31 @@ constexpr std::array<const char*, 64> FoldedLetters = {
 
 std::uint8_t Byte(std::string_view text, std::size_t place) { return static_cast<std::uint8_t>(text[place]); }
 
-/// Bytes that follow a lead byte; -1 for a byte that leads nothing.
-int Followers(std::uint8_t lead) {
-  if (lead < 0x80) return 0;
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  if (lead >= 0xF0 && lead <= 0xF4) return 3;
-  return -1;
+/// Bytes of the sequence that a byte leads; 0 for a byte that leads none.
+std::size_t LengthLedBy(std::uint8_t lead) {
+  if (lead < 0x80) return 1;
+  if (lead >= 0xC2 && lead <= 0xDF) return 2;
+  if (lead >= 0xE0 && lead <= 0xEF) return 3;
+  if (lead >= 0xF0 && lead <= 0xF4) return 4;
+  return 0;
 }
 
 }  // namespace
 
 Decoded First(std::string_view utf8) {
   constexpr Decoded broken{Replacement, 1, true};
-  constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};
+  constexpr std::array<char32_t, 3> smallest = {0x80, 0x800, 0x10000};
   const std::uint8_t lead = Byte(utf8, 0);
-  const int followers = Followers(lead);
-  if (followers == 0) return {lead, 1, false};
-  const auto count = static_cast<std::size_t>(followers);
-  if (followers < 0 || utf8.size() <= count) return broken;
-  char32_t character = lead & (0x3FU >> count);
-  for (std::size_t i = 1; i <= count; ++i) {
+  const std::size_t length = LengthLedBy(lead);
+  if (length == 1) return {lead, 1, false};
+  if (length == 0 || utf8.size() < length) return broken;
+  char32_t character = lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
     if ((Byte(utf8, i) & 0xC0) != 0x80) return broken;
     character = character << 6 | (Byte(utf8, i) & 0x3FU);
   }
-  if (character < smallest[count] || !IsCharacter(character)) return broken;
-  return {character, count + 1, false};
+  if (character < smallest[length - 2] || !IsCharacter(character)) return broken;
+  return {character, length, false};
 }
 
 std::size_t FindBroken(std::string_view utf8) {

@@ -1,6 +1,7 @@
 #include "forms/controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/characters.h"
 #include "platform/failure.h"
@@ -9,8 +10,7 @@ namespace plexel {
 
 namespace {
 bool StandsBefore(const std::string& left, const std::string& right) {
-  const std::string foldedLeft = characters::Folded(left), foldedRight = characters::Folded(right);
-  return foldedLeft != foldedRight ? foldedLeft < foldedRight : left < right;
+  return std::pair(characters::Folded(left), left) < std::pair(characters::Folded(right), right);
 }
 }  // namespace
 

@@ -71,12 +71,9 @@ GridPlace GridShot::PlaceOf(int cellRow, int cellCol) const {
 /// Fixed columns share half of the grid; any other leaves the next one in view beside the fixed.
 int GridShot::WidthWithin(int cellCol, int asked) const {
   const int room = static_cast<int>(width);
-  int widest = 0;
-  if (cellCol < fixedCols) {
-    widest = room / 2 / fixedCols;
-  } else {
-    widest = room - std::accumulate(widths.begin(), widths.begin() + fixedCols, 0) - NextInView;
-  }
+  const int widest = cellCol < fixedCols
+                         ? room / 2 / fixedCols
+                         : room - std::accumulate(widths.begin(), widths.begin() + fixedCols, 0) - NextInView;
   return std::clamp(asked, Narrowest, std::max(Narrowest, widest));
 }
 

@@ -37,15 +37,21 @@ class Caret {
     return place;
   }
   void MoveTo(int place) { box_.SelStart(place); }
-  /// Puts `text` in the place of characters on both sides of the caret, and the caret behind it.
-  void Replace(int back, int ahead, std::string_view text) {
+  /// Puts `text` at the caret, and the caret behind it. Nothing happens when the box has no room for all of it or is
+  /// locked.
+  void Insert(std::string_view text) {
+    if (box_.Locked()) return;
     const int inserted = characters::Count(text);
-    const int length = End() - back - ahead + inserted;
-    if (inserted > 0 && box_.MaxLength() > 0 && length > box_.MaxLength()) return;
-    std::string result = Join(0, place_ - back);
+    if (box_.MaxLength() > 0 && End() + inserted > box_.MaxLength()) return;
+    std::string result = Join(0, place_);
     result += text;
-    result += Join(place_ + ahead, End());
-    box_.Edit(std::move(result), place_ - back + inserted);
+    result += Join(place_, End());
+    box_.Edit(std::move(result), place_ + inserted);
+  }
+  /// Leaves out characters on both sides of the caret. Nothing happens in a locked box.
+  void Delete(int back, int ahead) {
+    if (box_.Locked()) return;
+    box_.Edit(Join(0, place_ - back) + Join(place_ + ahead, End()), place_ - back);
   }
 
  private:
@@ -78,19 +84,17 @@ void EditByKey(Control& control, std::int16_t keyCode) {
     case key::End:
       return caret.MoveTo(caret.EndOfLine());
     case key::Delete:
-      if (!box.Locked()) caret.Replace(0, caret.StepAhead(), "");
-      return;
+      return caret.Delete(0, caret.StepAhead());
     default:
-      return;
+      break;
   }
 }
 
 void EnterCharacter(TextBox& box, char32_t character) {
-  if (box.Locked()) return;
   Caret caret(box);
-  if (character == key::Back) return caret.Replace(caret.StepBack(), 0, "");
-  if (character == key::Return && box.MultiLine()) return caret.Replace(0, 0, LineBreak);
-  if (character >= FirstPrintable) caret.Replace(0, 0, characters::Encode(character));
+  if (character == key::Back) return caret.Delete(caret.StepBack(), 0);
+  if (character == key::Return && box.MultiLine()) return caret.Insert(LineBreak);
+  if (character >= FirstPrintable) caret.Insert(characters::Encode(character));
 }
 
 }  // namespace plexel
