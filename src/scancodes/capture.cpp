@@ -107,7 +107,6 @@ LeftHooks::LeftHooks() {
 }
 
 void LeftHooks::Remove() {
-  if (Module().installedHooks.empty()) return;
   try {
     RemoveAll();
   } catch (...) {  // there is a next time

@@ -16,7 +16,7 @@ using Info = udtTactisBaseElement_ScanCodeInfo;
 
 /// The code types of press and release buffer by key type of the wizard.
 struct WizardGroups {
-  static constexpr std::int32_t Empty = -1;
+  static constexpr std::int32_t Empty = -1;  ///< no code type: appends nothing
   enumWizardOptions keyType;
   std::int32_t press, release;
 };
@@ -46,7 +46,6 @@ void StoreInAllLayers(Info& info, const KeyCodes& codes, std::int32_t unused) {
     if (!page.KeyTypeOption(groups.keyType).Value()) continue;
     for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
       AppendCodeGroup(*PressBuffer(info, layer), codes, groups.press, unused);
-      if (groups.release == WizardGroups::Empty) continue;
       AppendCodeGroup(*ReleaseBuffer(info, layer), codes, groups.release, unused);
     }
     return;

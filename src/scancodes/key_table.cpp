@@ -77,7 +77,7 @@ bool AllKeysReleased() {
 void RemoveAltGrControl() {
   const std::int32_t count = Module().lngPressedKeyCount;
   std::int32_t altGr = 0;
-  for (std::int32_t place = 0; place <= count; ++place) {
+  for (std::int32_t place = 1; place <= count; ++place) {
     if (IsKey(SlotAt(place), 0x12, 0x38, 1)) altGr = place;
   }
   if (altGr < 1 || !IsKey(SlotAt(altGr - 1), 0x11, 0x1D, 0)) return;
