@@ -38,13 +38,13 @@ std::size_t SkipDigits(std::string_view text, std::size_t position) {
 /// Whether the text is digits with at most one point among them and perhaps an exponent.
 bool IsUnsignedDecimal(std::string_view text) {
   std::size_t position = SkipDigits(text, 0);
-  std::size_t digits = position;
+  bool hasDigits = position > 0;
   if (position < text.size() && text[position] == '.') {
     const std::size_t end = SkipDigits(text, position + 1);
-    digits += end - position - 1;
+    hasDigits = hasDigits || end > position + 1;
     position = end;
   }
-  if (digits == 0) return false;
+  if (!hasDigits) return false;
   if (position == text.size()) return true;
   if (text[position] != 'e' && text[position] != 'E') return false;
   ++position;

@@ -107,10 +107,7 @@ std::int32_t GetScreenLogPixels() {
   return pixels;
 }
 
-double GetDpiScaleFactor() {
-  const std::int32_t pixels = GetScreenLogPixels();
-  return pixels == 96 ? 1.0 : pixels / 96.0;
-}
+double GetDpiScaleFactor() { return GetScreenLogPixels() / 96.0; }
 
 std::string HelpFileName() {
   const std::string basePath = GetBasePath();
