@@ -17,6 +17,11 @@ TEST(Characters, OfABrokenSequenceCountByteByByte) {
   EXPECT_EQ(characters::Count("\xF4\x90\x80\x80"), 4);
 }
 
+TEST(Characters, AreNotLedByABytePastTheLastLeadNorByOneThatFollows) {
+  EXPECT_EQ(characters::Count("\xFC\x80\x80\x80"), 4);
+  EXPECT_EQ(characters::Count("\x84\x80\x80\x80"), 4);
+}
+
 TEST(Characters, ThatComeFirstTellTheirLength) {
   const characters::Decoded first = characters::First("\u20ACx");
   EXPECT_EQ(first.character, U'\u20AC');

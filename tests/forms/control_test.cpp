@@ -40,7 +40,12 @@ TEST(Control, IsFoundByItsFullName) {
 TEST(Control, OfANameThatTheFormHasAlreadyIsADefect) {
   TestForm form;
   const CommandButton button(form, "cmdOK", 1);
-  EXPECT_THROW(CommandButton(form, "cmdOK", 1), std::logic_error);
+  try {
+    const CommandButton second(form, "cmdOK", 1);
+    ADD_FAILURE() << "a second one was made";
+  } catch (const std::logic_error& error) {
+    EXPECT_STREQ(error.what(), "frmTest has two controls named cmdOK(1)");
+  }
 }
 
 TEST(Control, TakesItsTabIndexFromTheOrderOfMaking) {

@@ -148,6 +148,16 @@ TEST(ComboBox, SortsWithoutCaseAndAccentFirst) {
   EXPECT_EQ(box.Items(), (Strings{"apfel", "Ärger", "b", "Strand", "Straße", "strasse", "Zebra", "zebra"}));
 }
 
+TEST(ComboBox, SortsAnEntryBehindItsLike) {
+  TestForm form;
+  ComboBox box(form, "cmbA");
+  box.Sorted(true);
+  box.AddItem("m");
+  box.ListIndex(0);
+  box.AddItem("m");
+  EXPECT_EQ(box.ListIndex(), 0);
+}
+
 TEST(ComboBox, KeepsItsEntryWhenOneIsSortedAheadOfIt) {
   TestForm form;
   ComboBox box(form, "cmbA");
@@ -223,6 +233,9 @@ TEST(TextBox, CutsATextLongerThanItsMaxLengthInCharacters) {
   form.txtA.Text("äöüß");
   EXPECT_EQ(form.txtA.Text(), "äöü");
   EXPECT_EQ(form.txtA.TextLength(), 3);
+  form.txtA.MaxLength(1);
+  form.txtA.Text("äö");
+  EXPECT_EQ(form.txtA.Text(), "ä");
 }
 
 TEST(TextBox, KeepsATextOfExactlyItsMaxLength) {

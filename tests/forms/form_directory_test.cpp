@@ -76,6 +76,13 @@ TEST(FormDirectory, KnowsNoFormThatWasNotAdded) {
   EXPECT_EQ(one.directory.Open(frmB), nullptr);
 }
 
+TEST(FormDirectory, KnowsNoFormAfterItIsCleared) {
+  DirectoryOfOne one;
+  EXPECT_EQ(one.directory.Clear(), std::vector<Form*>());
+  EXPECT_EQ(FailureOf(FailureKind::NoSuchMember, [&] { one.directory.ShowModal(frmA, nullptr); }),
+            "no form named frmA");
+}
+
 TEST(FormDirectory, LetsAFormGoThatCannotBeShown) {
   DirectoryOfOne one;
   one.platform.faults.Turn(Fault::Show, true);

@@ -86,6 +86,17 @@ TEST(Form, IsNotShownAfterItsLoopHasThrown) {
   EXPECT_FALSE(form.IsShown());
 }
 
+TEST(Form, ThatUnloadsWhileItLoadsKeepsNoFocusThatItIsGivenThen) {
+  TwoButtons form;
+  const NotingPlatform noting(form);
+  form.onLoad = [&] {
+    form.Unload();
+    form.cmdA.SetFocus();
+  };
+  form.ShowModal(nullptr);
+  EXPECT_EQ(form.Focus(), nullptr);
+}
+
 TEST(Form, ThatAnythingIsThrownThroughIsAbandonedWithoutItsQuestions) {
   TestForm outer, inner;
   HeadlessPlatform platform;
@@ -184,6 +195,13 @@ TEST(Form, KeepsTheFocusThatLoadingGave) {
   form.onLoad = [&] { form.cmdB.SetFocus(); };
   WhileShown(form, [&] { EXPECT_TRUE(form.cmdB.HasFocus()); });
   EXPECT_EQ(form.log[1], "cmdB GotFocus");
+}
+
+TEST(Form, ThatHasClosedHasNeitherAFocusNorAButtonHeldDown) {
+  TwoButtons form;
+  WhileShown(form, [&] { form.Armed(&form.cmdA); });
+  EXPECT_EQ(form.Focus(), nullptr);
+  EXPECT_EQ(form.Armed(), nullptr);
 }
 
 TEST(Form, OpensWithTheFocusOnAControlThatCanTakeIt) {
@@ -286,6 +304,13 @@ TEST(PopupMenu, IsOpenUntilItIsDismissed) {
   EXPECT_EQ(form.OpenPopup(), &menu);
   form.PopupMenu(menu);
   EXPECT_EQ(place, (std::vector<float>{0, 0, 0}));
+}
+
+TEST(PopupMenu, EndsWithItsForm) {
+  TestForm form;
+  MenuItem menu(form, "MNU_POPUP");
+  WhileShown(form, [&] { form.OpenPopup(&menu); });
+  EXPECT_EQ(form.OpenPopup(), nullptr);
 }
 
 TEST(PopupMenu, ThatCannotBeShownIsNotOpen) {

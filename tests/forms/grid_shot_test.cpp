@@ -42,8 +42,8 @@ TEST(GridShot, IsTheSameAsLongAsNothingIsSeenOfAChange) {
       [&] { form.grid.Text("text"); },      [&] { form.grid.CellForeColor(5); }, [&] { form.grid.CellBackColor(5); },
       [&] { form.grid.CellCentred(true); }, [&] { form.grid.ColWidth(1, 333); }, [&] { form.grid.RowHeight(300); },
       [&] { form.grid.Current(2, 1); },     [&] { form.grid.Current(2, 2); },    [&] { form.grid.ScrollTo(2, 1); },
-      [&] { form.grid.Enabled(false); },    [&] { form.grid.ShowsEnd(true); },   [&] { form.grid.Width(1500); },
-      [&] { form.grid.Height(1500); }};
+      [&] { form.grid.SetFocus(); },        [&] { form.grid.Enabled(false); },   [&] { form.grid.ShowsEnd(true); },
+      [&] { form.grid.Width(1500); },       [&] { form.grid.Height(1500); }};
   GridShot last = before;
   for (std::size_t change = 0; change < changes.size(); ++change) {
     changes[change]();
@@ -73,6 +73,14 @@ TEST(GridShot, WhatIsScrolledOutHasNoPlaceAndFixedCellsStay) {
   EXPECT_EQ(shot.PlaceOf(4, 0), (GridPlace{0, 500, 500, 250}));
 }
 
+TEST(GridShot, TheRowBelowTheFixedScrollsOutLikeAnyOther) {
+  ShotForm form;
+  form.grid.ScrollTo(2, 1);
+  const GridShot shot = form.Take();
+  EXPECT_TRUE(shot.PlaceOf(1, 1).IsEmpty());
+  EXPECT_FALSE(shot.PlaceOf(2, 1).IsEmpty());
+}
+
 TEST(GridShot, WidthsThatTheUserMayChangeKeepAnEdgeForTheMouse) {
   ShotForm form;
   form.grid.ColWidth(0, 5000);
@@ -85,6 +93,7 @@ TEST(GridShot, WidthsThatTheUserMayChangeKeepAnEdgeForTheMouse) {
   EXPECT_EQ(shot.widths, (std::vector<int>{1000, 120, 1000 - 240, 1000 - 240}));
   EXPECT_EQ(shot.WidthWithin(0, 700), 700);
   EXPECT_EQ(shot.WidthWithin(0, 1700), 1000);
+  EXPECT_EQ(shot.WidthWithin(1, 9000), 1000 - 240);
   EXPECT_EQ(shot.WidthWithin(3, -5), 120);
   form.grid.Width(100);
   EXPECT_EQ(form.Take().widths, std::vector<int>(4, 120));

@@ -72,6 +72,7 @@ TEST(Grid, HasNoColumnOutside) {
   EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(6); }), "msgA has no cell (0, 6)");
   EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(-1); }), "msgA has no cell (0, -1)");
   EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(6, 1); }), "msgA has no cell (0, 6)");
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.msgA.ScrollIntoView(10, 1); }), "msgA has no cell (10, 1)");
 }
 
 TEST(Grid, OfOneRowHasColumnsToo) {
@@ -96,7 +97,8 @@ TEST(Grid, ColoursItsCurrentCell) {
 
 TEST(Grid, HasNoNegativeColumnWidth) {
   GridForm form;
-  EXPECT_NE(FailureOf(FailureKind::InvalidCall, [&] { form.msgA.ColWidth(1, -1); }), "");
+  EXPECT_EQ(FailureOf(FailureKind::InvalidCall, [&] { form.msgA.ColWidth(1, -1); }),
+            "msgA cannot have a column of negative width");
   EXPECT_NE(FailureOf(FailureKind::Index, [&] { form.msgA.ColWidth(6, 1); }), "");
   form.msgA.ColWidth(1, 0);
   EXPECT_EQ(form.msgA.ColWidth(1), 0);
@@ -159,6 +161,15 @@ TEST(Grid, ScrollsAsLittleAsBringsACellIntoView) {
   EXPECT_EQ(form.View(), (Pair{6, 3}));
   form.msgA.ScrollIntoView(0, 0);
   EXPECT_EQ(form.View(), (Pair{6, 3}));
+  form.msgA.ScrollIntoView(1, 1);
+  EXPECT_EQ(form.View(), (Pair{1, 1}));
+}
+
+TEST(Grid, WhoseColumnsFillItToTheEdgeShowsAllOfThem) {
+  GridForm form;
+  form.msgA.Width(3 * 400);
+  form.msgA.ScrollIntoView(1, 3);
+  EXPECT_EQ(form.View(), (Pair{1, 2}));
 }
 
 TEST(Grid, ScrollsToAColumnWiderThanItself) {
@@ -180,6 +191,8 @@ TEST(Grid, WhoseRowsHaveNoHeightHasThemAllInView) {
   GridForm form;
   form.msgA.RowHeight(0);
   EXPECT_EQ(form.msgA.RowsInView(), form.msgA.Rows() - form.msgA.FixedRows());
+  form.msgA.RowHeight(1);
+  EXPECT_EQ(form.msgA.RowsInView(), 4 * 250 + 100 - 1);
 }
 
 TEST(Grid, WithRoomForAllDoesNotScroll) {

@@ -261,6 +261,19 @@ TEST(SpaceKey, ThatWentDownElsewherePressesNothing) {
             Strings{});
 }
 
+TEST(SpaceKey, HoldsItsButtonThoughAnotherKeyComesUp) {
+  KeysForm form;
+  EXPECT_EQ(form.Raised(form.cmdHelp,
+                        [&] {
+                          form.hand.KeyDown(key::Space, 0);
+                          form.Taken();
+                          form.hand.KeyUp(key::Return, 0);
+                          EXPECT_EQ(form.Taken(), Strings{});
+                          form.hand.KeyUp(key::Space, 0);
+                        }),
+            Strings{"cmdHelp Click"});
+}
+
 TEST(SpaceKey, PressesNothingWhenTheFocusHasMovedMeanwhile) {
   KeysForm form;
   EXPECT_EQ(form.Raised(form.cmdHelp,

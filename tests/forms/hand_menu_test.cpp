@@ -57,6 +57,14 @@ TEST(OpenMenu, IsClosedByEveryOtherAct) {
   }
 }
 
+TEST(OpenMenu, TakesNothingOfWhatIsTypedIntoABox) {
+  MouseForm form;
+  form.mnuCopy.Caption("&Copy");
+  form.OpenPopup(&form.mnuPopup);
+  form.hand.Type(form.txtA, "cy");
+  EXPECT_EQ(form.txtA.Text(), "cy");
+}
+
 TEST(OpenMenu, StaysWhenAnActIsRefused) {
   MouseForm form;
   form.OpenPopup(&form.mnuPopup);

@@ -254,7 +254,7 @@ TEST(Cell, BecomesCurrentWithTheFocusAndInView) {
 
 TEST(Cell, ThatIsFixedOrOutsideCannotBecomeCurrent) {
   MouseForm form;
-  EXPECT_NE(FailureOf(FailureKind::Index, [&] { form.hand.Cell(form.msgA, 0, 1); }), "");
+  EXPECT_EQ(FailureOf(FailureKind::Index, [&] { form.hand.Cell(form.msgA, 0, 1); }), "msgA has a fixed cell there");
   EXPECT_NE(FailureOf(FailureKind::Index, [&] { form.hand.Cell(form.msgA, 1, 0); }), "");
   EXPECT_NE(FailureOf(FailureKind::Index, [&] { form.hand.Cell(form.msgA, 1, 3); }), "");
   EXPECT_EQ(form.Focus(), nullptr);
@@ -262,7 +262,7 @@ TEST(Cell, ThatIsFixedOrOutsideCannotBecomeCurrent) {
 
 TEST(ResizeColumn, NeedsTheGridsLeave) {
   MouseForm form;
-  EXPECT_NE(FailureOf(Invalid, [&] { form.hand.ResizeColumn(form.msgA, 1, 500); }), "");
+  EXPECT_EQ(FailureOf(Invalid, [&] { form.hand.ResizeColumn(form.msgA, 1, 500); }), "msgA has columns of fixed width");
   EXPECT_EQ(form.msgA.ColWidth(1), 960);
   form.msgA.UserResizing(true);
   form.hand.ResizeColumn(form.msgA, 1, 500);

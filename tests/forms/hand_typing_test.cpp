@@ -39,6 +39,8 @@ TEST(Character, IsNotEnteredIntoAFullBox) {
   form.txtA.MaxLength(3);
   EXPECT_EQ(form.AfterCharacter(form.txtA, "ab", 2, 'c'), "abc|");
   EXPECT_EQ(form.AfterCharacter(form.txtA, "abc", 3, 'd'), "abc|");
+  form.txtA.MaxLength(1);
+  EXPECT_EQ(form.AfterCharacter(form.txtA, "a", 0, 'b'), "|a");
 }
 
 TEST(Character, CountsAsOneWhateverItsBytes) {
@@ -120,6 +122,15 @@ TEST(DeleteKey, LeavesTheTextOfAFullBoxShorter) {
   TypingForm form;
   form.txtA.MaxLength(3);
   EXPECT_EQ(form.After(form.txtA, "abc", 0, {key::Delete}), "|bc");
+}
+
+TEST(DeleteKey, ShortensATextThatIsLongerThanItsLimit) {
+  TypingForm form;
+  form.txtA.SetFocus();
+  form.txtA.Text("abcdefg");
+  form.txtA.MaxLength(5);
+  form.hand.KeyDown(key::Delete, 0);
+  EXPECT_EQ(form.txtA.Text(), "bcdef");
 }
 
 TEST(CaretKeys, MoveByCharacters) {
@@ -239,8 +250,19 @@ TEST(Type, EndsWhenTheFormCloses) {
   form.txtA.OnKeyPress = [&](std::int16_t& keyAscii) {
     if (keyAscii == 'b') form.Unload();
   };
+  form.KeyPreview(true);
   WhileShown(form, [&] { form.hand.Type(form.txtA, "abc"); });
   EXPECT_EQ(form.txtA.Text(), "a");
+  EXPECT_EQ(form.log.back(), "Unload") << "the form saw more keys";
+}
+
+TEST(Type, LeavesTheCaretWhenTheFormClosesAsTheBoxGetsTheFocus) {
+  TypingForm form;
+  form.onLoad = [&] { form.cmdA.SetFocus(); };
+  form.txtA.Text("abc");
+  form.txtA.OnGotFocus = [&] { form.Unload(); };
+  WhileShown(form, [&] { form.hand.Type(form.txtA, "d"); });
+  EXPECT_EQ(TypingForm::Seen(form.txtA), "|abc");
 }
 
 TEST(Type, ReleasesEachKey) {

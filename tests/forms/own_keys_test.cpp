@@ -42,6 +42,7 @@ TEST(ComboKeys, DoNothingAtTheEnds) {
 
 TEST(ComboKeys, PassOverAPageAndStopAtTheEnds) {
   ChoiceForm form;
+  EXPECT_EQ(form.AfterKey(0, key::PageDown), 8);
   EXPECT_EQ(form.AfterKey(3, key::PageDown), 11);
   EXPECT_EQ(form.AfterKey(15, key::PageDown), 19);
   EXPECT_EQ(form.AfterKey(11, key::PageUp), 3);
