@@ -137,6 +137,15 @@ TEST(Capture, TheOptionAddsTheLowLevelHook) {
   });
 }
 
+TEST(Capture, StoppingRemovesTheOneHookThatIsInstalled) {
+  ScanCodeSession session;
+  session.InConfigurationDialog([&](StandInConfigurationDialog&) {
+    SetDirectInput(True, 0);
+    session.platform.faults.Arm(Fault::Unhook, 2);
+    EXPECT_NE(SetDirectInput(False, 0), 0);
+  });
+}
+
 TEST(Capture, StoppingGivesTheGridTheFocusAndTheHelpFileBack) {
   ScanCodeSession session;
   session.surroundings.Settings().BasePath("C:");
@@ -191,6 +200,7 @@ TEST(Capture, AHookThatCannotBeInstalledLeavesCaptureOffThoughTheLowLevelOneIsIn
     EXPECT_EQ(SetDirectInput(True, 0), 0);
     EXPECT_EQ(Module().lngKeyboardHook, 0);
     EXPECT_NE(Module().lngLowLevelHook, 0);
+    EXPECT_EQ(Module().installedHooks, std::vector<std::int32_t>{Module().lngLowLevelHook});
     EXPECT_EQ(Module().HelpFile, "help");
     EXPECT_FALSE(dialog.cmdFocusCatcher.TabStop());
     EXPECT_TRUE(session.host.Events().empty());
@@ -284,6 +294,28 @@ TEST(Capture, ParkingWithoutAnOpenDialogEndsQuietly) {
     Module().lngInputTarget = target;
     EXPECT_NO_THROW(ParkInputFocus());
   }
+}
+
+TEST(Capture, AbandoningWhenItIsOffTellsNobody) {
+  ScanCodeSession session;
+  Module().HelpFile = "help";
+  AbandonCapture();
+  EXPECT_EQ(Module().HelpFile, "help");
+  EXPECT_TRUE(session.host.Events().empty());
+}
+
+TEST(Capture, DroppingForgetsTheKeysThatAreHeld) {
+  ScanCodeSession session;
+  session.InConfigurationDialog([&](StandInConfigurationDialog&) {
+    SetDirectInput(True, 0);
+    Module().bDirectInputActive = True;
+    TrackKeyEvent(0x41, 1, 0x1E, 0);
+    ASSERT_EQ(Module().lngPressedKeyCount, 1);
+    DropCapture();
+    EXPECT_EQ(Module().bDirectInputActive, False);
+    EXPECT_EQ(Module().lngPressedKeyCount, 0);
+    EXPECT_EQ(Module().lngPressedKeys[0], ModuleState::KeySlot{});
+  });
 }
 
 TEST(Capture, WhenNoHookCanBeRemovedTheFirstFailureIsToldAndAllAreTriedAgain) {

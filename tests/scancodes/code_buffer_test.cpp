@@ -57,6 +57,16 @@ TEST(CodeBuffer, AnEmptyBreakSequenceWritesTheMakeCodesAndOneMark) {
   EXPECT_EQ(Used(With({0xE1, 0x14}, {}, MakeAndBreak)), "FF E1 14 FF");
 }
 
+TEST(CodeBuffer, ABreakSequenceOfNoCodesIsNotLookedAt) {
+  Buffer buffer = InitialBuffer();
+  AppendCodeGroup(buffer, {{}, OfLength(0, {0xFF})}, BreakOnly, 0);
+  EXPECT_EQ(Used(buffer), Used(With({}, {}, BreakOnly)));
+}
+
+TEST(CodeBuffer, AMarkAheadOfTheBreakCodesIsARangeOfItsOwn) {
+  EXPECT_EQ(Used(With({}, {0xFF, 0xB0}, BreakOnly)), "FF FF B0 00 FF");
+}
+
 TEST(CodeBuffer, AnEmptyGroupIsAMarkAlone) {
   EXPECT_EQ(Used(With({}, {}, MakeAndBreak)), "FF FF");
   EXPECT_EQ(Used(With({}, {}, MakeOnly)), "FF FF");
@@ -115,7 +125,13 @@ TEST(CodeBuffer, AByteAboveTheLastIndexFailsAndWhatWasWrittenStays) {
 TEST(CodeBuffer, ACodeThatIsNoByteFails) {
   for (const int code : {256, -1, 511}) {
     Buffer buffer = InitialBuffer();
-    EXPECT_EQ(KindOf([&] { Append(buffer, {0x1C, code}, {}, MakeOnly); }), FailureKind::Overflow);
+    try {
+      Append(buffer, {0x1C, code}, {}, MakeOnly);
+      ADD_FAILURE() << "nothing failed";
+    } catch (const Failure& failure) {
+      EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
+      EXPECT_EQ(failure.what(), std::to_string(code) + " is no byte");
+    }
     EXPECT_EQ(buffer.Value[1], 0x1C);
   }
 }
@@ -158,7 +174,13 @@ TEST(CodeBuffer, ABrokenNextValueFailsInsteadOfWritingElsewhere) {
   }
   Buffer buffer = InitialBuffer();
   buffer.NextValue = std::numeric_limits<std::int32_t>::max();
-  EXPECT_EQ(KindOf([&] { Append(buffer, {0x1C}, {}, MakeOnly); }), FailureKind::Overflow);
+  try {
+    Append(buffer, {0x1C}, {}, MakeOnly);
+    ADD_FAILURE() << "nothing failed";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
+    EXPECT_STREQ(failure.what(), "NextValue cannot be raised");
+  }
 }
 
 TEST(CodeBuffer, CodeTypeThreeIsTakenFromTheDialog) {

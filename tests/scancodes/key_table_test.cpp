@@ -139,6 +139,21 @@ TEST(KeyTable, ADownFlagOneSlotBeyondTheKeysHoldsTheCombinationOpen) {
   EXPECT_TRUE(AllKeysReleased());
 }
 
+TEST(KeyTable, AKeyOneSlotBeyondTheKeysIsFoundThereAndNotCounted) {
+  ScanCodeSession session;
+  Down(0x41);
+  Module().lngPressedKeys[1][key_field::VirtualKey] = 0x42;
+  Down(0x42, 0x30);
+  EXPECT_EQ(Count(), 1);
+  EXPECT_EQ(At(1), (Slot{0x42, 1, 0x30, 0}));
+}
+
+TEST(KeyTable, AFlagWordOfZeroIsAKeyThatGoesDown) {
+  ScanCodeSession session;
+  TrackKeyEvent(0x41, 0, 0x1E, 0);
+  EXPECT_EQ(At(0), (Slot{0x41, 1, 0x1E, 0}));
+}
+
 TEST(KeyTable, TheFalseControlAheadOfAltGrIsRemoved) {
   ScanCodeSession session;
   Down(0x41, 0x1E, 0);
@@ -151,6 +166,15 @@ TEST(KeyTable, TheFalseControlAheadOfAltGrIsRemoved) {
   EXPECT_EQ(At(1), (Slot{0x12, 1, 0x38, 1}));
   EXPECT_EQ(At(2)[0], 0x42);
   EXPECT_EQ(At(3), Slot{});
+}
+
+TEST(KeyTable, TheFalseControlIsRemovedThoughAltGrIsOneSlotBeyondTheKeys) {
+  ScanCodeSession session;
+  Down(0x11, 0x1D, 0);
+  Module().lngPressedKeys[1] = {0x12, 1, 0x38, 1};
+  RemoveAltGrControl();
+  EXPECT_EQ(Count(), 0);
+  EXPECT_EQ(At(0), (Slot{0x12, 1, 0x38, 1}));
 }
 
 TEST(KeyTable, AControlThatIsNotDirectlyAheadOfAltGrStays) {

@@ -307,6 +307,9 @@ TEST(KeyboardHook, OnlyCodeZeroIsHandled) {
   EXPECT_EQ(KeyboardHookProc(-1, 0x41, 0x001E0001), 0);
   EXPECT_EQ(Module().lngPressedKeyCount, 0);
   EXPECT_EQ(session.platform.Hooks().NextCalls(), 1);
+  EXPECT_EQ(KeyboardHookProc(0, 0x41, 0x001E0001), 0);
+  EXPECT_EQ(Module().lngPressedKeyCount, 1);
+  EXPECT_EQ(session.platform.Hooks().NextCalls(), 1);
 }
 
 /// Hooks that keep the arguments of the last call onward and answer 77.
@@ -332,6 +335,13 @@ TEST(KeyboardHook, ANegativeCodeGoesOnWithHookTwoAndTheAddressOfTheFlagWord) {
   EXPECT_EQ(KeyboardHookProc(-3, 0x41, 0x001E0001), 77);
   EXPECT_EQ(platform.table.call, (std::vector<std::int32_t>{2, -3, 0x41}));
   EXPECT_EQ(platform.table.flags, 0x001E0001);
+}
+
+TEST(LowLevelHook, OtherCodesGoOnWithoutAHandle) {
+  RecordingHooks platform;
+  const PlatformInForce use(platform);
+  EXPECT_EQ(LowLevelKeyboardProc(3, 0x100, 0), 77);
+  EXPECT_EQ(platform.table.call, (std::vector<std::int32_t>{0, 3, 0x100}));
 }
 
 TEST(LowLevelHook, SwallowedKeysNeverReachTheCapture) {

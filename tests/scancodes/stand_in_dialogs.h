@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "forms/form.h"
 #include "scancodes/dialog_access.h"
@@ -16,7 +17,10 @@ class StandInConfigurationDialog : public Form, public ConfigurationDialogAccess
     cmdFocusCatcher.TabStop(false);
   }
   Grid& ScanCodeGrid() override { return msgScanCodes; }
-  OptionButton& CodeTypeOption(int index) override { return optCodeType.at(static_cast<std::size_t>(index)); }
+  OptionButton& CodeTypeOption(int index) override {
+    if (onCodeTypeAsked) onCodeTypeAsked();
+    return optCodeType.at(static_cast<std::size_t>(index));
+  }
   CommandButton& FocusCatcher() override { return cmdFocusCatcher; }
   TextBox& NotesBox() override { return txtButtonNotes; }
   ComboBox& LedTypeBox(int index) override { return cmbLEDTypes.at(static_cast<std::size_t>(index)); }
@@ -30,6 +34,8 @@ class StandInConfigurationDialog : public Form, public ConfigurationDialogAccess
   TextBox txtButtonNotes{*this, "txtButtonNotes"};
   std::array<ComboBox, 4> cmbLEDTypes{ComboBox{*this, "cmbLEDTypes", 0}, ComboBox{*this, "cmbLEDTypes", 1},
                                       ComboBox{*this, "cmbLEDTypes", 2}, ComboBox{*this, "cmbLEDTypes", 3}};
+  /// Runs when the chosen code type is looked at.
+  std::function<void()> onCodeTypeAsked;
 };
 
 /// The same of the first wizard page.
