@@ -261,6 +261,21 @@ TEST_F(CaptureMode, EndingCaptureSilentlyHandlesWaitingEventsOnce) {
   });
 }
 
+TEST_F(CaptureMode, RestoringTheDefinitionEndsCaptureAheadOfTheElement) {
+  Open([this](frmConfigurationDialog& dialog, Hand& hand) {
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    element->PressKeyDefLayer1("[new]");
+    std::string text = "not ended";
+    host.onEvent = [&](const HostEvent& event) {
+      if (event.name == "DirectInputStatusChanged") text = element->PressKeyDefLayer1();
+    };
+    dialog.RestoreDefinition();
+    host.onEvent = nullptr;
+    EXPECT_EQ(text, "[new]");
+    EXPECT_EQ(element->PressKeyDefLayer1(), "");
+  });
+}
+
 TEST_F(CaptureMode, TabClickEndsCaptureAndTakesTheColourAway) {
   Open([this](frmConfigurationDialog& dialog, Hand& hand) {
     hand.DblClick(dialog.msgScanCodes, 1, 1);
@@ -272,8 +287,9 @@ TEST_F(CaptureMode, TabClickEndsCaptureAndTakesTheColourAway) {
   });
 }
 
-TEST_F(CaptureMode, DoubleClickOnTheTabStripEndsCapture) {
+TEST_F(CaptureMode, DoubleClickOnTheTabStripEndsCaptureByItself) {
   Open([this](frmConfigurationDialog& dialog, Hand& hand) {
+    dialog.sstScanCode.OnClick = nullptr;
     hand.DblClick(dialog.msgScanCodes, 1, 1);
     hand.DblClickTab(dialog.sstScanCode, 0);
     EXPECT_FALSE(Capturing());
@@ -296,8 +312,11 @@ TEST_F(CaptureMode, AfterATabClickThatEndedCaptureEscapeDoesNothingUntilCaptureW
   });
 }
 
-TEST_F(CaptureMode, FocusCatcherLiesOnTheCornerOfTheGridOutOfTheTabOrder) {
+TEST_F(CaptureMode, FocusCatcherIsPutOnTheCornerOfTheGridOutOfTheTabOrder) {
   Open([](frmConfigurationDialog& dialog, Hand&) {
+    dialog.cmdFocusCatcher.Place(1, 1, 15, 15);
+    dialog.cmdFocusCatcher.TabStop(true);
+    dialog.OnLoad();
     EXPECT_EQ(dialog.cmdFocusCatcher.Left(), dialog.msgScanCodes.Left());
     EXPECT_EQ(dialog.cmdFocusCatcher.Top(), dialog.msgScanCodes.Top());
     EXPECT_FALSE(dialog.cmdFocusCatcher.TabStop());

@@ -146,6 +146,19 @@ TEST_F(ConfigurationDialogClosing, CloseBoxDuringCaptureEndsItFirstAndThenRestor
   EXPECT_NE(restored, heard.end());
 }
 
+TEST_F(ConfigurationDialogClosing, UnloadingByCodeDuringCaptureEndsItWhileTheDialogIsShown) {
+  Open([this](frmConfigurationDialog& dialog, Hand& hand) {
+    hand.DblClick(dialog.msgScanCodes, 1, 1);
+    bool shownThen = false;
+    host.onEvent = [&](const HostEvent& event) {
+      if (event.name == "DirectInputStatusChanged") shownThen = dialog.IsShown();
+    };
+    dialog.Unload();
+    host.onEvent = nullptr;
+    EXPECT_TRUE(shownThen);
+  });
+}
+
 TEST_F(ConfigurationDialogClosing, UnloadingByCodeRestoresNothing) {
   Open([this](frmConfigurationDialog& dialog, Hand&) {
     Buffer(1, 1, Codes({0xFF, 0x1C, 0xFF}));

@@ -118,7 +118,13 @@ TEST_F(ConfigurationDialogDesign, NoteTakesAThousandCharactersInSeveralLines) {
 
 TEST_F(ConfigurationDialogDesign, MembersOutsideAControlArrayAreAnIndexFailure) {
   frmConfigurationDialog dialog;
-  EXPECT_THROW(dialog.LedTypeBox(4), Failure);
+  try {
+    dialog.LedTypeBox(4);
+    ADD_FAILURE() << "no failure";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Kind(), FailureKind::Index);
+    EXPECT_STREQ(failure.what(), "a control array has no member 4");
+  }
   EXPECT_THROW(dialog.LedTypeBox(-1), Failure);
   EXPECT_THROW(dialog.CodeTypeOption(3), Failure);
 }

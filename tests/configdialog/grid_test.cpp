@@ -172,6 +172,15 @@ TEST_F(ScanCodeGrid, NoScanCodeIsDefinedInAnEmptyGrid) {
   Open([](frmConfigurationDialog& dialog, Hand&) { EXPECT_FALSE(dialog.AnyScanCodeDefined()); });
 }
 
+TEST_F(ScanCodeGrid, NoScanCodeIsDefinedWhenLookingForOneFails) {
+  element->PressKeyDefLayer1("[a" + Both + "]");
+  Open([](frmConfigurationDialog& dialog, Hand&) {
+    dialog.msgScanCodes.OnEnterCell = [] { throw Failure(FailureKind::Platform, "no cell"); };
+    EXPECT_FALSE(dialog.AnyScanCodeDefined());
+    dialog.msgScanCodes.OnEnterCell = nullptr;
+  });
+}
+
 TEST_F(ScanCodeGrid, OneTextAnywhereIsADefinedScanCodeAndTheLastCellIsLeftCurrent) {
   element->PressKeyDefLayer1("[a" + Both + "]");
   Open([](frmConfigurationDialog& dialog, Hand&) {

@@ -37,6 +37,16 @@ INSTANTIATE_TEST_SUITE_P(Kinds, ConfigurationDialogOfType,
                                            TypeCase{enumTactisBaseElementType{}, "", true, true, 0},
                                            TypeCase{static_cast<enumTactisBaseElementType>(7), "", true, true, 0}));
 
+TEST_P(ConfigurationDialogOfType, BringsTheFrontPageToTheFrontOnceMore) {
+  const TypeCase expected = GetParam();
+  OpenFor(expected.type, [&](frmConfigurationDialog& dialog, Hand&) {
+    dialog.sstScanCode.Tab(2);
+    dialog.OnLoad();
+    const bool known = !expected.caption.empty();
+    EXPECT_EQ(dialog.sstScanCode.Tab(), known ? expected.front : 2);
+  });
+}
+
 TEST_F(ConfigurationDialogLoading, KeyElementLeavesCaptionPagesAndContentsAsDesigned) {
   element->ElementType(Key);
   element->PressKeyDefLayer1("[a" + Both + "]");
@@ -133,9 +143,11 @@ TEST_F(ConfigurationDialogLoading, OpensAtItsRememberedPlace) {
   });
 }
 
-TEST_F(ConfigurationDialogLoading, LoadingThePositionAloneLeavesTheHeightAt3810) {
+TEST_F(ConfigurationDialogLoading, LoadingThePositionAloneMakesItAsWideAsDesignedAnd3810High) {
   Open([](frmConfigurationDialog& dialog, Hand&) {
+    dialog.Width(5000);
     dialog.LoadDialogPosition();
+    EXPECT_EQ(dialog.Width(), 9345.0F);
     EXPECT_EQ(dialog.Height(), 3810.0F);
   });
 }
