@@ -94,6 +94,15 @@ TEST(AsciiCharacterTable, AClickChoosesTheCodeOfTheCell) {
   });
 }
 
+TEST(AsciiCharacterTable, ShowingTheBigCharacterBringsTheFocusToTheGrid) {
+  Session session;
+  session.Open([](frmASCIICharacterTable& table, Hand&) {
+    table.cmdOK.SetFocus();
+    table.ShowBigCharacter();
+    EXPECT_TRUE(table.msgASCIICodes.HasFocus());
+  });
+}
+
 TEST(AsciiCharacterTable, TheBigCharacterLiesCentredOverItsCell) {
   Session session;
   session.Open([](frmASCIICharacterTable& table, Hand& hand) {

@@ -201,6 +201,7 @@ TEST(SpecialIPCKey, AddingToAllLayersWorksOnTheCurrentColumnAndKeepsTheRow) {
     frmSpecialIPCKey special;
     dialog.msgScanCodes.Current(3, 2);
     dialog.msgScanCodes.Text("[b]");
+    dialog.msgScanCodes.OnEnterCell = [&] { EXPECT_FALSE(dialog.msgScanCodes.Enabled()); };
     special.AddToAllLayers("a[");
     const std::string group = "[a[" + M + B + "]";
     EXPECT_EQ(dialog.CellText(1, 2), group);
@@ -218,7 +219,14 @@ TEST(SpecialIPCKey, StoringInAllLayersStoresTheGroupFourTimes) {
   session.InConfigurationDialog([&](StandInConfigurationDialog& dialog) {
     frmSpecialIPCKey special;
     dialog.msgScanCodes.Current(2, 1);
+    int events = 0;
+    session.host.onEvent = [&](const HostEvent&) {
+      ++events;
+      EXPECT_FALSE(dialog.msgScanCodes.Enabled());
+    };
     EXPECT_EQ(special.StoreInAllLayers({Sequence({0xF1}), {}}), 0);
+    session.host.onEvent = nullptr;
+    EXPECT_GT(events, 0);
     EXPECT_EQ(dialog.msgScanCodes.Row(), 2);
     EXPECT_TRUE(dialog.msgScanCodes.Enabled());
   });

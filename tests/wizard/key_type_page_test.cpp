@@ -29,6 +29,29 @@ TEST(WizardKeyTypePage, ATargetSystemWithoutFunctionsLeavesTheListEmptyAndDisabl
   });
 }
 
+TEST(WizardKeyTypePage, LoadingDisablesAnEmptyListAndItsOptionThoughTheyWereEnabled) {
+  WizardSession session(Oval);
+  Look(session, [&] {
+    session.Get<Control>("cmdSpecialIPCFunction").Enabled(true);
+    session.Get<Control>("optKeyType(2)").Enabled(true);
+    session.Top().OnLoad();
+    EXPECT_FALSE(Enabled(session, "cmdSpecialIPCFunction"));
+    EXPECT_FALSE(Enabled(session, "optKeyType(2)"));
+  });
+}
+
+TEST(WizardKeyTypePage, LoadingTakesTheKeyForUntouched) {
+  WizardSession session(Oval);
+  session.Click("optKeyType(3)");
+  session.Then([&] {
+    session.GiveTexts("[a‹]", "[a›]");
+    session.Top().OnLoad();
+  });
+  session.Click("cmdForward").Click("cmdOK");
+  session.Open();
+  EXPECT_EQ(session.element->PressKeyDefLayer1(), "[a‹]");
+}
+
 TEST(WizardKeyTypePage, TheListHoldsFiveFunctionsInItsOwnOrderAndShowsTheFirst) {
   WizardSession session(Oval);
   for (int query = 0; query < CapabilityCount; ++query) session.Grant(static_cast<Capability>(query));
@@ -174,7 +197,10 @@ TEST(WizardKeyTypePage, LoadingTakesTheStoredPlaceTheOsFamilyTheHelpFileAndTheTo
 TEST(WizardKeyTypePage, TheFocusCatcherIsFiveTwipsAtThePlaceOfCancelAndNoTabStop) {
   WizardSession session(Oval);
   Look(session, [&] {
-    const auto& catcher = session.Get<CommandButton>("cmdFocusCatcher");
+    auto& catcher = session.Get<CommandButton>("cmdFocusCatcher");
+    catcher.Place(1, 2, 3, 4);
+    catcher.TabStop(true);
+    session.Top().OnLoad();
     const auto& cancel = session.Get<CommandButton>("cmdCancel");
     EXPECT_EQ(catcher.Left(), cancel.Left());
     EXPECT_EQ(catcher.Top(), cancel.Top());

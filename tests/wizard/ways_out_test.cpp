@@ -1,4 +1,5 @@
 #include "services/dialogs.h"
+#include "wizard/frmButtonWizardPage1.h"
 #include "wizard/wizard_session.h"
 
 namespace plexel {
@@ -97,6 +98,23 @@ TEST(WizardWaysOut, CancelOnPage1EndsCaptureRestoresAndStoresThePosition) {
   CaptureOnPage1(way);
   ExpectFirstPageCancelled(way.Leave(page1, [&] { way.Click("cmdCancel"); }));
   EXPECT_EQ(Module().lngKeyboardHook, 0);
+}
+
+TEST(WizardWaysOut, RestoringOnPage1EndsCaptureAheadOfTheElement) {
+  WayOut way(OvalLed);
+  CaptureOnPage1(way);
+  way.Leave(page1, [&] {
+    std::string text = "not ended";
+    way.Session().host.onEvent = [&](const HostEvent& event) {
+      if (event.name == "DirectInputStatusChanged") text = way.Session().element->PressKeyDefLayer1();
+    };
+    Module().bWizardPageChanging = True;
+    dynamic_cast<frmButtonWizardPage1&>(way.Session().Top()).RestoreDefinition();
+    way.Session().host.onEvent = nullptr;
+    EXPECT_EQ(text, "");
+    EXPECT_EQ(Module().bWizardPageChanging, False);
+    way.Close();
+  });
 }
 
 TEST(WizardWaysOut, EscapeOnPage1WithKeyPreviewIsCancel) {
