@@ -31,6 +31,18 @@ TEST(Component, WithoutItNoElementCanBeMade) { static_assert(!MakesItself<ctlPle
 
 TEST(Component, TheFaceOfAnElementHasWhatAHostNeedsAndNoMore) { static_assert(!ShowsItsInside<ctlPlexelBaseElement>); }
 
+/// What a failure tells that an object is missing; "" when the act succeeds.
+template <typename Act>
+std::string FailureOf(Act act) {
+  try {
+    act();
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Kind(), FailureKind::ObjectNotSet);
+    return failure.what();
+  }
+  return "";
+}
+
 /// A host that answers the one question and hears nothing.
 class DeafHost : public ElementHost {
   Boolean CheckIfLedIsAlreadyDefined(std::int32_t&, std::int32_t&) override { return true; }
@@ -73,10 +85,22 @@ TEST_F(ComponentEnds, AHostMayHearNothing) {
   EXPECT_EQ(element->WizardOptions(), ManuallyDefined);
 }
 
+TEST_F(ComponentEnds, ANewOneFindsNothingOfWhatWasBefore) {
+  component.reset();
+  Module().HelpFile = "before";
+  component.emplace(platform, surroundings);
+  EXPECT_EQ(Module().HelpFile, "");
+}
+
 TEST_F(ComponentEnds, ASecondOneAtTheSameTimeIsRefusedAndTheFirstGoesOn) {
   HeadlessPlatform other;
   HeadlessSurroundings services{other};
-  EXPECT_THROW(Component(other, services), std::logic_error);
+  try {
+    const Component second(other, services);
+    ADD_FAILURE() << "a second one was made";
+  } catch (const std::logic_error& error) {
+    EXPECT_STREQ(error.what(), "there is a component already, and a process has one at a time");
+  }
   EXPECT_EQ(&Platform::Current(), &platform);
   EXPECT_EQ(&Surroundings::Current(), &surroundings);
   const auto element = component->Create("A", host);
@@ -171,8 +195,8 @@ TEST_F(ComponentEnds, AnElementThatOutlivesItFailsWhereItNeedsMoreThanItself) {
   component.reset();
   EXPECT_THROW(element->SizeX(20), Failure);
   EXPECT_EQ(element->SizeX(), 20);
-  EXPECT_THROW(element->OpenConfigurationDialog(), Failure);
-  EXPECT_THROW(element->CheckIfLedIsAlreadyDefined(RunLed, 1), Failure);
+  EXPECT_EQ(FailureOf([&] { element->OpenConfigurationDialog(); }), "the element's component has ended");
+  EXPECT_EQ(FailureOf([&] { element->CheckIfLedIsAlreadyDefined(RunLed, 1); }), "the element has no container");
 }
 
 TEST_F(ComponentEnds, AnElementThatOutlivesItIsNoneOfTheNextOnes) {

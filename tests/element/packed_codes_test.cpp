@@ -43,6 +43,24 @@ TEST(PackedCodes, OfANewElementAreEndMarksInTheFirst45Bytes) {
 
 TEST(PackedCodes, ZeroedBuffersStayZero) { EXPECT_EQ(KeptAndHanded(Info{}), Info{}); }
 
+TEST(PackedCodes, ASingleByteIsKeptAtEachPlace) {
+  Info record;
+  for (std::size_t place = 0; place < record.strLayer1PressScanCode.Value.size(); ++place) {
+    record.strLayer1PressScanCode.Value[place] = 1;
+    EXPECT_EQ(KeptAndHanded(record), record) << place;
+    record.strLayer1PressScanCode.Value[place] = 0;
+  }
+}
+
+TEST(PackedCodes, OfAZeroedBufferAreNoBytes) {
+  PackedCodes zeroed, one;
+  Info record;
+  PackCodes(record, zeroed);
+  record.strLayer1PressScanCode.Value[0] = 0x1C;
+  PackCodes(record, one);
+  EXPECT_EQ(one.size(), zeroed.size() + 1);
+}
+
 TEST(PackedCodes, OneTouchedBufferLeavesTheOthersAsTheyWere) {
   Info record = Handed(PackedCodes());
   record.strLayer3ReleaseScanCode = {{0xFF, 0xF0, 0x1C, 0xFF}, 3};

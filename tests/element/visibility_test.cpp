@@ -250,6 +250,15 @@ TEST_F(DefinedMarker, AKeyWithoutLedIsDefinedByItsTextsOnly) {
   EXPECT_TRUE(Defined(Rect));
 }
 
+TEST_F(DefinedMarker, TheLedFunctionOfEachLayerDefinesAlone) {
+  for (std::int32_t layer = 1; layer <= LayerCount; ++layer) {
+    element->LEDTypeLayer(layer, RunLed);
+    EXPECT_TRUE(Defined(Led)) << layer;
+    element->LEDTypeLayer(layer, LedNotEnabled);
+    EXPECT_FALSE(Defined(Led)) << layer;
+  }
+}
+
 TEST_F(DefinedMarker, AKeyWithLedIsDefinedByEither) {
   EXPECT_FALSE(Defined(OvalLed));
   EXPECT_FALSE(Defined(RectLed));

@@ -36,6 +36,7 @@ TEST(Conversion, ASignIsRead) {
 
 TEST(Conversion, AFractionMayLackDigitsOnOneSideOfThePoint) {
   EXPECT_EQ(TextToNumber(".25"), 0.25);
+  EXPECT_EQ(TextToNumber(".5"), 0.5);
   EXPECT_EQ(TextToNumber("3."), 3.0);
 }
 
@@ -59,8 +60,8 @@ TEST(Conversion, TiesAreRoundedToTheEvenNumber) {
 }
 
 TEST(Conversion, WhatIsNoNumberIsAConversionFailure) {
-  for (const char* text : {"",    " ",     "abc",  "1a", "1 2", "--1",   "+-1",  "-",    ".",   "e5",  "1e",
-                           "1e+", "1.2.3", "0x10", "&H", "&HG", "&H12G", "&Hzz", "&H-1", "nan", "inf", "1,5"}) {
+  for (const char* text : {"",   " ",   "abc",   "1a",   "1:", "1/",  "1 2",   "--1",  "+-1",  "-",   ".",   "e5",
+                           "1e", "1e+", "1.2.3", "0x10", "&H", "&HG", "&H12G", "&Hzz", "&H-1", "nan", "inf", "1,5"}) {
     EXPECT_EQ(KindOf([&] { TextToNumber(text); }), FailureKind::Conversion) << text;
   }
 }

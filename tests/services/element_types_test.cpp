@@ -126,6 +126,7 @@ TEST(ModuleState, WithoutACurrentElementAskingForItFails) {
     ADD_FAILURE() << "no failure";
   } catch (const Failure& failure) {
     EXPECT_EQ(failure.Kind(), FailureKind::ObjectNotSet);
+    EXPECT_STREQ(failure.what(), "there is no current element");
   }
 }
 

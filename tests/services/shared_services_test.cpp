@@ -76,6 +76,14 @@ TEST_F(SharedServices, TextBehindTheNumberIsReplacedWithTheMarker) {
   }
 }
 
+TEST_F(SharedServices, TheFirstTextIsNumberNought) {
+  surroundings.Language().Set(0, "nought");
+  SampleForm form;
+  form.cmdOK.Caption("@0");
+  TranslateForm(form, "@");
+  EXPECT_EQ(form.cmdOK.Caption(), "nought");
+}
+
 TEST_F(SharedServices, ATextThatDoesNotBeginWithThePrefixAndANumberStays) {
   surroundings.Language().Set(1, "one");
   for (const std::string caption : {"", "@", "1", "@a1", "@ 1", "@-1", " @1", "@99999999999", "#1"}) {
@@ -340,6 +348,7 @@ TEST(Surroundings, WithoutAnyAskingFails) {
     ADD_FAILURE() << "no failure";
   } catch (const Failure& failure) {
     EXPECT_EQ(failure.Kind(), FailureKind::ObjectNotSet);
+    EXPECT_STREQ(failure.what(), "no surroundings are in force");
   }
 }
 
