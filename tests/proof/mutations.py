@@ -105,7 +105,7 @@ class Finder:
                     first = index + 1
             elif part.text == ";" and not isinstance(part, Group):
                 core = self.branches(parts[first:index])
-                if core and can_be_dropped(core, self.source):
+                if core and can_be_dropped(core, self.source) and not ends_switch(parts, first, index):
                     self.add("statement", core[0].start, core[-1].end, "")
                 first = index + 1
 
@@ -197,6 +197,23 @@ def assigns(parts):
 def is_pure(equals, source):
     return re.search(r"[)\w]\s*$", source[:equals.start]) is not None and re.match(r"=\s*0\s*;", source[equals.start:]) and \
         re.search(r"(\)|const|noexcept|override)\s*$", source[:equals.start]) is not None
+
+
+def ends_switch(parts, first, index):
+    """Whether the statement from first to index is a `break` behind which, in its switch, nothing stands but others. It goes where the
+    way leads anyhow."""
+    words = [part.text for part in parts]
+    if words[index - 1] != "break" or not {"case", "default"}.intersection(words) or {"while", "for", "do"}.intersection(words[first:index]):
+        return False
+    rest = words[index + 1:]
+    while rest:
+        if rest[0] in ("case", "default") and ":" in rest:
+            rest = rest[rest.index(":") + 1:]
+        elif rest[:2] == ["break", ";"]:
+            rest = rest[2:]
+        else:
+            return False
+    return True
 
 
 def can_be_dropped(core, source):

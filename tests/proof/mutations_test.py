@@ -85,8 +85,20 @@ class Changes(unittest.TestCase):
 
     def test_statements_behind_conditions_are_dropped_alone(self):
         self.assertEqual(changes(body("if (a) b(); else c();"), "statement"), [body("if (a) ; else c();"), body("if (a) b(); else ;")])
+        self.assertEqual(changes(body("switch (a) { case b: break; default: c(); }"), "statement"),
+                         [body("switch (a) { case b: ; default: c(); }"), body("switch (a) { case b: break; default: ; }")])
+
+    def test_the_last_break_of_a_switch_is_kept(self):
         self.assertEqual(changes(body("switch (a) { case b: c(); break; }"), "statement"),
-                         [body("switch (a) { case b: ; break; }"), body("switch (a) { case b: c(); ; }")])
+                         [body("switch (a) { case b: ; break; }")])
+        self.assertEqual(changes(body("switch (a) { case b: c(); break; case d: default: break; }"), "statement"),
+                         [body("switch (a) { case b: ; break; case d: default: break; }")])
+        self.assertEqual(changes(body("switch (a) { case b: break; default: return c; }"), "statement"),
+                         [body("switch (a) { case b: ; default: return c; }")])
+        self.assertEqual(changes(body("switch (a) { case b: while (c()) break; }"), "statement"),
+                         [body("switch (a) { case b: while (c()) ; }")])
+        self.assertEqual(changes(body("for (;;) { c(); break; }"), "statement"),
+                         [body("for (;;) { ; break; }"), body("for (;;) { c(); ; }")])
         self.assertEqual(changes(body("for (A& a : b) c(a);"), "statement"), [body("for (A& a : b) ;")])
 
     def test_statements_in_lambdas_are_dropped_alone_and_with_them(self):
