@@ -35,6 +35,13 @@ TEST_F(NewElementSurface, IsFilledByBothShapes) {
   ExpectShape(Shown().shpRect, 0, 0, 495, 495);
 }
 
+TEST_F(NewElementSurface, KeepsTheShapesOfTheDesignOnAScreenWithoutAFiniteMeasure) {
+  platform.TheScreen().TwipsPerPixel(HUGE_VALF, 15);
+  const auto broken = component.Create("Broken", host);
+  ExpectShape(broken->SurfaceObjects().shpOval, 2280, 120, 495, 495);
+  ExpectShape(broken->SurfaceObjects().shpRect, 1680, 120, 495, 495);
+}
+
 TEST_F(NewElementSurface, HasTheLinesOfTheDesign) {
   ExpectLine(Shown().linX1, 1080, 120, 1080, 600);
   ExpectLine(Shown().linX2, 840, 120, 840, 600);

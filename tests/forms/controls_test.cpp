@@ -148,6 +148,55 @@ TEST(ComboBox, SortsWithoutCaseAndAccentFirst) {
   EXPECT_EQ(box.Items(), (Strings{"apfel", "Ärger", "b", "Strand", "Straße", "strasse", "Zebra", "zebra"}));
 }
 
+TEST(Controls, AreEnabledVisibleAndEmptyUntilTheirDesignTellsOtherwise) {
+  TestForm form;
+  const TextBox text(form, "txtA");
+  EXPECT_EQ(std::vector<float>({text.Left(), text.Top(), text.Width(), text.Height()}), std::vector<float>(4, 0));
+  EXPECT_TRUE(text.Enabled() && text.Visible() && text.TabStop());
+  EXPECT_FALSE(text.Locked() || text.MultiLine());
+  EXPECT_EQ(text.HelpContextID(), 0);
+  EXPECT_EQ(text.MaxLength(), 0);
+  EXPECT_EQ(text.SelStart(), 0);
+  EXPECT_EQ(text.BackColor(), 0xFFFFFF);
+  EXPECT_EQ(text.ForeColor(), 0);
+  EXPECT_EQ(text.FontSize(), 0);
+  const ComboBox combo(form, "cmbA");
+  EXPECT_FALSE(combo.Sorted());
+  EXPECT_EQ(combo.ListIndex(), -1);
+  EXPECT_FALSE(OptionButton(form, "optA").Value());
+  EXPECT_FALSE(CommandButton(form, "cmdA").ParksFocus());
+  EXPECT_FALSE(PictureBox(form, "imgA").Stretch());
+  EXPECT_TRUE(Frame(form, "fraA").Border());
+  const TabStrip strip(form, "sstA", 2);
+  EXPECT_EQ(strip.Tab(), 0);
+  EXPECT_TRUE(strip.TabEnabled(0) && strip.TabEnabled(1));
+  const Grid grid(form, "msgA", 2, 2, 1, 1);
+  EXPECT_EQ(grid.RowHeight(), 255);
+  EXPECT_EQ(grid.Refreshes(), 0);
+  EXPECT_TRUE(grid.Redraw());
+  EXPECT_FALSE(grid.UserResizing() || grid.ShowsEnd());
+  const GridCell& cell = grid.CellAt(1, 1);
+  EXPECT_EQ(cell.foreColor, 0);
+  EXPECT_EQ(cell.backColor, 0xFFFFFF);
+  EXPECT_FALSE(cell.centred);
+}
+
+TEST(Controls, OutsideAnArrayHaveTheIndexMinusOne) {
+  TestForm form;
+  const CommandButton command(form, "cmdA");
+  const OptionButton option(form, "optA");
+  const ComboBox combo(form, "cmbA");
+  const TextBox text(form, "txtA");
+  const Label label(form, "labA");
+  const PictureBox picture(form, "imgA");
+  const Frame frame(form, "fraA");
+  const TabStrip strip(form, "sstA", 1);
+  for (const Control* control :
+       std::initializer_list<const Control*>{&command, &option, &combo, &text, &label, &picture, &frame, &strip}) {
+    EXPECT_EQ(control->Index(), -1) << control->FullName();
+  }
+}
+
 TEST(ComboBox, SortsAnEntryBehindItsLike) {
   TestForm form;
   ComboBox box(form, "cmbA");

@@ -41,6 +41,15 @@ struct PagesForm : TestForm {
   }
 };
 
+TEST(Keys, HaveTheNumbersThatTheSystemSends) {
+  const std::vector<std::int16_t> numbers = {
+      key::Back,     key::Tab, key::Return, key::Shift,    key::Control,    key::Escape, key::Space, key::PageUp,
+      key::PageDown, key::End, key::Home,   key::Left,     key::Up,         key::Right,  key::Down,  key::Delete,
+      key::F1,       key::F4,  key::F10,    key::ShiftBit, key::ControlBit, key::AltBit};
+  EXPECT_EQ(numbers, (std::vector<std::int16_t>{0x08, 0x09, 0x0D, 0x10, 0x11, 0x1B, 0x20, 0x21, 0x22, 0x23, 0x24,
+                                                0x25, 0x26, 0x27, 0x28, 0x2E, 0x70, 0x73, 0x79, 1,    2,    4}));
+}
+
 TEST(PageKeys, TurnToTheNextPageThatIsOnAsAClickOnItsTabDoes) {
   for (const std::int16_t keyCode : {key::Tab, key::PageDown}) {
     PagesForm form;

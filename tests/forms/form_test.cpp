@@ -36,6 +36,15 @@ TEST(Form, LoadsTakesTheFocusRunsAndUnloadsInThisOrder) {
   EXPECT_FALSE(form.IsShown());
 }
 
+TEST(Form, IsAnEmptyWindowUntilItsDesignTellsOtherwise) {
+  const TestForm form;
+  EXPECT_EQ(std::vector<float>({form.Left(), form.Top(), form.Width(), form.Height()}),
+            (std::vector<float>{0, 0, 4800, 3600}));
+  EXPECT_FALSE(form.KeyPreview() || form.IsShown());
+  EXPECT_EQ(form.HelpContextID(), 0);
+  EXPECT_EQ(form.Focus(), nullptr);
+}
+
 TEST(Form, RunsOverItsOwner) {
   TwoButtons form;
   const NotingPlatform noting(form);

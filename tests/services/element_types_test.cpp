@@ -119,6 +119,19 @@ TEST(ElementTypes, EveryCapabilityIsFoundByItsName) {
   EXPECT_EQ(CapabilityNamed("HasUserLED"), std::nullopt);
 }
 
+TEST(ModuleState, BeginsWithNothing) {
+  const ModuleState state;
+  for (const std::int32_t number :
+       {state.lngDialogLeft, state.lngDialogTop, state.lngOsFamily, state.lngMaxScanCodes, state.lngInputTarget,
+        state.lngKeyboardHook, state.lngLowLevelHook, state.lngPressedKeyCount}) {
+    EXPECT_EQ(number, 0);
+  }
+  EXPECT_EQ(state.intAsciiResult, 0);
+  EXPECT_EQ(state.lngPressedKeys.size(), 51U);
+  const LowLevelKey& key = state.udtLowLevelKey;
+  EXPECT_EQ(key.virtualKey | key.scanCode | key.flags | key.time | key.extraInfo, 0);
+}
+
 TEST(ModuleState, WithoutACurrentElementAskingForItFails) {
   Module() = ModuleState();
   try {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "forms/form.h"
 #include "platform/platform_in_force.h"
 #include "services/led_functions.h"
@@ -36,6 +38,25 @@ TEST_F(SharedServices, ATextComesFromTheLanguageService) {
 }
 
 TEST_F(SharedServices, ANumberWithoutATextGivesAnEmptyText) { EXPECT_EQ(GetText(100), ""); }
+
+TEST(SettingTable, HasEachSettingWithItsNumberItsDefaultAndItsBounds) {
+  using Told = std::tuple<std::string_view, bool, std::int32_t, std::int32_t, std::int32_t, std::int32_t>;
+  std::vector<Told> told;
+  for (const SettingRow& row : SettingTable) {
+    told.emplace_back(row.name, row.isSwitch, row.number, row.initial, row.low, row.high);
+  }
+  EXPECT_EQ(told, (std::vector<Told>{{"ShowCodeBalance", true, 1, 1, 0, 1},
+                                     {"UseWizard", true, 2, 0, 0, 1},
+                                     {"ShowX", true, 3, 0, 0, 1},
+                                     {"ShowXPermanent", true, 4, 0, 0, 1},
+                                     {"ShowDefined", true, 5, 1, 0, 1},
+                                     {"LockTaskKeys", true, 9, 1, 0, 1},
+                                     {"XSize", false, 0, 1, 0, 2},
+                                     {"FocusWidth", false, 1, 1, 0, 255},
+                                     {"FocusColor", false, 2, 255, 0, 0xFFFFFF},
+                                     {"CaptureColor", false, 3, 65535, 0, 0xFFFFFF},
+                                     {"DefinedColor", false, 5, 32768, 0, 0xFFFFFF}}));
+}
 
 TEST_F(SharedServices, AFailingLanguageServiceReachesTheCaller) {
   platform.faults.Turn(Fault::Language, true);
