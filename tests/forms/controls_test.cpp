@@ -163,10 +163,14 @@ TEST(Controls, AreEnabledVisibleAndEmptyUntilTheirDesignTellsOtherwise) {
   const ComboBox combo(form, "cmbA");
   EXPECT_FALSE(combo.Sorted());
   EXPECT_EQ(combo.ListIndex(), -1);
-  EXPECT_FALSE(OptionButton(form, "optA").Value());
-  EXPECT_FALSE(CommandButton(form, "cmdA").ParksFocus());
-  EXPECT_FALSE(PictureBox(form, "imgA").Stretch());
-  EXPECT_TRUE(Frame(form, "fraA").Border());
+  const OptionButton option(form, "optA");
+  EXPECT_FALSE(option.Value());
+  const CommandButton command(form, "cmdA");
+  EXPECT_FALSE(command.ParksFocus());
+  const PictureBox picture(form, "imgA");
+  EXPECT_FALSE(picture.Stretch());
+  const Frame frame(form, "fraA");
+  EXPECT_TRUE(frame.Border());
   const TabStrip strip(form, "sstA", 2);
   EXPECT_EQ(strip.Tab(), 0);
   EXPECT_TRUE(strip.TabEnabled(0) && strip.TabEnabled(1));
