@@ -83,10 +83,11 @@ else()
   set(PLEXEL_QT_COMPONENTS "Widgets Svg")
 endif()
 
-# The package itself, which every component's users have. Minor versions may change what programs see.
+# The package itself, which every component's users have. Programs go on compiling with every version of their major one; those that
+# link shared libraries are linked anew with each minor one.
 list(JOIN PLEXEL_KEYBOARD_MODULES " " PLEXEL_KEYBOARD_WORDS)
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/PlexelConfig.cmake.in ${PROJECT_BINARY_DIR}/PlexelConfig.cmake
   INSTALL_DESTINATION ${PLEXEL_CMAKE_DESTINATION} PATH_VARS CMAKE_INSTALL_DATADIR NO_CHECK_REQUIRED_COMPONENTS_MACRO)
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/PlexelConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/PlexelConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/PlexelConfig.cmake ${PROJECT_BINARY_DIR}/PlexelConfigVersion.cmake
   DESTINATION ${PLEXEL_CMAKE_DESTINATION} COMPONENT plexel-development)

@@ -225,8 +225,9 @@ class Package:
         """A component that is unknown or not installed is named; one that may be missing does not matter."""
         told = self.find(self.prefix, "REQUIRED COMPONENTS windows", fails=True)
         expect('Plexel has no component "windows"' in told, told)
-        told = self.find(self.prefix, "0.2 REQUIRED", fails=True)
-        expect("0.1" in told, told)
+        for version in ["2.0", "1.1", "0.1"]:
+            told = self.find(self.prefix, version + " REQUIRED", fails=True)
+            expect("1.0" in told, told)
         part = self.fresh("part")
         for component in ["plexel-runtime", "plexel-development"]:
             run("cmake", "--install", self.build, "--prefix", part, "--component", component)
@@ -234,7 +235,7 @@ class Package:
         expect('component "files" is not installed' in told and 'component "qt" is not installed' in told, told)
         told = self.find(part, "REQUIRED OPTIONAL_COMPONENTS files windows")
         expect("plexel TRUE, files FALSE" in told, told)
-        told = self.find(self.prefix, "0.1 REQUIRED COMPONENTS qt")
+        told = self.find(self.prefix, "1.0 REQUIRED COMPONENTS qt")
         expect("plexel TRUE, files TRUE, qt TRUE" in told, told)
 
     def static(self):
