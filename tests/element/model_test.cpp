@@ -90,6 +90,15 @@ TEST_F(Element, AScreenWithoutAFiniteMeasureEndsItsMakingQuietly) {
   EXPECT_EQ(broken->HardwareNumberKey7(), 0);
 }
 
+TEST_F(Element, TheScreenIsAskedAnewForEachMeasureOfBothShapes) {
+  for (const std::int64_t call : {1, 8}) {
+    platform.faults.Arm(Fault::Screen, call);
+    EXPECT_EQ(component.Create("Broken", host)->HardwareNumberKey(), 0) << call;
+  }
+  platform.faults.Arm(Fault::Screen, 9);
+  EXPECT_EQ(component.Create("Whole", host)->HardwareNumberKey(), -1);
+}
+
 TEST_F(Element, TerminatingLeavesTheKindAtZeroAndAnnouncesIt) {
   element->ElementType(RectLed);
   host.Forget();

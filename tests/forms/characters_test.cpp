@@ -1,5 +1,10 @@
 #include "forms/characters.h"
 
+#if __has_include(<sys/mman.h>)
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
 namespace plexel {
 namespace {
 
@@ -94,6 +99,21 @@ TEST(Characters, AWellFormedTextHasNoBrokenByte) {
     EXPECT_FALSE(characters::IsWellFormed(bad));
   }
 }
+
+#if __has_include(<sys/mman.h>)
+TEST(Characters, NothingBehindATextIsRead) {
+  const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+  void* const memory = mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  ASSERT_NE(memory, MAP_FAILED);
+  char* const end = static_cast<char*>(memory) + page;
+  ASSERT_EQ(mprotect(end, page, PROT_NONE), 0);
+  for (std::size_t size = 0; size <= 20; ++size) {
+    std::fill_n(end - size, size, 'a');
+    EXPECT_TRUE(characters::IsWellFormed({end - size, size})) << size;
+  }
+  EXPECT_EQ(munmap(memory, 2 * page), 0);
+}
+#endif
 
 TEST(Characters, TheFirstBrokenByteIsFoundBehindPlainAndOtherText) {
   EXPECT_EQ(characters::FindBroken("0123456789\xC3\xA4\xFFz"), 12U);

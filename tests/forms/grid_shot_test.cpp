@@ -16,6 +16,17 @@ struct ShotForm : TestForm {
   GridShot Take() const { return GridShot::Of(grid); }
 };
 
+TEST(GridShot, OfNoGridShowsNothing) {
+  const GridShot shot;
+  EXPECT_EQ(shot.Rows() + shot.Cols() + shot.fixedRows + shot.fixedCols, 0);
+  EXPECT_EQ(shot.topRow + shot.leftCol + shot.rowsInView + shot.rowHeight, 0);
+  EXPECT_TRUE(shot.IsCurrent(0, 0));
+  EXPECT_EQ(shot.width, 0);
+  EXPECT_EQ(shot.height, 0);
+  EXPECT_FALSE(shot.focus || shot.showsEnd);
+  EXPECT_TRUE(shot.enabled);
+}
+
 TEST(GridShot, HoldsWhatTheGridShows) {
   ShotForm form;
   form.grid.Current(2, 3);

@@ -62,8 +62,13 @@ TEST(DefinitionText, AnAppendedTextFollowsTheCellInRoundBracketsWithTheSelectedM
     AppendSpecialDefinition("Alt [left]");
     EXPECT_EQ(dialog.CellText(2, 1), one + "[Alt (left)" + M + B + "]");
     dialog.optCodeType[1].Value(true);
-    dialog.onCodeTypeAsked = [&] { EXPECT_FALSE(dialog.msgScanCodes.Enabled()); };
+    int asked = 0;
+    dialog.onCodeTypeAsked = [&] {
+      ++asked;
+      EXPECT_FALSE(dialog.msgScanCodes.Enabled());
+    };
     AppendSpecialDefinition("b");
+    EXPECT_GT(asked, 0);
     dialog.optCodeType[2].Value(true);
     AppendSpecialDefinition("c");
     EXPECT_EQ(dialog.CellText(2, 1), one + "[Alt (left)" + M + B + "][b" + M + "][c" + B + "]");
@@ -165,9 +170,14 @@ TEST(GridCellColours, ResettingPaintsTheDataCellsWhiteAndNothingElse) {
     grid.Current(2, 2);
     grid.Visible(false);
     const int refreshes = grid.Refreshes();
-    grid.OnEnterCell = [&] { EXPECT_FALSE(grid.Redraw()); };
+    int entered = 0;
+    grid.OnEnterCell = [&] {
+      ++entered;
+      EXPECT_FALSE(grid.Redraw());
+    };
     ResetGridCellColours();
     grid.OnEnterCell = nullptr;
+    EXPECT_GT(entered, 0);
     for (int row = 0; row < 5; ++row) {
       for (int col = 0; col < 3; ++col) {
         EXPECT_EQ(grid.CellAt(row, col).backColor, row == 0 || col == 0 ? 65535 : 0xFFFFFF) << row << ',' << col;

@@ -319,8 +319,8 @@ class CallRegistry : public Registry {
                        std::intptr_t& key) override {
     calls.push_back(std::to_string(root) + ' ' + std::string(path) + ' ' + std::to_string(options) + ' ' +
                     std::to_string(access));
-    key = 5;
-    return 0;
+    if (opens) key = 5;
+    return opens ? 0 : 2;
   }
   std::int32_t SetValue(std::intptr_t key, std::string_view name, std::int32_t reserved, std::int32_t type,
                         std::string_view text, std::int32_t length) override {
@@ -332,6 +332,7 @@ class CallRegistry : public Registry {
     calls.push_back("close " + std::to_string(key));
     return 5;
   }
+  bool opens = true;
   std::vector<std::string> calls;
 };
 
@@ -360,6 +361,16 @@ TEST(SavedPositions, TheRegistryGetsTheKeyTheTypeAndTheLength) {
   StorePositions({{SavedTop, "22.5"}});
   const std::vector<std::string> expected = {"2147483649 SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS 0 2",
                                              "5 ConfigDialogTop 0 1 22.5 4", "close 5"};
+  EXPECT_EQ(platform.registry.calls, expected);
+}
+
+TEST(SavedPositions, AKeyThatCannotBeOpenedIsNone) {
+  RegistryPlatform platform;
+  const PlatformInForce use(platform);
+  platform.registry.opens = false;
+  StorePositions({{SavedTop, "22.5"}});
+  const std::vector<std::string> expected = {"2147483649 SOFTWARE\\TALVEN\\PLEXEL\\PARAMETERS 0 2",
+                                             "0 ConfigDialogTop 0 1 22.5 4", "close 0"};
   EXPECT_EQ(platform.registry.calls, expected);
 }
 

@@ -201,8 +201,13 @@ TEST(SpecialIPCKey, AddingToAllLayersWorksOnTheCurrentColumnAndKeepsTheRow) {
     frmSpecialIPCKey special;
     dialog.msgScanCodes.Current(3, 2);
     dialog.msgScanCodes.Text("[b]");
-    dialog.msgScanCodes.OnEnterCell = [&] { EXPECT_FALSE(dialog.msgScanCodes.Enabled()); };
+    int entered = 0;
+    dialog.msgScanCodes.OnEnterCell = [&] {
+      ++entered;
+      EXPECT_FALSE(dialog.msgScanCodes.Enabled());
+    };
     special.AddToAllLayers("a[");
+    EXPECT_GT(entered, 0);
     const std::string group = "[a[" + M + B + "]";
     EXPECT_EQ(dialog.CellText(1, 2), group);
     EXPECT_EQ(dialog.CellText(2, 2), group);
