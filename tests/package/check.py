@@ -8,6 +8,7 @@ import re
 import shutil
 import subprocess
 import sys
+from pathlib import Path
 
 SOURCE = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
@@ -228,6 +229,14 @@ class Package:
         for version in ["2.0", "1.1", "0.1"]:
             told = self.find(self.prefix, version + " REQUIRED", fails=True)
             expect("1.0" in told, told)
+        later = self.fresh("later")
+        shutil.copytree(self.prefix, later, symlinks=True)
+        version = next(Path(later).rglob("PlexelConfigVersion.cmake"))
+        version.write_text(version.read_text(encoding="utf-8").replace('"1.0.0"', '"1.3.0"'), encoding="utf-8")
+        told = self.find(later, "1.0 REQUIRED")
+        expect("plexel TRUE" in told, told)
+        told = self.find(later, "1.4 REQUIRED", fails=True)
+        expect("1.3.0" in told, told)
         part = self.fresh("part")
         for component in ["plexel-runtime", "plexel-development"]:
             run("cmake", "--install", self.build, "--prefix", part, "--component", component)
