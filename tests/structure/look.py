@@ -80,8 +80,8 @@ class Tidy:
         found, status = self.run(name, flags)
         os.remove(name)
         if status != 0 and len(files) > 1:
-            return set().union(*(self.find(([file], flags)) for file in files))
-        if not found and status != 0:
+            found = set().union(*(self.find(([file], flags)) for file in files))
+        elif not found and status != 0:
             found = {"%s: %s ends with status %d" % (", ".join(files), TIDY, status)}
         if not found:
             self.verdicts.put_good(self.key(files, flags))

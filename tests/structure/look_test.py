@@ -2,9 +2,11 @@
 """Shows that what look.py keeps and groups is right, on small trees made up for it."""
 
 import os
+import re
 import tempfile
 import unittest
 
+from look import Tidy
 from units import AT_ONCE, flags_of, hidden_names, units_of
 from verdicts import Sources, Verdicts
 
@@ -23,6 +25,40 @@ class Tree(unittest.TestCase):
 
     def key(self, *files):
         return Sources(self.root, ("src", "")).key(files, "words")
+
+
+class Apart(Tidy):
+    """A clang-tidy that takes one source at a time alone, and finds fault with those that are told."""
+
+    def __init__(self, root, faults=()):
+        self.sources, self.verdicts = Sources(root, ("src", "")), Verdicts(os.path.join(root, "kept"))
+        self.folder, self.words, self.faults, self.runs = root, ["words"], faults, 0
+
+    def run(self, unit, flags):
+        self.runs += 1
+        with open(unit, encoding="utf-8") as file:
+            names = re.findall(r"[ab]\.cpp", file.read())
+        found = {"%s:1: fault" % name for name in names if name in self.faults}
+        return (set(), 1) if len(names) > 1 else (found, 1 if found else 0)
+
+
+class NotTogether(Tree):
+    def setUp(self):
+        super().setUp()
+        self.write("src/a.cpp", "int a;\n")
+        self.write("src/b.cpp", "int b;\n")
+        self.unit = (["src/a.cpp", "src/b.cpp"], ())
+
+    def test_sources_that_are_good_alone_are_good_the_next_time(self):
+        tidy = Apart(self.root)
+        self.assertEqual(tidy.find(self.unit), set())
+        self.assertEqual(tidy.runs, 3)
+        self.assertTrue(tidy.verdicts.is_good(tidy.key(*self.unit)))
+
+    def test_what_is_found_alone_is_told_and_looked_at_the_next_time(self):
+        tidy = Apart(self.root, ("b.cpp",))
+        self.assertEqual(tidy.find(self.unit), {"b.cpp:1: fault"})
+        self.assertFalse(tidy.verdicts.is_good(tidy.key(*self.unit)))
 
 
 class Kept(Tree):
