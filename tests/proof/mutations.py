@@ -59,6 +59,8 @@ class Finder:
         for index, part in enumerate(parts):
             ahead = parts[index - 1] if index else None
             behind = parts[index + 1] if index + 1 < len(parts) else None
+            if isinstance(part, Group) and ahead is not None and ahead.text == "reserve":
+                continue  # how much room is asked for ahead decides nothing
             if isinstance(part, Group):
                 self.walk(part, depth + 1 if part.role == "values" else 0 if part.role == "block" else depth)
             else:

@@ -83,6 +83,10 @@ class Changes(unittest.TestCase):
             self.assertEqual(changes(body(statement + ";"), "statement"), [], statement)
         self.assertEqual(changes(body("a.reserved(b);"), "statement"), [body(";")])
 
+    def test_how_much_room_is_asked_for_is_left(self):
+        self.assertEqual(changes(body("a.reserve(b.size() + 3);")), [])
+        self.assertEqual(changes(body("a.reserved(3);"), "constant"), [body("a.reserved(4);")])
+
     def test_statements_behind_conditions_are_dropped_alone(self):
         self.assertEqual(changes(body("if (a) b(); else c();"), "statement"), [body("if (a) ; else c();"), body("if (a) b(); else ;")])
         self.assertEqual(changes(body("switch (a) { case b: break; default: c(); }"), "statement"),
