@@ -122,7 +122,7 @@ class ParameterFileReader {
   virtual ~ParameterFileReader() = default;
   /// What stands between the items of values that are read from now on.
   virtual void SetDelimiter(std::string_view delimiter) = 0;
-  /// Fetches the value of a key; status 0 when it was found.
+  /// Fetches the value of a key, and writes the status in any case: 0 when it was found.
   virtual void ReadEntry(std::string_view file, std::string_view section, std::string_view name, std::string& value,
                          std::int32_t reserved, std::int32_t& status) = 0;
   /// The item of a 1-based number, the empty string when there is none.
